@@ -1,0 +1,25 @@
+# kelvo_stanza(<room> [USA <room>...] [LIBRERIE <target>...])
+#
+# Makes the target of one room of src/. A room sees its own headers and those of the rooms that it names, and no
+# others: each room's headers are published through a folder of their own, so that a wrong include does not build.
+function(kelvo_stanza stanza)
+  cmake_parse_arguments(S "" "" "USA;LIBRERIE;LIBRERIE_PRIVATE" ${ARGN})
+  string(REPLACE "/" "_" bersaglio "${stanza}")
+  file(GLOB sorgenti CONFIGURE_DEPENDS
+    ${CMAKE_SOURCE_DIR}/src/${stanza}/*.cpp ${CMAKE_SOURCE_DIR}/src/${stanza}/*.h)
+  add_library(kelvo_${bersaglio} STATIC ${sorgenti})
+  add_library(kelvo::${bersaglio} ALIAS kelvo_${bersaglio})
+
+  set(vetrina ${CMAKE_BINARY_DIR}/stanze/${bersaglio})
+  get_filename_component(genitore ${vetrina}/${stanza} DIRECTORY)
+  file(MAKE_DIRECTORY ${genitore})
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${stanza} ${vetrina}/${stanza} SYMBOLIC)
+  target_include_directories(kelvo_${bersaglio} PUBLIC ${vetrina})
+
+  target_link_libraries(kelvo_${bersaglio} PRIVATE kelvo_opzioni ${S_LIBRERIE_PRIVATE})
+  foreach(altra ${S_USA})
+    string(REPLACE "/" "_" altra "${altra}")
+    target_link_libraries(kelvo_${bersaglio} PUBLIC kelvo::${altra})
+  endforeach()
+  target_link_libraries(kelvo_${bersaglio} PUBLIC ${S_LIBRERIE})
+endfunction()

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/Configurazione.h"
+#include "app/clsAmbiente.h"
+#include "app/modCommonModule.h"
+#include "app/servizi.h"
+#include "base/file.h"
+#include "model/Rotonda.h"
+
+namespace kelvo {
+
+/// What the program is handed from outside.
+struct ServiziEsterni {
+    FinestraMessaggi& messaggi;
+    Orologio& orologio;
+    SistemaFile& file;
+};
+
+/// State of the running program. One object, made by the entry of the program and handed down by reference.
+class Applicazione {
+public:
+    /// The folders as for clsAmbiente.
+    Applicazione(const std::string& cartellaProgramma, const std::string& cartellaLavoro, ServiziEsterni servizi)
+        : messaggi(servizi.messaggi),
+          orologio(servizi.orologio),
+          file(servizi.file),
+          theAmbiente(cartellaProgramma, cartellaLavoro, servizi.file),
+          comune(theAmbiente, configurazione, servizi.messaggi, servizi.orologio) {
+        nuovaRotonda();
+    }
+    Applicazione(const Applicazione&) = delete;
+    Applicazione& operator=(const Applicazione&) = delete;
+    ~Applicazione() = default;
+
+    FinestraMessaggi& messaggi;
+    Orologio& orologio;
+    SistemaFile& file;
+    clsAmbiente theAmbiente;
+    Configurazione configurazione;
+    modCommonModule comune;
+
+    /// The project at hand; there always is one, empty before any project exists.
+    Rotonda& theRotonda() { return *rotonda_; }
+    const Rotonda& theRotonda() const { return *rotonda_; }
+    /// Releases the project and makes a fresh one.
+    void nuovaRotonda() {
+        theRamoCorrente = nullptr;
+        rotonda_ = std::make_unique<Rotonda>(file, [this] { return giorno(); });
+    }
+    /// The leg whose window is open, if any; owned by the project.
+    Ramo* theRamoCorrente = nullptr;
+
+private:
+    DataOra giorno() const;
+    std::unique_ptr<Rotonda> rotonda_;
+};
+
+}  // namespace kelvo

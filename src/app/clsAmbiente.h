@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/file.h"
+
+namespace kelvo {
+
+/// Access to the configuration file, and the surroundings of the running program.
+class clsAmbiente {
+public:
+    /// `cartellaProgramma`: folder of the program, without a separator at its end; `cartellaLavoro`: writable folder
+    /// for temporary files.
+    clsAmbiente(std::string cartellaProgramma, const std::string& cartellaLavoro, SistemaFile& sistema);
+
+    /// Folder for the temporary files of the exports; ends in a path separator.
+    const std::string& CartellaLavoro() const { return cartellaLavoro_; }
+    /// Writes a key of a configuration file, whole path. A failure is silent: whoever needs to know reads back.
+    void ScriviIni(const std::string& percorsoFile, const std::string& sezione, const std::string& chiave,
+                   const std::string& valore);
+    /// Reads a key of a configuration file, whole path; empty text for a missing key or file.
+    std::string LeggiIni(const std::string& sezione, const std::string& chiave, const std::string& percorsoFile) const;
+
+    /// Folder of the program, without a separator at its end.
+    const std::string& CartellaProgramma() const { return cartellaProgramma_; }
+    /// Whole path of a file beside the program.
+    std::string PercorsoProgramma(const std::string& nome) const;
+    /// Whole path of the program's configuration file.
+    std::string PercorsoIni() const { return percorsoIni_; }
+    /// Takes another configuration file than the one beside the program.
+    void PercorsoIni(const std::string& percorso) { percorsoIni_ = percorso; }
+
+    /// Reduction of the capacity of the node at night, whole per cent: what the options field shows at this moment.
+    std::int16_t PercentualeNotturna() const { return percentualeNotturna_; }
+    void PercentualeNotturna(std::int16_t valore) { percentualeNotturna_ = valore; }
+
+private:
+    std::string cartellaProgramma_;
+    std::string cartellaLavoro_;
+    std::string percorsoIni_;
+    std::int16_t percentualeNotturna_ = 0;
+    SistemaFile& sistema_;
+};
+
+}  // namespace kelvo

@@ -1,0 +1,152 @@
+#include "app/modCommonModule.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "base/guasto.h"
+#include "base/numeri.h"
+#include "base/testo.h"
+
+namespace kelvo {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string sezioneVeicoli = "VEICOLI EQUIVALENTI";
+
+fs::path percorsoDi(const std::string& testo) {
+    return fs::path(std::u8string(testo.begin(), testo.end()));
+}
+
+void rendiScrivibile(const fs::path& file) {
+    std::error_code errore;
+    const fs::perms permessi = fs::status(file, errore).permissions();
+    if (!errore && (permessi & fs::perms::owner_write) == fs::perms::none) {
+        fs::permissions(file, fs::perms::owner_write, fs::perm_options::add, errore);
+    }
+}
+
+}  // namespace
+
+modCommonModule::modCommonModule(clsAmbiente& ambiente, Configurazione& configurazione, FinestraMessaggi& messaggi,
+                                 Orologio& orologio)
+    : ambiente_(ambiente), configurazione_(configurazione), messaggi_(messaggi), orologio_(orologio) {
+}
+
+std::string modCommonModule::leggi(const std::string& sezione, const std::string& chiave) const {
+    return ambiente_.LeggiIni(sezione, chiave, ambiente_.PercorsoIni());
+}
+
+float modCommonModule::leggiSingolo(const std::string& sezione, const std::string& chiave) const {
+    const std::string testo = leggi(sezione, chiave);
+    if (testo.empty()) {
+        return 0.0F;
+    }
+    const auto valore = kelvo::leggiSingolo(testo, Separatore::virgolaOPunto);
+    if (!valore) {
+        throw Guasto(NumeroGuasto::tipoNonCorrispondente,
+                     fmt::format("Kelvo.ini, [{}] {}={}", sezione, chiave, utf8Valido(testo)));
+    }
+    return *valore;
+}
+
+std::int16_t modCommonModule::leggiIntero(const std::string& sezione, const std::string& chiave) const {
+    return aIntero16(arrotondaPari(static_cast<double>(leggiSingolo(sezione, chiave))),
+                     [&] { return fmt::format("Kelvo.ini, [{}] {}", sezione, chiave); });
+}
+
+std::int16_t modCommonModule::scriviIntero(const std::string& sezione, const std::string& chiave,
+                                           std::int16_t valore) {
+    ambiente_.ScriviIni(ambiente_.PercorsoIni(), sezione, chiave, testoNumero(valore));
+    return leggiIntero(sezione, chiave);
+}
+
+CoefficientiVeicoli modCommonModule::leggiCoefficienti() const {
+    CoefficientiVeicoli valori{};
+    for (std::size_t i = 0; i < valori.size(); ++i) {
+        valori[i] = leggiSingolo(sezioneVeicoli, std::string{chiaviCoefficienti[i]});
+    }
+    return valori;
+}
+
+void modCommonModule::LeggiConfigurazione() {
+    configurazione_.PathErrore = leggi("FILE_LOG", "PathError");
+    configurazione_.LayoutPannello = leggiIntero("LAY_OUT", "CustomPanel");
+    configurazione_.TraceAbilitato = leggi("TRACE_ENABLED", "TraceEnabled") == "TRUE";
+    configurazione_.AvvioFilmato = leggiIntero("10_MOTIVI", "Avvia");
+    configurazione_.coefficienti(leggiCoefficienti());
+}
+
+void modCommonModule::ScriviCustomPanel(std::int16_t valore) {
+    configurazione_.LayoutPannello = scriviIntero("LAY_OUT", "CustomPanel", valore);
+}
+
+void modCommonModule::ScriviAvvioFilmato(std::int16_t valore) {
+    configurazione_.AvvioFilmato = scriviIntero("10_MOTIVI", "Avvia", valore);
+}
+
+void modCommonModule::ScriviOpzExplorer(std::int16_t valore) {
+    configurazione_.OpzExplorer = scriviIntero("OPZ_EXPLORER", "Rami", valore);
+}
+
+void modCommonModule::ScriviOpzMenu(std::int16_t valore) {
+    configurazione_.OpzMenu = scriviIntero("OPZ_MENU", "Attivo", valore);
+}
+
+void modCommonModule::ScriviVeicoliEquivalenti(const CoefficientiVeicoli& valori) {
+    for (std::size_t i = 0; i < valori.size(); ++i) {
+        ambiente_.ScriviIni(ambiente_.PercorsoIni(), sezioneVeicoli, std::string{chiaviCoefficienti[i]},
+                            testoNumero(valori[i]));
+    }
+    configurazione_.coefficienti(leggiCoefficienti());
+}
+
+std::string modCommonModule::percorsoLog() const {
+    return ambiente_.PercorsoProgramma(configurazione_.PathErrore);
+}
+
+void modCommonModule::traceLog(const std::string& testo) {
+    if (!configurazione_.TraceAbilitato) {
+        return;
+    }
+    try {
+        const fs::path file = percorsoDi(percorsoLog());
+        if (!fs::is_regular_file(file)) {
+            throw Guasto(NumeroGuasto::fileNonTrovato);
+        }
+        rendiScrivibile(file);
+        std::ofstream log(file, std::ios::binary | std::ios::app);
+        log << fmt::format("[{}] - {}", testoDataOra(orologio_.adesso()), testo) << fineRiga;
+        log.flush();
+        if (!log) {
+            throw Guasto(NumeroGuasto::accessoPercorso);
+        }
+    } catch (const Guasto& guasto) {
+        erroreLog(guasto.codice(), "modCommonModule:traceLog()",
+                  fmt::format("{} : {}", guasto.codice(), guasto.descrizione()), true);
+    }
+}
+
+void modCommonModule::erroreLog(int numero, const std::string& metodo, const std::string& descrizione, bool mostra) {
+    if (mostra) {
+        messaggi_.mostra(descrizione, "KELVO 2014" + metodo, Icona::critica, Pulsanti::ok);
+    }
+    if (configurazione_.PathErrore.empty()) {
+        return;
+    }
+    // The module stands inside the method; its own field stays empty.
+    const std::string riga =
+        fmt::format("Errore nel modulo:  - Metodo: {} - Descrizione: {}", metodo, descrizione);
+    const PartiData p = partiDi(orologio_.adesso());
+    const fs::path file = percorsoDi(percorsoLog());
+    rendiScrivibile(file);
+    std::ofstream log(file, std::ios::binary | std::ios::app);
+    log << fmt::format("SCRITTURA FILELOGERROR.TXT: {:02}/{:02}/{:04} {:02}.{:02}.{:02}", p.giorno, p.mese, p.anno,
+                       p.ora, p.minuto, p.secondo)
+        << fineRiga << fineRiga << numero << fineRiga << riga << fineRiga << fineRiga << fineRiga;
+}
+
+}  // namespace kelvo

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "app/Configurazione.h"
+#include "app/clsAmbiente.h"
+#include "app/servizi.h"
+
+namespace kelvo {
+
+/// Reads and writes the program's settings, and keeps the two logs.
+class modCommonModule {
+public:
+    modCommonModule(clsAmbiente& ambiente, Configurazione& configurazione, FinestraMessaggi& messaggi,
+                    Orologio& orologio);
+
+    /// Reads all settings from the configuration file: PathError, CustomPanel, TraceEnabled, Avvia, the seven
+    /// coefficients. A missing key gives an empty text or 0; fault 13 for a text that is no number.
+    void LeggiConfigurazione();
+
+    // Each writer writes the value, reads it straight back and keeps the value read, so that memory follows the file
+    // even when the write failed.
+    void ScriviCustomPanel(std::int16_t valore);
+    void ScriviAvvioFilmato(std::int16_t valore);
+    void ScriviOpzExplorer(std::int16_t valore);
+    void ScriviOpzMenu(std::int16_t valore);
+    /// All seven: first the writes, then the reads.
+    void ScriviVeicoliEquivalenti(const CoefficientiVeicoli& valori);
+
+    /// Appends a line to the log if the trace is on. The log is opened only if it exists: where it does not, the
+    /// failure goes to erroreLog, which makes it.
+    void traceLog(const std::string& testo);
+    /// Records a fault in the log and, if `mostra`, shows it. A log that cannot be written is passed over.
+    void erroreLog(int numero, const std::string& metodo, const std::string& descrizione, bool mostra);
+
+private:
+    std::string leggi(const std::string& sezione, const std::string& chiave) const;
+    float leggiSingolo(const std::string& sezione, const std::string& chiave) const;
+    std::int16_t leggiIntero(const std::string& sezione, const std::string& chiave) const;
+    std::int16_t scriviIntero(const std::string& sezione, const std::string& chiave, std::int16_t valore);
+    CoefficientiVeicoli leggiCoefficienti() const;
+    std::string percorsoLog() const;
+
+    clsAmbiente& ambiente_;
+    Configurazione& configurazione_;
+    FinestraMessaggi& messaggi_;
+    Orologio& orologio_;
+};
+
+}  // namespace kelvo

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kelvo {
+
+/// End of a line where the exports are told to have CR LF.
+inline constexpr std::string_view fineRiga = "\r\n";
+
+/// Number of characters of a UTF-8 text; a byte that is no valid UTF-8 counts as one character.
+std::size_t lunghezza(std::string_view testo);
+/// The last `quanti` characters, or the whole text if it is shorter.
+std::string ultimiCaratteri(std::string_view testo, std::size_t quanti);
+/// The text less its last `quanti` characters; empty if it is shorter.
+std::string senzaUltimi(std::string_view testo, std::size_t quanti);
+/// The text with every wrong byte sequence replaced by U+FFFD.
+std::string utf8Valido(std::string_view testo);
+/// The text without blanks and tabs at its ends.
+std::string_view rifila(std::string_view testo);
+/// ASCII capitals only: for keys and extensions.
+std::string maiuscoleAscii(std::string_view testo);
+
+}  // namespace kelvo

@@ -1,0 +1,9 @@
+#include "base/versione.h"
+
+namespace kelvo {
+
+std::string_view versione() {
+    return KELVO_VERSIONE;
+}
+
+}  // namespace kelvo
