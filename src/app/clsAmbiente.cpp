@@ -9,8 +9,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr std::uint64_t massimoIni = 1024UL * 1024UL;
-
 std::string conSeparatore(std::string cartella) {
     const auto separatore = static_cast<char>(std::filesystem::path::preferred_separator);
     if (cartella.empty() || (cartella.back() != separatore && cartella.back() != '/')) {

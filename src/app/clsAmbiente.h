@@ -10,6 +10,9 @@ namespace kelvo {
 /// Access to the configuration file, and the surroundings of the running program.
 class clsAmbiente {
 public:
+    /// A configuration file is no larger than this, bytes.
+    static constexpr std::uint64_t massimoIni = 1024UL * 1024UL;
+
     /// `cartellaProgramma`: folder of the program, without a separator at its end; `cartellaLavoro`: writable folder
     /// for temporary files.
     clsAmbiente(std::string cartellaProgramma, const std::string& cartellaLavoro, SistemaFile& sistema);

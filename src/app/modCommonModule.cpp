@@ -129,6 +129,9 @@ void modCommonModule::traceLog(const std::string& testo) {
 }
 
 void modCommonModule::erroreLog(int numero, const std::string& metodo, const std::string& descrizione, bool mostra) {
+    if (alErrore) {
+        alErrore({numero, metodo, descrizione});
+    }
     if (mostra) {
         messaggi_.mostra(descrizione, "KELVO 2014" + metodo, Icona::critica, Pulsanti::ok);
     }

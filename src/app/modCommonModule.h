@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "app/Configurazione.h"
@@ -8,6 +9,13 @@
 #include "app/servizi.h"
 
 namespace kelvo {
+
+/// A fault as it was recorded.
+struct ErroreRegistrato {
+    int numero = 0;
+    std::string metodo;
+    std::string descrizione;
+};
 
 /// Reads and writes the program's settings, and keeps the two logs.
 class modCommonModule {
@@ -33,6 +41,9 @@ public:
     void traceLog(const std::string& testo);
     /// Records a fault in the log and, if `mostra`, shows it. A log that cannot be written is passed over.
     void erroreLog(int numero, const std::string& metodo, const std::string& descrizione, bool mostra);
+
+    /// Called with every fault that is recorded, before it is shown; may be empty.
+    std::function<void(const ErroreRegistrato&)> alErrore;
 
 private:
     std::string leggi(const std::string& sezione, const std::string& chiave) const;

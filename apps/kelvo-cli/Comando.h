@@ -1,0 +1,56 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Contesto.h"
+
+namespace kelvo::cli {
+
+/// One command of the program: declares its options and runs.
+class Comando {
+public:
+    Comando() = default;
+    Comando(const Comando&) = delete;
+    Comando& operator=(const Comando&) = delete;
+    virtual ~Comando() = default;
+
+    /// Runs with the options that were read; answers the exit code.
+    virtual int esegui() = 0;
+    /// The command as the option reader knows it.
+    const CLI::App& opzioni() const { return *app_; }
+
+protected:
+    CLI::App* app_ = nullptr;
+};
+
+/// A command that works through project files in order; one that fails does not stop the others.
+class ComandoSuFile : public Comando {
+public:
+    int esegui() override;
+
+protected:
+    /// Adds the option that names the files.
+    void aggiungiFile();
+    /// Adds --ini, --notte and --json.
+    void aggiungiComuni();
+    /// False for options that do not go together; says why on standard error.
+    virtual bool opzioniCoerenti() { return true; }
+    /// False if the command computes nothing and needs no configuration.
+    virtual bool serveConfigurazione() const { return true; }
+    /// Works on one file; answers false if it failed.
+    virtual bool tratta(Contesto& contesto, const std::string& file) = 0;
+
+    OpzioniComuni comuni_;
+    std::vector<std::string> file_;
+};
+
+std::unique_ptr<Comando> comandoCalcola(CLI::App& radice);
+std::unique_ptr<Comando> comandoCapacitaUltima(CLI::App& radice);
+std::unique_ptr<Comando> comandoNuovo(CLI::App& radice);
+std::unique_ptr<Comando> comandoMostra(CLI::App& radice);
+std::unique_ptr<Comando> comandoVerifica(CLI::App& radice);
+
+}  // namespace kelvo::cli

@@ -1,0 +1,101 @@
+#include "Contesto.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+
+#include "base/file.h"
+#include "base/guasto.h"
+#include "base/numeri.h"
+#include "platform/linux/SistemaFileLinux.h"
+#include "platform/linux/cartelle.h"
+
+namespace kelvo::cli {
+
+namespace {
+
+constexpr int fileNonTrovato = 53;
+constexpr int formatoNonValido = 321;
+
+SistemaFile& sistemaFile() {
+    static SistemaFileLinux sistema;
+    return sistema;
+}
+
+}  // namespace
+
+void avvisa(const std::string& testo) {
+    fmt::print(stderr, "kelvo-cli: {}\n", testo);
+}
+
+void stampa(const std::string& testo) {
+    std::fwrite(testo.data(), 1, testo.size(), stdout);
+}
+
+Contesto::Contesto() : app_(cartellaEseguibile(), cartellaTemporanea(), {*this, orologio_, sistemaFile()}) {
+    app_.comune.alErrore = [this](const ErroreRegistrato& errore) {
+        errori_.push_back(errore);
+        avvisa(fmt::format("{}: {} [{}, errore {}]", file_, errore.descrizione, errore.metodo, errore.numero));
+    };
+}
+
+bool Contesto::configura(const OpzioniComuni& opzioni) {
+    if (!opzioni.ini.empty()) {
+        app_.theAmbiente.PercorsoIni(opzioni.ini);
+    }
+    app_.theAmbiente.PercentualeNotturna(opzioni.notte);
+    const std::string ini = app_.theAmbiente.PercorsoIni();
+    std::string testo;
+    const std::string motivo = leggiFile(ini, clsAmbiente::massimoIni, testo);
+    if (!motivo.empty()) {
+        avvisa(fmt::format("configurazione '{}': {}", ini, motivo));
+        return false;
+    }
+    try {
+        app_.comune.LeggiConfigurazione();
+    } catch (const Guasto& guasto) {
+        avvisa(fmt::format("configurazione '{}': {}", ini, guasto.descrizione()));
+        return false;
+    }
+    // The command line reports on standard error: the log belongs to the desktop program.
+    app_.configurazione.PathErrore.clear();
+    app_.configurazione.TraceAbilitato = false;
+    const CoefficientiVeicoli coefficienti = app_.configurazione.coefficienti();
+    for (std::size_t i = 0; i < coefficienti.size(); ++i) {
+        if (!(coefficienti[i] > 0.0F)) {
+            avvisa(fmt::format(
+                "configurazione '{}': il coefficiente '{}' della sezione [VEICOLI EQUIVALENTI] {}", ini,
+                chiaviCoefficienti[i],
+                coefficienti[i] == 0.0F ? "manca o vale 0" : fmt::format("vale {}", testoNumero(coefficienti[i]))));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Contesto::carica(const std::string& file) {
+    file_ = file;
+    errori_.clear();
+    std::string messaggio;
+    bool esito = false;
+    app_.theRotonda().Load(file, messaggio, esito);
+    if (!esito) {
+        const bool manca = app_.file.dimensione(file) < 0;
+        segnala(manca ? fileNonTrovato : formatoNonValido, "Load", messaggio);
+    }
+    caricato_ = esito;
+    return esito;
+}
+
+void Contesto::segnala(int numero, const std::string& metodo, const std::string& descrizione) {
+    app_.comune.erroreLog(numero, metodo, descrizione, false);
+}
+
+Risposta Contesto::mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti /*pulsanti*/) {
+    if (icona != Icona::critica) {
+        avvisa(fmt::format("{}: {}", titolo, testo));
+    }
+    return Risposta::ok;
+}
+
+}  // namespace kelvo::cli

@@ -1,0 +1,71 @@
+#include "Comando.h"
+#include "base/guasto.h"
+#include "calc/modCalcolo.h"
+#include "json.h"
+#include "results/TabellaCapacitaUltima.h"
+
+namespace kelvo::cli {
+
+namespace {
+
+class ComandoCapacitaUltima final : public ComandoSuFile {
+public:
+    explicit ComandoCapacitaUltima(CLI::App& radice) {
+        app_ = radice.add_subcommand("capacita-ultima", "Calcola la capacità ultima e l'indice di saturazione");
+        aggiungiFile();
+        aggiungiComuni();
+    }
+
+private:
+    bool tratta(Contesto& contesto, const std::string& file) override {
+        TabellaCapacitaUltima tabella;
+        const bool caricato = contesto.carica(file);
+        if (caricato) {
+            modCalcolo(contesto.app()).Calcola_Bilanciamento();
+            riempi(contesto, tabella);
+        }
+        const bool riuscito = contesto.errori().empty();
+        if (comuni_.json) {
+            stampa(riga(json(contesto, file, tabella)));
+        } else if (riuscito) {
+            stampa(tabella.testo(contesto.app().theRotonda(), contesto.app().orologio.adesso()));
+        }
+        return riuscito;
+    }
+
+    static void riempi(Contesto& contesto, TabellaCapacitaUltima& tabella) {
+        try {
+            tabella.riempi(contesto.app().theRotonda());
+        } catch (const Guasto& guasto) {
+            contesto.segnala(guasto.codice(), "frmCapacitaUltima:Calcola", guasto.descrizione());
+        }
+    }
+
+    static Json json(const Contesto& contesto, const std::string& file, const TabellaCapacitaUltima& tabella) {
+        Json uscita = {{"file", file}};
+        if (contesto.caricato()) {
+            Json righe = Json::array();
+            for (int r = 0; r < tabella.tabella().righe(); ++r) {
+                Json celle = Json::array();
+                for (int c = 0; c < tabella.tabella().colonne(); ++c) {
+                    celle.push_back(tabella.tabella().testo(r, c));
+                }
+                righe.push_back(celle);
+            }
+            uscita["SC"] = numero(tabella.SC());
+            uscita["SF"] = numero(tabella.SF());
+            uscita["ISR"] = numero(tabella.ISR());
+            uscita["tabella"] = righe;
+        }
+        uscita["errori"] = erroriJson(contesto);
+        return uscita;
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<Comando> comandoCapacitaUltima(CLI::App& radice) {
+    return std::make_unique<ComandoCapacitaUltima>(radice);
+}
+
+}  // namespace kelvo::cli

@@ -1,0 +1,132 @@
+#include "results/tabellaVerifiche.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <string_view>
+
+#include "base/guasto.h"
+#include "base/numeri.h"
+#include "base/testo.h"
+#include "results/livelloServizio.h"
+
+namespace kelvo {
+
+namespace {
+
+/// A column of figures: its heading, the field of the record and its format.
+struct Colonna {
+    std::string_view intestazione;
+    float Iterazione::*campo;
+    Formato formato;
+};
+
+constexpr std::array colonne{
+    Colonna{"Flusso [veic/min]", &Iterazione::Flusso, "#0.00"},
+    Colonna{"Capacità [veic/h]", &Iterazione::Capacita, "#0.00"},
+    Colonna{"Coeff. saturazione", &Iterazione::Coeff_Sat, "#0.000"},
+    Colonna{"Coda [veic]", &Iterazione::Coda, "#0.0"},
+    Colonna{"Ritardo [s/veic]", &Iterazione::Ritardo, "#0.0"},
+};
+constexpr std::string_view intestazioneLivello = "L.O.S.";
+constexpr int colonnaRitardo = 5;
+constexpr int colonnaLivello = 6;
+constexpr int numeroColonne = 7;
+constexpr std::array larghezzeColonne{2000, 1300, 1400, 1400, 1000, 1300, 900};
+
+int rigaBanda(const Rotonda& rotonda, int k) {
+    return (k - 1) * (rotonda.NumeroRami() + 1) + 1;
+}
+
+void colora(Cella& cella, Colore sfondo, Colore inchiostro) {
+    cella.sfondo = sfondo;
+    cella.inchiostro = inchiostro;
+}
+
+void impostaIntestazione(Tabella& tabella) {
+    for (int c = 0; c < numeroColonne; ++c) {
+        colora(tabella.cella(0, c), colori::intestazione, colori::bianco);
+    }
+    for (std::size_t c = 0; c < colonne.size(); ++c) {
+        tabella.cella(0, static_cast<int>(c) + 1).testo = colonne[c].intestazione;
+    }
+    tabella.cella(0, colonnaLivello).testo = intestazioneLivello;
+}
+
+void impostaIntervallo(const Rotonda& rotonda, Tabella& tabella, int k) {
+    const int banda = rigaBanda(rotonda, k);
+    Cella& titolo = tabella.cella(banda, 0);
+    titolo.testo = testoIntervallo(rotonda, k);
+    colora(titolo, colori::intestazione, colori::bianco);
+    for (int c = 1; c < numeroColonne; ++c) {
+        tabella.cella(banda, c).sfondo = colori::dati;
+    }
+    for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
+        Cella& nome = tabella.cella(banda + i, 0);
+        nome.testo = rotonda.Ramo(i).Descrizione();
+        colora(nome, colori::nomeIngresso, colori::bianco);
+    }
+}
+
+}  // namespace
+
+int numeroIntervalli(const Rotonda& rotonda) {
+    const auto durata = static_cast<double>(minutiTra(rotonda.TempoIniziale(), rotonda.TempoFinale()));
+    const int passo = minutoCampo(rotonda.SegmentoTempo());
+    return aIntero16(arrotondaPari(dividi(durata, passo, [] { return "segmento di tempo di 0 minuti"; })));
+}
+
+std::string testoIntervallo(const Rotonda& rotonda, int k) {
+    const int passo = minutoCampo(rotonda.SegmentoTempo());
+    const auto istante = [&](int segmenti) { return rotonda.TempoIniziale() + segmenti * passo / 1440.0; };
+    return fmt::format("{} - {}", testoHHNN(istante(k - 1)), testoHHNN(istante(k)));
+}
+
+Tabella impostaTabellaVerifiche(const Rotonda& rotonda) {
+    const int intervalli = std::max(0, numeroIntervalli(rotonda));
+    Tabella tabella((rotonda.NumeroRami() + 1) * intervalli + 1, numeroColonne);
+    tabella.larghezze.assign(larghezzeColonne.begin(), larghezzeColonne.end());
+    impostaIntestazione(tabella);
+    for (int k = 1; k <= intervalli; ++k) {
+        impostaIntervallo(rotonda, tabella, k);
+    }
+    return tabella;
+}
+
+void riempiTabellaVerifiche(const Rotonda& rotonda, Tabella& tabella) {
+    // The heading keeps its white: black would not be read on its green.
+    for (int r = 1; r < tabella.righe(); ++r) {
+        Cella& livello = tabella.cella(r, colonnaLivello);
+        livello.inchiostro = colori::nero;
+        livello.grassetto = false;
+    }
+    for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
+        const DatiTraffico& traffico = rotonda.Ramo(i).theDatiTraffico();
+        for (std::int16_t s = 1; s <= traffico.NumSegmentiTempo(); ++s) {
+            const Iterazione record = traffico.GetIterazione(s);
+            const int riga = rigaBanda(rotonda, s) + i;
+            for (std::size_t c = 0; c < colonne.size(); ++c) {
+                tabella.cella(riga, static_cast<int>(c) + 1).testo =
+                    formatta(record.*colonne[c].campo, colonne[c].formato);
+            }
+            // The level follows the delay as the table shows it.
+            const double mostrato = leggiNumero(tabella.testo(riga, colonnaRitardo)).value_or(0.0);
+            Cella& livello = tabella.cella(riga, colonnaLivello);
+            livello.testo = livelloServizio(mostrato);
+            if (livello.testo == "F") {
+                livello.inchiostro = colori::livelloF;
+            }
+        }
+    }
+}
+
+std::string testoVerifiche(const Tabella& tabella, const Rotonda& rotonda, DataOra momento) {
+    const Impaginazione impaginazione{
+        .allineamento = Allineamento::destra,
+        .rigaVuotaPrima = [](const Tabella& t, int riga) { return t.cella(riga, 0).sfondo == colori::intestazione; }};
+    std::string testo = "Risultati: Verifiche prestazionali";
+    testo.append(fineRiga).append(testoTabella(tabella, impaginazione)).append(fineRiga);
+    return testo.append(righeDiChiusura(momento, rotonda.NomeFile()));
+}
+
+}  // namespace kelvo
