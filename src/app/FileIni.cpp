@@ -1,5 +1,8 @@
 #include "app/FileIni.h"
 
+#include <fmt/format.h>
+
+#include "base/guasto.h"
 #include "base/testo.h"
 
 namespace kelvo {
@@ -43,6 +46,26 @@ std::optional<Coppia> coppiaDi(std::string_view riga) {
     return Coppia{rifila(riga.substr(0, uguale)), valore};
 }
 
+void controllaNomi(std::string_view sezione, std::string_view chiave) {
+    const auto pulito = [](std::string_view nome, std::string_view vietati) {
+        return rifila(nome) == nome && nome.find_first_of(vietati) == std::string_view::npos;
+    };
+    const bool commento = !chiave.empty() && (chiave.front() == ';' || chiave.front() == '#' || chiave.front() == '[');
+    if (chiave.empty() || commento || !pulito(sezione, "]\r\n") || !pulito(chiave, "=\r\n")) {
+        throw Guasto(NumeroGuasto::chiamataNonValida, fmt::format("[{}] {}", utf8Valido(sezione), utf8Valido(chiave)));
+    }
+}
+
+/// The value as it stands in the file: on one line, in quotes where its ends would be lost.
+std::string valoreScritto(std::string_view valore) {
+    std::string testo{valore};
+    for (char& c : testo) {
+        c = c == '\r' || c == '\n' ? ' ' : c;
+    }
+    const bool virgolette = testo.size() >= 2 && testo.front() == '"' && testo.back() == '"';
+    return virgolette || rifila(testo) != testo ? '"' + testo + '"' : testo;
+}
+
 }  // namespace
 
 FileIni::FileIni(std::string_view testo) {
@@ -50,17 +73,16 @@ FileIni::FileIni(std::string_view testo) {
         bom_ = true;
         testo.remove_prefix(bom.size());
     }
-    if (testo.find('\n') != std::string_view::npos && testo.find("\r\n") == std::string_view::npos) {
-        fineRiga_ = "\n";
-    }
     while (!testo.empty()) {
-        const auto fine = testo.find('\n');
-        std::string_view riga = testo.substr(0, fine);
-        testo.remove_prefix(fine == std::string_view::npos ? testo.size() : fine + 1);
-        if (!riga.empty() && riga.back() == '\r') {
-            riga.remove_suffix(1);
+        const auto capo = testo.find('\n');
+        const std::size_t lunga = capo == std::string_view::npos ? testo.size() : capo + 1;
+        const std::string_view riga = testo.substr(0, lunga);
+        std::size_t fine = capo == std::string_view::npos ? 0 : 1;
+        if (fine == 1 && riga.ends_with("\r\n")) {
+            fine = 2;
         }
-        righe_.emplace_back(riga);
+        righe_.push_back({std::string{riga.substr(0, lunga - fine)}, std::string{riga.substr(lunga - fine)}});
+        testo.remove_prefix(lunga);
     }
 }
 
@@ -68,23 +90,18 @@ FileIni::Posto FileIni::cerca(std::string_view sezione, std::string_view chiave)
     Posto posto;
     bool dentro = false;
     for (std::size_t i = 0; i < righe_.size(); ++i) {
-        if (const auto nome = sezioneDi(righe_[i])) {
+        if (const auto nome = sezioneDi(righe_[i].testo)) {
             dentro = uguali(*nome, sezione);
-            if (dentro && !posto.sezioneTrovata) {
+            if (dentro) {
                 posto.sezioneTrovata = true;
                 posto.inserimento = i + 1;
-            } else if (posto.sezioneTrovata && !dentro) {
-                continue;
             }
-        } else if (dentro) {
-            const auto coppia = coppiaDi(righe_[i]);
-            if (coppia && uguali(coppia->chiave, chiave)) {
+        } else if (const auto coppia = coppiaDi(righe_[i].testo); dentro && coppia) {
+            if (uguali(coppia->chiave, chiave)) {
                 posto.riga = i;
                 return posto;
             }
-            if (coppia) {
-                posto.inserimento = i + 1;
-            }
+            posto.inserimento = i + 1;
         }
     }
     return posto;
@@ -95,32 +112,41 @@ std::optional<std::string> FileIni::leggi(std::string_view sezione, std::string_
     if (!posto.riga) {
         return std::nullopt;
     }
-    return std::string{coppiaDi(righe_[*posto.riga])->valore};
+    return std::string{coppiaDi(righe_[*posto.riga].testo)->valore};
+}
+
+void FileIni::inserisci(std::size_t posto, const std::string& testo) {
+    // The new line ends as the one in front of it does.
+    std::string fine{fineRiga};
+    for (std::size_t i = 0; i < posto; ++i) {
+        fine = righe_[i].fine.empty() ? fine : righe_[i].fine;
+    }
+    if (posto > 0 && righe_[posto - 1].fine.empty()) {
+        righe_[posto - 1].fine = fine;
+    }
+    righe_.insert(righe_.begin() + static_cast<std::ptrdiff_t>(posto), Riga{testo, fine});
 }
 
 void FileIni::scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore) {
-    std::string riga{chiave};
-    riga.push_back('=');
-    for (const char c : valore) {
-        riga.push_back(c == '\r' || c == '\n' ? ' ' : c);
-    }
+    controllaNomi(sezione, chiave);
+    const std::string scritto = valoreScritto(valore);
     const Posto posto = cerca(sezione, chiave);
     if (posto.riga) {
-        righe_[*posto.riga] = riga;
+        std::string& riga = righe_[*posto.riga].testo;
+        riga.resize(riga.find('=') + 1);
+        riga += scritto;
     } else if (posto.sezioneTrovata) {
-        righe_.insert(righe_.begin() + static_cast<std::ptrdiff_t>(posto.inserimento), riga);
+        inserisci(posto.inserimento, fmt::format("{}={}", chiave, scritto));
     } else {
-        std::string titolo = "[";
-        titolo.append(sezione).append("]");
-        righe_.push_back(titolo);
-        righe_.push_back(riga);
+        inserisci(righe_.size(), fmt::format("[{}]", sezione));
+        inserisci(righe_.size(), fmt::format("{}={}", chiave, scritto));
     }
 }
 
 std::string FileIni::testo() const {
     std::string testo{bom_ ? bom : std::string_view{}};
-    for (const std::string& riga : righe_) {
-        testo.append(riga).append(fineRiga_);
+    for (const Riga& riga : righe_) {
+        testo.append(riga.testo).append(riga.fine);
     }
     return testo;
 }

@@ -7,14 +7,25 @@
 
 namespace kelvo {
 
+namespace fs = std::filesystem;
+
 namespace {
 
 std::string conSeparatore(std::string cartella) {
-    const auto separatore = static_cast<char>(std::filesystem::path::preferred_separator);
-    if (cartella.empty() || (cartella.back() != separatore && cartella.back() != '/')) {
+    const auto separatore = static_cast<char>(fs::path::preferred_separator);
+    if (cartella.empty()) {
+        cartella = ".";  // never the root
+    }
+    if (cartella.back() != separatore && cartella.back() != '/') {
         cartella.push_back(separatore);
     }
     return cartella;
+}
+
+bool manca(const std::string& percorso) {
+    std::error_code errore;
+    const fs::path file(std::u8string(percorso.begin(), percorso.end()));
+    return fs::status(file, errore).type() == fs::file_type::not_found;
 }
 
 }  // namespace
@@ -32,8 +43,8 @@ std::string clsAmbiente::PercorsoProgramma(const std::string& nome) const {
 void clsAmbiente::ScriviIni(const std::string& percorsoFile, const std::string& sezione, const std::string& chiave,
                             const std::string& valore) {
     std::string testo;
-    if (!leggiFile(percorsoFile, massimoIni, testo).empty() && sistema_.dimensione(percorsoFile) >= 0) {
-        return;  // it is there and cannot be read: never overwrite what was not seen
+    if (!leggiFile(percorsoFile, massimoIni, testo).empty() && !manca(percorsoFile)) {
+        return;  // it may be there and cannot be read: never overwrite what was not seen
     }
     FileIni ini(testo);
     ini.scrivi(sezione, chiave, valore);

@@ -112,7 +112,8 @@ void modCommonModule::traceLog(const std::string& testo) {
     }
     try {
         const fs::path file = percorsoDi(percorsoLog());
-        if (!fs::is_regular_file(file)) {
+        std::error_code ignorato;
+        if (!fs::is_regular_file(file, ignorato)) {
             throw Guasto(NumeroGuasto::fileNonTrovato);
         }
         rendiScrivibile(file);
@@ -142,6 +143,10 @@ void modCommonModule::erroreLog(int numero, const std::string& metodo, const std
     const std::string riga = fmt::format("Errore nel modulo:  - Metodo: {} - Descrizione: {}", metodo, descrizione);
     const PartiData p = partiDi(orologio_.adesso());
     const fs::path file = percorsoDi(percorsoLog());
+    std::error_code ignorato;
+    if (fs::exists(file, ignorato) && !fs::is_regular_file(file, ignorato)) {
+        return;  // opening a pipe would wait for its reader
+    }
     rendiScrivibile(file);
     std::ofstream log(file, std::ios::binary | std::ios::app);
     log << fmt::format("SCRITTURA FILELOGERROR.TXT: {:02}/{:02}/{:04} {:02}.{:02}.{:02}", p.giorno, p.mese, p.anno,

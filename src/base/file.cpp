@@ -22,7 +22,117 @@ std::string testoDi(const fs::path& percorso) {
     return {testo.begin(), testo.end()};
 }
 
-std::string parole(const std::error_code& errore) {
+std::string erroreCorrente() {
+    // A stream that fails for a reason of its own leaves no number.
+    return errno == 0 ? "errore di scrittura" : paroleErrore(std::error_code(errno, std::generic_category()));
+}
+
+/// Removes a file or a link that is left from an earlier write; never a folder.
+void togliFile(const fs::path& percorso) {
+    std::error_code errore;
+    const fs::file_type tipo = fs::symlink_status(percorso, errore).type();
+    if (tipo == fs::file_type::regular || tipo == fs::file_type::symlink) {
+        fs::remove(percorso, errore);
+    }
+}
+
+class FileStandard final : public FileInScrittura {
+public:
+    explicit FileStandard(const fs::path& percorso) : flusso_(percorso, std::ios::binary | std::ios::trunc) {}
+
+    bool aperto() const { return flusso_.is_open(); }
+    std::string scrivi(std::string_view dati) override {
+        errno = 0;
+        flusso_.write(dati.data(), static_cast<std::streamsize>(dati.size()));
+        return esito();
+    }
+    std::string sincronizza() override {
+        errno = 0;
+        flusso_.flush();
+        return esito();
+    }
+    std::string chiudi() override {
+        errno = 0;
+        flusso_.close();
+        return esito();
+    }
+
+private:
+    std::string esito() const { return flusso_ ? std::string{} : erroreCorrente(); }
+    std::ofstream flusso_;
+};
+
+class SistemaFileStandard final : public SistemaFile {
+public:
+    std::unique_ptr<FileInScrittura> crea(const std::string& percorso, std::string& errore) override {
+        const fs::path posto = percorsoDi(percorso);
+        togliFile(posto);
+        errno = 0;
+        auto file = std::make_unique<FileStandard>(posto);
+        if (!file->aperto()) {
+            errore = erroreCorrente();
+            return nullptr;
+        }
+        return file;
+    }
+    std::int64_t dimensione(const std::string& percorso) override {
+        std::error_code errore;
+        const auto byte = fs::file_size(percorsoDi(percorso), errore);
+        return errore ? -1 : static_cast<std::int64_t>(byte);
+    }
+    std::string rinomina(const std::string& da, const std::string& a) override {
+        std::error_code errore;
+        fs::rename(percorsoDi(da), percorsoDi(a), errore);
+        return errore ? paroleErrore(errore) : std::string{};
+    }
+    void elimina(const std::string& percorso) override { togliFile(percorsoDi(percorso)); }
+    void sincronizzaCartella(const std::string& /*percorso*/) override {}
+};
+
+/// The file that a link leads to, also where it does not stand yet, or the path itself.
+fs::path bersaglio(const std::string& percorso) {
+    constexpr int massimiPassi = 40;
+    fs::path vero = percorsoDi(percorso);
+    std::error_code errore;
+    for (int passo = 0; passo < massimiPassi && fs::is_symlink(vero, errore); ++passo) {
+        vero = vero.parent_path() / fs::read_symlink(vero, errore);
+    }
+    return vero;
+}
+
+/// Why a file that stands there may not be replaced, or an empty text.
+std::string intoccabile(const fs::file_status& stato) {
+    if (!fs::exists(stato)) {
+        return {};
+    }
+    if (fs::is_directory(stato)) {
+        return "è una cartella";
+    }
+    if (!fs::is_regular_file(stato)) {
+        return "non è un file";
+    }
+    return (stato.permissions() & fs::perms::owner_write) == fs::perms::none ? "il file è di sola lettura"
+                                                                             : std::string{};
+}
+
+std::string riempi(SistemaFile& sistema, FileInScrittura& file, const std::string& percorso, std::string_view dati) {
+    std::string errore = file.scrivi(dati);
+    if (errore.empty()) {
+        errore = file.sincronizza();
+    }
+    const std::string chiusura = file.chiudi();
+    if (errore.empty()) {
+        errore = chiusura;
+    }
+    if (errore.empty() && sistema.dimensione(percorso) != static_cast<std::int64_t>(dati.size())) {
+        errore = "la scrittura è incompleta";
+    }
+    return errore;
+}
+
+}  // namespace
+
+std::string paroleErrore(const std::error_code& errore) {
     if (errore == std::errc::no_space_on_device) {
         return "il disco è pieno";
     }
@@ -44,125 +154,38 @@ std::string parole(const std::error_code& errore) {
     return fmt::format("errore di sistema {}", errore.value());
 }
 
-std::string erroreCorrente() {
-    return parole(std::error_code(errno, std::generic_category()));
-}
-
-class FileStandard final : public FileInScrittura {
-public:
-    explicit FileStandard(const fs::path& percorso) : flusso_(percorso, std::ios::binary | std::ios::trunc) {}
-
-    bool aperto() const { return flusso_.is_open(); }
-    std::string scrivi(std::string_view dati) override {
-        flusso_.write(dati.data(), static_cast<std::streamsize>(dati.size()));
-        return esito();
-    }
-    std::string sincronizza() override {
-        flusso_.flush();
-        return esito();
-    }
-    std::string chiudi() override {
-        flusso_.close();
-        return esito();
-    }
-
-private:
-    std::string esito() const { return flusso_ ? std::string{} : erroreCorrente(); }
-    std::ofstream flusso_;
-};
-
-class SistemaFileStandard final : public SistemaFile {
-public:
-    std::unique_ptr<FileInScrittura> crea(const std::string& percorso, std::string& errore) override {
-        auto file = std::make_unique<FileStandard>(percorsoDi(percorso));
-        if (!file->aperto()) {
-            errore = erroreCorrente();
-            return nullptr;
-        }
-        return file;
-    }
-    std::int64_t dimensione(const std::string& percorso) override {
-        std::error_code errore;
-        const auto byte = fs::file_size(percorsoDi(percorso), errore);
-        return errore ? -1 : static_cast<std::int64_t>(byte);
-    }
-    std::string rinomina(const std::string& da, const std::string& a) override {
-        std::error_code errore;
-        fs::rename(percorsoDi(da), percorsoDi(a), errore);
-        return errore ? parole(errore) : std::string{};
-    }
-    void elimina(const std::string& percorso) override {
-        std::error_code errore;
-        fs::remove(percorsoDi(percorso), errore);
-    }
-    void sincronizzaCartella(const std::string& /*percorso*/) override {}
-};
-
-/// The file that a link leads to, or the path itself.
-std::string bersaglio(const std::string& percorso) {
-    std::error_code errore;
-    if (fs::is_symlink(percorsoDi(percorso), errore)) {
-        const fs::path vero = fs::weakly_canonical(percorsoDi(percorso), errore);
-        if (!errore) {
-            return testoDi(vero);
-        }
-    }
-    return percorso;
-}
-
-bool solaLettura(const std::string& percorso) {
-    std::error_code errore;
-    const fs::file_status stato = fs::status(percorsoDi(percorso), errore);
-    return fs::exists(stato) && (stato.permissions() & fs::perms::owner_write) == fs::perms::none;
-}
-
-std::string riempi(SistemaFile& sistema, const std::string& percorso, std::string_view dati) {
-    std::string errore;
-    const auto file = sistema.crea(percorso, errore);
-    if (!file) {
-        return errore;
-    }
-    errore = file->scrivi(dati);
-    if (errore.empty()) {
-        errore = file->sincronizza();
-    }
-    const std::string chiusura = file->chiudi();
-    if (errore.empty()) {
-        errore = chiusura;
-    }
-    if (errore.empty() && sistema.dimensione(percorso) != static_cast<std::int64_t>(dati.size())) {
-        errore = "la scrittura è incompleta";
-    }
-    return errore;
-}
-
-}  // namespace
-
 SistemaFile& sistemaFileStandard() {
     static SistemaFileStandard sistema;
     return sistema;
 }
 
 std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, std::string_view dati) {
-    const std::string vero = bersaglio(percorso);
-    const std::string temporaneo = vero + ".tmp~";
-    if (solaLettura(vero)) {
-        return "il file è di sola lettura";
+    const fs::path vero = bersaglio(percorso);
+    const std::string testoVero = testoDi(vero);
+    const std::string temporaneo = testoVero + ".tmp~";
+    std::error_code ignorato;
+    const fs::file_status stato = fs::status(vero, ignorato);
+    std::string errore = intoccabile(stato);
+    if (!errore.empty()) {
+        return errore;
     }
-    std::string errore = riempi(sistema, temporaneo, dati);
+    const auto file = sistema.crea(temporaneo, errore);
+    if (!file) {
+        return errore;
+    }
+    if (fs::exists(stato)) {
+        // Before the content: what was closed to others stays so at every instant.
+        fs::permissions(percorsoDi(temporaneo), stato.permissions(), ignorato);
+    }
+    errore = riempi(sistema, *file, temporaneo, dati);
     if (errore.empty()) {
-        std::error_code ignorato;
-        const fs::file_status stato = fs::status(percorsoDi(vero), ignorato);
-        if (fs::is_regular_file(stato)) {
-            fs::permissions(percorsoDi(temporaneo), stato.permissions(), ignorato);
-        }
-        errore = sistema.rinomina(temporaneo, vero);
+        errore = sistema.rinomina(temporaneo, testoVero);
     }
     if (!errore.empty()) {
         sistema.elimina(temporaneo);
         return errore;
     }
-    sistema.sincronizzaCartella(vero);
+    sistema.sincronizzaCartella(testoVero);
     return {};
 }
 
@@ -174,18 +197,19 @@ std::string leggiFile(const std::string& percorso, std::uint64_t massimo, std::s
         return "il file non esiste";
     }
     if (errore) {
-        return parole(errore);
+        return paroleErrore(errore);
     }
     if (!fs::is_regular_file(stato)) {
         return "non è un file";
     }
+    errno = 0;
     std::ifstream flusso(vero, std::ios::binary);
     if (!flusso) {
         return erroreCorrente();
     }
     const auto dimensione = fs::file_size(vero, errore);
     if (errore) {
-        return parole(errore);
+        return paroleErrore(errore);
     }
     if (dimensione > massimo) {
         return fmt::format("il file supera {} MiB", massimo / (1024 * 1024));

@@ -4,8 +4,12 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace kelvo {
+
+/// Why an operation of the system failed, in Italian.
+std::string paroleErrore(const std::error_code& errore);
 
 /// A file open for writing. Every operation answers an empty text, or in Italian why it failed.
 class FileInScrittura {
@@ -29,7 +33,7 @@ public:
     SistemaFile& operator=(const SistemaFile&) = delete;
     virtual ~SistemaFile() = default;
 
-    /// Makes the file, empty; null with `errore` set if that fails.
+    /// Makes the file, empty, in the place of a file or link of that name; null with `errore` set if that fails.
     virtual std::unique_ptr<FileInScrittura> crea(const std::string& percorso, std::string& errore) = 0;
     /// Size in bytes, or -1.
     virtual std::int64_t dimensione(const std::string& percorso) = 0;
@@ -44,7 +48,9 @@ public:
 SistemaFile& sistemaFileStandard();
 
 /// Replaces the file by `dati` so that at any instant the old or the new content stands there, never a torn one:
-/// writes a temporary file beside it, checks the size written, flushes it to the disk and renames it.
+/// writes a temporary file beside it, checks the size written, flushes it to the disk and renames it. The new file has
+/// the permissions of the old one; where `percorso` is a link, the file that it leads to is replaced. A read-only file
+/// and what is no regular file are refused.
 /// Answers an empty text, or in Italian why it failed; the old file then stands untouched and no temporary is left.
 std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, std::string_view dati);
 

@@ -11,6 +11,12 @@ namespace kelvo {
 
 namespace {
 
+/// The date so many minutes later, to the second.
+DataOra dopoMinuti(DataOra data, std::int64_t minuti) {
+    constexpr double secondiAlGiorno = 86400.0;
+    return static_cast<double>(secondiDi(data) + minuti * 60) / secondiAlGiorno;
+}
+
 Matrice matriceVuota(std::int16_t lati) {
     return Matrice(static_cast<std::size_t>(lati), std::vector<float>(static_cast<std::size_t>(lati), 0.0F));
 }
@@ -114,8 +120,7 @@ kelvo::Ramo& Rotonda::AddRamo(const std::string& chiave) {
     ramo->theComposizioneTraffico().NumSegmentiTempo(aIntero16(segmenti));
     traffico.Tempo1(dati_.tempoIniziale);
     traffico.Tempo3(dati_.tempoFinale);
-    traffico.Tempo2(
-        oraDelGiorno(0, 0, static_cast<int>(secondiDi(dati_.tempoIniziale)) + static_cast<int>(meta) * passo * 60));
+    traffico.Tempo2(dopoMinuti(dati_.tempoIniziale, static_cast<std::int64_t>(meta) * passo));
     segnaDato();
     rami_.rami_.push_back(std::move(ramo));
     return *rami_.rami_.back();

@@ -135,15 +135,16 @@ public:
     /// Drops legs, matrix and results, and returns every field to its default.
     void Clear();
     /// Replaces the whole content from a project file. On failure `esito` is false, `messaggio` says what is wrong
-    /// and where, and the project is untouched.
+    /// and where in the file (without its path), and the project is untouched.
     void Load(const std::string& percorso, std::string& messaggio, bool& esito);
     /// Writes the whole content to a project file. On failure `esito` is false, `messaggio` holds the words to show,
     /// and a file that stood there is untouched.
     void Save(const std::string& percorso, std::string& messaggio, bool& esito) const;
 
-    /// Replaces the whole content from the text of a project file; as Load. `origine` names it in the message.
+    /// Replaces the whole content from the text of a project file; as Load.
     void LoadTesto(std::string_view testo, std::string& messaggio, bool& esito);
-    /// The text that Save writes.
+    /// The text that Save writes. A fault, in words for the user, for a project that could not be read back: legs
+    /// missing, a number that is not finite, a size past the limits of the file.
     std::string TestoFile() const;
 
     /// Counts of the changes of input since the program started; never lowered.
