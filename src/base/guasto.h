@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <concepts>
 #include <cstdint>
 #include <stdexcept>
@@ -86,11 +87,28 @@ double dividi(double a, double b, const L& luogo = {}) {
 }
 
 /// Square root; fault 5 if `valore` is negative.
-double radice(double valore);
+template <LuogoDiCalcolo L = NessunLuogo>
+double radice(double valore, const L& luogo = {}) {
+    if (!(valore >= 0.0)) [[unlikely]] {
+        lancia(NumeroGuasto::chiamataNonValida, luogo());
+    }
+    return std::sqrt(valore);
+}
+
 /// Natural logarithm; fault 5 if `valore` is 0 or negative.
-double logaritmo(double valore);
+template <LuogoDiCalcolo L = NessunLuogo>
+double logaritmo(double valore, const L& luogo = {}) {
+    if (!(valore > 0.0)) [[unlikely]] {
+        lancia(NumeroGuasto::chiamataNonValida, luogo());
+    }
+    return std::log(valore);
+}
+
 /// Exponential; fault 6 if the result is too large.
-double esponenziale(double valore);
+template <LuogoDiCalcolo L = NessunLuogo>
+double esponenziale(double valore, const L& luogo = {}) {
+    return controllato(std::exp(valore), luogo);
+}
 
 /// Rounds to single precision; fault 6 if the value does not fit.
 template <LuogoDiCalcolo L = NessunLuogo>

@@ -3,33 +3,19 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 #include "app/Applicazione.h"
+#include "calc/Geometria.h"
+#include "calc/simulazione.h"
 
 namespace kelvo {
-
-/// The six measures of one entry.
-struct Geometria {
-    float e = 0.0F;    ///< entry width, m
-    float v = 0.0F;    ///< approach half-width, m
-    float l = 0.0F;    ///< effective flare length, m
-    float phi = 0.0F;  ///< conflict angle, degrees
-    float r = 0.0F;    ///< entry radius, m
-    float D = 0.0F;    ///< inscribed circle diameter, m
-};
-
-/// The six measures that a leg holds.
-Geometria geometriaDi(const Ramo& ramo);
-
-/// The right-turn lanes that are switched on, one flag for each of four legs.
-using CorsieDestra = std::array<bool, 4>;
 
 /// The calculation engine: capacity of the entries, balancing of the flows round the ring, simulation over time.
 ///
 /// Every operation but Calcola_Parametri ends in its own handler: a run-time fault is reported through erroreLog and
 /// the operation ends; what was written up to then stays. The what-if forms take the measures `g` for the leg of
 /// number `indice`, from 1, in place of those it holds; with a number that matches no leg they read every leg's own.
+/// A calculation stamps the project with its form; one that a fault ends among its records stamps it as broken off.
 class modCalcolo {
 public:
     explicit modCalcolo(Applicazione& app) : app_(app) {}
@@ -50,7 +36,7 @@ public:
     /// text leaves all demand at 0.
     void Calcola_Tempo_Flusso(std::string_view modo);
     void Calcola_Tempo_Flusso(std::int16_t indice, const Geometria& g, std::string_view modo);
-    /// With right-turn lanes; sets QuoteSvoltaDX. Fault 9 with other than four legs as soon as an index runs out.
+    /// With right-turn lanes; sets QuoteSvoltaDX. Fault 9 as soon as a leg or a lane lies past the four places.
     void Calcola_Tempo_Flusso_DX(std::string_view modo, const CorsieDestra& corsie);
 
     /// Simulation of a table of segment flows; `modo` as above.
@@ -62,8 +48,16 @@ public:
     const std::array<double, 4>& QuoteSvoltaDX() const { return quoteSvoltaDX_; }
 
 private:
+    void bilanciamentoPiano();
+    void bilanciamentoIpotesi(std::int16_t indice, const Geometria& g);
+    void simula(const RichiestaSimulazione& richiesta);
+    /// Runs an operation in its handler.
+    template <class Operazione>
+    void gestisci(const char* metodo, Operazione operazione);
+
     Applicazione& app_;
     std::array<double, 4> quoteSvoltaDX_{};
+    MemoriaSimulazione memoria_;
 };
 
 }  // namespace kelvo

@@ -66,6 +66,8 @@ public:
     void CategoriaSegmento(float valore, std::int16_t segmento, std::int16_t classe);
     /// Copies the whole table, segments by classes.
     void GetCategorieSegmenti(TabellaCategorie& tabella) const { tabella = categorie_; }
+    /// The same table, not copied.
+    const TabellaCategorie& Categorie() const { return categorie_; }
 
 private:
     float veAutovetture_ = 0.0F;

@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "base/guasto.h"
 
 namespace kelvo {
@@ -24,12 +22,15 @@ void DatiTraffico::SetIterazione(std::int16_t indice, const Iterazione& record) 
     }
     const auto numero = static_cast<std::size_t>(indice);
     if (numero > record_.size()) {
-        if (record_.empty()) {
-            record_.reserve(std::max(numero, flussi_.size()));
-        }
         record_.resize(numero);
     }
     record_[numero - 1] = record;
+}
+
+void DatiTraffico::PreparaIterazioni(std::int16_t ultimo) {
+    if (ultimo > 0) {
+        record_.reserve(static_cast<std::size_t>(ultimo));
+    }
 }
 
 Iterazione DatiTraffico::GetIterazione(std::int16_t indice) const {

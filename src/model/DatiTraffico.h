@@ -20,6 +20,8 @@ public:
 
     /// Writes record `indice`, from 1; it may lie past NumSegmentiTempo. Fault 9 below 1.
     void SetIterazione(std::int16_t indice, const Iterazione& record);
+    /// Makes room for records up to `ultimo`, so that writing them in order allocates nothing more.
+    void PreparaIterazioni(std::int16_t ultimo);
     /// Record `indice`, from 1; all 0 where none was written. Fault 9 below 1.
     Iterazione GetIterazione(std::int16_t indice) const;
     /// Highest number of a record written since the records were last discarded.
@@ -56,6 +58,8 @@ public:
     void FlussoSegmento(float valore, std::int16_t segmento, std::int16_t colonna);
     /// Vehicles of a segment, from 0, column 0; 0 past the last row. Fault 9 below 0 or in another column.
     float FlussoSegmento(std::int16_t segmento, std::int16_t colonna) const;
+    /// The whole segment table, column 0, as many rows as NumSegmentiTempo.
+    const std::vector<float>& FlussiSegmento() const { return flussi_; }
 
 private:
     std::int16_t numSegmentiTempo_ = 0;

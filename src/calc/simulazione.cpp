@@ -1,0 +1,432 @@
+#include "calc/simulazione.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
+#include <concepts>
+#include <limits>
+
+#include "base/guasto.h"
+#include "base/numeri.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr std::string_view modoCostante = "0";
+constexpr std::string_view modoSegmenti = "1";
+
+/// Place of a fault in a segment of an entry.
+auto luogo(const Ramo& ramo, std::int16_t k, std::string_view cosa = {}) {
+    return [&ramo, k, cosa] {
+        std::string testo = fmt::format("{}, segmento {}", ramo.Descrizione(), k);
+        if (!cosa.empty()) {
+            testo.append(", ").append(cosa);
+        }
+        return testo;
+    };
+}
+
+auto luogo(const Ramo& ramo, std::string_view cosa) {
+    return [&ramo, cosa] { return fmt::format("{}, {}", ramo.Descrizione(), cosa); };
+}
+
+constexpr std::string_view segmentoZero = "segmento di tempo di 0 minuti";
+
+double minuti(DataOra da, DataOra a) {
+    return static_cast<double>(minutiTra(da, a));
+}
+
+/// Weighted sum of a composition, coefficients in the order of the classes.
+template <class T>
+T sommaPesata(const CoefficientiVeicoli& VE, const PerClasse& quantita) {
+    T somma = 0;
+    for (std::size_t j = 0; j < quantita.size(); ++j) {
+        somma += static_cast<T>(VE[j]) * static_cast<T>(quantita[j]);
+    }
+    return somma;
+}
+
+}  // namespace
+
+void preparaQuote(const Rotonda& rotonda, const CorsieDestra& corsie, std::array<double, 4>& quote) {
+    quote.fill(0.0);
+    Matrice p;
+    rotonda.GetMatriceSvoltePercentuale(p);
+    for (std::size_t k = 0; k < corsie.size(); ++k) {
+        if (!corsie[k]) {
+            continue;
+        }
+        const std::size_t arrivo = (k + 1) % corsie.size();
+        if (k >= p.size() || arrivo >= p.size()) {
+            throw Guasto(NumeroGuasto::indiceFuoriIntervallo,
+                         fmt::format("corsia {} di una rotatoria a {} rami", k + 1, p.size()));
+        }
+        quote[k] = 100.0 * static_cast<double>(p[k][arrivo]);
+    }
+}
+
+/// The logarithm and the segment length are the same for every record of an entry; their faults come where a record
+/// first needs them.
+class Simulazione::CostantiCoda {
+public:
+    /// Segment length in minutes as the records count it; whole in the single-precision forms.
+    double T(const Simulazione& s, const Ingresso& in, bool intero, std::int16_t k) {
+        if (std::isnan(T_)) {
+            const double durata = minuti(s.rotonda_.TempoIniziale(), s.rotonda_.TempoFinale());
+            const double segmenti = in.ramo->theDatiTraffico().NumSegmentiTempo() - 1.0;
+            T_ = dividi(durata, segmenti, luogo(*in.ramo, "un solo segmento di tempo"));
+            if (intero) {
+                T_ = static_cast<double>(aIntero16(arrotondaPari(T_), luogo(*in.ramo, k)));
+            }
+        }
+        return T_;
+    }
+    double logaritmoPercentile(double w, const Ramo& ramo, std::int16_t k) {
+        if (std::isnan(menoLn_)) {
+            menoLn_ = -logaritmo(w, luogo(ramo, k, "percentile non ammesso"));
+        }
+        return menoLn_;
+    }
+
+private:
+    double T_ = std::numeric_limits<double>::quiet_NaN();
+    double menoLn_ = std::numeric_limits<double>::quiet_NaN();
+};
+
+Simulazione::Simulazione(Applicazione& app, const RichiestaSimulazione& richiesta, const std::array<double, 4>& quote,
+                         MemoriaSimulazione& memoria)
+    : app_(app),
+      rotonda_(app.theRotonda()),
+      richiesta_(richiesta),
+      quote_(quote),
+      memoria_(memoria),
+      VE_(app.configurazione.coefficienti()),
+      n_(static_cast<std::size_t>(rotonda_.NumeroRami())) {}
+
+void Simulazione::esegui() {
+    m_ = minutoCampo(rotonda_.SegmentoTempo());
+    for (std::size_t i = 0; i < n_; ++i) {
+        ingressi_[i].ramo = &rotonda_.Ramo(static_cast<std::int16_t>(i + 1));
+    }
+    std::int16_t K = 0;
+    if (richiesta_.domanda == Domanda::curva) {
+        leggiCurve();
+        costruisciRette();
+        bilanciaRete();
+        dividiCurve();
+        K = numeroSegmenti();
+    } else {
+        K = numeroSegmenti();
+        if (richiesta_.forma == FormaCalcolo::corsiaDestra) {
+            leggiCorsie();
+        }
+        bilanciaRete();
+        leggiComposizioni();
+    }
+    calcolaPortate(K);
+    scriviRecord(K);
+    rotonda_.timbra(richiesta_.forma);
+}
+
+float Simulazione::coefficienteMedio(const ComposizioneTraffico& c) const {
+    const PerClasse percentuali{c.Autoarticolati(), c.Autotreni(),       c.Pullman(),    c.Camper(),
+                                c.Roulotte(),       c.VeicoliDueRuote(), c.Autovetture()};
+    return aSingolo(sommaPesata<double>(VE_, percentuali) / 100.0);
+}
+
+float Simulazione::coefficienteSegmento(const Ingresso& in, std::int16_t k) const {
+    const TabellaCategorie& tabella = in.ramo->theComposizioneTraffico().Categorie();
+    if (static_cast<std::size_t>(k) >= tabella.size()) {
+        return 0.0F;
+    }
+    const PerClasse& categorie = tabella[static_cast<std::size_t>(k)];
+    float totale = 0.0F;
+    for (const float c : categorie) {
+        totale += c;
+    }
+    controllato(static_cast<double>(totale), luogo(*in.ramo, k, "composizione"));
+    if (totale == 0.0F) {
+        return 0.0F;
+    }
+    const float pesata = sommaPesata<float>(VE_, categorie);
+    return aSingolo(static_cast<double>(pesata / totale), luogo(*in.ramo, k, "composizione"));
+}
+
+double Simulazione::quotaCorsia(std::size_t i) const {
+    const Ingresso& in = ingressi_[i];
+    if (i >= quote_.size()) {
+        throw Guasto(NumeroGuasto::indiceFuoriIntervallo, luogo(*in.ramo, "corsia di svolta a destra")());
+    }
+    const DatiTraffico& traffico = in.ramo->theDatiTraffico();
+    const double veicoli = quote_[i] * static_cast<double>(traffico.FlussoTotale()) / 100.0;
+    const double durata = static_cast<double>(m_) * traffico.NumSegmentiTempo();
+    const double quota = dividi(veicoli, durata, luogo(*in.ramo, "nessun segmento di tempo"));
+    return richiesta_.modo == modoCostante ? quota * static_cast<double>(in.G) : quota;
+}
+
+void Simulazione::leggiCurve() {
+    for (std::size_t i = 0; i < n_; ++i) {
+        Ingresso& in = ingressi_[i];
+        const DatiTraffico& traffico = in.ramo->theDatiTraffico();
+        const bool intera = richiesta_.forma == FormaCalcolo::ipotesi;
+        in.t3 = intera ? traffico.Tempo3() : traffico.Tempo3() - rotonda_.SegmentoTempo();
+        in.d12 = minuti(traffico.Tempo1(), traffico.Tempo2());
+        in.d23 = minuti(traffico.Tempo2(), in.t3);
+        if (richiesta_.modo == modoCostante) {
+            in.G = coefficienteMedio(in.ramo->theComposizioneTraffico());
+            const auto G = static_cast<double>(in.G);
+            in.q1 = aSingolo(static_cast<double>(traffico.FlussoTempo1()) * G, luogo(*in.ramo, "q1"));
+            in.q2 = aSingolo(static_cast<double>(traffico.FlussoTempo2()) * G, luogo(*in.ramo, "q2"));
+            in.q3 = aSingolo(static_cast<double>(traffico.FlussoTempo3()) * G, luogo(*in.ramo, "q3"));
+        } else if (richiesta_.modo == modoSegmenti) {
+            in.q1 = traffico.FlussoTempo1();
+            in.q2 = traffico.FlussoTempo2();
+            in.q3 = traffico.FlussoTempo3();
+        }
+        if (richiesta_.forma == FormaCalcolo::corsiaDestra) {
+            in.quota = quotaCorsia(i);
+        }
+    }
+}
+
+Simulazione::Retta Simulazione::retta(const Ingresso& in, float qa, float qb, double durata) const {
+    // Line through (0, qa) and (x, qb) by Cramer's rule, every named term a single.
+    const double x = arrotondaPari(dividi(durata, m_, luogo(*in.ramo, segmentoZero)));
+    const auto a = static_cast<double>(qa);
+    const auto b = static_cast<double>(qb);
+    const auto tratto = luogo(*in.ramo, "tratto della curva senza segmenti");
+    const auto sum = static_cast<double>(aSingolo(a + b, tratto));
+    const auto xy = static_cast<double>(aSingolo(x * b, tratto));
+    const auto xx = static_cast<double>(aSingolo(x * x, tratto));
+    const auto det = static_cast<double>(aSingolo(xx - 2.0 * xx, tratto));
+    return {.pendenza = aSingolo(dividi(x * sum - 2.0 * xy, det, tratto), tratto),
+            .scarto = aSingolo(dividi(x * xy - xx * sum, det, tratto), tratto)};
+}
+
+void Simulazione::costruisciRette() {
+    for (std::size_t i = 0; i < n_; ++i) {
+        Ingresso& in = ingressi_[i];
+        in.salita = retta(in, in.q1, in.q2, in.d12);
+    }
+    for (std::size_t i = 0; i < n_; ++i) {
+        Ingresso& in = ingressi_[i];
+        in.discesa = retta(in, in.q2, in.q3, in.d23);
+    }
+}
+
+void Simulazione::bilanciaRete() {
+    parametriCapacita(rotonda_, richiesta_.indice, richiesta_.geometria);
+    const Equilibrio<float> equilibrio = bilancia<float>(rotonda_);
+    // The what-if form of a demand curve goes on with the capacities of the last plain calculation.
+    const bool scritta = richiesta_.domanda == Domanda::tabella || richiesta_.forma != FormaCalcolo::ipotesi;
+    for (std::size_t i = 0; i < n_; ++i) {
+        Ingresso& in = ingressi_[i];
+        if (scritta) {
+            in.ramo->CapacitaUltima(static_cast<double>(equilibrio.soluzione.Q[i]));
+        }
+        in.CU = in.ramo->CapacitaUltima();
+        in.F = aSingolo(in.ramo->F(), luogo(*in.ramo, "F"));
+    }
+    collegaVicini(equilibrio.M);
+}
+
+void Simulazione::collegaVicini(const Quadrata<float>& M) {
+    for (std::size_t i = 0; i < n_; ++i) {
+        Ingresso& in = ingressi_[i];
+        for (std::size_t j = 0; j < n_; ++j) {
+            if (j != i && M[j][i] != 0.0F) {
+                in.vicini[in.quantiVicini] = j;
+                in.pesi[in.quantiVicini] = static_cast<double>(M[j][i]);
+                ++in.quantiVicini;
+            }
+        }
+    }
+}
+
+void Simulazione::dividiCurve() {
+    const auto segmento = [&](const Ingresso& in, DataOra t) {
+        const double quoziente = dividi(minuti(rotonda_.TempoIniziale(), t), m_, luogo(*in.ramo, segmentoZero));
+        return aIntero16(std::floor(quoziente), luogo(*in.ramo, "tempi della curva"));
+    };
+    for (std::size_t i = 0; i < n_; ++i) {
+        Ingresso& in = ingressi_[i];
+        const DatiTraffico& traffico = in.ramo->theDatiTraffico();
+        in.k1 = segmento(in, traffico.Tempo1());
+        in.k2 = segmento(in, traffico.Tempo2());
+        in.k3 = segmento(in, in.t3);
+    }
+}
+
+std::int16_t Simulazione::numeroSegmenti() const {
+    const double segmenti =
+        dividi(minuti(rotonda_.TempoIniziale(), rotonda_.TempoFinale()), m_, [] { return std::string{segmentoZero}; });
+    return aIntero16(arrotondaPari(segmenti), [] { return "numero di segmenti di tempo"; });
+}
+
+void Simulazione::leggiComposizioni() {
+    if (richiesta_.modo == modoCostante) {
+        for (std::size_t i = 0; i < n_; ++i) {
+            ingressi_[i].G = coefficienteMedio(ingressi_[i].ramo->theComposizioneTraffico());
+        }
+    }
+}
+
+void Simulazione::leggiCorsie() {
+    leggiComposizioni();
+    for (std::size_t i = 0; i < n_; ++i) {
+        ingressi_[i].quota = quotaCorsia(i);
+    }
+}
+
+float Simulazione::domandaCurva(const Ingresso& in, std::int16_t k) const {
+    const bool segmenti = richiesta_.modo == modoSegmenti;
+    if (!segmenti && richiesta_.modo != modoCostante) {
+        return 0.0F;
+    }
+    // Computed even where no line applies: its faults come all the same.
+    const float G = segmenti ? coefficienteSegmento(in, k) : 1.0F;
+    float y = 0.0F;
+    if (in.k1 <= k && k <= in.k2) {
+        y = in.salita.scarto + in.salita.pendenza * static_cast<float>(k - in.k1);
+    } else if (k < in.k1 || k > in.k3) {
+        return 0.0F;
+    } else {
+        y = in.discesa.scarto + in.discesa.pendenza * static_cast<float>(k - in.k2);
+    }
+    if (richiesta_.forma == FormaCalcolo::corsiaDestra) {
+        y = static_cast<float>(static_cast<double>(y) - in.quota);
+    }
+    const float portata = y * 60.0F;
+    // The what-if form works out the composition of the segment and does not apply it.
+    const bool applicata = segmenti && richiesta_.forma != FormaCalcolo::ipotesi;
+    return aSingolo(static_cast<double>(applicata ? portata * G : portata), luogo(*in.ramo, k));
+}
+
+float Simulazione::domandaTabella(const Ingresso& in, std::int16_t k) const {
+    const bool segmenti = richiesta_.modo == modoSegmenti;
+    if (!segmenti && richiesta_.modo != modoCostante) {
+        return 0.0F;
+    }
+    const auto G = static_cast<double>(segmenti ? coefficienteSegmento(in, k) : in.G);
+    const std::vector<float>& flussi = in.ramo->theDatiTraffico().FlussiSegmento();
+    const auto riga = static_cast<std::size_t>(k);
+    const double veicoli = riga < flussi.size() ? static_cast<double>(flussi[riga]) : 0.0;
+    const double portata =
+        richiesta_.forma == FormaCalcolo::corsiaDestra ? (veicoli - in.quota) * 60.0 * G : 60.0 * veicoli * G;
+    return aSingolo(portata / m_, luogo(*in.ramo, k));
+}
+
+void Simulazione::calcolaPortate(std::int16_t K) {
+    const auto righe = static_cast<std::size_t>(K + 1 > 0 ? K + 1 : 0);
+    memoria_.Dq.resize(righe * n_);
+    memoria_.Cq.resize(righe * n_);
+    for (std::size_t riga = 0; riga < righe; ++riga) {
+        const auto k = static_cast<std::int16_t>(riga);
+        float* Dq = memoria_.Dq.data() + riga * n_;
+        float* Cq = memoria_.Cq.data() + riga * n_;
+        for (std::size_t i = 0; i < n_; ++i) {
+            const Ingresso& in = ingressi_[i];
+            Dq[i] = richiesta_.domanda == Domanda::curva ? domandaCurva(in, k) : domandaTabella(in, k);
+        }
+        for (std::size_t i = 0; i < n_; ++i) {
+            const Ingresso& in = ingressi_[i];
+            // No entry sends round more than its ultimate capacity.
+            float R = in.F;
+            for (std::size_t v = 0; v < in.quantiVicini; ++v) {
+                const std::size_t j = in.vicini[v];
+                const auto domanda = static_cast<double>(Dq[j]);
+                const double u = ingressi_[j].CU > domanda ? domanda : ingressi_[j].CU;
+                R = static_cast<float>(static_cast<double>(R) - in.pesi[v] * u);
+            }
+            Cq[i] = aSingolo(static_cast<double>(R), luogo(*in.ramo, k));
+        }
+    }
+}
+
+void Simulazione::scriviRecord(std::int16_t K) {
+    PerRamo<CostantiCoda> costanti{};
+    for (std::size_t i = 0; i < n_; ++i) {
+        ingressi_[i].ramo->theDatiTraffico().PreparaIterazioni(K);
+    }
+    for (int k = 1; k <= K; ++k) {
+        const auto segmento = static_cast<std::int16_t>(k);
+        const std::size_t riga = static_cast<std::size_t>(k - 1) * n_;
+        for (std::size_t i = 0; i < n_; ++i) {
+            const Iterazione r =
+                record(ingressi_[i], costanti[i], memoria_.Dq[riga + i], memoria_.Cq[riga + i], segmento);
+            rotonda_.timbra(FormaCalcolo::interrotta);
+            ingressi_[i].ramo->theDatiTraffico().SetIterazione(segmento, r);
+        }
+    }
+}
+
+namespace {
+
+/// Rounding of the named values of queue and delay: to single in the plain forms of a demand curve.
+struct ASingolo {
+    template <class L>
+    static double tieni(double valore, const L& dove) {
+        return static_cast<double>(aSingolo(valore, dove));
+    }
+};
+struct InDoppio {
+    template <class L>
+    static double tieni(double valore, const L& dove) {
+        return controllato(valore, dove);
+    }
+};
+
+}  // namespace
+
+template <class Precisione>
+void Simulazione::codaRitardo(Iterazione& r, const Ingresso& in, CostantiCoda& costanti, std::int16_t k) const {
+    const auto dove = luogo(*in.ramo, k);
+    const auto c = static_cast<double>(r.Capacita);
+    const auto f = static_cast<double>(r.Flusso);
+    const double w = Precisione::tieni(1.0 - static_cast<double>(rotonda_.ValorePercentile()) / 100.0, dove);
+    const double T = costanti.T(*this, in, std::same_as<Precisione, ASingolo>, k);
+    const double x = Precisione::tieni(dividi(f * 60.0, c, luogo(*in.ramo, k, "capacità 0")), dove);
+    const double cT = Precisione::tieni(c / 60.0 * T, dove);
+    const double carico = dividi(8.0 * x, cT, luogo(*in.ramo, k, "segmento di tempo di 0 minuti"));
+    const double menoLn = costanti.logaritmoPercentile(w, *in.ramo, k);
+    const double coda = (cT / 4.0) * ((x - 1.0) + radice((1.0 - x) * (1.0 - x) + carico * menoLn, dove));
+    r.Coda = aSingolo(coda, dove) + 0.0F;
+    const double c1 = Precisione::tieni(c / 60.0, dove);
+    const double A = Precisione::tieni((2.0 + cT) - x * cT, dove);
+    const double ritardo =
+        (dividi(1.0, c1, dove) + dividi(1.0, 4.0 * c1, dove) * (radice(A * A + 8.0 * cT * x, dove) - A)) * 60.0;
+    r.Ritardo = aSingolo(ritardo, dove) + 0.0F;
+}
+
+Iterazione Simulazione::record(const Ingresso& in, CostantiCoda& costanti, float Dq, float Cq, std::int16_t k) const {
+    const Ramo& ramo = *in.ramo;
+    const auto dove = luogo(ramo, k);
+    const AnalisiMarginale& marginale = ramo.theAnalisiMarginale();
+    const double notte = rotonda_.CondizioniNotturne() ? app_.theAmbiente.PercentualeNotturna() : 0.0;
+    const auto est = static_cast<double>(aSingolo(marginale.CondizioniEsterne(), dove));
+    const double ped =
+        ramo.AttraversamentoPedonale() ? static_cast<double>(aSingolo(marginale.AttraversamentoPedonale(), dove)) : 0.0;
+    Iterazione r;
+    r.Capacita = aSingolo((100.0 - notte - est - ped) * static_cast<double>(Cq) / 100.0, dove);
+    r.Flusso = Dq / 60.0F + 0.0F;
+
+    const auto c = static_cast<double>(r.Capacita);
+    const double portata = static_cast<double>(r.Flusso) * 60.0;
+    const bool curva = richiesta_.domanda == Domanda::curva;
+    if (!curva || c > 0.0) {
+        r.Coeff_Sat = aSingolo(dividi(portata, c, luogo(ramo, k, "capacità 0")), dove) + 0.0F;
+    }
+    if (!curva) {
+        codaRitardo<InDoppio>(r, in, costanti, k);
+    } else if (r.Flusso > 0.0F) {
+        if (richiesta_.forma == FormaCalcolo::ipotesi) {
+            codaRitardo<InDoppio>(r, in, costanti, k);
+        } else {
+            codaRitardo<ASingolo>(r, in, costanti, k);
+        }
+    }
+    return r;
+}
+
+}  // namespace kelvo
