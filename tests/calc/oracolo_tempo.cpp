@@ -222,17 +222,17 @@ void Simulazione::domandaCurva(int k, int i) {
     if (r.modo == "1") {
         g = gDelSegmento(k, i);
     }
+    // The three conditions in their order, the first that holds counts: a segment on the rising line is on it also past
+    // k3, a segment before k1 has no demand also where the peak comes first.
     float y = 0.0F;
     bool linea = false;
     if (k1[pos(i)] <= k && k <= k2[pos(i)]) {
         const float passo = singolo(d(sale[pos(i)].pendenza) * (k - k1[pos(i)]));
         y = singolo(d(sale[pos(i)].offset) + d(passo));
         linea = true;
-    }
-    if (k < k1[pos(i)] || k > k3[pos(i)]) {
+    } else if (k < k1[pos(i)] || k > k3[pos(i)]) {
         Dq[pos(k)][pos(i)] = 0.0F;
-    }
-    if (k2[pos(i)] < k && k <= k3[pos(i)]) {
+    } else if (k2[pos(i)] < k && k <= k3[pos(i)]) {
         const float passo = singolo(d(scende[pos(i)].pendenza) * (k - k2[pos(i)]));
         y = singolo(d(scende[pos(i)].offset) + d(passo));
         linea = true;
