@@ -18,7 +18,8 @@ constexpr std::size_t margine = 2;
 
 Tabella::Tabella(int righe, int colonne) : righe_(righe), colonne_(colonne) {
     if (righe < 0 || colonne < 0) {
-        throw Guasto(NumeroGuasto::indiceFuoriIntervallo, fmt::format("tabella di {} righe e {} colonne", righe, colonne));
+        throw Guasto(NumeroGuasto::indiceFuoriIntervallo,
+                     fmt::format("tabella di {} righe e {} colonne", righe, colonne));
     }
     larghezze.resize(static_cast<std::size_t>(colonne));
     celle_.resize(static_cast<std::size_t>(righe) * static_cast<std::size_t>(colonne));
@@ -26,8 +27,8 @@ Tabella::Tabella(int righe, int colonne) : righe_(righe), colonne_(colonne) {
 
 std::size_t Tabella::posizione(int riga, int colonna) const {
     if (riga < 0 || riga >= righe_ || colonna < 0 || colonna >= colonne_) {
-        throw Guasto(NumeroGuasto::indiceFuoriIntervallo, fmt::format("cella {}, {} di una tabella {} x {}", riga,
-                                                                      colonna, righe_, colonne_));
+        throw Guasto(NumeroGuasto::indiceFuoriIntervallo,
+                     fmt::format("cella {}, {} di una tabella {} x {}", riga, colonna, righe_, colonne_));
     }
     return static_cast<std::size_t>(riga) * static_cast<std::size_t>(colonne_) + static_cast<std::size_t>(colonna);
 }

@@ -44,6 +44,11 @@ std::string parole(const std::error_code& errore) {
     return fmt::format("errore di sistema {}", errore.value());
 }
 
+std::string testoDimensione(std::uint64_t byte) {
+    constexpr std::uint64_t mebi = 1024 * 1024;
+    return byte % mebi == 0 ? fmt::format("{} MiB", byte / mebi) : fmt::format("{} byte", byte);
+}
+
 std::string erroreCorrente() {
     return parole(std::error_code(errno, std::generic_category()));
 }
@@ -188,7 +193,7 @@ std::string leggiFile(const std::string& percorso, std::uint64_t massimo, std::s
         return parole(errore);
     }
     if (dimensione > massimo) {
-        return fmt::format("il file supera {} MiB", massimo / (1024 * 1024));
+        return fmt::format("il file supera {}", testoDimensione(massimo));
     }
     // The file may grow while it is read: one byte more than the size tells.
     std::string letto(static_cast<std::size_t>(dimensione) + 1, '\0');

@@ -47,11 +47,9 @@ std::string_view paroleGuasto(NumeroGuasto numero) {
     return "Errore definito dall'applicazione o dall'oggetto";
 }
 
-Guasto::Guasto(NumeroGuasto numero, std::string_view luogo) : Guasto(numero, Parole{conLuogo(numero, luogo)}) {
-}
+Guasto::Guasto(NumeroGuasto numero, std::string_view luogo) : Guasto(numero, Parole{conLuogo(numero, luogo)}) {}
 
-Guasto::Guasto(NumeroGuasto numero, const Parole& parole) : std::runtime_error(parole.testo), numero_(numero) {
-}
+Guasto::Guasto(NumeroGuasto numero, const Parole& parole) : std::runtime_error(parole.testo), numero_(numero) {}
 
 Guasto Guasto::conParole(NumeroGuasto numero, std::string_view parole) {
     return {numero, Parole{std::string{parole}}};
@@ -69,14 +67,14 @@ double radice(double valore) {
     if (!(valore >= 0.0)) {
         throw Guasto(NumeroGuasto::chiamataNonValida, "radice di un numero negativo");
     }
-    return std::sqrt(valore);
+    return controllato(std::sqrt(valore));
 }
 
 double logaritmo(double valore) {
     if (!(valore > 0.0)) {
         throw Guasto(NumeroGuasto::chiamataNonValida, "logaritmo di un numero non positivo");
     }
-    return std::log(valore);
+    return controllato(std::log(valore));
 }
 
 double esponenziale(double valore) {

@@ -85,9 +85,9 @@ double dividi(double a, double b, const L& luogo = {}) {
     return controllato(a / b, luogo);
 }
 
-/// Square root; fault 5 if `valore` is negative.
+/// Square root; fault 5 if `valore` is negative, fault 6 if it is an infinity.
 double radice(double valore);
-/// Natural logarithm; fault 5 if `valore` is 0 or negative.
+/// Natural logarithm; fault 5 if `valore` is 0 or negative, fault 6 if it is an infinity.
 double logaritmo(double valore);
 /// Exponential; fault 6 if the result is too large.
 double esponenziale(double valore);
