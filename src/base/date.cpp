@@ -14,8 +14,8 @@ namespace kelvo {
 namespace {
 
 constexpr std::int64_t secondiAlGiorno = 86400;
-constexpr double primoGiorno = -657434.0;   // 1 January 100
-constexpr double ultimoGiorno = 2958466.0;  // 1 January 10000
+constexpr double primoGiorno = -657434.0;  // 1 January 100
+constexpr double fineGiorni = 2958466.0;   // 1 January 10000, no date any more
 
 std::chrono::sys_days giornoZero() {
     return std::chrono::year{1899} / std::chrono::December / 30;
@@ -81,10 +81,12 @@ DataOra oggi() {
 }
 
 std::int64_t secondiDi(DataOra data) {
-    if (!(data >= primoGiorno && data < ultimoGiorno)) {
+    // The rounded date must lie in the calendar: the last half second of the year 9999 does not.
+    const double secondi = std::round(data * static_cast<double>(secondiAlGiorno));
+    if (!(secondi >= primoGiorno * secondiAlGiorno && secondi < fineGiorni * secondiAlGiorno)) {
         throw Guasto(NumeroGuasto::overflow, "data fuori dal calendario");
     }
-    return std::llround(data * static_cast<double>(secondiAlGiorno));
+    return static_cast<std::int64_t>(secondi);
 }
 
 PartiData partiDi(DataOra data) {

@@ -154,6 +154,15 @@ std::string paroleErrore(const std::error_code& errore) {
     return fmt::format("errore di sistema {}", errore.value());
 }
 
+namespace {
+
+std::string testoDimensione(std::uint64_t byte) {
+    constexpr std::uint64_t mebi = 1024 * 1024;
+    return byte % mebi == 0 ? fmt::format("{} MiB", byte / mebi) : fmt::format("{} byte", byte);
+}
+
+}  // namespace
+
 SistemaFile& sistemaFileStandard() {
     static SistemaFileStandard sistema;
     return sistema;
@@ -212,7 +221,7 @@ std::string leggiFile(const std::string& percorso, std::uint64_t massimo, std::s
         return paroleErrore(errore);
     }
     if (dimensione > massimo) {
-        return fmt::format("il file supera {} MiB", massimo / (1024 * 1024));
+        return fmt::format("il file supera {}", testoDimensione(massimo));
     }
     // The file may grow while it is read: one byte more than the size tells.
     std::string letto(static_cast<std::size_t>(dimensione) + 1, '\0');

@@ -86,22 +86,22 @@ double dividi(double a, double b, const L& luogo = {}) {
     return controllato(a / b, luogo);
 }
 
-/// Square root; fault 5 if `valore` is negative.
+/// Square root; fault 5 if `valore` is negative, fault 6 if it is an infinity.
 template <LuogoDiCalcolo L = NessunLuogo>
 double radice(double valore, const L& luogo = {}) {
     if (!(valore >= 0.0)) [[unlikely]] {
         lancia(NumeroGuasto::chiamataNonValida, luogo());
     }
-    return std::sqrt(valore);
+    return controllato(std::sqrt(valore), luogo);
 }
 
-/// Natural logarithm; fault 5 if `valore` is 0 or negative.
+/// Natural logarithm; fault 5 if `valore` is 0 or negative, fault 6 if it is an infinity.
 template <LuogoDiCalcolo L = NessunLuogo>
 double logaritmo(double valore, const L& luogo = {}) {
     if (!(valore > 0.0)) [[unlikely]] {
         lancia(NumeroGuasto::chiamataNonValida, luogo());
     }
-    return std::log(valore);
+    return controllato(std::log(valore), luogo);
 }
 
 /// Exponential; fault 6 if the result is too large.

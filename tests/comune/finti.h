@@ -2,17 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "app/Applicazione.h"
 #include "app/servizi.h"
 #include "base/date.h"
+#include "comune/cartella.h"
 
 namespace kelvo::prove {
 
@@ -39,37 +35,6 @@ public:
     DataOra adesso() override { return istante; }
     DataOra istante = giornoCalendario(2026, 11, 21) + oraDelGiorno(10, 30, 5);
 };
-
-/// A folder of its own for one test, removed at its end.
-class CartellaTemporanea {
-public:
-    CartellaTemporanea() {
-        std::random_device caso;
-        percorso_ = std::filesystem::temp_directory_path() / ("kelvo-prova-" + std::to_string(caso()));
-        std::filesystem::create_directories(percorso_);
-    }
-    CartellaTemporanea(const CartellaTemporanea&) = delete;
-    CartellaTemporanea& operator=(const CartellaTemporanea&) = delete;
-    ~CartellaTemporanea() {
-        std::error_code ignorato;
-        std::filesystem::remove_all(percorso_, ignorato);
-    }
-    std::string percorso() const { return percorso_.string(); }
-    std::string file(const std::string& nome) const { return (percorso_ / nome).string(); }
-
-private:
-    std::filesystem::path percorso_;
-};
-
-inline std::string contenuto(const std::string& percorso) {
-    std::ifstream flusso(percorso, std::ios::binary);
-    return {std::istreambuf_iterator<char>(flusso), std::istreambuf_iterator<char>()};
-}
-
-inline void scriviContenuto(const std::string& percorso, const std::string& testo) {
-    std::ofstream flusso(percorso, std::ios::binary);
-    flusso << testo;
-}
 
 /// A program without windows in a folder of its own, with the factory coefficients in memory.
 class AppFinta {
