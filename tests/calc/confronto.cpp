@@ -248,13 +248,7 @@ void Banco::esegui(const Corsa& corsa) {
     descrizione = mostrati.empty() ? "" : mostrati[0].testo;
 }
 
-std::string Banco::confronta(const Corsa& corsa) {
-    oracolo::Progetto a = oracolo::leggi(finta.app, motore.QuoteSvoltaDX());
-    const Timbro prima = rotonda().timbro();
-    atteso = interroga(a, corsa);
-    esegui(corsa);
-    const oracolo::Progetto b = oracolo::leggi(finta.app, motore.QuoteSvoltaDX());
-
+std::string Banco::confrontaGuasto(const Corsa& corsa) const {
     const std::size_t messaggi = finta.messaggi.mostrati.size();
     if (messaggi != (atteso.guasto == 0 ? 0U : 1U)) {
         return fmt::format("{}: fault {} expected, {} messages shown: {}", corsa.nome(), atteso.guasto, messaggi,
@@ -272,6 +266,20 @@ std::string Banco::confronta(const Corsa& corsa) {
     }
     if (atteso.guasto != 0 && metodo != corsa.metodo()) {
         return fmt::format("{}: fault reported under '{}'", corsa.nome(), metodo);
+    }
+    return {};
+}
+
+std::string Banco::confronta(const Corsa& corsa) {
+    oracolo::Progetto a = oracolo::leggi(finta.app, motore.QuoteSvoltaDX());
+    const Timbro prima = rotonda().timbro();
+    atteso = interroga(a, corsa);
+    esegui(corsa);
+    const oracolo::Progetto b = oracolo::leggi(finta.app, motore.QuoteSvoltaDX());
+
+    const std::string diversita = confrontaGuasto(corsa);
+    if (!diversita.empty()) {
+        return diversita;
     }
     for (std::size_t i = 0; i < a.ingressi.size(); ++i) {
         const std::string esito =

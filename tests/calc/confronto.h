@@ -60,6 +60,9 @@ public:
     std::string confronta(const Corsa& corsa);
     /// How the oracle ended in the last comparison.
     oracolo::Esito atteso;
+
+private:
+    std::string confrontaGuasto(const Corsa& corsa) const;
 };
 
 }  // namespace kelvo::prove

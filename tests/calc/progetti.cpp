@@ -157,7 +157,7 @@ void progettoOrdinato(Banco& banco, int rami) {
         traffico.FlussoTempo3(4.25F);
         traffico.FlussoTotale(600.0F + 30.0F * passo);
         for (std::int16_t k = 0; k < 8; ++k) {
-            traffico.FlussoSegmento(70.0F + 9.0F * static_cast<float>((3 * k + o) % 6), k, 0);
+            traffico.FlussoSegmento(70.0F + 9.0F * static_cast<float>((5 * k + o) % 7), k, 0);
             ramo.theComposizioneTraffico().CategoriaSegmento(90.0F, k, 6);
             ramo.theComposizioneTraffico().CategoriaSegmento(static_cast<float>((k + o) % 5), k, 1);
         }
