@@ -16,14 +16,12 @@ std::size_t z(int indice) {
     return static_cast<std::size_t>(indice);
 }
 
-Quadrata<double> minore(int n, const Quadrata<double>& A, int senzaRiga, int senzaColonna) {
-    Quadrata<double> m{};
+void minore(int n, const Quadrata<double>& A, int senzaRiga, int senzaColonna, Quadrata<double>& m) {
     for (int r = 0; r < n - 1; ++r) {
         for (int c = 0; c < n - 1; ++c) {
             m[z(r)][z(c)] = A[z(r < senzaRiga ? r : r + 1)][z(c < senzaColonna ? c : c + 1)];
         }
     }
-    return m;
 }
 
 [[noreturn]] void nonConverge() {
@@ -86,7 +84,7 @@ double Determinante(int n, const Quadrata<double>& A) {
         double prima = 1.0;
         double seconda = 1.0;
         for (int c = 0; c < n; ++c) {
-            const std::size_t riga = z((t + c) % n);
+            const std::size_t riga = z(t + c < n ? t + c : t + c - n);
             prima *= A[riga][z(c)];
             seconda *= A[riga][z(n - 1 - c)];
         }
@@ -108,10 +106,12 @@ Quadrata<double> Trasposta(int n, const Quadrata<double>& A) {
 
 Quadrata<double> Inversa(int n, const Quadrata<double>& /*A*/, const Quadrata<double>& T, double det) {
     Quadrata<double> inversa{};
+    Quadrata<double> m{};
     for (int i = 0; i < n; ++i) {
         for (int j = 0; j < n; ++j) {
             const double segno = (i + j) % 2 == 0 ? 1.0 : -1.0;
-            const double complemento = Determinante(n - 1, minore(n, T, i, j)) * segno;
+            minore(n, T, i, j, m);
+            const double complemento = Determinante(n - 1, m) * segno;
             inversa[z(i)][z(j)] =
                 dividi(complemento, det, [] { return "determinante della matrice dei coefficienti 0"; });
         }

@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <cmath>
-#include <concepts>
 #include <limits>
 
 #include "base/guasto.h"
@@ -66,33 +65,72 @@ void preparaQuote(const Rotonda& rotonda, const CorsieDestra& corsie, std::array
     }
 }
 
-/// The logarithm and the segment length are the same for every record of an entry; their faults come where a record
-/// first needs them.
-class Simulazione::CostantiCoda {
-public:
-    /// Segment length in minutes as the records count it; whole in the single-precision forms.
-    double T(const Simulazione& s, const Ingresso& in, bool intero, std::int16_t k) {
-        if (std::isnan(T_)) {
-            const double durata = minuti(s.rotonda_.TempoIniziale(), s.rotonda_.TempoFinale());
-            const double segmenti = in.ramo->theDatiTraffico().NumSegmentiTempo() - 1.0;
-            T_ = dividi(durata, segmenti, luogo(*in.ramo, "un solo segmento di tempo"));
-            if (intero) {
-                T_ = static_cast<double>(aIntero16(arrotondaPari(T_), luogo(*in.ramo, k)));
-            }
-        }
-        return T_;
-    }
-    double logaritmoPercentile(double w, const Ramo& ramo, std::int16_t k) {
-        if (std::isnan(menoLn_)) {
-            menoLn_ = -logaritmo(w, luogo(ramo, k, "percentile non ammesso"));
-        }
-        return menoLn_;
-    }
+namespace {
 
-private:
-    double T_ = std::numeric_limits<double>::quiet_NaN();
-    double menoLn_ = std::numeric_limits<double>::quiet_NaN();
+/// Arithmetic that raises its faults where they arise.
+struct ConControlli {
+    template <class L>
+    static double dividi(double a, double b, const L& dove) {
+        return kelvo::dividi(a, b, dove);
+    }
+    template <class L>
+    static double radice(double valore, const L& dove) {
+        return kelvo::radice(valore, dove);
+    }
+    template <class L>
+    static double logaritmo(double valore, const L& dove) {
+        return kelvo::logaritmo(valore, dove);
+    }
+    template <class L>
+    static double tieni(double valore, bool singolo, const L& dove) {
+        return singolo ? static_cast<double>(aSingolo(valore, dove)) : controllato(valore, dove);
+    }
+    template <class L>
+    static float singolo(double valore, const L& dove) {
+        return aSingolo(valore, dove);
+    }
+    template <class L>
+    static double intero(double valore, const L& dove) {
+        return static_cast<double>(aIntero16(arrotondaPari(valore), dove));
+    }
 };
+
+/// The same arithmetic without its checks: every fault leaves an infinity or a NaN in the record.
+struct SenzaControlli {
+    template <class L>
+    static double dividi(double a, double b, const L& /*dove*/) {
+        return a / b;
+    }
+    template <class L>
+    static double radice(double valore, const L& /*dove*/) {
+        return std::sqrt(valore);
+    }
+    template <class L>
+    static double logaritmo(double valore, const L& /*dove*/) {
+        return valore > 0.0 ? std::log(valore) : std::numeric_limits<double>::quiet_NaN();
+    }
+    template <class L>
+    static double tieni(double valore, bool singolo, const L& /*dove*/) {
+        return singolo ? static_cast<double>(static_cast<float>(valore)) : valore;
+    }
+    template <class L>
+    static float singolo(double valore, const L& /*dove*/) {
+        return static_cast<float>(valore);
+    }
+    template <class L>
+    static double intero(double valore, const L& /*dove*/) {
+        const double tondo = arrotondaPari(valore);
+        return tondo >= -32768.0 && tondo <= 32767.0 ? tondo : std::numeric_limits<double>::quiet_NaN();
+    }
+};
+
+bool finito(const Iterazione& r) {
+    const float somma = (r.Flusso - r.Flusso) + (r.Capacita - r.Capacita) + (r.Coeff_Sat - r.Coeff_Sat) +
+                        (r.Coda - r.Coda) + (r.Ritardo - r.Ritardo);
+    return somma == 0.0F;
+}
+
+}  // namespace
 
 Simulazione::Simulazione(Applicazione& app, const RichiestaSimulazione& richiesta, const std::array<double, 4>& quote,
                          MemoriaSimulazione& memoria)
@@ -102,6 +140,7 @@ Simulazione::Simulazione(Applicazione& app, const RichiestaSimulazione& richiest
       quote_(quote),
       memoria_(memoria),
       VE_(app.configurazione.coefficienti()),
+      singoli_(richiesta.domanda == Domanda::curva && richiesta.forma != FormaCalcolo::ipotesi),
       n_(static_cast<std::size_t>(rotonda_.NumeroRami())) {}
 
 void Simulazione::esegui() {
@@ -344,89 +383,88 @@ void Simulazione::calcolaPortate(std::int16_t K) {
     }
 }
 
-void Simulazione::scriviRecord(std::int16_t K) {
-    PerRamo<CostantiCoda> costanti{};
-    for (std::size_t i = 0; i < n_; ++i) {
-        ingressi_[i].ramo->theDatiTraffico().PreparaIterazioni(K);
+template <class C>
+Simulazione::CostantiCoda Simulazione::costantiCoda(const Ingresso& in, std::int16_t k) const {
+    const auto dove = luogo(*in.ramo, k);
+    CostantiCoda costanti;
+    const double w = C::tieni(1.0 - static_cast<double>(rotonda_.ValorePercentile()) / 100.0, singoli_, dove);
+    const double durata = minuti(rotonda_.TempoIniziale(), rotonda_.TempoFinale());
+    const double segmenti = in.ramo->theDatiTraffico().NumSegmentiTempo() - 1.0;
+    costanti.w = w;
+    costanti.T = C::dividi(durata, segmenti, luogo(*in.ramo, "un solo segmento di tempo"));
+    if (singoli_) {
+        costanti.T = C::intero(costanti.T, dove);
     }
-    for (int k = 1; k <= K; ++k) {
-        const auto segmento = static_cast<std::int16_t>(k);
-        const std::size_t riga = static_cast<std::size_t>(k - 1) * n_;
-        for (std::size_t i = 0; i < n_; ++i) {
-            const Iterazione r =
-                record(ingressi_[i], costanti[i], memoria_.Dq[riga + i], memoria_.Cq[riga + i], segmento);
-            rotonda_.timbra(FormaCalcolo::interrotta);
-            ingressi_[i].ramo->theDatiTraffico().SetIterazione(segmento, r);
-        }
-    }
+    return costanti;
 }
 
-namespace {
-
-/// Rounding of the named values of queue and delay: to single in the plain forms of a demand curve.
-struct ASingolo {
-    template <class L>
-    static double tieni(double valore, const L& dove) {
-        return static_cast<double>(aSingolo(valore, dove));
-    }
-};
-struct InDoppio {
-    template <class L>
-    static double tieni(double valore, const L& dove) {
-        return controllato(valore, dove);
-    }
-};
-
-}  // namespace
-
-template <class Precisione>
-void Simulazione::codaRitardo(Iterazione& r, const Ingresso& in, CostantiCoda& costanti, std::int16_t k) const {
+template <class C>
+void Simulazione::codaRitardo(Iterazione& r, const Ingresso& in, const CostantiCoda& costanti, std::int16_t k) const {
     const auto dove = luogo(*in.ramo, k);
     const auto c = static_cast<double>(r.Capacita);
-    const auto f = static_cast<double>(r.Flusso);
-    const double w = Precisione::tieni(1.0 - static_cast<double>(rotonda_.ValorePercentile()) / 100.0, dove);
-    const double T = costanti.T(*this, in, std::same_as<Precisione, ASingolo>, k);
-    const double x = Precisione::tieni(dividi(f * 60.0, c, luogo(*in.ramo, k, "capacità 0")), dove);
-    const double cT = Precisione::tieni(c / 60.0 * T, dove);
-    const double carico = dividi(8.0 * x, cT, luogo(*in.ramo, k, "segmento di tempo di 0 minuti"));
-    const double menoLn = costanti.logaritmoPercentile(w, *in.ramo, k);
-    const double coda = (cT / 4.0) * ((x - 1.0) + radice((1.0 - x) * (1.0 - x) + carico * menoLn, dove));
-    r.Coda = aSingolo(coda, dove) + 0.0F;
-    const double c1 = Precisione::tieni(c / 60.0, dove);
-    const double A = Precisione::tieni((2.0 + cT) - x * cT, dove);
-    const double ritardo =
-        (dividi(1.0, c1, dove) + dividi(1.0, 4.0 * c1, dove) * (radice(A * A + 8.0 * cT * x, dove) - A)) * 60.0;
-    r.Ritardo = aSingolo(ritardo, dove) + 0.0F;
+    const double x =
+        C::tieni(C::dividi(static_cast<double>(r.Flusso) * 60.0, c, luogo(*in.ramo, k, "capacità 0")), singoli_, dove);
+    const double cT = C::tieni(c / 60.0 * costanti.T, singoli_, dove);
+    const double carico = C::dividi(8.0 * x, cT, luogo(*in.ramo, k, "segmento di tempo di 0 minuti"));
+    const double menoLn =
+        costanti.menoLn ? *costanti.menoLn : -C::logaritmo(costanti.w, luogo(*in.ramo, k, "percentile non ammesso"));
+    const double coda = (cT / 4.0) * ((x - 1.0) + C::radice((1.0 - x) * (1.0 - x) + carico * menoLn, dove));
+    r.Coda = C::singolo(coda, dove) + 0.0F;
+    const double c1 = C::tieni(c / 60.0, singoli_, dove);
+    const double A = C::tieni((2.0 + cT) - x * cT, singoli_, dove);
+    const double attesa = C::dividi(1.0, 4.0 * c1, dove) * (C::radice(A * A + 8.0 * cT * x, dove) - A);
+    r.Ritardo = C::singolo((C::dividi(1.0, c1, dove) + attesa) * 60.0, dove) + 0.0F;
 }
 
-Iterazione Simulazione::record(const Ingresso& in, CostantiCoda& costanti, float Dq, float Cq, std::int16_t k) const {
+template <class C, class Costanti>
+Iterazione Simulazione::record(const Ingresso& in, const Costanti& costanti, std::size_t posto, std::int16_t k) const {
     const Ramo& ramo = *in.ramo;
     const auto dove = luogo(ramo, k);
     const AnalisiMarginale& marginale = ramo.theAnalisiMarginale();
     const double notte = rotonda_.CondizioniNotturne() ? app_.theAmbiente.PercentualeNotturna() : 0.0;
-    const auto est = static_cast<double>(aSingolo(marginale.CondizioniEsterne(), dove));
-    const double ped =
-        ramo.AttraversamentoPedonale() ? static_cast<double>(aSingolo(marginale.AttraversamentoPedonale(), dove)) : 0.0;
+    const auto est = static_cast<double>(C::singolo(marginale.CondizioniEsterne(), dove));
+    const double ped = ramo.AttraversamentoPedonale()
+                           ? static_cast<double>(C::singolo(marginale.AttraversamentoPedonale(), dove))
+                           : 0.0;
     Iterazione r;
-    r.Capacita = aSingolo((100.0 - notte - est - ped) * static_cast<double>(Cq) / 100.0, dove);
-    r.Flusso = Dq / 60.0F + 0.0F;
+    r.Capacita = C::singolo((100.0 - notte - est - ped) * static_cast<double>(memoria_.Cq[posto]) / 100.0, dove);
+    r.Flusso = memoria_.Dq[posto] / 60.0F + 0.0F;
 
     const auto c = static_cast<double>(r.Capacita);
-    const double portata = static_cast<double>(r.Flusso) * 60.0;
     const bool curva = richiesta_.domanda == Domanda::curva;
     if (!curva || c > 0.0) {
-        r.Coeff_Sat = aSingolo(dividi(portata, c, luogo(ramo, k, "capacità 0")), dove) + 0.0F;
+        const double portata = static_cast<double>(r.Flusso) * 60.0;
+        r.Coeff_Sat = C::singolo(C::dividi(portata, c, luogo(ramo, k, "capacità 0")), dove) + 0.0F;
     }
-    if (!curva) {
-        codaRitardo<InDoppio>(r, in, costanti, k);
-    } else if (r.Flusso > 0.0F) {
-        if (richiesta_.forma == FormaCalcolo::ipotesi) {
-            codaRitardo<InDoppio>(r, in, costanti, k);
-        } else {
-            codaRitardo<ASingolo>(r, in, costanti, k);
-        }
+    if (!curva || r.Flusso > 0.0F) {
+        codaRitardo<C>(r, in, costanti(), k);
     }
     return r;
+}
+
+void Simulazione::scriviRecord(std::int16_t K) {
+    PerRamo<CostantiCoda> costanti{};
+    for (std::size_t i = 0; i < n_; ++i) {
+        ingressi_[i].ramo->theDatiTraffico().PreparaIterazioni(K);
+        costanti[i] = costantiCoda<SenzaControlli>(ingressi_[i], 1);
+        costanti[i].menoLn = -SenzaControlli::logaritmo(costanti[i].w, NessunLuogo{});
+    }
+    for (int k = 1; k <= K; ++k) {
+        const auto segmento = static_cast<std::int16_t>(k);
+        for (std::size_t i = 0; i < n_; ++i) {
+            const Ingresso& in = ingressi_[i];
+            const std::size_t posto = static_cast<std::size_t>(k - 1) * n_ + i;
+            Iterazione r = record<SenzaControlli>(
+                in, [&]() -> const CostantiCoda& { return costanti[i]; }, posto, segmento);
+            if (!finito(r)) [[unlikely]] {
+                // Once more with the checks, which raise the fault in its order and name its place.
+                r = record<ConControlli>(
+                    in, [&] { return costantiCoda<ConControlli>(in, segmento); }, posto, segmento);
+            }
+            rotonda_.timbra(FormaCalcolo::interrotta);
+            in.ramo->theDatiTraffico().SetIterazione(segmento, r);
+        }
+    }
 }
 
 }  // namespace kelvo

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -79,8 +80,12 @@ private:
         std::array<double, 2> pesi{};
         std::size_t quantiVicini = 0;
     };
-    /// Constants of the records of one entry, worked out when a record first asks for them.
-    class CostantiCoda;
+    /// What is the same for every record of one entry.
+    struct CostantiCoda {
+        double w = 0.0;                ///< share of the time in which the queue is longer
+        double T = 0.0;                ///< segment length in minutes as the records count it
+        std::optional<double> menoLn;  ///< -ln w, where it was worked out
+    };
 
     float coefficienteMedio(const ComposizioneTraffico& composizione) const;
     float coefficienteSegmento(const Ingresso& in, std::int16_t k) const;
@@ -100,9 +105,12 @@ private:
     void calcolaPortate(std::int16_t K);
     void collegaVicini(const Quadrata<float>& M);
     void scriviRecord(std::int16_t K);
-    template <class Precisione>
-    void codaRitardo(Iterazione& r, const Ingresso& in, CostantiCoda& costanti, std::int16_t k) const;
-    Iterazione record(const Ingresso& in, CostantiCoda& costanti, float Dq, float Cq, std::int16_t k) const;
+    template <class C>
+    CostantiCoda costantiCoda(const Ingresso& in, std::int16_t k) const;
+    template <class C>
+    void codaRitardo(Iterazione& r, const Ingresso& in, const CostantiCoda& costanti, std::int16_t k) const;
+    template <class C, class Costanti>
+    Iterazione record(const Ingresso& in, const Costanti& costanti, std::size_t posto, std::int16_t k) const;
 
     Applicazione& app_;
     Rotonda& rotonda_;
@@ -110,6 +118,7 @@ private:
     const std::array<double, 4>& quote_;
     MemoriaSimulazione& memoria_;
     CoefficientiVeicoli VE_;
+    bool singoli_;  ///< the named values of queue and delay are singles: plain forms of a demand curve
     std::size_t n_;
     int m_ = 0;  ///< minutes of a segment
     PerRamo<Ingresso> ingressi_{};

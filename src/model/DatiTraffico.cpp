@@ -16,15 +16,12 @@ void DatiTraffico::NumSegmentiTempo(std::int16_t valore) {
     segnaDato();
 }
 
-void DatiTraffico::SetIterazione(std::int16_t indice, const Iterazione& record) {
+void DatiTraffico::aggiungiIterazione(std::int16_t indice, const Iterazione& record) {
     if (indice < 1) {
         throw Guasto(NumeroGuasto::indiceFuoriIntervallo, fmt::format("record {}", indice));
     }
-    const auto numero = static_cast<std::size_t>(indice);
-    if (numero > record_.size()) {
-        record_.resize(numero);
-    }
-    record_[numero - 1] = record;
+    record_.resize(static_cast<std::size_t>(indice));
+    record_.back() = record;
 }
 
 void DatiTraffico::PreparaIterazioni(std::int16_t ultimo) {

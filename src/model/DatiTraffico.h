@@ -19,7 +19,14 @@ public:
     void NumSegmentiTempo(std::int16_t valore);
 
     /// Writes record `indice`, from 1; it may lie past NumSegmentiTempo. Fault 9 below 1.
-    void SetIterazione(std::int16_t indice, const Iterazione& record);
+    void SetIterazione(std::int16_t indice, const Iterazione& record) {
+        const auto posto = static_cast<std::size_t>(indice) - 1;  // 0 and below lie past every size
+        if (posto < record_.size()) {
+            record_[posto] = record;
+        } else {
+            aggiungiIterazione(indice, record);
+        }
+    }
     /// Makes room for records up to `ultimo`, so that writing them in order allocates nothing more.
     void PreparaIterazioni(std::int16_t ultimo);
     /// Record `indice`, from 1; all 0 where none was written. Fault 9 below 1.
@@ -62,6 +69,8 @@ public:
     const std::vector<float>& FlussiSegmento() const { return flussi_; }
 
 private:
+    void aggiungiIterazione(std::int16_t indice, const Iterazione& record);
+
     std::int16_t numSegmentiTempo_ = 0;
     float flussoMedio_ = 0.0F;
     float flussoOrario_ = 0.0F;
