@@ -12,8 +12,12 @@ namespace kelvo {
 
 namespace {
 
-constexpr std::string_view modoCostante = "0";
-constexpr std::string_view modoSegmenti = "1";
+Composizione composizioneDi(std::string_view modo) {
+    if (modo == "0") {
+        return Composizione::costante;
+    }
+    return modo == "1" ? Composizione::perSegmento : Composizione::nessuna;
+}
 
 /// Place of a fault in a segment of an entry.
 auto luogo(const Ramo& ramo, std::int16_t k, std::string_view cosa = {}) {
@@ -140,6 +144,7 @@ Simulazione::Simulazione(Applicazione& app, const RichiestaSimulazione& richiest
       quote_(quote),
       memoria_(memoria),
       VE_(app.configurazione.coefficienti()),
+      composizione_(composizioneDi(richiesta.modo)),
       singoli_(richiesta.domanda == Domanda::curva && richiesta.forma != FormaCalcolo::ipotesi),
       n_(static_cast<std::size_t>(rotonda_.NumeroRami())) {}
 
@@ -201,7 +206,7 @@ double Simulazione::quotaCorsia(std::size_t i) const {
     const double veicoli = quote_[i] * static_cast<double>(traffico.FlussoTotale()) / 100.0;
     const double durata = static_cast<double>(m_) * traffico.NumSegmentiTempo();
     const double quota = dividi(veicoli, durata, luogo(*in.ramo, "nessun segmento di tempo"));
-    return richiesta_.modo == modoCostante ? quota * static_cast<double>(in.G) : quota;
+    return composizione_ == Composizione::costante ? quota * static_cast<double>(in.G) : quota;
 }
 
 void Simulazione::leggiCurve() {
@@ -212,13 +217,13 @@ void Simulazione::leggiCurve() {
         in.t3 = intera ? traffico.Tempo3() : traffico.Tempo3() - rotonda_.SegmentoTempo();
         in.d12 = minuti(traffico.Tempo1(), traffico.Tempo2());
         in.d23 = minuti(traffico.Tempo2(), in.t3);
-        if (richiesta_.modo == modoCostante) {
+        if (composizione_ == Composizione::costante) {
             in.G = coefficienteMedio(in.ramo->theComposizioneTraffico());
             const auto G = static_cast<double>(in.G);
             in.q1 = aSingolo(static_cast<double>(traffico.FlussoTempo1()) * G, luogo(*in.ramo, "q1"));
             in.q2 = aSingolo(static_cast<double>(traffico.FlussoTempo2()) * G, luogo(*in.ramo, "q2"));
             in.q3 = aSingolo(static_cast<double>(traffico.FlussoTempo3()) * G, luogo(*in.ramo, "q3"));
-        } else if (richiesta_.modo == modoSegmenti) {
+        } else if (composizione_ == Composizione::perSegmento) {
             in.q1 = traffico.FlussoTempo1();
             in.q2 = traffico.FlussoTempo2();
             in.q3 = traffico.FlussoTempo3();
@@ -304,7 +309,7 @@ std::int16_t Simulazione::numeroSegmenti() const {
 }
 
 void Simulazione::leggiComposizioni() {
-    if (richiesta_.modo == modoCostante) {
+    if (composizione_ == Composizione::costante) {
         for (std::size_t i = 0; i < n_; ++i) {
             ingressi_[i].G = coefficienteMedio(ingressi_[i].ramo->theComposizioneTraffico());
         }
@@ -319,8 +324,8 @@ void Simulazione::leggiCorsie() {
 }
 
 float Simulazione::domandaCurva(const Ingresso& in, std::int16_t k) const {
-    const bool segmenti = richiesta_.modo == modoSegmenti;
-    if (!segmenti && richiesta_.modo != modoCostante) {
+    const bool segmenti = composizione_ == Composizione::perSegmento;
+    if (composizione_ == Composizione::nessuna) {
         return 0.0F;
     }
     // Computed even where no line applies: its faults come all the same.
@@ -343,8 +348,8 @@ float Simulazione::domandaCurva(const Ingresso& in, std::int16_t k) const {
 }
 
 float Simulazione::domandaTabella(const Ingresso& in, std::int16_t k) const {
-    const bool segmenti = richiesta_.modo == modoSegmenti;
-    if (!segmenti && richiesta_.modo != modoCostante) {
+    const bool segmenti = composizione_ == Composizione::perSegmento;
+    if (composizione_ == Composizione::nessuna) {
         return 0.0F;
     }
     const auto G = static_cast<double>(segmenti ? coefficienteSegmento(in, k) : in.G);

@@ -19,6 +19,9 @@ using CorsieDestra = std::array<bool, 4>;
 /// Where the demand of the entries comes from.
 enum class Domanda { curva, tabella };
 
+/// Which vehicle composition weighs the demand; with none there is no demand.
+enum class Composizione { costante, perSegmento, nessuna };
+
 /// What is to be simulated.
 struct RichiestaSimulazione {
     Domanda domanda = Domanda::curva;
@@ -118,6 +121,7 @@ private:
     const std::array<double, 4>& quote_;
     MemoriaSimulazione& memoria_;
     CoefficientiVeicoli VE_;
+    Composizione composizione_;
     bool singoli_;  ///< the named values of queue and delay are singles: plain forms of a demand curve
     std::size_t n_;
     int m_ = 0;  ///< minutes of a segment
