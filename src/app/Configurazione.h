@@ -27,18 +27,18 @@ struct Limiti {
 /// Limits of the steps of the sensitivity analysis, in the order LarghezzaIngresso, SemiLarghezza, LunghezzaSvasatura,
 /// AngoloConflitto, RaggioIngresso, DiametroInscritto; metres, the angle in degrees.
 inline constexpr std::array<Limiti, 6> limitiGeometria{
-    Limiti{3.1F, 16.2F}, Limiti{1.0F, 12.0F},  Limiti{1.0F, 100000000.0F},
+    Limiti{3.1F, 16.2F}, Limiti{1.0F, 12.0F},        Limiti{1.0F, 100000000.0F},
     Limiti{0.0F, 77.0F}, Limiti{3.0F, 100000000.0F}, Limiti{13.0F, 176.0F},
 };
 
 /// Settings kept in memory after the start.
 struct Configurazione {
-    std::string PathErrore;             ///< name of the log, relative to the program's folder
-    std::int16_t LayoutPannello = 0;    ///< colour of the caption panels, 1 to 7
-    bool TraceAbilitato = false;        ///< the trace is on
-    std::int16_t AvvioFilmato = 0;      ///< 0: the introduction film runs at every start
-    std::int16_t OpzExplorer = 0;       ///< tree layout: 0 by leg, 1 by type
-    std::int16_t OpzMenu = 0;           ///< menu layout
+    std::string PathErrore;           ///< name of the log, relative to the program's folder
+    std::int16_t LayoutPannello = 0;  ///< colour of the caption panels, 1 to 7
+    bool TraceAbilitato = false;      ///< the trace is on
+    std::int16_t AvvioFilmato = 0;    ///< 0: the introduction film runs at every start
+    std::int16_t OpzExplorer = 0;     ///< tree layout: 0 by leg, 1 by type
+    std::int16_t OpzMenu = 0;         ///< menu layout
     float VEAutoarticolati = 0.0F;
     float VEAutotreni = 0.0F;
     float VEPullman = 0.0F;

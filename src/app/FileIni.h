@@ -29,7 +29,7 @@ public:
 private:
     struct Posto {
         bool sezioneTrovata = false;
-        std::size_t inserimento = 0;       ///< line in front of which a new key of the section goes
+        std::size_t inserimento = 0;      ///< line in front of which a new key of the section goes
         std::optional<std::size_t> riga;  ///< line of the key
     };
     Posto cerca(std::string_view sezione, std::string_view chiave) const;

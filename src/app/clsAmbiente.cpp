@@ -25,8 +25,7 @@ clsAmbiente::clsAmbiente(std::string cartellaProgramma, const std::string& carte
     : cartellaProgramma_(std::move(cartellaProgramma)),
       cartellaLavoro_(conSeparatore(cartellaLavoro)),
       percorsoIni_(PercorsoProgramma("Kelvo.ini")),
-      sistema_(sistema) {
-}
+      sistema_(sistema) {}
 
 std::string clsAmbiente::PercorsoProgramma(const std::string& nome) const {
     return conSeparatore(cartellaProgramma_) + nome;

@@ -33,8 +33,7 @@ void rendiScrivibile(const fs::path& file) {
 
 modCommonModule::modCommonModule(clsAmbiente& ambiente, Configurazione& configurazione, FinestraMessaggi& messaggi,
                                  Orologio& orologio)
-    : ambiente_(ambiente), configurazione_(configurazione), messaggi_(messaggi), orologio_(orologio) {
-}
+    : ambiente_(ambiente), configurazione_(configurazione), messaggi_(messaggi), orologio_(orologio) {}
 
 std::string modCommonModule::leggi(const std::string& sezione, const std::string& chiave) const {
     return ambiente_.LeggiIni(sezione, chiave, ambiente_.PercorsoIni());
@@ -58,8 +57,7 @@ std::int16_t modCommonModule::leggiIntero(const std::string& sezione, const std:
                      [&] { return fmt::format("Kelvo.ini, [{}] {}", sezione, chiave); });
 }
 
-std::int16_t modCommonModule::scriviIntero(const std::string& sezione, const std::string& chiave,
-                                           std::int16_t valore) {
+std::int16_t modCommonModule::scriviIntero(const std::string& sezione, const std::string& chiave, std::int16_t valore) {
     ambiente_.ScriviIni(ambiente_.PercorsoIni(), sezione, chiave, testoNumero(valore));
     return leggiIntero(sezione, chiave);
 }
@@ -138,8 +136,7 @@ void modCommonModule::erroreLog(int numero, const std::string& metodo, const std
         return;
     }
     // The module stands inside the method; its own field stays empty.
-    const std::string riga =
-        fmt::format("Errore nel modulo:  - Metodo: {} - Descrizione: {}", metodo, descrizione);
+    const std::string riga = fmt::format("Errore nel modulo:  - Metodo: {} - Descrizione: {}", metodo, descrizione);
     const PartiData p = partiDi(orologio_.adesso());
     const fs::path file = percorsoDi(percorsoLog());
     rendiScrivibile(file);

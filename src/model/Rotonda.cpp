@@ -34,8 +34,7 @@ Ramo& RaccoltaRami::Item(std::string_view chiave) const {
 }
 
 Rotonda::Rotonda(SistemaFile& sistema, std::function<DataOra()> oggi)
-    : OggettoProgetto(revisione_), sistema_(sistema), oggi_(std::move(oggi)), dati_(datiPredefiniti()) {
-}
+    : OggettoProgetto(revisione_), sistema_(sistema), oggi_(std::move(oggi)), dati_(datiPredefiniti()) {}
 
 Rotonda::Dati Rotonda::datiPredefiniti() const {
     Dati dati;
@@ -95,7 +94,8 @@ void Rotonda::NumeroRami(std::int16_t valore) {
 
 kelvo::Ramo& Rotonda::AddRamo(const std::string& chiave) {
     if (rami_.Count() >= dati_.numeroRami) {
-        throw Guasto(NumeroGuasto::indiceFuoriIntervallo, fmt::format("ramo {} di {}", rami_.Count() + 1, NumeroRami()));
+        throw Guasto(NumeroGuasto::indiceFuoriIntervallo,
+                     fmt::format("ramo {} di {}", rami_.Count() + 1, NumeroRami()));
     }
     const auto uguale = [&](const auto& ramo) { return ramo->Key() == chiave; };
     if (std::any_of(rami_.rami_.begin(), rami_.rami_.end(), uguale)) {
@@ -114,7 +114,8 @@ kelvo::Ramo& Rotonda::AddRamo(const std::string& chiave) {
     ramo->theComposizioneTraffico().NumSegmentiTempo(aIntero16(segmenti));
     traffico.Tempo1(dati_.tempoIniziale);
     traffico.Tempo3(dati_.tempoFinale);
-    traffico.Tempo2(oraDelGiorno(0, 0, static_cast<int>(secondiDi(dati_.tempoIniziale)) + static_cast<int>(meta) * passo * 60));
+    traffico.Tempo2(
+        oraDelGiorno(0, 0, static_cast<int>(secondiDi(dati_.tempoIniziale)) + static_cast<int>(meta) * passo * 60));
     segnaDato();
     rami_.rami_.push_back(std::move(ramo));
     return *rami_.rami_.back();
