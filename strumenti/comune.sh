@@ -1,7 +1,7 @@
 # Shared by the commands of the repository: sourced, never run. The caller sets `set -euo pipefail`.
 
 RADICE=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd -P)
-cd -- "$RADICE"
+cd -- "$RADICE" || exit
 
 # Figures and messages of the tools must not change with the system's language.
 export LC_ALL=C.UTF-8
