@@ -148,6 +148,9 @@ std::string paroleErrore(const std::error_code& errore) {
     if (errore == std::errc::is_a_directory) {
         return "è una cartella";
     }
+    if (errore == std::errc::file_too_large) {
+        return "il file è troppo grande per il disco";
+    }
     if (errore == std::errc::filename_too_long) {
         return "il nome è troppo lungo";
     }
