@@ -146,7 +146,7 @@ TEST(ProveRifiuti, TimesAndDatesMustBeOfTheirForm) {
     }
     for (const std::string data : {"2026-02-29", "21/11/2026", "2026-13-01", "2026-11-21T00:00", ""}) {
         EXPECT_EQ(rifiuto(con("\"Data\": \"2026-11-21\"", "\"Data\": \"" + data + "\"")),
-                  "Data: atteso una data \"AAAA-MM-GG\", trovato \"" + data + "\"");
+                  "Data: attesa una data \"AAAA-MM-GG\", trovato \"" + data + "\"");
     }
 }
 

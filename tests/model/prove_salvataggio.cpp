@@ -198,6 +198,16 @@ TEST_P(ProveSalvataggio, WhatIsNoRegularFileIsNotReplaced) {
     EXPECT_TRUE(fs::is_fifo(file));
 }
 
+TEST_P(ProveSalvataggio, ALinkToItselfAndANameTooLongAreToldInWords) {
+    fs::create_symlink("progetto.klv", file);
+    attendiRifiuto("il collegamento non porta a un file");
+    EXPECT_TRUE(fs::is_symlink(file));
+    file = cartella.file(std::string(300, 'n'));
+    attendiRifiuto("il nome è troppo lungo");
+    file = cartella.file(std::string(252, 'n'));  // room for the file, not for the temporary
+    attendiRifiuto("il nome è troppo lungo");
+}
+
 TEST_P(ProveSalvataggio, AMissingFolderIsToldInWords) {
     file = cartella.file("manca/progetto.klv");
     attendiRifiuto("percorso non trovato");
