@@ -10,8 +10,7 @@ Ramo::Ramo(Revisione& revisione, std::string chiave, std::string descrizione)
       composizioneTraffico_(revisione),
       analisiMarginale_(revisione),
       descrizione_(std::move(descrizione)),
-      chiave_(std::move(chiave)) {
-}
+      chiave_(std::move(chiave)) {}
 
 void Ramo::segui(Revisione& revisione) {
     OggettoProgetto::segui(revisione);
