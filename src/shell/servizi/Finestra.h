@@ -1,0 +1,119 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "app/Applicazione.h"
+#include "app/cornice.h"
+#include "base/guasto.h"
+#include "shell/servizi/Controllo.h"
+#include "shell/servizi/CustodeCampi.h"
+#include "shell/servizi/controlli.h"
+
+namespace kelvo {
+
+/// What a window is handed: the program's state and the main window.
+struct Contorno {
+    Applicazione& app;
+    StatoFinestre& stato;
+    Cornice& cornice;
+    Navigazione& navigazione;
+};
+
+/// Base of every window. It owns its controls as members and declares their tab order.
+class Finestra : public CustodeCampi {
+public:
+    /// `nome` is the name of the window's class, `didascalia` what its caption panel reads.
+    Finestra(Contorno contorno, std::string nome, std::string didascalia);
+
+    const std::string& nome() const { return nome_; }
+    const std::string& didascalia() const { return didascalia_; }
+
+    /// The controls in tab order.
+    const std::vector<Controllo*>& ordine() const { return ordine_; }
+    /// The caption panel.
+    Etichetta pannello;
+    /// The tool bar, if the window has one.
+    virtual BarraStrumenti* barra() { return nullptr; }
+
+    /// The window comes up: a data window reads its data.
+    virtual void attivata() {}
+    /// The window is hidden.
+    virtual void nascosta() {}
+    /// The window has data that are written to the project when it is left.
+    virtual bool haSaveData() const { return false; }
+    virtual void SaveData() {}
+    /// Runs the checks of all fields, which only look; false if one refused.
+    bool convalida();
+
+    /// The control that has the focus; null for none.
+    Controllo* fuoco() const { return fuoco_; }
+    /// Moves the focus: leaves the control that has it first; false if that one refused.
+    bool fuocoSu(Controllo& controllo);
+    /// Leaves the control that has the focus; false if it refused and keeps the focus.
+    bool lasciaFuoco();
+    /// The control after (or before) the one in focus that takes the focus; null if there is none.
+    Controllo* successivo(bool avanti) const;
+
+    // CustodeCampi
+    void entrato(Controllo& campo) override;
+    void giudicato(Controllo& campo, const EsitoUscita& esito) override;
+
+protected:
+    /// Declares the controls, in tab order; called once, by the constructor of the window.
+    void ordina(std::initializer_list<Controllo*> controlli);
+    Applicazione& app() { return contorno_.app; }
+    Rotonda& rotonda() { return contorno_.app.theRotonda(); }
+    StatoFinestre& stato() { return contorno_.stato; }
+    Cornice& cornice() { return contorno_.cornice; }
+    Navigazione& navigazione() { return contorno_.navigazione; }
+    Contorno contorno() { return contorno_; }
+    void messaggio(const std::string& testo, const std::string& titolo, Icona icona);
+    /// Runs a procedure of the window in its handler: a fault is recorded under `metodo` and shown.
+    template <class Procedura>
+    void gestisci(const char* metodo, Procedura procedura) {
+        try {
+            procedura();
+        } catch (const Guasto& guasto) {
+            app().comune.erroreLog(guasto.codice(), metodo, guasto.descrizione(), true);
+        }
+    }
+
+private:
+    Contorno contorno_;
+    std::string nome_;
+    std::string didascalia_;
+    std::vector<Controllo*> ordine_;
+    Controllo* fuoco_ = nullptr;
+};
+
+/// A window that edits the project: fields copied from it and back.
+class FinestraDati : public Finestra {
+public:
+    FinestraDati(Contorno contorno, std::string nome, std::string didascalia);
+
+    /// Copies the project to the fields.
+    virtual void ReadData() = 0;
+    void attivata() override { ReadData(); }
+    bool haSaveData() const override { return true; }
+    BarraStrumenti* barra() override { return &ctlToolbar; }
+
+    /// True after ReadData and SaveData, false once a field that was left differs from the project.
+    bool DatiAllineati() const { return datiAllineati_; }
+
+    BarraStrumenti ctlToolbar;
+
+protected:
+    void DatiAllineati(bool valore);
+    /// Import into the window; nothing where there is none.
+    virtual void Archivio() {}
+    /// A tool bar key that the given three do not cover.
+    virtual void altroTasto(const std::string& /*chiave*/) {}
+
+private:
+    void premuto(const std::string& chiave);
+    bool datiAllineati_ = true;
+};
+
+}  // namespace kelvo

@@ -1,0 +1,48 @@
+#include "shell/servizi/controlli.h"
+
+#include <algorithm>
+
+#include "base/guasto.h"
+
+namespace kelvo {
+
+void Spin::valore(int nuovo) {
+    cambia(valore_, std::clamp(nuovo, minimo_, massimo_));
+}
+
+void Spin::imposta(int nuovo) {
+    const int prima = valore_;
+    if (!raggiungibile()) {
+        return;
+    }
+    valore(nuovo);
+    if (valore_ != prima && alCambio) {
+        alCambio();
+    }
+}
+
+std::vector<BarraStrumenti::Tasto>::iterator BarraStrumenti::cerca(std::string_view chiave) {
+    const auto trovato =
+        std::find_if(tasti_.begin(), tasti_.end(), [&](const Tasto& tasto) { return tasto.chiave == chiave; });
+    if (trovato == tasti_.end()) {
+        throw Guasto(NumeroGuasto::indiceFuoriIntervallo, nome() + ", tasto '" + std::string{chiave} + "'");
+    }
+    return trovato;
+}
+
+bool BarraStrumenti::abilitato(std::string_view chiave) const {
+    return const_cast<BarraStrumenti*>(this)->cerca(chiave)->abilitato;
+}
+
+void BarraStrumenti::abilita(std::string_view chiave, bool valore) {
+    cambia(cerca(chiave)->abilitato, valore);
+}
+
+void BarraStrumenti::premi(std::string_view chiave) {
+    const auto tasto = cerca(chiave);
+    if (raggiungibile() && tasto->abilitato && allaPressione) {
+        allaPressione(tasto->chiave);
+    }
+}
+
+}  // namespace kelvo

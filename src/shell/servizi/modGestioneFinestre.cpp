@@ -1,0 +1,75 @@
+#include "shell/servizi/modGestioneFinestre.h"
+
+#include "base/guasto.h"
+#include "shell/servizi/pelle.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr const char* nomeSenzaPosto = "frmLEGENDA";
+constexpr double margineDestro = 140.0;
+
+}  // namespace
+
+Rettangolo postoFinestra(const Rettangolo& albero, double larghezzaInterna) {
+    return {.L = albero.L + albero.W, .T = albero.T, .W = larghezzaInterna - albero.W - margineDestro, .H = albero.H};
+}
+
+bool modGestioneFinestre::lasciaCorrente() {
+    if (corrente_ == nullptr) {
+        return true;
+    }
+    stato_.convalidaFallita = false;
+    const bool bene = corrente_->convalida();
+    if (bene && !stato_.convalidaFallita && corrente_->haSaveData()) {
+        corrente_->SaveData();
+    }
+    if (!bene || stato_.convalidaFallita) {
+        stato_.convalidaFallita = false;
+        return false;
+    }
+    area_.nascondi(*corrente_);
+    corrente_->nascosta();
+    corrente_ = nullptr;
+    return true;
+}
+
+bool modGestioneFinestre::ShowForm(Finestra* finestra) {
+    if (finestra == nullptr) {
+        return true;
+    }
+    try {
+        if (!lasciaCorrente()) {
+            return false;
+        }
+        if (stato_.opzioniModificate) {
+            app_.messaggi.mostra(
+                "Attenzione! Sono state modificate delle opzioni: verificare con attenzione i dati precedentemente "
+                "inseriti.",
+                "KELVO 2014 - Attenzione", Icona::esclamazione, Pulsanti::ok);
+            stato_.opzioniModificate = false;
+        }
+        corrente_ = finestra;
+        vesti(*finestra, app_.configurazione.LayoutPannello);
+        if (finestra->nome() != nomeSenzaPosto) {
+            area_.colloca(*finestra, postoFinestra(area_.albero(), area_.larghezzaInterna()));
+        }
+        area_.vestiBarra(*finestra);
+        finestra->attivata();
+        return true;
+    } catch (const Guasto& guasto) {
+        app_.comune.erroreLog(guasto.codice(), "modGestioneFinestre.ShowForm()", guasto.descrizione(), true);
+        return false;
+    }
+}
+
+void modGestioneFinestre::chiudiCorrente() {
+    if (corrente_ != nullptr) {
+        area_.nascondi(*corrente_);
+        corrente_->nascosta();
+        corrente_ = nullptr;
+    }
+}
+
+}  // namespace kelvo

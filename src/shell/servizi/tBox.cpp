@@ -1,0 +1,167 @@
+#include "shell/servizi/tBox.h"
+
+#include <utf8.h>
+
+#include <algorithm>
+#include <charconv>
+
+#include "base/guasto.h"
+#include "base/numeri.h"
+#include "base/testo.h"
+
+namespace kelvo {
+
+namespace {
+
+/// Cuts the part in front of the first `separatore` off `resto`.
+std::string_view taglia(std::string_view& resto, char separatore) {
+    const auto fine = resto.find(separatore);
+    const std::string_view parte = resto.substr(0, fine);
+    resto.remove_prefix(fine == std::string_view::npos ? resto.size() : fine + 1);
+    return parte;
+}
+
+std::string_view senzaBianchiDavanti(std::string_view testo) {
+    testo.remove_prefix(std::min(testo.find_first_not_of(" \t"), testo.size()));
+    return testo;
+}
+
+}  // namespace
+
+double numeroIniziale(std::string_view testo) {
+    testo = senzaBianchiDavanti(testo);
+    std::size_t fine = 0;
+    if (fine < testo.size() && (testo[fine] == '-' || testo[fine] == '+')) {
+        ++fine;
+    }
+    bool punto = false;
+    while (fine < testo.size() && ((testo[fine] >= '0' && testo[fine] <= '9') || (testo[fine] == '.' && !punto))) {
+        punto = punto || testo[fine] == '.';
+        ++fine;
+    }
+    return leggiNumero(testo.substr(0, fine), Separatore::virgolaOPunto).value_or(0.0);
+}
+
+RegoleCampo RegoleCampo::daTag(std::string_view tag) {
+    RegoleCampo regole;
+    while (!tag.empty()) {
+        std::string_view parte = taglia(tag, ';');
+        const std::string_view chiave = rifila(taglia(parte, ':'));
+        const std::string_view valore = rifila(parte);
+        if (chiave == "Type") {
+            regole.numerico = valore == "Numeric";
+        } else if (chiave == "ValueMin") {
+            regole.minimo = numeroIniziale(valore);
+        } else if (chiave == "ValueMax") {
+            regole.massimo = numeroIniziale(valore);
+        }
+    }
+    return regole;
+}
+
+bool RegoleCampo::ammette(std::string_view testo) const {
+    if (numerico && !testo.empty() && !leggiNumero(testo, Separatore::virgolaOPunto)) {
+        return false;
+    }
+    const double valore = numeroIniziale(testo);
+    return !(massimo && valore > *massimo) && !(minimo && valore < *minimo);
+}
+
+tBox::tBox(std::string nome, Faccia faccia, std::string tag)
+    : Controllo(std::move(nome), std::move(tag)), faccia_(faccia), regole_(RegoleCampo::daTag(this->tag())) {}
+
+void tBox::testo(const std::string& valore) {
+    messo_ = valore;
+    allEntrata_ = valore;
+    fallito_ = false;
+    cambia(testo_, valore);
+}
+
+void tBox::voci(const std::vector<std::string>& valori) {
+    cambia(voci_, valori);
+}
+
+int tBox::scelta() const {
+    const auto trovata = std::find(voci_.begin(), voci_.end(), testo_);
+    return trovata == voci_.end() ? -1 : static_cast<int>(trovata - voci_.begin());
+}
+
+void tBox::scelta(int indice) {
+    if (indice < 0 || indice >= static_cast<int>(voci_.size())) {
+        throw Guasto(NumeroGuasto::indiceFuoriIntervallo, nome() + ", voce " + std::to_string(indice));
+    }
+    cambia(testo_, voci_[static_cast<std::size_t>(indice)]);
+}
+
+void tBox::entra() {
+    if (!raggiungibile()) {
+        return;
+    }
+    allEntrata_ = testo_;
+    if (custode() != nullptr) {
+        custode()->entrato(*this);
+    }
+}
+
+void tBox::scrivi(std::string_view testo) {
+    if (!raggiungibile() || solaLettura_) {
+        return;
+    }
+    std::string nuovo;
+    std::size_t caratteri = 0;
+    const std::string valido = utf8Valido(testo);
+    for (auto p = valido.begin(); p != valido.end();) {
+        const auto inizio = p;
+        utf8::next(p, valido.end());
+        std::string carattere(inizio, p);
+        if (regole_.numerico && carattere == ".") {
+            carattere = ",";  // seen at once: the decimal comma is shown in its place
+        }
+        const bool ammesso = caratteriAmmessi.empty() || caratteriAmmessi.find(carattere) != std::string::npos;
+        if (ammesso && (lunghezzaMassima == 0 || caratteri < lunghezzaMassima)) {
+            nuovo += carattere;
+            ++caratteri;
+        }
+    }
+    cambia(testo_, nuovo);
+    if (dopoTasto) {
+        dopoTasto();
+    }
+}
+
+EsitoUscita tBox::esamina() {
+    if (!regole_.ammette(testo_)) {
+        return EsitoUscita::rifiuto(std::string{"Il valore non è ammesso in questo campo."});
+    }
+    return controllo ? controllo() : EsitoUscita::bene();
+}
+
+bool tBox::convalida() {
+    const EsitoUscita esito = esamina();
+    const bool prima = fallito_;
+    fallito_ = !esito.accettato;
+    if (prima != fallito_) {
+        cambiato().emit();
+    }
+    if (custode() != nullptr) {
+        custode()->giudicato(*this, esito);
+    }
+    return esito.accettato;
+}
+
+bool tBox::lascia() {
+    if (!convalida()) {
+        return false;
+    }
+    if (dopoUscita) {
+        dopoUscita();
+    }
+    return true;
+}
+
+void tBox::annulla() {
+    fallito_ = false;
+    cambia(testo_, allEntrata_);
+}
+
+}  // namespace kelvo

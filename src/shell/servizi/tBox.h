@@ -1,0 +1,98 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/servizi/Controllo.h"
+#include "shell/servizi/CustodeCampi.h"
+
+namespace kelvo {
+
+/// Rules of a field, from its tag: pairs of a key, ":" and a value, separated by ";".
+struct RegoleCampo {
+    bool numerico = false;          ///< Type:Numeric
+    std::optional<double> minimo;   ///< ValueMin
+    std::optional<double> massimo;  ///< ValueMax
+
+    /// Reads a tag; unknown keys and types count for nothing, an empty tag is no rule.
+    static RegoleCampo daTag(std::string_view tag);
+    /// True if a text keeps the rules.
+    bool ammette(std::string_view testo) const;
+};
+
+/// The number that a text begins with, read with the point as decimal separator; 0 if there is none. A comma ends it:
+/// "3,5" reads 3.
+double numeroIniziale(std::string_view testo);
+
+/// The input control of all windows, in its five faces.
+class tBox final : public Controllo {
+public:
+    enum Faccia { textbox, combobox, maskedit, dtpicker, objSmartTextBox };
+
+    tBox(std::string nome, Faccia faccia, std::string tag = {});
+
+    Faccia faccia() const { return faccia_; }
+    const RegoleCampo& regole() const { return regole_; }
+
+    const std::string& testo() const { return testo_; }
+    /// Puts a text there, as the program does: it counts as unmodified, no check runs.
+    void testo(const std::string& valore);
+    /// The text differs from what the program put there last: only then it is worth writing back.
+    bool modificato() const { return testo_ != messo_; }
+
+    /// combobox: the rows of the list.
+    const std::vector<std::string>& voci() const { return voci_; }
+    void voci(const std::vector<std::string>& valori);
+    /// combobox: position of the text in the list, from 0; -1 if it is none of them.
+    int scelta() const;
+    /// combobox: puts the text of a row there. Fault 9 outside the list.
+    void scelta(int indice);
+
+    /// maskedit: characters that may be typed, empty for all, and how many; 0 for no limit.
+    std::string caratteriAmmessi;
+    std::size_t lunghezzaMassima = 0;
+
+    /// The field shows its text and takes none.
+    bool solaLettura() const { return solaLettura_; }
+    void solaLettura(bool valore) { cambia(solaLettura_, valore); }
+    /// The last check refused the text.
+    bool fallito() const { return fallito_; }
+
+    /// Page of the help pane; empty for the blank one.
+    std::string paginaAiuto;
+
+    /// What the window asks of the text beyond the tag; it looks and changes nothing.
+    std::function<EsitoUscita()> controllo;
+    /// What the window does after a text was left that passed.
+    std::function<void()> dopoUscita;
+    /// What the window does after each change by the user.
+    std::function<void()> dopoTasto;
+
+    // The user's gestures.
+    void entra() override;
+    /// Types the text in place of what stands there; characters that the field does not take fall out.
+    void scrivi(std::string_view testo);
+    /// Runs the checks; false keeps the focus.
+    bool lascia() override;
+    /// Escape: puts back what stood there when the focus came.
+    void annulla();
+    bool convalida() override;
+    bool prendeFuoco() const override { return raggiungibile(); }
+
+private:
+    EsitoUscita esamina();
+
+    Faccia faccia_;
+    RegoleCampo regole_;
+    std::string testo_;
+    std::string messo_;
+    std::string allEntrata_;
+    std::vector<std::string> voci_;
+    bool solaLettura_ = false;
+    bool fallito_ = false;
+};
+
+}  // namespace kelvo
