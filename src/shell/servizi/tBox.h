@@ -51,6 +51,9 @@ public:
     /// combobox: puts the text of a row there. Fault 9 outside the list.
     void scelta(int indice);
 
+    /// combobox: a text may be typed that is not in the list.
+    bool digitabile = false;
+
     /// maskedit: characters that may be typed, empty for all, and how many; 0 for no limit.
     std::string caratteriAmmessi;
     std::size_t lunghezzaMassima = 0;

@@ -1,0 +1,66 @@
+#include "ui/icone.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace kelvo::ui {
+
+namespace {
+
+QString& radice() {
+    static QString cartella;
+    return cartella;
+}
+
+/// Path of a drawing, found without regard to case; empty if there is none.
+QString disegno(const QString& cartella, const std::string& nome) {
+    const QDir dove(radice() + QLatin1Char('/') + cartella);
+    const QString cercato = QString::fromStdString(nome) + QStringLiteral(".svg");
+    for (const QString& file : dove.entryList({QStringLiteral("*.svg")}, QDir::Files)) {
+        if (file.compare(cercato, Qt::CaseInsensitive) == 0) {
+            return dove.filePath(file);
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+void cartellaImmagini(const std::string& cartella) {
+    radice() = QString::fromStdString(cartella);
+}
+
+QIcon icona(const std::string& chiave, bool suBlu) {
+    const QString abilitata =
+        disegno(suBlu ? QStringLiteral("icone/su-blu") : QStringLiteral("icone/abilitate"), chiave);
+    if (abilitata.isEmpty()) {
+        return {};
+    }
+    QIcon icona(abilitata);
+    const QString spenta =
+        disegno(suBlu ? QStringLiteral("icone/su-blu-disabilitate") : QStringLiteral("icone/disabilitate"), chiave);
+    if (!spenta.isEmpty()) {
+        icona.addFile(spenta, {}, QIcon::Disabled);
+    }
+    return icona;
+}
+
+QPixmap immagine(const std::string& risorsa, QSize misura, double rapporto) {
+    const QString file = disegno(QStringLiteral("figure"), risorsa);
+    QSvgRenderer disegnatore(file);
+    if (file.isEmpty() || !disegnatore.isValid() || misura.isEmpty()) {
+        return {};
+    }
+    disegnatore.setAspectRatioMode(Qt::KeepAspectRatio);
+    QPixmap figura(misura * rapporto);
+    figura.setDevicePixelRatio(rapporto);
+    figura.fill(Qt::transparent);
+    QPainter pennello(&figura);
+    pennello.setRenderHint(QPainter::Antialiasing);
+    disegnatore.render(&pennello, QRectF(QPointF(0, 0), QSizeF(misura)));
+    return figura;
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,79 @@
+#include "ui/legame.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTimer>
+#include <utility>
+
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+Legame::Legame(Controllo& controllo, QWidget& oggetto) : QObject(&oggetto), controllo_(controllo), widget_(oggetto) {
+    widget_.setObjectName(QString::fromStdString(controllo.nome()));
+    widget_.installEventFilter(this);
+    legame_ = controllo_.cambiato().connect([this] { aggiorna(); });
+}
+
+Legame::~Legame() {
+    legame_.disconnect();
+}
+
+void Legame::mostra(std::function<void()> funzione) {
+    funzione_ = std::move(funzione);
+    aggiorna();
+}
+
+void Legame::aggiorna() {
+    widget_.setVisible(controllo_.visibile());
+    widget_.setEnabled(controllo_.abilitato());
+    if (funzione_) {
+        funzione_();
+    }
+}
+
+bool Legame::fuocoPerso() {
+    if (inUscita_ || !widget_.isVisible()) {
+        return false;
+    }
+    inUscita_ = true;
+    const bool uscito = controllo_.lascia();
+    inUscita_ = false;
+    if (!uscito) {
+        // The widget that took the focus is still in its own event: give it back after that.
+        QTimer::singleShot(0, &widget_, [this] { widget_.setFocus(Qt::OtherFocusReason); });
+    }
+    return false;
+}
+
+bool Legame::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (evento->type() == QEvent::FocusIn && !inUscita_) {
+        controllo_.entra();
+    } else if (evento->type() == QEvent::FocusOut) {
+        const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
+        // A menu, a list that drops down, another program: the user has not left the field.
+        if (motivo != Qt::PopupFocusReason && motivo != Qt::ActiveWindowFocusReason) {
+            return fuocoPerso();
+        }
+    } else if (evento->type() == QEvent::KeyPress && allEscape) {
+        const auto* tasto = static_cast<QKeyEvent*>(evento);
+        if (tasto->key() == Qt::Key_Escape) {
+            allEscape();
+            return true;
+        }
+        if (tasto->key() == Qt::Key_Return || tasto->key() == Qt::Key_Enter) {
+            QWidget* prossimo = widget_.nextInFocusChain();
+            while (prossimo != &widget_ && (prossimo->focusPolicy() & Qt::TabFocus) == 0) {
+                prossimo = prossimo->nextInFocusChain();
+            }
+            prossimo->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    }
+    return QObject::eventFilter(oggetto, evento);
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+#include "shell/servizi/controlli.h"
+#include "shell/servizi/tBox.h"
+
+class QAbstractButton;
+class QLabel;
+class QPlainTextEdit;
+class QProgressBar;
+class QSpinBox;
+class QToolBar;
+class QWidget;
+
+/// One binder for each kind of control: makes the widget that shows it, hands the user's gestures to the control and
+/// follows its changes. The widget bears the control's name and dies with its parent; the control must outlive it.
+namespace kelvo::ui {
+
+QString q(const std::string& testo);
+std::string s(const QString& testo);
+
+QWidget* collega(tBox& campo, QWidget* genitore);
+QPlainTextEdit* collega(AreaTesto& area, QWidget* genitore);
+QLabel* collega(Etichetta& etichetta, QWidget* genitore);
+QAbstractButton* collega(Bottone& bottone, QWidget* genitore);
+QAbstractButton* collega(Casella& casella, QWidget* genitore);
+QSpinBox* collega(Spin& spin, QWidget* genitore);
+QLabel* collega(Immagine& immagine, QWidget* genitore);
+QProgressBar* collega(BarraProgresso& barra, QWidget* genitore);
+/// `lato` is the size of its icons; with `conTesto` the word stands beside the icon.
+QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto);
+
+}  // namespace kelvo::ui

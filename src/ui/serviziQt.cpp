@@ -1,0 +1,195 @@
+#include "ui/serviziQt.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTimer>
+#include <QUrl>
+#include <array>
+
+#include "ui/legami.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+struct VoceIcona {
+    Icona icona;
+    QMessageBox::Icon qt;
+};
+constexpr std::array icone{
+    VoceIcona{Icona::nessuna, QMessageBox::NoIcon},       VoceIcona{Icona::critica, QMessageBox::Critical},
+    VoceIcona{Icona::esclamazione, QMessageBox::Warning}, VoceIcona{Icona::informazione, QMessageBox::Information},
+    VoceIcona{Icona::domanda, QMessageBox::Question},
+};
+
+struct VocePulsanti {
+    Pulsanti pulsanti;
+    QMessageBox::StandardButtons qt;
+    QMessageBox::StandardButton predefinito;
+    QMessageBox::StandardButton innocuo;  ///< what Escape answers
+};
+constexpr std::array tavolaPulsanti{
+    VocePulsanti{Pulsanti::ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok},
+    VocePulsanti{Pulsanti::okAnnulla, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Cancel},
+    VocePulsanti{Pulsanti::siNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No},
+    VocePulsanti{Pulsanti::siNoAnnulla, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
+                 QMessageBox::Cancel},
+};
+
+Risposta rispostaDi(int qt) {
+    switch (qt) {
+        case QMessageBox::Yes:
+            return Risposta::si;
+        case QMessageBox::No:
+            return Risposta::no;
+        case QMessageBox::Cancel:
+            return Risposta::annulla;
+        default:
+            return Risposta::ok;
+    }
+}
+
+/// "Words (*.klv)|*.klv|..." as the toolkit wants it, one pair a line.
+QString filtroQt(const std::string& filtro) {
+    const QStringList pezzi = q(filtro).split(QLatin1Char('|'));
+    QStringList coppie;
+    for (qsizetype i = 0; i + 1 < pezzi.size(); i += 2) {
+        QString parole = pezzi[i];
+        parole.remove(QRegularExpression(QStringLiteral("\\s*\\([^)]*\\)\\s*$")));
+        // "*.*" leaves out files without a point in their name.
+        const QString modello = pezzi[i + 1] == QStringLiteral("*.*") ? QStringLiteral("*") : pezzi[i + 1];
+        coppie << QStringLiteral("%1 (%2)").arg(parole, modello);
+    }
+    return coppie.join(QStringLiteral(";;"));
+}
+
+void prepara(QFileDialog& dialogo, const RichiestaFile& richiesta) {
+    dialogo.setObjectName(QStringLiteral("dialogoFile"));
+    dialogo.setNameFilters(filtroQt(richiesta.filtro).split(QStringLiteral(";;")));
+    dialogo.setDefaultSuffix(q(richiesta.estensione));
+    if (!richiesta.cartella.empty()) {
+        dialogo.setDirectory(q(richiesta.cartella));
+    }
+    if (!richiesta.nome.empty()) {
+        dialogo.selectFile(q(richiesta.nome));
+    }
+}
+
+std::optional<std::string> scelto(QFileDialog& dialogo) {
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return s(QDir::toNativeSeparators(dialogo.selectedFiles().constFirst()));
+}
+
+/// Ends a wait at a key or a click.
+class Interruttore final : public QObject {
+public:
+    explicit Interruttore(QEventLoop& ciclo) : ciclo_(ciclo) { qApp->installEventFilter(this); }
+    bool premuto() const { return premuto_; }
+
+protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() == QEvent::KeyPress || evento->type() == QEvent::MouseButtonPress) {
+            premuto_ = true;
+            ciclo_.quit();
+        }
+        return QObject::eventFilter(oggetto, evento);
+    }
+
+private:
+    QEventLoop& ciclo_;
+    bool premuto_ = false;
+};
+
+}  // namespace
+
+Risposta MessaggiQt::mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("messaggio"));
+    box.setWindowTitle(q(titolo));
+    box.setTextFormat(Qt::PlainText);
+    QString parole = q(testo);
+    parole.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    box.setText(parole);
+    for (const VoceIcona& voce : icone) {
+        if (voce.icona == icona) {
+            box.setIcon(voce.qt);
+        }
+    }
+    for (const VocePulsanti& voce : tavolaPulsanti) {
+        if (voce.pulsanti == pulsanti) {
+            box.setStandardButtons(voce.qt);
+            box.setDefaultButton(voce.predefinito);
+            box.setEscapeButton(voce.innocuo);
+        }
+    }
+    return rispostaDi(box.exec());
+}
+
+std::optional<std::string> DialogoFileQt::apri(const RichiestaFile& richiesta,
+                                               const std::function<void(const std::string&)>& alCambio) {
+    QFileDialog dialogo(QApplication::activeWindow());
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+    dialogo.setAcceptMode(QFileDialog::AcceptOpen);
+    prepara(dialogo, richiesta);
+    if (alCambio) {
+        QObject::connect(&dialogo, &QFileDialog::currentChanged, &dialogo,
+                         [&alCambio](const QString& percorso) { alCambio(s(percorso)); });
+    }
+    return scelto(dialogo);
+}
+
+std::optional<std::string> DialogoFileQt::salva(const RichiestaFile& richiesta) {
+    QFileDialog dialogo(QApplication::activeWindow());
+    dialogo.setFileMode(QFileDialog::AnyFile);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    prepara(dialogo, richiesta);
+    return scelto(dialogo);
+}
+
+bool ApriDocumentiQt::apri(const std::string& percorso) {
+    return QFileInfo::exists(q(percorso)) && QDesktopServices::openUrl(QUrl::fromLocalFile(q(percorso)));
+}
+
+bool ApriDocumentiQt::avvia(const std::string& programma, const std::string& argomento) {
+    QString nome = q(programma);
+    nome.remove(QLatin1Char('"'));
+    return QProcess::startDetached(nome, argomento.empty() ? QStringList{} : QStringList{q(argomento)});
+}
+
+void ImpostazioniQt::scrivi(const std::string& applicazione, const std::string& sezione, const std::string& chiave,
+                            const std::string& valore) {
+    QSettings impostazioni(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Kelvo"), q(applicazione));
+    impostazioni.setValue(q(sezione + "/" + chiave), q(valore));
+}
+
+std::string ImpostazioniQt::leggi(const std::string& applicazione, const std::string& sezione,
+                                  const std::string& chiave) const {
+    const QSettings impostazioni(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Kelvo"), q(applicazione));
+    return s(impostazioni.value(q(sezione + "/" + chiave)).toString());
+}
+
+bool AttesaQt::pausa(int millisecondi) {
+    QEventLoop ciclo;
+    const Interruttore interruttore(ciclo);
+    QTimer::singleShot(millisecondi, &ciclo, &QEventLoop::quit);
+    ciclo.exec();
+    return interruttore.premuto();
+}
+
+void AttesaQt::eventi() {
+    QCoreApplication::processEvents();
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "app/servizi.h"
+#include "app/serviziSistema.h"
+
+/// The outside as the desktop offers it.
+namespace kelvo::ui {
+
+/// Message boxes on top of the window at hand.
+class MessaggiQt final : public FinestraMessaggi {
+public:
+    Risposta mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) override;
+};
+
+/// The file dialogues of the toolkit.
+class DialogoFileQt final : public DialogoFile {
+public:
+    std::optional<std::string> apri(const RichiestaFile& richiesta,
+                                    const std::function<void(const std::string&)>& alCambio) override;
+    std::optional<std::string> salva(const RichiestaFile& richiesta) override;
+};
+
+/// Opens documents with the desktop's own programs.
+class ApriDocumentiQt final : public ApriDocumenti {
+public:
+    bool apri(const std::string& percorso) override;
+    bool avvia(const std::string& programma, const std::string& argomento) override;
+};
+
+/// The user's settings in the folder that the desktop gives for them.
+class ImpostazioniQt final : public ImpostazioniUtente {
+public:
+    void scrivi(const std::string& applicazione, const std::string& sezione, const std::string& chiave,
+                const std::string& valore) override;
+    std::string leggi(const std::string& applicazione, const std::string& sezione,
+                      const std::string& chiave) const override;
+};
+
+/// Waits in the event loop; a key or a click ends a pause.
+class AttesaQt final : public Attesa {
+public:
+    bool pausa(int millisecondi) override;
+    void eventi() override;
+};
+
+}  // namespace kelvo::ui
