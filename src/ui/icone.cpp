@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <string_view>
 
 namespace kelvo::ui {
 
@@ -24,6 +25,15 @@ QString disegno(const QString& cartella, const std::string& nome) {
         }
     }
     return {};
+}
+
+/// "4RAMI" and "RAMI4" are one drawing.
+std::string nomeFigura(const std::string& risorsa) {
+    constexpr std::string_view rami = "RAMI";
+    if (risorsa.size() == rami.size() + 1 && risorsa.ends_with(rami)) {
+        return std::string{rami} + risorsa.front();
+    }
+    return risorsa;
 }
 
 }  // namespace
@@ -48,7 +58,7 @@ QIcon icona(const std::string& chiave, bool suBlu) {
 }
 
 QPixmap immagine(const std::string& risorsa, QSize misura, double rapporto) {
-    const QString file = disegno(QStringLiteral("figure"), risorsa);
+    const QString file = disegno(QStringLiteral("figure"), nomeFigura(risorsa));
     QSvgRenderer disegnatore(file);
     if (file.isEmpty() || !disegnatore.isValid() || misura.isEmpty()) {
         return {};
