@@ -24,11 +24,12 @@ void TabellaBackup::allarga(std::int16_t rami, std::int16_t ultimoSegmento) {
 }
 
 std::size_t TabellaBackup::posto(std::int16_t ramo, std::int16_t classe, std::int16_t segmento) const {
-    const bool dentro = ramo >= 1 && ramo <= rami() && classe >= 0 && classe < classi && segmento >= 0 &&
-                        segmento <= ultimoSegmento_;
+    const bool dentro =
+        ramo >= 1 && ramo <= rami() && classe >= 0 && classe < classi && segmento >= 0 && segmento <= ultimoSegmento_;
     if (!dentro) {
-        throw Guasto(NumeroGuasto::indiceFuoriIntervallo,
-                     fmt::format("copia della composizione: ramo {}, categoria {}, segmento {}", ramo, classe, segmento));
+        throw Guasto(
+            NumeroGuasto::indiceFuoriIntervallo,
+            fmt::format("copia della composizione: ramo {}, categoria {}, segmento {}", ramo, classe, segmento));
     }
     return static_cast<std::size_t>(segmento) * classi + static_cast<std::size_t>(classe);
 }
