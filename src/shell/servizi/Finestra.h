@@ -71,6 +71,7 @@ protected:
     /// Declares the controls, in tab order; called once, by the constructor of the window.
     void ordina(std::initializer_list<Controllo*> controlli);
     Applicazione& app() { return contorno_.app; }
+    const Applicazione& app() const { return contorno_.app; }
     Rotonda& rotonda() { return contorno_.app.theRotonda(); }
     StatoFinestre& stato() { return contorno_.stato; }
     Cornice& cornice() { return contorno_.cornice; }
