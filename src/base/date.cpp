@@ -161,6 +161,24 @@ std::optional<DataOra> leggiIsoGiorno(std::string_view testo) {
     return giornoCalendario(*anno, *mese, *giorno);
 }
 
+std::optional<DataOra> leggiHHNN(std::string_view testo) {
+    constexpr std::size_t lunga = 5;
+    const auto ora = testo.size() == lunga ? leggiIsoOra(testo) : std::nullopt;
+    return ora && *ora >= 0.0 && *ora < 1.0 ? ora : std::nullopt;
+}
+
+std::optional<DataOra> leggiData(std::string_view testo) {
+    const auto giorno = cifre(testo, 2);
+    if (!giorno || !segno(testo, '/')) {
+        return std::nullopt;
+    }
+    const auto mese = cifre(testo, 2);
+    if (!mese || !segno(testo, '/')) {
+        return std::nullopt;
+    }
+    return leggiIsoGiorno(fmt::format("{}-{:02}-{:02}", testo, *mese, *giorno));
+}
+
 std::optional<DataOra> leggiIsoOra(std::string_view testo) {
     const bool negativo = segno(testo, '-');
     const auto ora = cifre(testo, 2);

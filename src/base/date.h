@@ -45,6 +45,11 @@ std::string testoData(DataOra data);
 /// "21/11/2026 08:05:09"
 std::string testoDataOra(DataOra data);
 
+/// Reads what testoHHNN writes, "08:05"; nothing if it is no time of day.
+std::optional<DataOra> leggiHHNN(std::string_view testo);
+/// Reads what testoData writes, "21/11/2026"; nothing if it is no day of the calendar.
+std::optional<DataOra> leggiData(std::string_view testo);
+
 /// "2026-11-21"
 std::string testoIsoGiorno(DataOra data);
 /// "08:05", or "08:05:09" where the seconds are not 0; hours run past 23 for a time beyond midnight.

@@ -131,6 +131,7 @@ void Rotonda::Clear() {
     dati_ = datiPredefiniti();
     chiaviIgnote.clear();
     timbro_ = {};
+    backupTraffico_ = {};
     segnaDato();
 }
 

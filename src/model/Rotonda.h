@@ -9,6 +9,7 @@
 
 #include "base/date.h"
 #include "base/file.h"
+#include "model/BackupTraffico.h"
 #include "model/Ramo.h"
 #include "model/Revisione.h"
 
@@ -147,6 +148,10 @@ public:
     /// missing, a number that is not finite, a size past the limits of the file.
     std::string TestoFile() const;
 
+    /// What a change of the modelling time threw away; Clear and a successful Load drop it.
+    BackupTraffico& backupTraffico() { return backupTraffico_; }
+    const BackupTraffico& backupTraffico() const { return backupTraffico_; }
+
     /// Counts of the changes of input since the program started; never lowered.
     const Revisione& revisione() const { return revisione_; }
     /// What the last calculation left.
@@ -198,6 +203,7 @@ private:
     Timbro timbro_;
     Dati dati_;
     RaccoltaRami rami_;
+    BackupTraffico backupTraffico_;
 };
 
 }  // namespace kelvo

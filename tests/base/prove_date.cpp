@@ -190,6 +190,20 @@ TEST(Date, IsoTextsReadBack) {
     }
 }
 
+TEST(Date, TimesAndDaysOfTheWindowsReadBack) {
+    EXPECT_EQ(leggiHHNN("08:05"), oraDelGiorno(8, 5));
+    EXPECT_EQ(leggiHHNN("00:00"), 0.0);
+    EXPECT_EQ(leggiHHNN("23:59"), oraDelGiorno(23, 59));
+    for (const char* storta : {"", "8:05", "24:00", "08:60", "08:05:00", "-8:05", "08.05", "aa:bb", "08:05 "}) {
+        EXPECT_FALSE(leggiHHNN(storta)) << storta;
+    }
+    EXPECT_EQ(leggiData("21/11/2026"), giornoCalendario(2026, 11, 21));
+    EXPECT_EQ(leggiData("29/02/2024"), giornoCalendario(2024, 2, 29));
+    for (const char* storta : {"", "29/02/2023", "1/1/2024", "21-11-2026", "21/11/26", "21/11/2026-", "21/11/2026 "}) {
+        EXPECT_FALSE(leggiData(storta)) << storta;
+    }
+}
+
 TEST(Date, TheClockAgreesWithTheSystems) {
     const std::time_t prima = std::time(nullptr);
     const DataOra letta = adesso();

@@ -348,5 +348,46 @@ TEST_F(ProveRotonda, StampTellsWhetherTheRecordsAreThoseOfTheProject) {
     EXPECT_FALSE(rotonda.risultatiAttuali());
 }
 
+TEST(Rotonda, TheBackupOfTheTrafficEndsWithTheContent) {
+    Rotonda rotonda;
+    rotonda.backupTraffico().BackupComposizioneDisponibile = true;
+    rotonda.backupTraffico().BackupComposizione.allarga(3, 4);
+    rotonda.Clear();
+    EXPECT_FALSE(rotonda.backupTraffico().BackupComposizioneDisponibile);
+    EXPECT_EQ(rotonda.backupTraffico().BackupComposizione.rami(), 0);
+
+    rotonda.NumeroRami(3);
+    for (const char* chiave : {"1Ramo", "2Ramo", "3Ramo"}) {
+        rotonda.AddRamo(chiave);
+    }
+    const std::string testo = rotonda.TestoFile();
+    rotonda.backupTraffico().BackupComposizioneDisponibile = true;
+    std::string messaggio;
+    bool esito = true;
+    rotonda.LoadTesto("niente", messaggio, esito);
+    EXPECT_TRUE(rotonda.backupTraffico().BackupComposizioneDisponibile);
+    rotonda.LoadTesto(testo, messaggio, esito);
+    ASSERT_TRUE(esito) << messaggio;
+    EXPECT_FALSE(rotonda.backupTraffico().BackupComposizioneDisponibile);
+}
+
+TEST(TabellaBackup, GrowsAndKeepsItsContent) {
+    TabellaBackup tabella;
+    EXPECT_EQ(tabella.ultimoSegmento(), -1);
+    tabella.allarga(2, 3);
+    tabella.cella(41, 2, 7, 3);
+    tabella.allarga(1, 1);  // never shrinks
+    EXPECT_EQ(tabella.rami(), 2);
+    EXPECT_EQ(tabella.ultimoSegmento(), 3);
+    tabella.allarga(3, 6);
+    EXPECT_EQ(tabella.cella(2, 7, 3), 41);
+    EXPECT_EQ(tabella.cella(3, 0, 6), 0);
+    EXPECT_THROW(tabella.cella(0, 1, 1), Guasto);
+    EXPECT_THROW(tabella.cella(4, 1, 1), Guasto);
+    EXPECT_THROW(tabella.cella(1, 8, 1), Guasto);
+    EXPECT_THROW(tabella.cella(1, 1, 7), Guasto);
+    EXPECT_THROW(tabella.cella(5, 1, -1, 0), Guasto);
+}
+
 }  // namespace
 }  // namespace kelvo::prove

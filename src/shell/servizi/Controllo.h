@@ -42,8 +42,8 @@ public:
     const Aspetto& aspetto() const { return aspetto_; }
     void aspetto(const Aspetto& valore) { cambia(aspetto_, valore); }
 
-    /// The user's focus comes here.
-    virtual void entra() {}
+    /// The user's focus comes here; the window is told.
+    virtual void entra();
     /// The user's focus wants to leave; false keeps it.
     virtual bool lascia() { return true; }
     /// The checks of leaving, asked by the window: they look and change nothing but the failed state.

@@ -8,6 +8,7 @@
 namespace kelvo {
 
 class Controllo;
+class PannelloAiuto;
 
 /// A message of a check.
 struct MessaggioCampo {
@@ -44,6 +45,8 @@ public:
     virtual void entrato(Controllo& campo) = 0;
     /// A check spoke: shows its message or reason and raises the flag of failed checks if it says so.
     virtual void giudicato(Controllo& campo, const EsitoUscita& esito) = 0;
+    /// The help pane of the window; null where it has none.
+    virtual PannelloAiuto* aiuto() { return nullptr; }
 };
 
 }  // namespace kelvo

@@ -28,15 +28,30 @@ void Finestra::ordina(std::initializer_list<Controllo*> controlli) {
     }
 }
 
+bool Finestra::contiene(const Controllo& controllo) const {
+    return std::find(ordine_.begin(), ordine_.end(), &controllo) != ordine_.end();
+}
+
 bool Finestra::convalida() {
     bool bene = true;
+    inConvalida_ = true;
+    rifiutato_ = nullptr;
+    contorno_.cornice.avviso({});
     for (Controllo* c : ordine_) {
         // A field that is hidden or closed has nothing to answer for.
         if (c->visibile() && c->abilitato() && !c->convalida()) {
             bene = false;
         }
     }
+    inConvalida_ = false;
     return bene;
+}
+
+void Finestra::spostaFuoco(Controllo* controllo) {
+    if (fuoco_ != controllo) {
+        fuoco_ = controllo;
+        fuocoMutato_.emit();
+    }
 }
 
 bool Finestra::fuocoSu(Controllo& controllo) {
@@ -46,21 +61,13 @@ bool Finestra::fuocoSu(Controllo& controllo) {
     if (!controllo.prendeFuoco() || !lasciaFuoco()) {
         return false;
     }
-    fuoco_ = &controllo;
+    spostaFuoco(&controllo);
     controllo.entra();
     return true;
 }
 
 bool Finestra::lasciaFuoco() {
-    if (fuoco_ == nullptr) {
-        return true;
-    }
-    Controllo* lasciato = fuoco_;
-    if (lasciato->prendeFuoco() && !lasciato->lascia()) {
-        return false;
-    }
-    fuoco_ = nullptr;
-    return true;
+    return fuoco_ == nullptr || !fuoco_->prendeFuoco() || fuoco_->lascia();
 }
 
 Controllo* Finestra::successivo(bool avanti) const {
@@ -78,14 +85,22 @@ Controllo* Finestra::successivo(bool avanti) const {
 }
 
 void Finestra::entrato(Controllo& campo) {
-    fuoco_ = &campo;
+    spostaFuoco(&campo);
 }
 
-void Finestra::giudicato(Controllo& /*campo*/, const EsitoUscita& esito) {
+void Finestra::giudicato(Controllo& campo, const EsitoUscita& esito) {
     if (esito.bandiera) {
         contorno_.stato.convalidaFallita = true;
     }
-    contorno_.cornice.avviso(esito.motivo);
+    // One word at a time stands in the status bar: of all fields that are asked together, the first that has one.
+    if (!inConvalida_ || (rifiutato_ == nullptr && !esito.motivo.empty())) {
+        contorno_.cornice.avviso(esito.motivo);
+    }
+    const bool trattenuto = !esito.accettato || esito.bandiera;
+    if (inConvalida_ && trattenuto && rifiutato_ == nullptr) {
+        rifiutato_ = &campo;
+        spostaFuoco(&campo);  // the place is marked before the message comes up
+    }
     if (esito.messaggio) {
         messaggio(esito.messaggio->testo, esito.messaggio->titolo, esito.messaggio->icona);
     }
@@ -103,26 +118,32 @@ FinestraDati::FinestraDati(Contorno contorno, std::string nome, std::string dida
 void FinestraDati::DatiAllineati(bool valore) {
     if (datiAllineati_ != valore) {
         datiAllineati_ = valore;
-        ctlToolbar.cambiato().emit();
+        pannello.cambiato().emit();
     }
 }
 
 void FinestraDati::premuto(const std::string& chiave) {
+    const std::string metodo = nome() + ":" + chiave;
     // Reloading puts a bad field right, so it alone does not ask it first.
     if (chiave == "Refresh") {
-        ReadData();
+        gestisci(metodo.c_str(), [this] {
+            cornice().avviso({});
+            ReadData();
+        });
         return;
     }
     if (!lasciaFuoco()) {
         return;
     }
-    if (chiave == "AggiornaDati") {
-        SaveData();
-    } else if (chiave == "Archivio") {
-        Archivio();
-    } else {
-        altroTasto(chiave);
-    }
+    gestisci(metodo.c_str(), [&] {
+        if (chiave == "AggiornaDati") {
+            SaveData();
+        } else if (chiave == "Archivio") {
+            Archivio();
+        } else {
+            altroTasto(chiave);
+        }
+    });
 }
 
 }  // namespace kelvo

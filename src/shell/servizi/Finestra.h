@@ -46,13 +46,20 @@ public:
     virtual void SaveData() {}
     /// Runs the checks of all fields, which only look; false if one refused.
     bool convalida();
+    /// True for a control of this window.
+    bool contiene(const Controllo& controllo) const;
 
     /// The control that has the focus; null for none.
     Controllo* fuoco() const { return fuoco_; }
-    /// Moves the focus: leaves the control that has it first; false if that one refused.
+    /// The control that has the focus is another one.
+    sigc::signal<void()>& fuocoMutato() { return fuocoMutato_; }
+    /// Moves the focus: leaves the control that has it first; false if that one refused, or if `controllo` takes none.
     bool fuocoSu(Controllo& controllo);
-    /// Leaves the control that has the focus; false if it refused and keeps the focus.
+    /// Runs the checks of leaving of the control that has the focus, as every command does first; false if it refused.
+    /// The focus stays where it is.
     bool lasciaFuoco();
+    /// No control has the focus any more; nothing is asked.
+    void scordaFuoco() { spostaFuoco(nullptr); }
     /// The control after (or before) the one in focus that takes the focus; null if there is none.
     Controllo* successivo(bool avanti) const;
 
@@ -64,6 +71,7 @@ protected:
     /// Declares the controls, in tab order; called once, by the constructor of the window.
     void ordina(std::initializer_list<Controllo*> controlli);
     Applicazione& app() { return contorno_.app; }
+    const Applicazione& app() const { return contorno_.app; }
     Rotonda& rotonda() { return contorno_.app.theRotonda(); }
     StatoFinestre& stato() { return contorno_.stato; }
     Cornice& cornice() { return contorno_.cornice; }
@@ -81,11 +89,16 @@ protected:
     }
 
 private:
+    void spostaFuoco(Controllo* controllo);
+
     Contorno contorno_;
     std::string nome_;
     std::string didascalia_;
     std::vector<Controllo*> ordine_;
     Controllo* fuoco_ = nullptr;
+    Controllo* rifiutato_ = nullptr;  ///< the first field that the running validation refused
+    bool inConvalida_ = false;
+    sigc::signal<void()> fuocoMutato_;
 };
 
 /// A window that edits the project: fields copied from it and back.
@@ -100,9 +113,12 @@ public:
     BarraStrumenti* barra() override { return &ctlToolbar; }
 
     /// True after ReadData and SaveData, false once a field that was left differs from the project.
+    /// The caption panel signals its change.
     bool DatiAllineati() const { return datiAllineati_; }
 
     BarraStrumenti ctlToolbar;
+    PannelloAiuto ctlHelp{"ctlHelp"};
+    PannelloAiuto* aiuto() override { return &ctlHelp; }
 
 protected:
     void DatiAllineati(bool valore);

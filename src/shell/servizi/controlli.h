@@ -40,7 +40,7 @@ public:
         }
     }
     bool lascia() override {
-        if (dopoUscita) {
+        if (raggiungibile() && dopoUscita) {
             dopoUscita();
         }
         return true;
@@ -175,6 +175,9 @@ private:
     int valore_;
 };
 
+/// The page of the help pane that says nothing.
+inline constexpr std::string_view paginaAiutoVuota = "EmptyHelp.htm";
+
 /// The help pane: a page below the folder of the help pages.
 class PannelloAiuto final : public Controllo {
 public:
@@ -183,7 +186,7 @@ public:
     void pagina(const std::string& valore) { cambia(pagina_, valore); }
 
 private:
-    std::string pagina_;
+    std::string pagina_{paginaAiutoVuota};
 };
 
 /// A tool bar with keys.
@@ -201,6 +204,8 @@ public:
     const std::vector<Tasto>& tasti() const { return tasti_; }
     /// Fault 9 for a key that is not there.
     bool abilitato(std::string_view chiave) const;
+    /// The same: a literal would otherwise be taken for a flag.
+    bool abilitato(const char* chiave) { return abilitato(std::string_view{chiave}); }
     void abilita(std::string_view chiave, bool valore);
     using Controllo::abilitato;
     std::function<void(const std::string&)> allaPressione;

@@ -29,44 +29,50 @@ bool modGestioneFinestre::lasciaCorrente() {
         stato_.convalidaFallita = false;
         return false;
     }
-    area_.nascondi(*corrente_);
-    corrente_->nascosta();
-    corrente_ = nullptr;
+    chiudiCorrente();
     return true;
+}
+
+void modGestioneFinestre::avvisaOpzioni() {
+    if (stato_.opzioniModificate) {
+        app_.messaggi.mostra(
+            "Attenzione! Sono state modificate delle opzioni: verificare con attenzione i dati precedentemente "
+            "inseriti.",
+            "KELVO 2014 - Attenzione", Icona::esclamazione, Pulsanti::ok);
+        stato_.opzioniModificate = false;
+    }
 }
 
 bool modGestioneFinestre::ShowForm(Finestra* finestra) {
     if (finestra == nullptr) {
         return true;
     }
+    bool scambiata = false;
     try {
         if (!lasciaCorrente()) {
             return false;
         }
-        if (stato_.opzioniModificate) {
-            app_.messaggi.mostra(
-                "Attenzione! Sono state modificate delle opzioni: verificare con attenzione i dati precedentemente "
-                "inseriti.",
-                "KELVO 2014 - Attenzione", Icona::esclamazione, Pulsanti::ok);
-            stato_.opzioniModificate = false;
-        }
+        avvisaOpzioni();
+        area_.mostra(*finestra);
         corrente_ = finestra;
-        vesti(*finestra, app_.configurazione.LayoutPannello);
         if (finestra->nome() != nomeSenzaPosto) {
             area_.colloca(*finestra, postoFinestra(area_.albero(), area_.larghezzaInterna()));
         }
+        vesti(*finestra, app_.configurazione.LayoutPannello);
         area_.vestiBarra(*finestra);
+        scambiata = true;
         finestra->attivata();
         return true;
     } catch (const Guasto& guasto) {
         app_.comune.erroreLog(guasto.codice(), "modGestioneFinestre.ShowForm()", guasto.descrizione(), true);
-        return false;
+        return scambiata;
     }
 }
 
 void modGestioneFinestre::chiudiCorrente() {
     if (corrente_ != nullptr) {
         area_.nascondi(*corrente_);
+        corrente_->scordaFuoco();
         corrente_->nascosta();
         corrente_ = nullptr;
     }

@@ -21,7 +21,9 @@ public:
     virtual Rettangolo albero() const = 0;
     /// Width of the inside of the frame.
     virtual double larghezzaInterna() const = 0;
-    /// Shows a window at a place; it stays where it is from then on.
+    /// Shows a window where it stands.
+    virtual void mostra(Finestra& finestra) = 0;
+    /// Gives a window its place; it stays there from then on.
     virtual void colloca(Finestra& finestra, const Rettangolo& posto) = 0;
     virtual void nascondi(Finestra& finestra) = 0;
     /// Dresses the tool bar of a window in the main colour.
@@ -38,7 +40,7 @@ public:
         : app_(app), stato_(stato), area_(area) {}
 
     /// Brings a window to the work area; null does nothing and answers true. False: the window at hand refused to be
-    /// left, and stays. A fault is recorded and answers false.
+    /// left, and stays. A fault is recorded; the answer then tells whether the window has come up all the same.
     bool ShowForm(Finestra* finestra);
     /// The window at hand; null for none.
     Finestra* corrente() const { return corrente_; }
@@ -47,6 +49,7 @@ public:
 
 private:
     bool lasciaCorrente();
+    void avvisaOpzioni();
 
     Applicazione& app_;
     StatoFinestre& stato_;

@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view carattere = "Segoe UI Semilight";
 constexpr std::string_view finestraEsente = "frmEmptyForm";
 
-/// Colour of the labels of a tag.
+/// Colour of the labels that carry a tag.
 struct ColoreTag {
     std::string_view tag;
     Colore colore;
@@ -28,9 +28,11 @@ Aspetto aspettoDi(const Controllo& controllo) {
         aspetto.inchiostro = colori::bianco;
         return aspetto;
     }
-    for (const ColoreTag& c : coloriTag) {
-        if (controllo.tag() == c.tag) {
-            aspetto.inchiostro = c.colore;
+    if (dynamic_cast<const Etichetta*>(&controllo) != nullptr) {
+        for (const ColoreTag& c : coloriTag) {
+            if (controllo.tag() == c.tag) {
+                aspetto.inchiostro = c.colore;
+            }
         }
     }
     return aspetto;
@@ -52,6 +54,9 @@ void vesti(Finestra& finestra, std::int16_t layoutPannello) {
     }
     if (BarraStrumenti* barra = finestra.barra()) {
         barra->aspetto(aspettoDi(*barra));
+    }
+    if (PannelloAiuto* aiuto = finestra.aiuto()) {
+        aiuto->aspetto(aspettoDi(*aiuto));
     }
     finestra.pannello.aspetto(
         {.carattere = std::string{carattere}, .sfondo = colorePannello(layoutPannello), .inchiostro = colori::bianco});

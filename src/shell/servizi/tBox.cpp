@@ -3,11 +3,12 @@
 #include <utf8.h>
 
 #include <algorithm>
-#include <charconv>
 
+#include "base/date.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
+#include "shell/servizi/controlli.h"
 
 namespace kelvo {
 
@@ -70,11 +71,23 @@ bool RegoleCampo::ammette(std::string_view testo) const {
 tBox::tBox(std::string nome, Faccia faccia, std::string tag)
     : Controllo(std::move(nome), std::move(tag)), faccia_(faccia), regole_(RegoleCampo::daTag(this->tag())) {}
 
+void tBox::metti(const std::string& testo) {
+    const bool mutato = fallito_ || testo_ != testo;
+    fallito_ = false;
+    testo_ = testo;
+    if (mutato) {
+        cambiato().emit();
+    }
+}
+
 void tBox::testo(const std::string& valore) {
     messo_ = valore;
     allEntrata_ = valore;
-    fallito_ = false;
-    cambia(testo_, valore);
+    metti(valore);
+}
+
+void tBox::modifica(const std::string& valore) {
+    metti(valore);
 }
 
 void tBox::voci(const std::vector<std::string>& valori) {
@@ -90,23 +103,35 @@ void tBox::scelta(int indice) {
     if (indice < 0 || indice >= static_cast<int>(voci_.size())) {
         throw Guasto(NumeroGuasto::indiceFuoriIntervallo, nome() + ", voce " + std::to_string(indice));
     }
-    cambia(testo_, voci_[static_cast<std::size_t>(indice)]);
+    testo(voci_[static_cast<std::size_t>(indice)]);
 }
 
 void tBox::entra() {
     if (!raggiungibile()) {
         return;
     }
-    allEntrata_ = testo_;
-    if (custode() != nullptr) {
-        custode()->entrato(*this);
+    if (!fallito_) {
+        allEntrata_ = testo_;  // a refused field that gets the focus back still knows what stood there before
     }
+    if (custode() != nullptr) {
+        if (PannelloAiuto* aiuto = custode()->aiuto()) {
+            aiuto->pagina(paginaAiuto.empty() ? std::string{paginaAiutoVuota} : paginaAiuto);
+        }
+    }
+    Controllo::entra();
 }
 
-void tBox::scrivi(std::string_view testo) {
-    if (!raggiungibile() || solaLettura_) {
-        return;
+bool tBox::prende(const std::string& testo) const {
+    if (faccia_ == combobox && !digitabile) {
+        return std::find(voci_.begin(), voci_.end(), testo) != voci_.end();
     }
+    if (faccia_ == dtpicker) {
+        return (giorno ? leggiData(testo) : leggiHHNN(testo)).has_value();
+    }
+    return true;
+}
+
+std::string tBox::filtrato(std::string_view testo) const {
     std::string nuovo;
     std::size_t caratteri = 0;
     const std::string valido = utf8Valido(testo);
@@ -123,9 +148,29 @@ void tBox::scrivi(std::string_view testo) {
             ++caratteri;
         }
     }
-    cambia(testo_, nuovo);
+    return nuovo;
+}
+
+void tBox::digita(const std::string& testo) {
+    if (!prende(testo)) {
+        cambiato().emit();  // the view shows again what stands there
+        return;
+    }
+    cambia(testo_, testo);
     if (dopoTasto) {
         dopoTasto();
+    }
+}
+
+void tBox::scrivi(std::string_view testo) {
+    if (raggiungibile() && !solaLettura_) {
+        digita(filtrato(testo));
+    }
+}
+
+void tBox::scegli(int indice) {
+    if (raggiungibile() && !solaLettura_ && indice >= 0 && indice < static_cast<int>(voci_.size())) {
+        digita(voci_[static_cast<std::size_t>(indice)]);
     }
 }
 
@@ -150,9 +195,15 @@ bool tBox::convalida() {
 }
 
 bool tBox::lascia() {
+    if (!raggiungibile()) {
+        return true;  // nothing to answer for
+    }
     if (!convalida()) {
         return false;
     }
+    Aspetto pulito = aspetto();
+    pulito.sfondo = colori::bianco;
+    aspetto(pulito);
     if (dopoUscita) {
         dopoUscita();
     }
@@ -160,8 +211,14 @@ bool tBox::lascia() {
 }
 
 void tBox::annulla() {
-    fallito_ = false;
-    cambia(testo_, allEntrata_);
+    if (!raggiungibile()) {
+        return;
+    }
+    const bool mutato = testo_ != allEntrata_;
+    metti(allEntrata_);
+    if (mutato && dopoTasto) {
+        dopoTasto();
+    }
 }
 
 }  // namespace kelvo

@@ -40,16 +40,24 @@ public:
     const std::string& testo() const { return testo_; }
     /// Puts a text there, as the program does: it counts as unmodified, no check runs.
     void testo(const std::string& valore);
+    /// Puts a text there in the user's stead: no check runs, but it counts as modified where it differs.
+    void modifica(const std::string& valore);
     /// The text differs from what the program put there last: only then it is worth writing back.
     bool modificato() const { return testo_ != messo_; }
+    /// What stands there has been written back: it counts as unmodified from now on.
+    void salvato() { messo_ = testo_; }
 
     /// combobox: the rows of the list.
     const std::vector<std::string>& voci() const { return voci_; }
     void voci(const std::vector<std::string>& valori);
     /// combobox: position of the text in the list, from 0; -1 if it is none of them.
     int scelta() const;
-    /// combobox: puts the text of a row there. Fault 9 outside the list.
+    /// combobox: puts the text of a row there, as the program does. Fault 9 outside the list.
     void scelta(int indice);
+    /// combobox: any text may be typed; else only the rows of the list are taken.
+    bool digitabile = false;
+    /// dtpicker: a day "dd/mm/yyyy" in place of a time of day "HH:NN". A picker takes nothing else.
+    bool giorno = false;
 
     /// combobox: a text may be typed that is not in the list.
     bool digitabile = false;
@@ -76,10 +84,13 @@ public:
 
     // The user's gestures.
     void entra() override;
-    /// Types the text in place of what stands there; characters that the field does not take fall out.
+    /// Types the text in place of what stands there. Characters that the field does not take fall out; a list and a
+    /// picker take a whole text or nothing.
     void scrivi(std::string_view testo);
     /// Runs the checks; false keeps the focus.
     bool lascia() override;
+    /// combobox: picks a row, from 0; nothing happens outside the list.
+    void scegli(int indice);
     /// Escape: puts back what stood there when the focus came.
     void annulla();
     bool convalida() override;
@@ -87,6 +98,10 @@ public:
 
 private:
     EsitoUscita esamina();
+    bool prende(const std::string& testo) const;
+    std::string filtrato(std::string_view testo) const;
+    void digita(const std::string& testo);
+    void metti(const std::string& testo);
 
     Faccia faccia_;
     RegoleCampo regole_;

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/servizi/Controllo.h"
+
+namespace kelvo {
+
+/// A list of keyed rows in columns, each of which leads somewhere.
+class ElencoColonne final : public Controllo {
+public:
+    struct Riga {
+        std::string chiave;
+        std::vector<std::string> celle;  ///< one text a column
+        bool evidente = false;           ///< asks for the user's attention
+        friend bool operator==(const Riga&, const Riga&) = default;
+    };
+    ElencoColonne(std::string nome, std::vector<std::string> intestazioni)
+        : Controllo(std::move(nome)), intestazioni_(std::move(intestazioni)) {}
+    const std::vector<std::string>& intestazioni() const { return intestazioni_; }
+    const std::vector<Riga>& righe() const { return righe_; }
+    void righe(const std::vector<Riga>& valore) { cambia(righe_, valore); }
+    /// Null for a key that is not there.
+    const Riga* riga(std::string_view chiave) const {
+        for (const Riga& r : righe_) {
+            if (r.chiave == chiave) {
+                return &r;
+            }
+        }
+        return nullptr;
+    }
+    std::function<void(const std::string&)> allAttivazione;
+
+    /// The user opens a row; nothing happens for a key that is not there.
+    void attiva(std::string_view chiave) {
+        const Riga* scelta = riga(chiave);
+        if (raggiungibile() && scelta != nullptr && allAttivazione) {
+            const std::string copia = scelta->chiave;  // the rows may be made anew meanwhile
+            allAttivazione(copia);
+        }
+    }
+    bool prendeFuoco() const override { return raggiungibile(); }
+
+private:
+    std::vector<std::string> intestazioni_;
+    std::vector<Riga> righe_;
+};
+
+}  // namespace kelvo
