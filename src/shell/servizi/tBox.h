@@ -59,9 +59,6 @@ public:
     /// dtpicker: a day "dd/mm/yyyy" in place of a time of day "HH:NN". A picker takes nothing else.
     bool giorno = false;
 
-    /// combobox: a text may be typed that is not in the list.
-    bool digitabile = false;
-
     /// maskedit: characters that may be typed, empty for all, and how many; 0 for no limit.
     std::string caratteriAmmessi;
     std::size_t lunghezzaMassima = 0;
