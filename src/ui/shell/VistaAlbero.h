@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <string>
+
+#include "shell/frmTreeView.h"
+
+namespace kelvo::ui {
+
+/// The project tree: mirrors the nodes of the logic and hands it the mouse, the keyboard and the drags.
+class VistaAlbero final : public QTreeWidget {
+    Q_OBJECT
+public:
+    VistaAlbero(frmTreeView& logica, QWidget* genitore);
+    ~VistaAlbero() override;
+    VistaAlbero(const VistaAlbero&) = delete;
+    VistaAlbero& operator=(const VistaAlbero&) = delete;
+
+protected:
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void startDrag(Qt::DropActions azioni) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dragMoveEvent(QDragMoveEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
+
+private:
+    void aggiorna();
+    void aggiungi(const std::string& chiave, QTreeWidgetItem* padre);
+    void scegli(QTreeWidgetItem* nodo);
+    std::string chiaveA(QPoint posto) const;
+
+    frmTreeView& logica_;
+    sigc::connection legame_;
+    unsigned versione_ = 0;
+    bool inCostruzione_ = false;
+};
+
+}  // namespace kelvo::ui

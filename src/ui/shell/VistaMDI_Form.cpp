@@ -1,0 +1,338 @@
+#include "ui/shell/VistaMDI_Form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedLayout>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "ui/icone.h"
+#include "ui/legame.h"
+#include "ui/legami.h"
+#include "ui/shell/VistaAlbero.h"
+#include "ui/shell/menuQt.h"
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+constexpr double twip = 15.0;  ///< to a logical pixel
+constexpr int larghezzaMinimaAlbero = 240;
+constexpr double quotaAlbero = 0.22;
+
+/// Keys of the tool bars of windows, where the window at hand has such a button.
+struct ScorciatoiaFinestra {
+    const char* tasti;
+    const char* chiave;
+};
+constexpr std::array scorciatoieFinestra{
+    ScorciatoiaFinestra{"F5", "Refresh"},      ScorciatoiaFinestra{"Ctrl+Return", "AggiornaDati"},
+    ScorciatoiaFinestra{"Ctrl+I", "Archivio"}, ScorciatoiaFinestra{"F9", "keyCalcola"},
+    ScorciatoiaFinestra{"Ctrl+P", "keyAnteprima"}, ScorciatoiaFinestra{"Ctrl+R", "keyRelazione"},
+    ScorciatoiaFinestra{"Ctrl+E", "keyExcel"},
+};
+
+}  // namespace
+
+VistaMDI_Form::VistaMDI_Form() {
+    setObjectName(QStringLiteral("MDI_Form"));
+    setAcceptDrops(true);
+    setMinimumSize(960, 600);
+    resize(1280, 800);
+    auto* telaio = new QWidget(this);
+    telaio->setObjectName(QStringLiteral("telaio"));
+    auto* bordo = new QVBoxLayout(telaio);
+    bordo->setContentsMargins(misura::canale, misura::canale, misura::canale, misura::canale);
+    divisore_ = new QSplitter(Qt::Horizontal, telaio);
+    divisore_->setHandleWidth(misura::canale);
+    divisore_->setChildrenCollapsible(false);
+    bordo->addWidget(divisore_);
+    area_ = new QWidget(divisore_);
+    area_->setObjectName(QStringLiteral("telaio"));
+    pila_ = new QStackedLayout(area_);
+    divisore_->addWidget(area_);
+    setCentralWidget(telaio);
+}
+
+VistaMDI_Form::~VistaMDI_Form() = default;
+
+void VistaMDI_Form::collegaA(MDI_Form& logica) {
+    logica_ = &logica;
+    menuBar()->setMinimumHeight(misura::menu);
+    menuBar()->setFont(leggero(10.0));
+    collega(logica.ctlMenu, *menuBar());
+    QToolBar* barra = collega(logica.ctlToolbar, this, misura::iconaPrincipale, false);
+    barra->setMinimumHeight(misura::barraPrincipale);
+    addToolBar(barra);
+
+    albero_ = new VistaAlbero(logica.albero, divisore_);
+    divisore_->insertWidget(0, albero_);
+    divisore_->setStretchFactor(0, 0);
+    divisore_->setStretchFactor(1, 1);
+    albero_->setVisible(false);
+
+    vuota_ = paginaVuota();
+    pila_->addWidget(vuota_);
+    creaBarraStato();
+    creaScorciatoie();
+    auto* legame = new Legame(logica.didascalia, *menuBar());
+    menuBar()->setObjectName(q(logica.ctlMenu.nome()));
+    legame->mostra([this] { setWindowTitle(q(logica_->didascalia.testo())); });
+}
+
+void VistaMDI_Form::creaBarraStato() {
+    statusBar()->setMinimumHeight(misura::barraStato);
+    statusBar()->setSizeGripEnabled(false);
+    auto* testo = new QLabel(statusBar());
+    auto* avviso = new QLabel(statusBar());
+    auto* tasti = new QLabel(QStringLiteral("F6 Albero    F1 Guida"), statusBar());
+    for (QLabel* label : {testo, avviso, tasti}) {
+        label->setFont(dati(9.0));
+        label->setContentsMargins(8, 0, 8, 0);
+    }
+    avviso->setObjectName(QStringLiteral("avviso"));
+    statusBar()->addWidget(testo);
+    statusBar()->addWidget(avviso, 1);
+    statusBar()->addPermanentWidget(tasti);
+    auto* legame = new Legame(logica_->ctlStatusBar, *testo);
+    legame->mostra([this, testo, avviso] {
+        testo->setText(q(logica_->ctlStatusBar.testo()));
+        avviso->setText(q(logica_->ctlStatusBar.avviso()));
+        avviso->setVisible(true);
+    });
+}
+
+void VistaMDI_Form::creaScorciatoie() {
+    for (const ScorciatoiaFinestra& scorciatoia : scorciatoieFinestra) {
+        auto* tasto = new QShortcut(QKeySequence::fromString(QString::fromLatin1(scorciatoia.tasti)), this);
+        QObject::connect(tasto, &QShortcut::activated, this, [this, chiave = scorciatoia.chiave] {
+            Finestra* corrente = logica_->gestione.corrente();
+            BarraStrumenti* barra = corrente == nullptr ? nullptr : corrente->barra();
+            if (barra == nullptr) {
+                return;
+            }
+            const auto& tasti = barra->tasti();
+            const bool presente =
+                std::any_of(tasti.begin(), tasti.end(), [&](const auto& t) { return t.chiave == chiave; });
+            if (presente) {
+                barra->premi(chiave);
+            }
+        });
+    }
+    auto* cambia = new QShortcut(QKeySequence(Qt::Key_F6), this);
+    QObject::connect(cambia, &QShortcut::activated, this, [this] {
+        if (albero_->hasFocus() && vistaCorrente() != nullptr) {
+            vistaCorrente()->fuocoIniziale();
+        } else if (albero_->isVisible()) {
+            albero_->setFocus(Qt::ShortcutFocusReason);
+        }
+    });
+}
+
+QWidget* VistaMDI_Form::paginaVuota() {
+    auto* pagina = new QWidget(area_);
+    pagina->setObjectName(QStringLiteral("telaio"));
+    auto* piano = new QVBoxLayout(pagina);
+    auto* riquadro = new Pannello(QStringLiteral("Nessun progetto aperto"), pagina);
+    riquadro->setMaximumWidth(420);
+    struct Voce {
+        const char* testo;
+        const char* chiave;
+        const char* icona;
+    };
+    constexpr std::array voci{Voce{"Nuovo progetto (Ctrl+N)", "mnuNuovo", "Nuovo"},
+                              Voce{"Apri progetto (Ctrl+O)", "mnuApri", "Apri"}};
+    for (const Voce& voce : voci) {
+        auto* bottone = new QPushButton(icona(voce.icona, false), QString::fromUtf8(voce.testo), riquadro);
+        bottone->setMinimumHeight(misura::fasciaTitolo);
+        bottone->setFont(dati(10.0));
+        bottone->setObjectName(QString::fromLatin1(voce.chiave));
+        QObject::connect(bottone, &QPushButton::clicked, this,
+                         [this, chiave = voce.chiave] { logica_->Menu_Click(chiave); });
+        riquadro->larga(bottone);
+    }
+    piano->addStretch(1);
+    piano->addWidget(riquadro, 0, Qt::AlignHCenter);
+    piano->addStretch(2);
+    return pagina;
+}
+
+VistaFinestra* VistaMDI_Form::vista(Finestra& finestra) {
+    QPointer<VistaFinestra>& vista = viste_[&finestra];
+    if (vista.isNull()) {
+        vista = creaVista(finestra, area_);
+        if (!vista.isNull()) {
+            pila_->addWidget(vista);
+        }
+    }
+    return vista;
+}
+
+VistaFinestra* VistaMDI_Form::vistaCorrente() const {
+    return qobject_cast<VistaFinestra*>(pila_->currentWidget());
+}
+
+Rettangolo VistaMDI_Form::albero() const {
+    const QRect r = albero_->geometry();
+    const double larghezza = albero_->isHidden() ? 0.0 : r.width();
+    return {r.x() * twip, r.y() * twip, larghezza * twip, divisore_->height() * twip};
+}
+
+double VistaMDI_Form::larghezzaInterna() const {
+    return divisore_->width() * twip;
+}
+
+void VistaMDI_Form::colloca(Finestra& finestra, const Rettangolo& /*posto*/) {
+    // The work area is the room right of the tree: the splitter keeps it there when sizes change.
+    if (VistaFinestra* mostrata = vista(finestra)) {
+        pila_->setCurrentWidget(mostrata);
+        QTimer::singleShot(0, mostrata, &VistaFinestra::fuocoIniziale);
+    }
+}
+
+void VistaMDI_Form::nascondi(Finestra& finestra) {
+    const auto trovata = viste_.find(&finestra);
+    if (trovata != viste_.end() && pila_->currentWidget() == trovata->second) {
+        pila_->setCurrentWidget(vuota_);
+        vuota_->setVisible(!albero_->isVisible());
+    }
+}
+
+void VistaMDI_Form::vestiBarra(Finestra& /*finestra*/) {}
+
+void VistaMDI_Form::mostraCornice() {
+    show();
+}
+
+void VistaMDI_Form::mostraAlbero(bool visibile) {
+    albero_->setVisible(visibile);
+    if (!visibile) {
+        pila_->setCurrentWidget(vuota_);
+        vuota_->setVisible(true);
+    }
+}
+
+void VistaMDI_Form::collocaAlbero(const Rettangolo& posto) {
+    // The told width is an upper bound: a screen of our days is wider than its sheet.
+    const int quota = std::max(larghezzaMinimaAlbero, static_cast<int>(width() * quotaAlbero));
+    const int larghezza = std::min(static_cast<int>(posto.W / twip), quota);
+    divisore_->setSizes({larghezza, std::max(1, divisore_->width() - larghezza)});
+}
+
+MetricheCornice VistaMDI_Form::metriche() const {
+    return {.altezzaCornice = frameGeometry().height() * twip,
+            .altezzaTitolo = (frameGeometry().height() - height()) * twip,
+            .altezzaMenu = menuBar()->height() * twip,
+            .altezzaBarra = misura::barraPrincipale * twip,
+            .altezzaStato = statusBar()->height() * twip};
+}
+
+Misura VistaMDI_Form::schermo() const {
+    const QSize misuraSchermo = QGuiApplication::primaryScreen()->size();
+    return {misuraSchermo.width() * twip, misuraSchermo.height() * twip};
+}
+
+void VistaMDI_Form::mostraModale(Finestra& finestra) {
+    apriSopra(finestra);
+    const QPointer<QDialog> dialogo = sopra_[&finestra];
+    if (!dialogo.isNull()) {
+        dialogo->exec();
+    }
+}
+
+void VistaMDI_Form::apriSopra(Finestra& finestra) {
+    auto* dialogo = new QDialog(this);
+    dialogo->setObjectName(q(finestra.nome()));
+    dialogo->setWindowTitle(q(finestra.didascalia()));
+    dialogo->setWindowModality(Qt::ApplicationModal);
+    auto* piano = new QVBoxLayout(dialogo);
+    piano->setContentsMargins(0, 0, 0, 0);
+    VistaFinestra* contenuto = creaVista(finestra, dialogo);
+    if (contenuto == nullptr) {
+        delete dialogo;
+        return;
+    }
+    piano->addWidget(contenuto);
+    sopra_[&finestra] = dialogo;
+    dialogo->adjustSize();
+    dialogo->show();
+    contenuto->fuocoIniziale();
+}
+
+void VistaMDI_Form::chiudiSopra(Finestra& finestra) {
+    const QPointer<QDialog> dialogo = sopra_[&finestra];
+    sopra_.erase(&finestra);
+    if (!dialogo.isNull()) {
+        dialogo->accept();
+        dialogo->deleteLater();
+    }
+}
+
+void VistaMDI_Form::dimentica(Finestra& finestra) {
+    const auto trovata = viste_.find(&finestra);
+    if (trovata != viste_.end()) {
+        delete trovata->second.data();
+        viste_.erase(trovata);
+    }
+}
+
+void VistaMDI_Form::termina() {
+    hide();
+    QCoreApplication::quit();
+}
+
+void VistaMDI_Form::closeEvent(QCloseEvent* evento) {
+    if (logica_ == nullptr || logica_->scaricata()) {
+        evento->accept();
+        return;
+    }
+    evento->ignore();
+    logica_->chiudiCornice();
+}
+
+void VistaMDI_Form::resizeEvent(QResizeEvent* evento) {
+    QMainWindow::resizeEvent(evento);
+    if (logica_ != nullptr) {
+        logica_->albero.ResizeMe();
+    }
+}
+
+void VistaMDI_Form::changeEvent(QEvent* evento) {
+    QMainWindow::changeEvent(evento);
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && logica_ != nullptr) {
+        logica_->inPrimoPiano();
+    }
+}
+
+void VistaMDI_Form::dragEnterEvent(QDragEnterEvent* evento) {
+    const QList<QUrl> file = evento->mimeData()->urls();
+    if (file.size() == 1 && file.constFirst().isLocalFile() &&
+        file.constFirst().toLocalFile().endsWith(QStringLiteral(".klv"), Qt::CaseInsensitive)) {
+        evento->acceptProposedAction();
+    }
+}
+
+void VistaMDI_Form::dropEvent(QDropEvent* evento) {
+    const QList<QUrl> file = evento->mimeData()->urls();
+    if (!file.isEmpty() && logica_->rilasciato(s(file.constFirst().toLocalFile()))) {
+        evento->acceptProposedAction();
+    }
+}
+
+}  // namespace kelvo::ui

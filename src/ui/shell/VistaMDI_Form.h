@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <map>
+
+#include "shell/MDI_Form.h"
+#include "ui/VistaFinestra.h"
+
+class QDialog;
+class QLabel;
+class QSplitter;
+class QStackedLayout;
+
+namespace kelvo::ui {
+
+class VistaAlbero;
+
+/// The main window as it is seen: menu, tool bar, tree, work area, status bar.
+class VistaMDI_Form final : public QMainWindow, public Superficie {
+    Q_OBJECT
+public:
+    VistaMDI_Form();
+    ~VistaMDI_Form() override;
+    VistaMDI_Form(const VistaMDI_Form&) = delete;
+    VistaMDI_Form& operator=(const VistaMDI_Form&) = delete;
+
+    /// Shows a main window's logic; once, before anything else.
+    void collegaA(MDI_Form& logica);
+    /// The view of the window at hand; null for none.
+    VistaFinestra* vistaCorrente() const;
+
+    // Superficie; places are in twips, fifteen to a logical pixel.
+    Rettangolo albero() const override;
+    double larghezzaInterna() const override;
+    void colloca(Finestra& finestra, const Rettangolo& posto) override;
+    void nascondi(Finestra& finestra) override;
+    void vestiBarra(Finestra& finestra) override;
+    void mostraCornice() override;
+    void mostraAlbero(bool visibile) override;
+    void collocaAlbero(const Rettangolo& posto) override;
+    MetricheCornice metriche() const override;
+    Misura schermo() const override;
+    void mostraModale(Finestra& finestra) override;
+    void apriSopra(Finestra& finestra) override;
+    void chiudiSopra(Finestra& finestra) override;
+    void dimentica(Finestra& finestra) override;
+    void termina() override;
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
+
+private:
+    VistaFinestra* vista(Finestra& finestra);
+    void creaBarraStato();
+    void creaScorciatoie();
+    QWidget* paginaVuota();
+
+    MDI_Form* logica_ = nullptr;
+    QSplitter* divisore_ = nullptr;
+    VistaAlbero* albero_ = nullptr;
+    QWidget* area_ = nullptr;
+    QStackedLayout* pila_ = nullptr;
+    QWidget* vuota_ = nullptr;
+    std::map<const Finestra*, QPointer<VistaFinestra>> viste_;
+    std::map<const Finestra*, QPointer<QDialog>> sopra_;
+};
+
+}  // namespace kelvo::ui
