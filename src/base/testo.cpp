@@ -59,6 +59,17 @@ std::string utf8Valido(std::string_view testo) {
     return valido;
 }
 
+std::vector<std::string> caratteri(std::string_view testo) {
+    const std::string valido = utf8Valido(testo);
+    std::vector<std::string> trovati;
+    for (auto p = valido.begin(); p != valido.end();) {
+        const auto inizio = p;
+        utf8::next(p, valido.end());
+        trovati.emplace_back(inizio, p);
+    }
+    return trovati;
+}
+
 std::string_view rifila(std::string_view testo) {
     constexpr std::string_view bianchi = " \t";
     const auto inizio = testo.find_first_not_of(bianchi);

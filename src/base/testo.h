@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kelvo {
 
@@ -10,6 +11,8 @@ inline constexpr std::string_view fineRiga = "\r\n";
 
 /// Number of characters of a UTF-8 text; a byte that is no valid UTF-8 counts as one character.
 std::size_t lunghezza(std::string_view testo);
+/// The characters one by one; every wrong byte sequence as U+FFFD.
+std::vector<std::string> caratteri(std::string_view testo);
 /// The last `quanti` characters, or the whole text if it is shorter.
 std::string ultimiCaratteri(std::string_view testo, std::size_t quanti);
 /// The text less its last `quanti` characters; empty if it is shorter.

@@ -143,5 +143,11 @@ TEST(FineRiga, IsCarriageReturnAndLineFeed) {
     EXPECT_EQ(fineRiga, "\x0D\x0A");
 }
 
+TEST(Testo, CharactersComeOneByOne) {
+    EXPECT_EQ(caratteri("aè€"), (std::vector<std::string>{"a", "è", "€"}));
+    EXPECT_EQ(caratteri("a\xFF"), (std::vector<std::string>{"a", "\xEF\xBF\xBD"}));
+    EXPECT_TRUE(caratteri("").empty());
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -21,8 +21,8 @@ Finestra::Finestra(Contorno contorno, std::string nome, std::string didascalia)
       nome_(std::move(nome)),
       didascalia_(std::move(didascalia)) {}
 
-void Finestra::ordina(std::initializer_list<Controllo*> controlli) {
-    ordine_.assign(controlli);
+void Finestra::ordina(const std::vector<Controllo*>& controlli) {
+    ordine_ = controlli;
     for (Controllo* c : ordine_) {
         c->custode(this);
     }

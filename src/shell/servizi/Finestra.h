@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -69,7 +68,7 @@ public:
 
 protected:
     /// Declares the controls, in tab order; called once, by the constructor of the window.
-    void ordina(std::initializer_list<Controllo*> controlli);
+    void ordina(const std::vector<Controllo*>& controlli);
     Applicazione& app() { return contorno_.app; }
     const Applicazione& app() const { return contorno_.app; }
     Rotonda& rotonda() { return contorno_.app.theRotonda(); }

@@ -1,7 +1,5 @@
 #include "shell/servizi/tBox.h"
 
-#include <utf8.h>
-
 #include <algorithm>
 
 #include "base/date.h"
@@ -133,19 +131,15 @@ bool tBox::prende(const std::string& testo) const {
 
 std::string tBox::filtrato(std::string_view testo) const {
     std::string nuovo;
-    std::size_t caratteri = 0;
-    const std::string valido = utf8Valido(testo);
-    for (auto p = valido.begin(); p != valido.end();) {
-        const auto inizio = p;
-        utf8::next(p, valido.end());
-        std::string carattere(inizio, p);
+    std::size_t presi = 0;
+    for (std::string& carattere : caratteri(testo)) {
         if (regole_.numerico && carattere == ".") {
             carattere = ",";  // seen at once: the decimal comma is shown in its place
         }
         const bool ammesso = caratteriAmmessi.empty() || caratteriAmmessi.find(carattere) != std::string::npos;
-        if (ammesso && (lunghezzaMassima == 0 || caratteri < lunghezzaMassima)) {
+        if (ammesso && (lunghezzaMassima == 0 || presi < lunghezzaMassima)) {
             nuovo += carattere;
-            ++caratteri;
+            ++presi;
         }
     }
     return nuovo;
