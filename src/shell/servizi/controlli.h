@@ -195,6 +195,7 @@ public:
         std::string suggerimento;
         std::string icona;
         bool abilitato = true;
+        std::string nota = {};  ///< why the button is closed; empty where there is nothing to tell
         friend bool operator==(const Tasto&, const Tasto&) = default;
     };
     BarraStrumenti(std::string nome, std::vector<Tasto> tasti) : Controllo(std::move(nome)), tasti_(std::move(tasti)) {}
@@ -202,6 +203,8 @@ public:
     /// Fault 9 for a key that is not there.
     bool abilitato(std::string_view chiave) const;
     void abilita(std::string_view chiave, bool valore);
+    /// Tells why a button is closed. Fault 9 for a key that is not there.
+    void annota(std::string_view chiave, const std::string& nota);
     using Controllo::abilitato;
     std::function<void(const std::string&)> allaPressione;
 
