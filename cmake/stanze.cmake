@@ -7,6 +7,12 @@ function(kelvo_stanza stanza)
   string(REPLACE "/" "_" bersaglio "${stanza}")
   file(GLOB sorgenti CONFIGURE_DEPENDS
     ${CMAKE_SOURCE_DIR}/src/${stanza}/*.cpp ${CMAKE_SOURCE_DIR}/src/${stanza}/*.h)
+  if(stanza STREQUAL "ui")
+    # Its views stand in folders after the rooms of the windows that they show.
+    file(GLOB viste CONFIGURE_DEPENDS
+      ${CMAKE_SOURCE_DIR}/src/ui/*/*.cpp ${CMAKE_SOURCE_DIR}/src/ui/*/*.h)
+    list(APPEND sorgenti ${viste})
+  endif()
   add_library(kelvo_${bersaglio} STATIC ${sorgenti})
   add_library(kelvo::${bersaglio} ALIAS kelvo_${bersaglio})
 

@@ -71,11 +71,26 @@ CoefficientiVeicoli modCommonModule::leggiCoefficienti() const {
 }
 
 void modCommonModule::LeggiConfigurazione() {
-    configurazione_.PathErrore = leggi("FILE_LOG", "PathError");
-    configurazione_.LayoutPannello = leggiIntero("LAY_OUT", "CustomPanel");
-    configurazione_.TraceAbilitato = leggi("TRACE_ENABLED", "TraceEnabled") == "TRUE";
-    configurazione_.AvvioFilmato = leggiIntero("10_MOTIVI", "Avvia");
-    configurazione_.coefficienti(leggiCoefficienti());
+    LeggiConfigurazione([](const Guasto& guasto) { throw Guasto(guasto); });
+}
+
+void modCommonModule::LeggiConfigurazione(const std::function<void(const Guasto&)>& alGuasto) {
+    const auto passo = [&](const auto& leggiChiave) {
+        try {
+            leggiChiave();
+        } catch (const Guasto& guasto) {
+            alGuasto(guasto);
+        }
+    };
+    passo([&] { configurazione_.PathErrore = leggi("FILE_LOG", "PathError"); });
+    passo([&] { configurazione_.LayoutPannello = leggiIntero("LAY_OUT", "CustomPanel"); });
+    passo([&] { configurazione_.TraceAbilitato = leggi("TRACE_ENABLED", "TraceEnabled") == "TRUE"; });
+    passo([&] { LeggiAvvioFilmato(); });
+    CoefficientiVeicoli valori = configurazione_.coefficienti();
+    for (std::size_t i = 0; i < valori.size(); ++i) {
+        passo([&] { valori[i] = leggiSingolo(sezioneVeicoli, std::string{chiaviCoefficienti[i]}); });
+    }
+    configurazione_.coefficienti(valori);
 }
 
 void modCommonModule::ScriviCustomPanel(std::int16_t valore) {

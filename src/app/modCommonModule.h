@@ -7,6 +7,7 @@
 #include "app/Configurazione.h"
 #include "app/clsAmbiente.h"
 #include "app/servizi.h"
+#include "base/guasto.h"
 
 namespace kelvo {
 
@@ -26,6 +27,12 @@ public:
     /// Reads all settings from the configuration file: PathError, CustomPanel, TraceEnabled, Avvia, the seven
     /// coefficients. A missing key gives an empty text or 0; fault 13 for a text that is no number.
     void LeggiConfigurazione();
+    /// The same, key by key: a fault is told to `alGuasto` and its setting keeps what it held.
+    void LeggiConfigurazione(const std::function<void(const Guasto&)>& alGuasto);
+    /// Reads the tree layout, OPZ_EXPLORER. Fault 13 for a text that is no number.
+    void LeggiOpzExplorer() { configurazione_.OpzExplorer = leggiIntero("OPZ_EXPLORER", "Rami"); }
+    /// Reads the setting of the introduction film. Fault 13 for a text that is no number.
+    void LeggiAvvioFilmato() { configurazione_.AvvioFilmato = leggiIntero("10_MOTIVI", "Avvia"); }
 
     // Each writer writes the value, reads it straight back and keeps the value read, so that memory follows the file
     // even when the write failed.

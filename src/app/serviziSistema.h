@@ -94,6 +94,19 @@ public:
     virtual void scriviSeparatori(const std::string& decimale, const std::string& migliaia) = 0;
 };
 
+/// Calls back at regular times, between the user's gestures.
+class Cronometro {
+public:
+    Cronometro() = default;
+    Cronometro(const Cronometro&) = delete;
+    Cronometro& operator=(const Cronometro&) = delete;
+    virtual ~Cronometro() = default;
+
+    /// Calls `cosa` every so many milliseconds until `ferma`; replaces what ran before.
+    virtual void ogni(int millisecondi, const std::function<void()>& cosa) = 0;
+    virtual void ferma() = 0;
+};
+
 /// Waiting and the events that wait meanwhile.
 class Attesa {
 public:

@@ -31,6 +31,11 @@ public:
     void PreparaIterazioni(std::int16_t ultimo);
     /// Record `indice`, from 1; all 0 where none was written. Fault 9 below 1.
     Iterazione GetIterazione(std::int16_t indice) const;
+    /// Discards the records and nothing else.
+    void ScartaIterazioni() {
+        record_.clear();
+        segnaDato();
+    }
     /// Highest number of a record written since the records were last discarded.
     std::int16_t IterazioniScritte() const { return static_cast<std::int16_t>(record_.size()); }
 

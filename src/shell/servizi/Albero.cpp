@@ -17,7 +17,7 @@ void Albero::aggiungi(const std::string& padre, const std::string& chiave, const
         throw Guasto(NumeroGuasto::chiaveGiaAssociata, "nodo '" + chiave + "'");
     }
     (padre.empty() ? radici_ : trova(padre).figli).push_back(chiave);
-    nodi_.emplace(chiave, Nodo{chiave, testo, immagine, padre, espanso, colori::nero, {}});
+    nodi_.emplace(chiave, Nodo{chiave, testo, immagine, padre, espanso, colori::nero, {}, {}});
     segna();
 }
 
@@ -52,6 +52,11 @@ void Albero::testo(std::string_view chiave, const std::string& valore) {
 
 void Albero::colore(std::string_view chiave, Colore valore) {
     trova(chiave).ForeColor = valore;
+    segna();
+}
+
+void Albero::annota(std::string_view chiave, const std::string& nota) {
+    trova(chiave).nota = nota;
     segna();
 }
 

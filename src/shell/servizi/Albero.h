@@ -21,6 +21,7 @@ public:
         bool espanso = false;
         Colore ForeColor;
         std::vector<std::string> figli;  ///< keys, in order
+        std::string nota;                ///< why the node is closed; empty where there is nothing to tell
     };
     explicit Albero(std::string nome) : Controllo(std::move(nome)) {}
 
@@ -38,6 +39,7 @@ public:
 
     void testo(std::string_view chiave, const std::string& valore);
     void colore(std::string_view chiave, Colore valore);
+    void annota(std::string_view chiave, const std::string& nota);
     void espandi(std::string_view chiave, bool valore);
 
     /// Key of the selected node; empty for none.

@@ -28,6 +28,11 @@ void MenuChiavi::aggiungiMenu(const std::string& chiave, const std::string& test
     segna();
 }
 
+void MenuChiavi::mnemonico(std::string_view chiave, const std::string& lettera) {
+    const_cast<Voce&>(voce(chiave)).mnemonico = lettera;
+    segna();
+}
+
 void MenuChiavi::svuota(std::string_view menu) {
     // A child stands behind its parent, so one pass finds all that hangs on the menu.
     std::set<std::string, std::less<>> via{std::string{menu}};
@@ -60,6 +65,14 @@ void MenuChiavi::abilita(std::string_view chiave, bool valore) {
         }
     }
     if (mutata) {
+        segna();
+    }
+}
+
+void MenuChiavi::annota(std::string_view chiave, const std::string& nota) {
+    const auto trovata = std::find_if(voci_.begin(), voci_.end(), [&](const Voce& v) { return v.chiave == chiave; });
+    if (trovata != voci_.end() && trovata->nota != nota) {
+        trovata->nota = nota;
         segna();
     }
 }

@@ -22,18 +22,24 @@ public:
         bool abilitata = true;
         bool spuntata = false;
         std::string scorciatoia;
+        std::string mnemonico;  ///< the letter of the caption that is underlined; empty for none
+        std::string nota;       ///< why the entry is closed; empty where there is nothing to tell
         friend bool operator==(const Voce&, const Voce&) = default;
     };
     explicit MenuChiavi(std::string nome) : Controllo(std::move(nome)) {}
 
     /// Adds a top-level menu.
     void aggiungiMenu(const std::string& chiave, const std::string& testo);
+    /// Underlines a letter of a caption. Fault 9 for a key that is not there.
+    void mnemonico(std::string_view chiave, const std::string& lettera);
     /// Removes all entries of a top-level menu.
     void svuota(std::string_view menu);
     /// Appends an entry; answers its key. Fault 9 for a parent that is not there.
     std::string aggiungi(Voce voce);
     /// Sets the enabled flag; a key that is not there is passed over, as entries come and go with the layout.
     void abilita(std::string_view chiave, bool valore);
+    /// Tells why an entry is closed; a key that is not there is passed over.
+    void annota(std::string_view chiave, const std::string& nota);
     bool contiene(std::string_view chiave) const { return trova(chiave) != nullptr; }
     /// Fault 9 for a key that is not there.
     const Voce& voce(std::string_view chiave) const;

@@ -38,6 +38,10 @@ void BarraStrumenti::abilita(std::string_view chiave, bool valore) {
     cambia(cerca(chiave)->abilitato, valore);
 }
 
+void BarraStrumenti::annota(std::string_view chiave, const std::string& nota) {
+    cambia(cerca(chiave)->nota, nota);
+}
+
 void BarraStrumenti::premi(std::string_view chiave) {
     const auto tasto = cerca(chiave);
     if (raggiungibile() && tasto->abilitato && allaPressione) {

@@ -198,6 +198,7 @@ public:
         std::string suggerimento;
         std::string icona;
         bool abilitato = true;
+        std::string nota = {};  ///< why the button is closed; empty where there is nothing to tell
         friend bool operator==(const Tasto&, const Tasto&) = default;
     };
     BarraStrumenti(std::string nome, std::vector<Tasto> tasti) : Controllo(std::move(nome)), tasti_(std::move(tasti)) {}
@@ -207,6 +208,8 @@ public:
     /// The same: a literal would otherwise be taken for a flag.
     bool abilitato(const char* chiave) { return abilitato(std::string_view{chiave}); }
     void abilita(std::string_view chiave, bool valore);
+    /// Tells why a button is closed. Fault 9 for a key that is not there.
+    void annota(std::string_view chiave, const std::string& nota);
     using Controllo::abilitato;
     std::function<void(const std::string&)> allaPressione;
 

@@ -1,0 +1,185 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/Applicazione.h"
+#include "app/cornice.h"
+#include "app/serviziSistema.h"
+#include "shell/FabbricaFinestre.h"
+#include "shell/ProgettiRecenti.h"
+#include "shell/Recupero.h"
+#include "shell/frmTreeView.h"
+#include "shell/servizi/MenuChiavi.h"
+#include "shell/servizi/controlli.h"
+#include "shell/servizi/modGestioneFinestre.h"
+#include "shell/superficie.h"
+
+namespace kelvo {
+
+/// The main window: menu, tool bar, tree, work area and status bar; life of the project.
+class MDI_Form final : public Cornice {
+public:
+    /// What the main window is handed from outside.
+    struct Servizi {
+        Superficie& superficie;
+        DialogoFile& dialogo;
+        ApriDocumenti& documenti;
+        ImpostazioniUtente& impostazioni;
+        Cronometro& cronometro;
+        std::string cartellaRecupero;  ///< folder of the recovery copies, the user's own
+    };
+    MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servizi);
+
+    MenuChiavi ctlMenu{"ctlMenu"};
+    BarraStrumenti ctlToolbar;
+    BarraStato ctlStatusBar{"ctlStatusBar"};
+    Etichetta didascalia{"MDI_Form"};  ///< the caption as it is shown, with the mark of unsaved changes
+    Colore BackColor;
+
+    FabbricaFinestre finestre;
+    /// The link to the CAD program; empty while there is none. Its argument is false after a failure.
+    std::function<void(bool&)> LinkKELVOCAD;
+    /// Runs when the main window unloads.
+    std::function<void()> alloScarico;
+
+private:
+    /// The work area; a recovery copy is written whenever a window is left.
+    class Area final : public AreaLavoro {
+    public:
+        explicit Area(MDI_Form& cornice) : cornice_(cornice) {}
+        Rettangolo albero() const override;
+        double larghezzaInterna() const override;
+        void colloca(Finestra& finestra, const Rettangolo& posto) override;
+        void nascondi(Finestra& finestra) override;
+        void vestiBarra(Finestra& finestra) override;
+
+    private:
+        MDI_Form& cornice_;
+    };
+
+    Applicazione& app_;
+    StatoFinestre& stato_;
+    Servizi servizi_;
+    Area area_;
+
+public:
+    frmTreeView albero;
+    modGestioneFinestre gestione;
+    ProgettiRecenti recenti;
+    Recupero recupero;
+
+    /// First build: colours, texts, the minimal menu.
+    void Load();
+    /// The frame came to the front.
+    void inPrimoPiano();
+    Superficie& superficie() { return servizi_.superficie; }
+    Contorno contorno() { return {app_, stato_, *this, albero}; }
+
+    // Menu and tool bar.
+    void Handle_Menu();
+    void Handle_Menu_normale();
+    void Handle_Menu_OPZ_raggruppa_tree();
+    /// A menu entry was chosen.
+    void Menu_Click(const std::string& chiave);
+    /// A button of the tool bar was pressed.
+    void Toolbar_Click(const std::string& chiave);
+    /// Runs the entry or button of a shortcut ("Ctrl+Shift+S"); false if it belongs to none or that is disabled.
+    bool scorciatoia(std::string_view tasti);
+    /// Stores the project's state and sets the flags that follow it.
+    void gestioneToolbar(StatoProgetto stato);
+    /// Applies all flags again: the project's state, grey nodes, what does not stand yet.
+    void riapplica();
+    /// The enabling rule of each leg while the geometric optimisation is on.
+    void abilitaOttimizzazione();
+
+    // Options.
+    void SetUpOpzioni() override;
+    std::int16_t TipoAnalisi() const { return tipoAnalisi_; }
+    std::int16_t TipoFlusso() const { return tipoFlusso_; }
+    /// Name of the traffic window chosen; empty for none.
+    std::string_view finestraTraffico() const { return finestraTraffico_; }
+    std::string_view finestraComposizione() const { return finestraComposizione_; }
+
+    // Life of the project.
+    void InitGraphics();
+    void NewRotonda();
+    void OpenRotonda();
+    void LoadRotonda(const std::string& percorso);
+    void SaveRotonda(bool& esito);
+    void CloseRotonda();
+    std::string NomeFileProposto() const;
+    /// A file was dropped on the window; true if it was opened.
+    bool rilasciato(const std::string& percorso);
+    /// Offers the recovery copy, if one stands there; true if it was opened.
+    bool offriRecupero();
+    /// Writes a recovery copy if there are unsaved changes.
+    void copiaDiRecupero();
+    bool modificato() const;
+    /// Shows or takes away the mark of unsaved changes.
+    void aggiornaSegno();
+
+    // Exit.
+    /// Exit step of menu and tool bar.
+    void esci();
+    /// The system box of the frame was pressed.
+    void chiudiCornice();
+    /// Asks; false stops the unload.
+    bool QueryUnload();
+    void Unload();
+    bool scaricata() const { return scaricata_; }
+
+    // Windows.
+    /// Leaves the field in focus; false if it refused.
+    bool lasciaCampo();
+    /// Shows the window of a name; an empty name does nothing and answers true.
+    bool mostraFinestra(std::string_view nome);
+    /// Checks a window and writes its data to the project; false if a check refused.
+    bool scriviFinestra(Finestra& finestra);
+
+    // Cornice
+    std::string titolo() const override { return titolo_; }
+    void titolo(const std::string& testo) override;
+    void testoNodi(const std::string& chiaveRamo, const std::string& testo) override;
+    void LoadTreeView() override { albero.LoadTreeView(); }
+    void avviso(const std::string& testo) override { ctlStatusBar.avviso(testo); }
+
+private:
+    struct Comando;
+    static const std::vector<Comando>& comandi();
+    void costruisciMenu(bool perTipo);
+    void aggiungiVociProprie();
+    void aggiornaRecenti();
+    void applicaStato();
+    void applicaAlbero();
+    void applicaMancanti();
+    void apriDocumento(std::string_view daProgramma);
+    void mostraInformazioni();
+    void apriRecente(const std::string& chiave);
+
+    std::string titoloProgetto() const;
+    void fissaProgetto(bool salvato);
+    void distruggiFinestre();
+    bool carica(const std::string& percorso);
+    void progettoCaricato(const std::string& percorso);
+    void salvaFiglia();
+    std::optional<std::string> chiediPercorso();
+    void scriviNomeFile(const std::string& nome);
+    void chiudiProgetto();
+    bool chiediSalvataggio(const char* domanda, bool& rifiutato);
+    void mostra(const std::string& testo);
+
+    std::string titolo_;
+    std::optional<std::uint64_t> revisioneSalvata_;
+    std::int16_t tipoAnalisi_ = 0;
+    std::int16_t tipoFlusso_ = 0;
+    std::string_view finestraTraffico_;
+    std::string_view finestraComposizione_ = "frmComposizioneTraffico";
+    bool scaricata_ = false;
+};
+
+}  // namespace kelvo

@@ -1,0 +1,274 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+
+#include "app/percorsi.h"
+#include "shell/MDI_Form.h"
+#include "shell/barraPrincipale.h"
+#include "shell/finestrePerChiave.h"
+#include "shell/gestore.h"
+#include "shell/menuPrincipale.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr const char* menuRecenti = "mnuXRecenti";
+constexpr std::string_view radiceRecente = "mnuXRecente";
+constexpr std::string_view proceduraCAD = "LinkKELVOCAD";
+
+bool inizia(const std::string& chiave, std::string_view radice) {
+    return chiave.size() > radice.size() && chiave.compare(0, radice.size(), radice) == 0;
+}
+
+}  // namespace
+
+/// A key of the menu and what it runs.
+struct MDI_Form::Comando {
+    std::string_view chiave;
+    std::function<void(MDI_Form&)> azione;
+};
+
+const std::vector<MDI_Form::Comando>& MDI_Form::comandi() {
+    static const std::vector<Comando> tavola{
+        {"mnuNuovo", [](MDI_Form& f) { f.NewRotonda(); }},
+        {"mnuApri", [](MDI_Form& f) { f.OpenRotonda(); }},
+        {"mnuSalva",
+         [](MDI_Form& f) {
+             bool esito = true;
+             f.SaveRotonda(esito);
+         }},
+        {"mnuChiudi", [](MDI_Form& f) { f.CloseRotonda(); }},
+        {"mnuEsci", [](MDI_Form& f) { f.esci(); }},
+        {"mnuCompilaRelazione", [](MDI_Form& f) { f.mostraFinestra("frmOPZrelazione"); }},
+        {"mnuGuidaInLinea", [](MDI_Form& f) { f.apriDocumento("\\UserGuide\\UserGuide.pdf"); }},
+        {"mnuHome", [](MDI_Form& f) { f.apriDocumento("\\Support\\Vaq in rete.htm"); }},
+        {"mnuAltriProdotti", [](MDI_Form& f) { f.apriDocumento("\\Support\\Vaq Products.htm"); }},
+        {"mnuKelvoCAD2",
+         [](MDI_Form& f) {
+             bool esito = true;
+             if (f.LinkKELVOCAD) {
+                 f.LinkKELVOCAD(esito);
+             }
+         }},
+        {"mnuInfoSulProgramma", [](MDI_Form& f) { f.mostraInformazioni(); }},
+    };
+    return tavola;
+}
+
+void MDI_Form::Menu_Click(const std::string& chiave) {
+    gestisci(app_, "MDI_Form:Menu_Click()", [&] {
+        if (chiave.rfind("mnu", 0) != 0) {
+            albero.UserClick(chiave);
+            return;
+        }
+        if (!lasciaCampo()) {
+            return;
+        }
+        if (inizia(chiave, radiceRecente)) {
+            apriRecente(chiave);
+            return;
+        }
+        const auto& tavola = comandi();
+        const auto comando =
+            std::find_if(tavola.begin(), tavola.end(), [&](const Comando& c) { return c.chiave == chiave; });
+        if (comando != tavola.end()) {
+            comando->azione(*this);
+        }
+    });
+    aggiornaSegno();
+}
+
+void MDI_Form::Toolbar_Click(const std::string& chiave) {
+    gestisci(app_, "MDI_Form:Toolbar_Click()", [&] {
+        const RigaBarra& riga = rigaBarra(chiave);
+        switch (riga.azione) {
+            case AzioneTasto::comando:
+                Menu_Click(std::string{riga.argomento});
+                break;
+            case AzioneTasto::chiave:
+                albero.UserClick(std::string{riga.argomento});
+                break;
+            case AzioneTasto::finestra:
+                if (lasciaCampo()) {
+                    mostraFinestra(riga.argomento);
+                }
+                break;
+            case AzioneTasto::procedura:
+                Menu_Click("mnuKelvoCAD2");
+                break;
+        }
+    });
+    aggiornaSegno();
+}
+
+bool MDI_Form::scorciatoia(std::string_view tasti) {
+    std::string_view chiave;
+    for (const ScorciatoiaAggiunta& aggiunta : scorciatoieAggiunte) {
+        if (aggiunta.tasti == tasti) {
+            chiave = aggiunta.chiave;
+        }
+    }
+    for (const MenuChiavi::Voce& voce : ctlMenu.voci()) {
+        const bool sua = chiave.empty() ? voce.scorciatoia == tasti : voce.chiave == chiave;
+        if (!sua || tasti.empty()) {
+            continue;
+        }
+        if (!voce.abilitata) {
+            return false;
+        }
+        const std::string scelta = voce.chiave;
+        ctlMenu.premi(scelta);
+        return true;
+    }
+    if (tasti == "F1") {
+        ctlToolbar.premi("Help");  // before any project the menu has no guide
+        return true;
+    }
+    return false;
+}
+
+void MDI_Form::Handle_Menu() {
+    gestisci(app_, "MDI_Form:Handle_Menu()", [&] {
+        app_.comune.LeggiOpzExplorer();
+        if (app_.configurazione.OpzExplorer != 0) {
+            Handle_Menu_normale();
+        } else {
+            Handle_Menu_OPZ_raggruppa_tree();
+        }
+    });
+}
+
+void MDI_Form::Handle_Menu_normale() {
+    gestisci(app_, "MDI_Form:Handle_Menu_normale()", [&] { costruisciMenu(true); });
+}
+
+void MDI_Form::Handle_Menu_OPZ_raggruppa_tree() {
+    gestisci(app_, "MDI_Form:Handle_Menu_OPZ_raggruppa_tree()", [&] { costruisciMenu(false); });
+}
+
+void MDI_Form::costruisciMenu(bool perTipo) {
+    for (const std::string_view menu : menuCostruzione) {
+        ctlMenu.svuota(menu);
+    }
+    const Rotonda& rotonda = app_.theRotonda();
+    aggiungiRighe(ctlMenu, righeFile(), rotonda);
+    aggiungiRighe(ctlMenu, perTipo ? righePerTipo() : righePerRamo(), rotonda);
+    aggiungiRighe(ctlMenu, righeCoda(), rotonda);
+    aggiungiVociProprie();
+    riapplica();
+}
+
+void MDI_Form::aggiungiVociProprie() {
+    MenuChiavi::Voce linea;
+    linea.padre = "mnuFile";
+    linea.testo = "-";
+    linea.chiave = "mnuXSeparatoreRecenti";
+    ctlMenu.aggiungi(linea);
+    MenuChiavi::Voce sottomenu;
+    sottomenu.padre = "mnuFile";
+    sottomenu.testo = "Progetti recenti";
+    sottomenu.chiave = menuRecenti;
+    sottomenu.mnemonico = "P";
+    ctlMenu.aggiungi(sottomenu);
+    aggiornaRecenti();
+}
+
+void MDI_Form::aggiornaRecenti() {
+    ctlMenu.svuota(menuRecenti);
+    for (std::size_t i = 0; i < recenti.elenco().size(); ++i) {
+        MenuChiavi::Voce voce;
+        voce.padre = menuRecenti;
+        voce.testo = fmt::format("{} {}", i + 1, recenti.elenco()[i]);
+        voce.chiave = fmt::format("{}{}", radiceRecente, i + 1);
+        voce.mnemonico = fmt::format("{}", i + 1);
+        ctlMenu.aggiungi(voce);
+    }
+    ctlMenu.abilita(menuRecenti, ctlToolbar.abilitato(std::string_view{"Apri"}) && !recenti.elenco().empty());
+}
+
+void MDI_Form::apriRecente(const std::string& chiave) {
+    const auto posizione = static_cast<std::size_t>(chiave.back() - '1');
+    if (posizione >= recenti.elenco().size()) {
+        return;
+    }
+    const std::string percorso = recenti.elenco()[posizione];
+    if (carica(percorso)) {
+        progettoCaricato(percorso);
+    } else {
+        recenti.togli(percorso);
+        aggiornaRecenti();
+    }
+}
+
+void MDI_Form::apriDocumento(std::string_view daProgramma) {
+    const std::string percorso = percorsoInstallazione(app_.theAmbiente, daProgramma);
+    if (!servizi_.documenti.apri("\"" + percorso + "\"")) {
+        avviso(fmt::format("Impossibile aprire {}", percorso));
+    }
+}
+
+void MDI_Form::mostraInformazioni() {
+    superficie().mostraModale(finestre.finestra("frmINFO", contorno()));
+    finestre.distruggi("frmINFO");
+}
+
+void MDI_Form::gestioneToolbar(StatoProgetto stato) {
+    gestisci(app_, "MDI_Form:GestioneToolbar()", [&] {
+        stato_.statoProgetto = stato;
+        riapplica();
+    });
+}
+
+void MDI_Form::riapplica() {
+    applicaStato();
+    albero.segnaMancanti();
+    applicaAlbero();
+    applicaMancanti();
+}
+
+void MDI_Form::applicaStato() {
+    const bool senza = stato_.statoProgetto == StatoProgetto::NessunProgetto;
+    for (const StatoVoce& voce : statiTasti) {
+        ctlToolbar.abilita(voce.chiave, senza ? voce.senzaProgetto : voce.conProgetto);
+    }
+    for (const StatoVoce& voce : statiMenu) {
+        ctlMenu.abilita(voce.chiave, senza ? voce.senzaProgetto : voce.conProgetto);
+    }
+    ctlMenu.abilita(menuRecenti, senza && !recenti.elenco().empty());
+}
+
+void MDI_Form::applicaAlbero() {
+    // A menu entry is open or closed together with the node of its key.
+    const std::vector<MenuChiavi::Voce> voci = ctlMenu.voci();
+    for (const MenuChiavi::Voce& voce : voci) {
+        if (albero.ctlTree.contiene(voce.chiave)) {
+            const Albero::Nodo& nodo = albero.ctlTree.nodo(voce.chiave);
+            ctlMenu.abilita(voce.chiave, nodo.ForeColor == frmTreeView::coloreAbilitato);
+            ctlMenu.annota(voce.chiave, nodo.nota);
+        }
+    }
+}
+
+void MDI_Form::applicaMancanti() {
+    const std::string nota{notaNonAncora};
+    for (const RigaBarra& riga : barraPrincipale) {
+        const std::string_view nome =
+            riga.azione == AzioneTasto::chiave ? albero.finestra(riga.argomento) : riga.argomento;
+        const bool finestra = riga.azione == AzioneTasto::finestra || riga.azione == AzioneTasto::chiave;
+        const bool manca = finestra ? !finestre.conosce(nome) : nome == proceduraCAD && !LinkKELVOCAD;
+        ctlToolbar.annota(riga.chiave, manca ? nota : std::string{});
+        if (manca) {
+            ctlToolbar.abilita(riga.chiave, false);
+        }
+    }
+    const std::array mancanti{std::pair{"mnuCompilaRelazione", !finestre.conosce("frmOPZrelazione")},
+                              std::pair{"mnuKelvoCAD2", !LinkKELVOCAD}};
+    for (const auto& [chiave, manca] : mancanti) {
+        ctlMenu.abilita(chiave, !manca);
+        ctlMenu.annota(chiave, manca ? nota : std::string{});
+    }
+}
+
+}  // namespace kelvo

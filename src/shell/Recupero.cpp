@@ -1,0 +1,108 @@
+#include "shell/Recupero.h"
+
+#include <filesystem>
+#include <vector>
+
+#include "base/file.h"
+#include "base/guasto.h"
+
+namespace kelvo {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* vietati = "\\/:*?\"<>|";
+
+fs::path percorsoDi(const std::string& testo) {
+    return fs::path(std::u8string(testo.begin(), testo.end()));
+}
+
+std::string testoDi(const fs::path& percorso) {
+    const std::u8string u8 = percorso.u8string();
+    return {u8.begin(), u8.end()};
+}
+
+/// The copies in a folder.
+std::vector<fs::path> copie(const std::string& cartella) {
+    std::vector<fs::path> trovate;
+    std::error_code errore;
+    for (fs::directory_iterator voce(percorsoDi(cartella), errore), fine; !errore && voce != fine;
+         voce.increment(errore)) {
+        std::error_code ignorato;
+        if (voce->path().extension() == ".klv" && voce->is_regular_file(ignorato)) {
+            trovate.push_back(voce->path());
+        }
+    }
+    return trovate;
+}
+
+std::string nomeAmmesso(std::string nome) {
+    for (std::size_t i = nome.find_first_of(vietati); i != std::string::npos; i = nome.find_first_of(vietati, i)) {
+        nome[i] = '_';
+    }
+    if (!nome.empty() && nome.front() == '.') {
+        nome.front() = '_';
+    }
+    return nome.empty() ? Recupero::senzaNome : nome;
+}
+
+}  // namespace
+
+std::string Recupero::percorso() const {
+    return testoDi(percorsoDi(cartella_) / percorsoDi(nomeAmmesso(app_.theRotonda().NomeFile()) + ".klv"));
+}
+
+std::string Recupero::scrivi() {
+    const std::uint64_t revisione = app_.theRotonda().revisione().tutto;
+    if (revisione_ == revisione) {
+        return {};
+    }
+    try {
+        std::error_code errore;
+        fs::create_directories(percorsoDi(cartella_), errore);
+        const std::string meta = percorso();
+        const std::string esito = scriviFileSicuro(app_.file, meta, app_.theRotonda().TestoFile());
+        if (esito.empty()) {
+            revisione_ = revisione;
+            eliminaAltre(meta);
+        }
+        return esito;
+    } catch (const Guasto& guasto) {
+        return guasto.descrizione();
+    }
+}
+
+void Recupero::eliminaAltre(const std::string& tenuta) {
+    for (const fs::path& copia : copie(cartella_)) {
+        if (testoDi(copia) != tenuta) {
+            app_.file.elimina(testoDi(copia));
+        }
+    }
+}
+
+void Recupero::elimina() {
+    revisione_.reset();
+    eliminaAltre({});
+}
+
+std::optional<std::string> Recupero::trovata() const {
+    std::optional<std::string> ultima;
+    fs::file_time_type quando;
+    for (const fs::path& copia : copie(cartella_)) {
+        std::error_code errore;
+        const fs::file_time_type scritta = fs::last_write_time(copia, errore);
+        if (!errore && (!ultima || scritta > quando)) {
+            ultima = testoDi(copia);
+            quando = scritta;
+        }
+    }
+    return ultima;
+}
+
+bool Recupero::appartiene(const std::string& percorso) const {
+    std::error_code errore;
+    return fs::equivalent(percorsoDi(percorso).parent_path(), percorsoDi(cartella_), errore);
+}
+
+}  // namespace kelvo

@@ -1,0 +1,31 @@
+#include "shell/barraPrincipale.h"
+
+#include <algorithm>
+#include <string>
+
+#include "base/guasto.h"
+
+namespace kelvo {
+
+std::vector<BarraStrumenti::Tasto> tastiBarraPrincipale() {
+    std::vector<BarraStrumenti::Tasto> tasti;
+    for (const RigaBarra& riga : barraPrincipale) {
+        tasti.push_back({.chiave = std::string{riga.chiave},
+                         .testo = std::string{riga.descrizione},
+                         .suggerimento = std::string{riga.suggerimento},
+                         .icona = std::string{riga.icona},
+                         .abilitato = true});
+    }
+    return tasti;
+}
+
+const RigaBarra& rigaBarra(std::string_view chiave) {
+    const auto* const trovata = std::find_if(barraPrincipale.begin(), barraPrincipale.end(),
+                                             [&](const RigaBarra& riga) { return riga.chiave == chiave; });
+    if (trovata == barraPrincipale.end()) {
+        throw Guasto(NumeroGuasto::indiceFuoriIntervallo, "tasto '" + std::string{chiave} + "'");
+    }
+    return *trovata;
+}
+
+}  // namespace kelvo
