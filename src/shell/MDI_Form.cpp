@@ -29,6 +29,10 @@ double MDI_Form::Area::larghezzaInterna() const {
     return cornice_.superficie().larghezzaInterna();
 }
 
+void MDI_Form::Area::mostra(Finestra& finestra) {
+    cornice_.superficie().mostra(finestra);
+}
+
 void MDI_Form::Area::colloca(Finestra& finestra, const Rettangolo& posto) {
     cornice_.superficie().colloca(finestra, posto);
 }

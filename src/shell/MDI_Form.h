@@ -54,6 +54,7 @@ private:
         explicit Area(MDI_Form& cornice) : cornice_(cornice) {}
         Rettangolo albero() const override;
         double larghezzaInterna() const override;
+        void mostra(Finestra& finestra) override;
         void colloca(Finestra& finestra, const Rettangolo& posto) override;
         void nascondi(Finestra& finestra) override;
         void vestiBarra(Finestra& finestra) override;

@@ -4,6 +4,8 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -15,6 +17,7 @@
 #include <QTimeEdit>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include "ui/icone.h"
 #include "ui/legame.h"
@@ -26,6 +29,7 @@ namespace {
 
 constexpr double corpo = 10.0;
 const QString formatoOra = QStringLiteral("HH:mm");
+const QString formatoGiorno = QStringLiteral("dd/MM/yyyy");
 
 /// Shows the failed state, which the style sheet paints.
 void mostraFallito(QWidget& widget, bool fallito) {
@@ -105,24 +109,29 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     return elenco;
 }
 
+/// A picker of a time of day, or of a day.
 QWidget* collegaOra(tBox& campo, QWidget* genitore) {
-    auto* ora = new QTimeEdit(genitore);
+    QDateTimeEdit* ora = campo.giorno ? new QDateEdit(genitore) : static_cast<QDateTimeEdit*>(new QTimeEdit(genitore));
+    const QString formato = campo.giorno ? formatoGiorno : formatoOra;
     preparaCampo(*ora);
-    ora->setDisplayFormat(formatoOra);
-    ora->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    ora->setDisplayFormat(formato);
+    ora->setCalendarPopup(campo.giorno);
     auto* legame = new Legame(campo, *ora);
     legame->allEscape = [&campo] { campo.annulla(); };
-    legame->mostra([&campo, ora] {
+    legame->mostra([&campo, ora, formato] {
         const QSignalBlocker zitto(ora);
-        const QTime letta = QTime::fromString(q(campo.testo()), formatoOra);
-        if (letta.isValid() && letta != ora->time()) {
-            ora->setTime(letta);
+        if (ora->text() != q(campo.testo())) {
+            if (campo.giorno) {
+                ora->setDate(QDate::fromString(q(campo.testo()), formato));
+            } else {
+                ora->setTime(QTime::fromString(q(campo.testo()), formato));
+            }
         }
         ora->setReadOnly(campo.solaLettura());
         mostraFallito(*ora, campo.fallito());
     });
-    QObject::connect(ora, &QTimeEdit::timeChanged, legame,
-                     [&campo](QTime valore) { campo.scrivi(s(valore.toString(formatoOra))); });
+    QObject::connect(ora, &QDateTimeEdit::dateTimeChanged, legame,
+                     [&campo, formato](const QDateTime& valore) { campo.scrivi(s(valore.toString(formato))); });
     return ora;
 }
 
@@ -247,6 +256,42 @@ QProgressBar* collega(BarraProgresso& barra, QWidget* genitore) {
     auto* legame = new Legame(barra, *avanzamento);
     legame->mostra([&barra, avanzamento] { avanzamento->setValue(barra.valore()); });
     return avanzamento;
+}
+
+QTreeWidget* collega(ElencoColonne& elenco, QWidget* genitore) {
+    auto* righe = new QTreeWidget(genitore);
+    righe->setRootIsDecorated(false);
+    righe->setUniformRowHeights(true);
+    righe->setFont(dati(corpo));
+    QStringList titoli;
+    for (const std::string& titolo : elenco.intestazioni()) {
+        titoli << q(titolo);
+    }
+    righe->setHeaderLabels(titoli);
+    auto* legame = new Legame(elenco, *righe);
+    legame->mostra([&elenco, righe] {
+        righe->clear();
+        for (const ElencoColonne::Riga& riga : elenco.righe()) {
+            QStringList celle;
+            for (const std::string& cella : riga.celle) {
+                celle << q(cella);
+            }
+            auto* voce = new QTreeWidgetItem(righe, celle);
+            voce->setData(0, Qt::UserRole, q(riga.chiave));
+            for (int c = 0; riga.evidente && c < righe->columnCount(); ++c) {
+                voce->setFont(c, forte(corpo));
+            }
+        }
+        for (int c = 0; c < righe->columnCount(); ++c) {
+            righe->resizeColumnToContents(c);
+        }
+    });
+    // Queued: what a row leads to hides the window that it stands in.
+    QObject::connect(
+        righe, &QTreeWidget::itemActivated, legame,
+        [&elenco](QTreeWidgetItem* voce) { elenco.attiva(s(voce->data(0, Qt::UserRole).toString())); },
+        Qt::QueuedConnection);
+    return righe;
 }
 
 QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto) {

@@ -3,6 +3,7 @@
 #include <QString>
 #include <string>
 
+#include "shell/servizi/ElencoColonne.h"
 #include "shell/servizi/controlli.h"
 #include "shell/servizi/tBox.h"
 
@@ -12,6 +13,7 @@ class QPlainTextEdit;
 class QProgressBar;
 class QSpinBox;
 class QToolBar;
+class QTreeWidget;
 class QWidget;
 
 /// One binder for each kind of control: makes the widget that shows it, hands the user's gestures to the control and
@@ -29,6 +31,7 @@ QAbstractButton* collega(Casella& casella, QWidget* genitore);
 QSpinBox* collega(Spin& spin, QWidget* genitore);
 QLabel* collega(Immagine& immagine, QWidget* genitore);
 QProgressBar* collega(BarraProgresso& barra, QWidget* genitore);
+QTreeWidget* collega(ElencoColonne& elenco, QWidget* genitore);
 /// `lato` is the size of its icons; with `conTesto` the word stands beside the icon.
 QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto);
 

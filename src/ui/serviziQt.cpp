@@ -192,4 +192,19 @@ void AttesaQt::eventi() {
     QCoreApplication::processEvents();
 }
 
+CronometroQt::CronometroQt() : tempo_(std::make_unique<QTimer>()) {
+    QObject::connect(tempo_.get(), &QTimer::timeout, tempo_.get(), [this] { cosa_(); });
+}
+
+CronometroQt::~CronometroQt() = default;
+
+void CronometroQt::ogni(int millisecondi, const std::function<void()>& cosa) {
+    cosa_ = cosa;
+    tempo_->start(millisecondi);
+}
+
+void CronometroQt::ferma() {
+    tempo_->stop();
+}
+
 }  // namespace kelvo::ui

@@ -1,10 +1,12 @@
 #pragma once
 
-#include <QPointer>
-#include <QWidget>
+#include <functional>
+#include <memory>
 
 #include "app/servizi.h"
 #include "app/serviziSistema.h"
+
+class QTimer;
 
 /// The outside as the desktop offers it.
 namespace kelvo::ui {
@@ -44,6 +46,21 @@ class AttesaQt final : public Attesa {
 public:
     bool pausa(int millisecondi) override;
     void eventi() override;
+};
+
+/// Calls back from the event loop.
+class CronometroQt final : public Cronometro {
+public:
+    CronometroQt();
+    ~CronometroQt() override;
+    CronometroQt(const CronometroQt&) = delete;
+    CronometroQt& operator=(const CronometroQt&) = delete;
+    void ogni(int millisecondi, const std::function<void()>& cosa) override;
+    void ferma() override;
+
+private:
+    std::unique_ptr<QTimer> tempo_;
+    std::function<void()> cosa_;
 };
 
 }  // namespace kelvo::ui

@@ -61,7 +61,7 @@ void VistaAlbero::aggiungi(const std::string& chiave, QTreeWidgetItem* padre) {
     riga->setData(0, ruoloChiave, q(chiave));
     riga->setIcon(0, icona(disegnoDi(nodo.immagine), false));
     riga->setToolTip(0, q(nodo.nota));
-    const bool aperto = nodo.ForeColor == logica_.nodiDisabilitati.ColoreAbilitato;
+    const bool aperto = nodo.ForeColor == logica_.nodiDisabilitati.ColoreAbilitato();
     riga->setForeground(0, qcolore(aperto ? tinta::inchiostro : nodo.ForeColor));
     if (!aperto) {
         riga->setFlags(riga->flags() & ~Qt::ItemIsEnabled & ~Qt::ItemIsSelectable);

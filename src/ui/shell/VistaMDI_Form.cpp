@@ -198,12 +198,15 @@ double VistaMDI_Form::larghezzaInterna() const {
     return divisore_->width() * twip;
 }
 
-void VistaMDI_Form::colloca(Finestra& finestra, const Rettangolo& /*posto*/) {
-    // The work area is the room right of the tree: the splitter keeps it there when sizes change.
+void VistaMDI_Form::mostra(Finestra& finestra) {
     if (VistaFinestra* mostrata = vista(finestra)) {
         pila_->setCurrentWidget(mostrata);
         QTimer::singleShot(0, mostrata, &VistaFinestra::fuocoIniziale);
     }
+}
+
+void VistaMDI_Form::colloca(Finestra& /*finestra*/, const Rettangolo& /*posto*/) {
+    // The work area is the room right of the tree: the splitter keeps a window there when sizes change.
 }
 
 void VistaMDI_Form::nascondi(Finestra& finestra) {

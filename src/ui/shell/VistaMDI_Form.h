@@ -33,6 +33,7 @@ public:
     // Superficie; places are in twips, fifteen to a logical pixel.
     Rettangolo albero() const override;
     double larghezzaInterna() const override;
+    void mostra(Finestra& finestra) override;
     void colloca(Finestra& finestra, const Rettangolo& posto) override;
     void nascondi(Finestra& finestra) override;
     void vestiBarra(Finestra& finestra) override;

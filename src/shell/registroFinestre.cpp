@@ -1,0 +1,30 @@
+#include "shell/registroFinestre.h"
+
+#include <memory>
+
+#include "input/frmTempoModellazione.h"
+#include "shell/frmAnagraficaRotonda.h"
+#include "shell/frmCommittenteProfessionista.h"
+#include "shell/frmEmptyForm.h"
+#include "shell/frmInputNumeroRami.h"
+
+namespace kelvo {
+
+namespace {
+
+template <class F>
+std::unique_ptr<Finestra> crea(const Contorno& contorno) {
+    return std::make_unique<F>(contorno);
+}
+
+}  // namespace
+
+void registraFinestre(FabbricaFinestre& finestre) {
+    finestre.registra("frmEmptyForm", crea<frmEmptyForm>);
+    finestre.registra("frmInputNumeroRami", crea<frmInputNumeroRami>);
+    finestre.registra("frmAnagraficaRotonda", crea<frmAnagraficaRotonda>);
+    finestre.registra("frmCommittenteProfessionista", crea<frmCommittenteProfessionista>);
+    finestre.registra("frmTempoModellazione", crea<frmTempoModellazione>);
+}
+
+}  // namespace kelvo

@@ -1,0 +1,30 @@
+#include <QVBoxLayout>
+
+#include "input/frmTempoModellazione.h"
+#include "ui/legami.h"
+#include "ui/shell/viste.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+class Vista final : public VistaFinestra {
+public:
+    Vista(frmTempoModellazione& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+        auto* tempi = new Pannello(QStringLiteral("Finestra di modellazione"), corpo());
+        tempi->riga(f.lblTempoIniziale.testo(), collega(f.txtTempoIniziale, tempi), QStringLiteral("[ora]"));
+        tempi->riga(f.lblSegmentoTempo.testo(), collega(f.txtSegmentoTempo, tempi), QStringLiteral("[min]"),
+                    QStringLiteral("5 ÷ 30"));
+        tempi->riga(f.lblTempoFinale.testo(), collega(f.txtTempoFinale, tempi), QStringLiteral("[ora]"));
+        colonna()->addWidget(tempi);
+        chiudiDisposizione();
+    }
+};
+
+}  // namespace
+
+VistaFinestra* vista_frmTempoModellazione(Finestra& finestra, QWidget* genitore) {
+    return new Vista(dynamic_cast<frmTempoModellazione&>(finestra), genitore);
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,36 @@
+#include <QLabel>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "shell/frmEmptyForm.h"
+#include "ui/legami.h"
+#include "ui/shell/viste.h"
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+class Vista final : public VistaFinestra {
+public:
+    Vista(frmEmptyForm& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+        auto* titolo = collega(f.lblTitolo, corpo());
+        titolo->setFont(leggero(18.0));
+        titolo->setWordWrap(true);
+        colonna()->addWidget(titolo);
+        auto* guida = collega(f.lblGuida, corpo());
+        guida->setWordWrap(true);
+        colonna()->addWidget(guida);
+        colonna()->addWidget(collega(f.ctlPicture, corpo()));
+        destra()->addWidget(collega(f.ctlContenuto, corpo()), 1);
+        chiudiDisposizione();
+    }
+};
+
+}  // namespace
+
+VistaFinestra* vista_frmEmptyForm(Finestra& finestra, QWidget* genitore) {
+    return new Vista(dynamic_cast<frmEmptyForm&>(finestra), genitore);
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,54 @@
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include "shell/frmInputNumeroRami.h"
+#include "ui/legami.h"
+#include "ui/shell/viste.h"
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+class Vista final : public VistaFinestra {
+public:
+    Vista(frmInputNumeroRami& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+        auto* dati = new Pannello({}, corpo());
+        dati->riga(f.lblNumeroRami.testo(), collega(f.txtNumeroRami, dati));
+        dati->larga(collega(f.ctlPicture, dati));
+        auto* attenzione = collega(f.lblAttenzione, dati);
+        attenzione->setFont(forte(10.5));
+        dati->larga(attenzione);
+        auto* avvertenza = collega(f.lblAvvertenza, dati);
+        avvertenza->setWordWrap(true);
+        dati->larga(avvertenza);
+        colonna()->addWidget(dati);
+        auto* pulsanti = new QHBoxLayout;
+        pulsanti->addStretch(1);
+        auto* ok = qobject_cast<QPushButton*>(collega(f.cmdOk, corpo()));
+        ok->setDefault(true);
+        pulsanti->addWidget(ok);
+        pulsanti->addWidget(collega(f.cmdCancel, corpo()));
+        colonna()->addLayout(pulsanti);
+        chiudiDisposizione();
+        chiusura_ = f.chiusura().connect([this] { window()->close(); });
+    }
+    ~Vista() override { chiusura_.disconnect(); }
+    Vista(const Vista&) = delete;
+    Vista& operator=(const Vista&) = delete;
+
+private:
+    sigc::connection chiusura_;
+};
+
+}  // namespace
+
+VistaFinestra* vista_frmInputNumeroRami(Finestra& finestra, QWidget* genitore) {
+    return new Vista(dynamic_cast<frmInputNumeroRami&>(finestra), genitore);
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,38 @@
+#include "ui/shell/viste.h"
+
+#include <QString>
+#include <array>
+
+namespace kelvo::ui {
+
+namespace {
+
+using CreatoreVista = VistaFinestra* (*)(Finestra&, QWidget*);
+
+struct VoceVista {
+    std::string_view nome;
+    CreatoreVista crea;
+};
+
+constexpr std::array viste{
+    VoceVista{"frmAnagraficaRotonda", vista_frmAnagraficaRotonda},
+    VoceVista{"frmCommittenteProfessionista", vista_frmCommittenteProfessionista},
+    VoceVista{"frmEmptyForm", vista_frmEmptyForm},
+    VoceVista{"frmInputNumeroRami", vista_frmInputNumeroRami},
+    VoceVista{"frmINFO", vista_frmINFO},
+    VoceVista{"frmSplash", vista_frmSplash},
+    VoceVista{"frmTempoModellazione", vista_frmTempoModellazione},
+};
+
+}  // namespace
+
+VistaFinestra* creaVista(Finestra& finestra, QWidget* genitore) {
+    for (const VoceVista& voce : viste) {
+        if (voce.nome == finestra.nome()) {
+            return voce.crea(finestra, genitore);
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace kelvo::ui

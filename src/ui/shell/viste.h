@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ui/VistaFinestra.h"
+
+/// The views of the windows of the shell, one function a window.
+namespace kelvo::ui {
+
+VistaFinestra* vista_frmAnagraficaRotonda(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmCommittenteProfessionista(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmEmptyForm(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmInputNumeroRami(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmINFO(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmSplash(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmTempoModellazione(Finestra& finestra, QWidget* genitore);
+
+}  // namespace kelvo::ui
