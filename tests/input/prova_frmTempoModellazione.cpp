@@ -394,6 +394,7 @@ TEST_F(ProveTempo, TheBackupGrowsAndEndsWithTheProject) {
     EXPECT_EQ(backup().BackupComposizione.ultimoSegmento(), 6);
     EXPECT_EQ(backup().BackupComposizione.cella(1, 1, 4), 3);
     EXPECT_EQ(backup().BackupComposizione.cella(2, 1, 6), 4);
+    EXPECT_EQ(backup().curve.size(), 3U);  // of the last backup alone
     creaProgetto(app, 3);
     EXPECT_EQ(backup().BackupComposizione.rami(), 0);
 }

@@ -28,10 +28,6 @@ void Finestra::ordina(const std::vector<Controllo*>& controlli) {
     }
 }
 
-bool Finestra::contiene(const Controllo& controllo) const {
-    return std::find(ordine_.begin(), ordine_.end(), &controllo) != ordine_.end();
-}
-
 bool Finestra::convalida() {
     bool bene = true;
     inConvalida_ = true;

@@ -45,8 +45,6 @@ public:
     virtual void SaveData() {}
     /// Runs the checks of all fields, which only look; false if one refused.
     bool convalida();
-    /// True for a control of this window.
-    bool contiene(const Controllo& controllo) const;
 
     /// The control that has the focus; null for none.
     Controllo* fuoco() const { return fuoco_; }
