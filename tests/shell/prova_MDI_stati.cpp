@@ -1,0 +1,266 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "base/versione.h"
+#include "comune/fintiShell.h"
+#include "shell/barraPrincipale.h"
+#include "shell/servizi/pelle.h"
+
+namespace kelvo::prove::shell {
+namespace {
+
+bool acceso(ShellFinta& f, const std::string& tasto) {
+    return f.cornice.ctlToolbar.abilitato(std::string_view{tasto});
+}
+
+TEST(Carico, CaptionColourAndStatusBarAreSet) {
+    ShellFinta f;
+    EXPECT_EQ(f.cornice.titolo(), "KELVO 2014");
+    f.cornice.Load();
+    EXPECT_EQ(f.cornice.titolo(), "KELVO 2014");
+    EXPECT_EQ(f.cornice.didascalia.testo(), "KELVO 2014");
+    EXPECT_EQ(f.cornice.ctlStatusBar.testo(), "Kelvo " + std::string{versione()});
+    EXPECT_EQ(f.cornice.BackColor, (Colore{0, 114, 198}));
+    EXPECT_EQ(f.cornice.ctlToolbar.aspetto().sfondo, (Colore{0, 114, 198}));
+}
+
+TEST(Carico, TheBrushOfTheToolBarIsSetAgainInFront) {
+    ShellFinta f;
+    f.cornice.Load();
+    f.cornice.ctlToolbar.aspetto({});
+    f.cornice.inPrimoPiano();
+    EXPECT_EQ(f.cornice.ctlToolbar.aspetto().sfondo, (Colore{0, 114, 198}));
+}
+
+TEST(Barra, TheButtonsStandInOrderWithTheirTexts) {
+    ShellFinta f;
+    struct Atteso {
+        std::string chiave, testo, suggerimento, icona;
+    };
+    const std::vector<Atteso> attesi{{"Nuovo", "Nuova rotonda", "Nuovo progetto", "Nuovo"},
+                                     {"Apri", "Apri rotonda", "Apri progetto", "Apri"},
+                                     {"Salva", "Salva rotonda", "Salva progetto", "Salva"},
+                                     {"Chiudi", "Chiudi la rotonda", "Chiudi progetto", "Chiudi"},
+                                     {"Help", "Help", "Guida utente", "Help"},
+                                     {"Opzioni", "Opzioni", "Opzioni programma", "Opzioni"},
+                                     {"Analizzatore", "", "Analizzatore rotatoria", "Analizzatore"},
+                                     {"Dx", "", "Valutazione Corsia Preferenziale", "Dx"},
+                                     {"Check", "", "Check progetto rotatoria", "Check"},
+                                     {"Google", "", "", "terra"},
+                                     {"KelvoCAD", "KelvoCAD", "Avvia KelvoCAD", "KelvoCAD"},
+                                     {"Esci", "Esci", "Esci dal programma", "Esci"}};
+    const auto& tasti = f.cornice.ctlToolbar.tasti();
+    ASSERT_EQ(tasti.size(), attesi.size());
+    for (std::size_t i = 0; i < attesi.size(); ++i) {
+        EXPECT_EQ(tasti[i].chiave, attesi[i].chiave);
+        EXPECT_EQ(tasti[i].testo, attesi[i].testo);
+        EXPECT_EQ(tasti[i].suggerimento, attesi[i].suggerimento);
+        EXPECT_EQ(tasti[i].icona, attesi[i].icona);
+    }
+}
+
+TEST(Barra, TheToolButtonsShowTheirWindowAndLeaveTheSelection) {
+    ShellFinta f;
+    f.cornice.Load();
+    f.nuovo(3);
+    f.cornice.ctlToolbar.premi("Opzioni");
+    EXPECT_EQ(f.nomeCorrente(), "frmOpzioni");
+    EXPECT_EQ(f.cornice.albero.ctlTree.selezionato(), "keyOpzioni");
+    for (const auto& [tasto, finestra] : {std::pair{"Analizzatore", "frmConfronti"}, std::pair{"Dx", "frmDX"},
+                                          std::pair{"Check", "frmANALIZZATORE"}, std::pair{"Google", "frmGoogle"}}) {
+        f.cornice.ctlToolbar.premi(tasto);
+        EXPECT_EQ(f.nomeCorrente(), finestra);
+        EXPECT_EQ(f.cornice.albero.ctlTree.selezionato(), "keyOpzioni");
+        EXPECT_EQ(f.cornice.albero.nodoCorrente(), "keyOpzioni");
+    }
+    f.cornice.ctlToolbar.premi("KelvoCAD");
+    EXPECT_EQ(f.collegamentiCAD, 1);
+    f.cornice.ctlToolbar.premi("Help");
+    EXPECT_EQ(f.documenti.aperti.size(), 1U);
+    f.cornice.ctlToolbar.premi("Salva");
+    EXPECT_EQ(f.dialogo.richieste.size(), 1U);
+    f.messaggi.risposte = {Risposta::no};
+    f.cornice.ctlToolbar.premi("Chiudi");
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::NessunProgetto);
+    f.cornice.ctlToolbar.premi("Apri");
+    EXPECT_EQ(f.dialogo.richieste.size(), 2U);
+    f.cornice.ctlToolbar.premi("Nuovo");
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoNuovo);
+    f.messaggi.risposte = {Risposta::no, Risposta::ok};
+    f.cornice.ctlToolbar.premi("Esci");
+    EXPECT_TRUE(f.superficie.terminata);
+}
+
+class Stati : public ::testing::TestWithParam<StatoProgetto> {};
+
+TEST_P(Stati, ButtonsAndMenusFollowTheState) {
+    ShellFinta f;
+    f.cornice.Load();
+    f.nuovo(3);
+    f.cornice.gestioneToolbar(GetParam());
+    const bool con = GetParam() != StatoProgetto::NessunProgetto;
+    EXPECT_EQ(f.stato.statoProgetto, GetParam());
+    for (const char* tasto : {"Nuovo", "Apri"}) {
+        EXPECT_EQ(acceso(f, tasto), !con) << tasto;
+    }
+    for (const char* tasto : {"Chiudi", "Salva", "Opzioni", "KelvoCAD", "Analizzatore", "Check", "Dx", "Google"}) {
+        EXPECT_EQ(acceso(f, tasto), con) << tasto;
+    }
+    EXPECT_TRUE(acceso(f, "Help"));
+    EXPECT_TRUE(acceso(f, "Esci"));
+    for (const char* voce : {"mnuNuovo", "mnuApri"}) {
+        EXPECT_EQ(f.cornice.ctlMenu.voce(voce).abilitata, !con) << voce;
+    }
+    for (const char* voce :
+         {"mnuChiudi", "mnuSalva", "mnuDati", "mnuOpzioni", "mnuRisultati", "mnuStrumenti", "mnuKelvoCAD"}) {
+        EXPECT_EQ(f.cornice.ctlMenu.voce(voce).abilitata, con) << voce;
+    }
+    EXPECT_TRUE(f.cornice.ctlMenu.voce("mnuHelp").abilitata);
+    EXPECT_TRUE(f.cornice.ctlMenu.voce("mnuEsci").abilitata);
+    EXPECT_EQ(f.cornice.ctlToolbar.tasti().size(), 12U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tutti, Stati,
+                         ::testing::Values(StatoProgetto::ProgettoNuovo, StatoProgetto::ProgettoSalvato,
+                                           StatoProgetto::NessunProgetto, StatoProgetto::ProgettoCaricato));
+
+TEST(StatiIniziali, BeforeAnyProjectTheFlagsAreThoseOfNoProject) {
+    ShellFinta f;
+    f.cornice.Load();
+    EXPECT_TRUE(acceso(f, "Nuovo"));
+    EXPECT_FALSE(acceso(f, "Salva"));
+    EXPECT_FALSE(f.cornice.ctlMenu.voce("mnuSalva").abilitata);
+    EXPECT_TRUE(f.cornice.ctlMenu.voce("mnuEsci").abilitata);
+}
+
+bool aperto(ShellFinta& f, const std::string& chiave) {
+    const bool nodo = f.cornice.albero.ctlTree.nodo(chiave).ForeColor == frmTreeView::coloreAbilitato;
+    EXPECT_EQ(nodo, f.cornice.ctlMenu.voce(chiave).abilitata) << chiave;
+    return nodo;
+}
+
+class Opzioni : public ::testing::TestWithParam<int> {
+protected:
+    void SetUp() override {
+        f.disposizione(GetParam());
+        f.cornice.Load();
+        f.nuovo(3);
+    }
+    ShellFinta f;
+};
+
+TEST_P(Opzioni, WithoutTheOptimisationItsNodesAndEntriesAreClosed) {
+    for (const char* ramo : {"1", "2", "3"}) {
+        EXPECT_FALSE(aperto(f, std::string("keyAnalisiMarginale") + ramo));
+        EXPECT_FALSE(aperto(f, std::string("keyOttimizzazioneGeometrica") + ramo));
+        EXPECT_TRUE(aperto(f, std::string("keyRamo") + ramo));
+    }
+}
+
+TEST_P(Opzioni, EachFlagOfALegOpensItsResults) {
+    using Scrittore = void (AnalisiMarginale::*)(bool);
+    const std::vector<Scrittore> flag{
+        &AnalisiMarginale::UsaLarghezzaIngresso,  &AnalisiMarginale::UsaSemiLarghezza,
+        &AnalisiMarginale::UsaLunghezzaSvasatura, &AnalisiMarginale::UsaAngoloConflitto,
+        &AnalisiMarginale::UsaRaggioCurvatura,    &AnalisiMarginale::UsaDiametroInscritto};
+    f.app.theRotonda().OttimizzazioneGeometrica(true);
+    for (const Scrittore scrivi : flag) {
+        AnalisiMarginale& usa = f.app.theRotonda().Ramo(2).theAnalisiMarginale();
+        (usa.*scrivi)(true);
+        f.cornice.SetUpOpzioni();
+        EXPECT_TRUE(aperto(f, "keyAnalisiMarginale1"));
+        EXPECT_TRUE(aperto(f, "keyAnalisiMarginale2"));
+        EXPECT_TRUE(aperto(f, "keyOttimizzazioneGeometrica2"));
+        EXPECT_FALSE(aperto(f, "keyOttimizzazioneGeometrica1"));
+        (usa.*scrivi)(false);
+        f.cornice.SetUpOpzioni();
+        EXPECT_FALSE(aperto(f, "keyOttimizzazioneGeometrica2"));
+    }
+    f.app.theRotonda().Ramo(3).theAnalisiMarginale().UsaSemiLarghezza(true);
+    f.cornice.LoadTreeView();
+    EXPECT_TRUE(aperto(f, "keyOttimizzazioneGeometrica3"));
+    EXPECT_FALSE(aperto(f, "keyOttimizzazioneGeometrica1"));
+    f.app.theRotonda().OttimizzazioneGeometrica(false);
+    f.cornice.SetUpOpzioni();
+    EXPECT_FALSE(aperto(f, "keyAnalisiMarginale2"));
+    EXPECT_FALSE(aperto(f, "keyOttimizzazioneGeometrica3"));
+}
+
+TEST_P(Opzioni, WithoutATreeInSightNothingIsClosed) {
+    f.app.theRotonda().OttimizzazioneGeometrica(true);
+    f.cornice.SetUpOpzioni();
+    f.cornice.albero.visibile(false);
+    f.app.theRotonda().OttimizzazioneGeometrica(false);
+    f.cornice.SetUpOpzioni();
+    EXPECT_TRUE(aperto(f, "keyAnalisiMarginale1"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, Opzioni, ::testing::Values(0, 1));
+
+TEST(NonAncora, WhatDoesNotStandYetIsVisibleClosedAndTold) {
+    ShellFinta f;
+    MDI_Form cornice{
+        f.app, f.stato, {f.superficie, f.dialogo, f.documenti, f.impostazioni, f.cronometro, f.cartella.file("R")}};
+    cornice.Load();
+    creaProgetto(f.app, 3);
+    cornice.LoadTreeView();
+    cornice.gestioneToolbar(StatoProgetto::ProgettoNuovo);
+    const std::string nota = "Non ancora disponibile in questa versione";
+    for (const char* tasto : {"Opzioni", "Analizzatore", "Dx", "Check", "Google", "KelvoCAD"}) {
+        EXPECT_FALSE(cornice.ctlToolbar.abilitato(std::string_view{tasto})) << tasto;
+    }
+    for (const auto& tasto : cornice.ctlToolbar.tasti()) {
+        EXPECT_EQ(tasto.nota, tasto.abilitato || tasto.chiave == "Nuovo" || tasto.chiave == "Apri" ? "" : nota)
+            << tasto.chiave;
+    }
+    for (const char* voce : {"keyMatriceSvolte", "keyRamo2", "mnuCompilaRelazione", "mnuKelvoCAD2", "keyterra"}) {
+        EXPECT_FALSE(cornice.ctlMenu.voce(voce).abilitata) << voce;
+        EXPECT_EQ(cornice.ctlMenu.voce(voce).nota, nota) << voce;
+    }
+    EXPECT_EQ(cornice.albero.ctlTree.nodo("keyRamo2").nota, nota);
+    EXPECT_EQ(cornice.albero.ctlTree.nodo("keyRamo2").ForeColor, (Colore{192, 192, 192}));
+    EXPECT_TRUE(cornice.ctlMenu.voce("mnuSalva").abilitata);
+}
+
+TEST(NonAncora, TheTrafficNodesFollowTheWindowThatIsChosen) {
+    ShellFinta f;
+    MDI_Form cornice{
+        f.app, f.stato, {f.superficie, f.dialogo, f.documenti, f.impostazioni, f.cronometro, f.cartella.file("R")}};
+    cornice.finestre.registra("frmDatiTraffico", [](const Contorno& c) {
+        return std::make_unique<FinestraFinta>(c, "frmDatiTraffico", true);
+    });
+    creaProgetto(f.app, 3);
+    f.app.theRotonda().TipoAnalisi(2);
+    cornice.SetUpOpzioni();
+    cornice.LoadTreeView();
+    EXPECT_FALSE(cornice.ctlMenu.voce("keyDatiTraffico1").abilitata);
+    f.app.theRotonda().TipoAnalisi(1);
+    cornice.SetUpOpzioni();
+    EXPECT_TRUE(cornice.ctlMenu.voce("keyDatiTraffico1").abilitata);
+    EXPECT_EQ(cornice.ctlMenu.voce("keyDatiTraffico1").nota, "");
+    EXPECT_EQ(cornice.albero.ctlTree.nodo("keyDatiTraffico1").ForeColor, colori::nero);
+}
+
+TEST(NonAncora, EveryWindowOfAKeyIsKnownOrListed) {
+    const std::vector<std::string> mieiAltrove{"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista",
+                                               "frmTempoModellazione"};
+    const auto elencata = [&](std::string_view nome) {
+        return std::find(nonAncora.begin(), nonAncora.end(), nome) != nonAncora.end() ||
+               std::find(mieiAltrove.begin(), mieiAltrove.end(), nome) != mieiAltrove.end();
+    };
+    for (const FinestraDiChiave& riga : finestrePerChiave) {
+        if (riga.finestra.front() != '<') {
+            EXPECT_TRUE(elencata(riga.finestra)) << riga.finestra;
+        }
+    }
+    for (const RigaBarra& riga : barraPrincipale) {
+        if (riga.azione == AzioneTasto::finestra || riga.azione == AzioneTasto::procedura) {
+            EXPECT_TRUE(elencata(riga.argomento)) << riga.argomento;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace kelvo::prove::shell

@@ -1,0 +1,293 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "app/percorsi.h"
+#include "comune/fintiShell.h"
+#include "shell/frmINFO.h"
+#include "shell/frmSplash.h"
+
+namespace kelvo::prove::shell {
+namespace {
+
+namespace fs = std::filesystem;
+
+class LocaleFinto final : public LocaleUtente {
+public:
+    ImpostazioniInternazionali leggi() const override { return adesso; }
+    void scriviSeparatori(const std::string& decimale, const std::string& migliaia) override {
+        scritti.push_back(decimale + migliaia);
+    }
+    ImpostazioniInternazionali adesso{"€", "EUR", ",", ".", ",", "."};
+    std::vector<std::string> scritti;
+};
+
+class IstanzaFinta final : public IstanzaUnica {
+public:
+    void creaMutex(const std::string& nome) override { creati.push_back(nome); }
+    bool altraIstanza() const override { return altra; }
+    std::vector<std::string> creati;
+    bool altra = false;
+};
+
+class AttesaFinta final : public Attesa {
+public:
+    bool pausa(int millisecondi) override {
+        pause.push_back(millisecondi);
+        return static_cast<int>(pause.size()) == finisce;
+    }
+    void eventi() override { ++eventiCorsi; }
+    std::vector<int> pause;
+    int finisce = 0;  ///< the pause at which the user goes on; 0 for none
+    int eventiCorsi = 0;
+};
+
+/// Stands in the program's folder while it lives, as a program that was started from there.
+class CartellaCorrente {
+public:
+    explicit CartellaCorrente(const std::string& cartella) : prima_(fs::current_path()) { fs::current_path(cartella); }
+    CartellaCorrente(const CartellaCorrente&) = delete;
+    CartellaCorrente& operator=(const CartellaCorrente&) = delete;
+    ~CartellaCorrente() {
+        std::error_code ignorato;
+        fs::current_path(prima_, ignorato);
+    }
+
+private:
+    fs::path prima_;
+};
+
+class Avvio : public ::testing::Test {
+protected:
+    Avvio() { ini("0", "Avvia=1"); }
+    void ini(const std::string& rami, const std::string& altro) {
+        f.scriviIni(
+            "[FILE_LOG]\nPathError=LOG.TXT\n[LAY_OUT]\nCustomPanel=4\n[TRACE_ENABLED]\nTraceEnabled=FALSE\n"
+            "[10_MOTIVI]\n" +
+            altro + "\n[OPZ_EXPLORER]\nRami=" + rami +
+            "\n[VEICOLI EQUIVALENTI]\nAutoarticolati=3,5\nAutotreni=2\nPullman=1,8\nCamper=1,4\n"
+            "Roulotte=1,2\nMotocicli=0,8\nAutovetture=1\n");
+    }
+    ShellFinta f;
+    LocaleFinto locale;
+    IstanzaFinta istanza;
+    AttesaFinta attesa;
+    modMain programma{f.app, f.stato, f.cornice, {locale, istanza, f.documenti, attesa}};
+};
+
+TEST_F(Avvio, ShowsTheMainWindowThenTheSplash) {
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(f.superficie.passi,
+              (std::vector<std::string>{"mostraCornice", "apriSopra frmSplash", "chiudiSopra frmSplash"}));
+    EXPECT_EQ(attesa.pause, std::vector<int>(100, 40));
+    EXPECT_EQ(attesa.eventiCorsi, 1);
+    EXPECT_EQ(istanza.creati, (std::vector<std::string>{"Kelvo"}));
+    EXPECT_TRUE(f.messaggi.mostrati.empty());
+    EXPECT_TRUE(locale.scritti.empty());
+    EXPECT_TRUE(f.documenti.avviati.empty());
+    EXPECT_EQ(f.cornice.titolo(), "KELVO 2014");
+    EXPECT_EQ(f.app.configurazione.LayoutPannello, 4);
+    EXPECT_EQ(f.app.configurazione.VEAutoarticolati, 3.5F);
+    EXPECT_EQ(f.app.theRotonda().NumeroRami(), 4);
+    EXPECT_EQ(f.app.theRotonda().Data(), giornoCalendario(2026, 11, 21));
+}
+
+TEST_F(Avvio, AKeyOrClickEndsTheSplash) {
+    attesa.finisce = 7;
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(attesa.pause.size(), 7U);
+    EXPECT_EQ(f.superficie.passi.back(), "chiudiSopra frmSplash");
+}
+
+TEST(Splash, RunsItsProgressInStepsOfOne) {
+    ShellFinta f;
+    frmSplash splash(f.cornice.contorno());
+    EXPECT_EQ(splash.lblTesto.testo(), "Personalizzazione interfaccia in corso.....");
+    EXPECT_EQ(splash.ctlProgresso.valore(), 0);
+    std::vector<int> visti;
+    splash.ctlProgresso.cambiato().connect([&] { visti.push_back(splash.ctlProgresso.valore()); });
+    AttesaFinta attesa;
+    splash.esegui(attesa);
+    ASSERT_EQ(visti.size(), 100U);
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(visti[static_cast<std::size_t>(i)], i + 1);
+    }
+}
+
+TEST_F(Avvio, OtherSeparatorsAreAskedAboutSetAndPutBackAtTheEnd) {
+    locale.adesso.decimale = ".";
+    locale.adesso.migliaia = "'";
+    EXPECT_TRUE(programma.Main(""));
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    const auto& m = f.messaggi.mostrati[0];
+    EXPECT_EQ(m.testo,
+              "Attenzione! Le opzioni internazionali e della lingua non sono valide. Per il corretto funzionamento "
+              "dell'applicazione è necessario  impostare la modalità su [Italiano (Italia)]. Aggiornare subito le "
+              "opzioni internazionali e della lingua?");
+    EXPECT_EQ(m.titolo, "KELVO 2014 - Impostazioni internazionali");
+    EXPECT_EQ(m.icona, Icona::esclamazione);
+    EXPECT_EQ(m.pulsanti, Pulsanti::siNo);
+    EXPECT_EQ(locale.scritti, (std::vector<std::string>{",."}));
+    EXPECT_TRUE(programma.RipristinaImpostazioni());
+    f.cornice.Unload();
+    EXPECT_EQ(locale.scritti, (std::vector<std::string>{",.", ".'"}));
+}
+
+TEST_F(Avvio, WrongThousandsAloneAreAskedAboutToo) {
+    locale.adesso.migliaia = " ";
+    f.messaggi.risposte = {Risposta::no};
+    EXPECT_FALSE(programma.Main("a.klv"));
+    EXPECT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_TRUE(locale.scritti.empty());
+    EXPECT_TRUE(istanza.creati.empty());
+    EXPECT_TRUE(f.superficie.passi.empty());
+}
+
+TEST_F(Avvio, GoodSeparatorsAreNotPutBack) {
+    EXPECT_TRUE(programma.Main(""));
+    f.cornice.Unload();
+    EXPECT_TRUE(locale.scritti.empty());
+}
+
+TEST_F(Avvio, TheFilmRunsOnlyForTheValueZero) {
+    ini("0", "Avvia=0");
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(f.documenti.avviati,
+              (std::vector<std::string>{"\"" + f.cartella.percorso() + "/UserGuide/KelvoSUITE2014_INTRO.exe\"|"}));
+    for (const char* valore : {"Avvia=1", "Avvia=2", "Avvia=-1"}) {
+        f.documenti.avviati.clear();
+        ini("0", valore);
+        EXPECT_TRUE(programma.Main(""));
+        EXPECT_TRUE(f.documenti.avviati.empty()) << valore;
+    }
+}
+
+TEST_F(Avvio, TheCommandLineOpensAProjectWithoutItsQuotes) {
+    const std::string percorso = f.progettoSuDisco("con due spazi.klv", 5);
+    EXPECT_TRUE(programma.Main("\"" + percorso + "\""));
+    EXPECT_EQ(f.app.theRotonda().NomeFile(), "con due spazi");
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoCaricato);
+}
+
+TEST_F(Avvio, ACommandLineThatIsNoProjectGetsItsMessage) {
+    EXPECT_TRUE(programma.Main(f.cartella.file("Kelvo.ini")));
+    EXPECT_EQ(f.messaggi.testi(), (std::vector<std::string>{"Il file selezionato non è corretto!"}));
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::NessunProgetto);
+}
+
+TEST_F(Avvio, ASecondInstanceIsToldAndEnds) {
+    istanza.altra = true;
+    const CartellaCorrente qui(f.cartella.percorso());
+    scriviContenuto(f.cartella.file("LOG.TXT"), "del primo");
+    EXPECT_FALSE(programma.Main(""));
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].testo, "Attenzione, c'è già un'istanza di Kelvo attualmente in esecuzione.");
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
+    EXPECT_EQ(f.messaggi.mostrati[0].icona, Icona::critica);
+    EXPECT_TRUE(f.superficie.passi.empty());
+    EXPECT_FALSE(fs::exists(f.cartella.file("LOG.TXT")));  // the shared log is gone by then
+}
+
+TEST_F(Avvio, TheLogIsDeletedFromTheWorkingFolderEvenReadOnly) {
+    scriviContenuto(f.cartella.file("LOG.TXT"), "vecchio");
+    EXPECT_TRUE(programma.InitEnvironment());
+    EXPECT_TRUE(fs::exists(f.cartella.file("LOG.TXT")));  // the working folder is another one
+    const CartellaCorrente qui(f.cartella.percorso());
+    fs::permissions(f.cartella.file("LOG.TXT"), fs::perms::owner_read);
+    EXPECT_TRUE(programma.InitEnvironment());
+    EXPECT_FALSE(fs::exists(f.cartella.file("LOG.TXT")));
+}
+
+TEST_F(Avvio, AReadOnlyConfigurationIsMadeWritable) {
+    fs::permissions(f.cartella.file("Kelvo.ini"), fs::perms::owner_read);
+    EXPECT_TRUE(programma.InitEnvironment());
+    EXPECT_NE(fs::status(f.cartella.file("Kelvo.ini")).permissions() & fs::perms::owner_write, fs::perms::none);
+    EXPECT_TRUE(f.messaggi.mostrati.empty());
+}
+
+TEST_F(Avvio, WithoutTheNameOfTheLogTheProgramEnds) {
+    for (const char* testo : {"[FILE_LOG]\nPathError=\n", "[LAY_OUT]\nCustomPanel=1\n"}) {
+        f.messaggi.mostrati.clear();
+        f.scriviIni(testo);
+        EXPECT_FALSE(programma.Main(""));
+        ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+        EXPECT_EQ(f.messaggi.mostrati[0].testo,
+                  "Manca il path del file di log dell'errore!\nIl processo non verrà portato a termine!");
+        EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014 - Errore Irreversibile!");
+        EXPECT_EQ(f.messaggi.mostrati[0].icona, Icona::critica);
+        EXPECT_TRUE(f.superficie.passi.empty());
+    }
+}
+
+TEST_F(Avvio, AMissingConfigurationIsRecordedAndEnds) {
+    fs::remove(f.cartella.file("Kelvo.ini"));
+    EXPECT_FALSE(programma.Main(""));
+    ASSERT_EQ(f.messaggi.mostrati.size(), 2U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014modCommonModule:InitEnvironment()");
+    EXPECT_EQ(f.messaggi.mostrati[0].testo.rfind("File non trovato", 0), 0U);
+    EXPECT_EQ(f.messaggi.mostrati[1].titolo, "KELVO 2014 - Errore Irreversibile!");
+}
+
+TEST_F(Avvio, ABadSettingIsRecordedAndTheOthersAreRead) {
+    f.scriviIni(
+        "[FILE_LOG]\nPathError=LOG.TXT\n[LAY_OUT]\nCustomPanel=blu\n[10_MOTIVI]\nAvvia=1\n"
+        "[VEICOLI EQUIVALENTI]\nAutoarticolati=due\nCamper=1,5\n");
+    EXPECT_TRUE(programma.InitEnvironment());
+    ASSERT_EQ(f.messaggi.mostrati.size(), 2U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014modCommonModule:InitEnvironment()");
+    EXPECT_EQ(f.app.configurazione.VECamper, 1.5F);
+    EXPECT_EQ(f.app.configurazione.VEAutoarticolati, 2.5F);
+}
+
+TEST_F(Avvio, ARecoveredProjectGoesBeforeTheCommandLine) {
+    fs::create_directories(f.cartella.file("Recupero"));
+    fs::copy(f.progettoSuDisco("Perso.klv", 6), f.cartella.file("Recupero/Perso.klv"));
+    const std::string altro = f.progettoSuDisco("altro.klv", 3);
+    EXPECT_TRUE(programma.Main(altro));
+    EXPECT_EQ(f.app.theRotonda().NomeFile(), "Perso");
+    EXPECT_TRUE(f.cornice.modificato());
+    EXPECT_NE(f.cornice.ctlStatusBar.avviso().find(altro), std::string::npos);
+}
+
+TEST_F(Avvio, ARecoveryThatIsRefusedLetsTheCommandLineOpen) {
+    fs::create_directories(f.cartella.file("Recupero"));
+    fs::copy(f.progettoSuDisco("Perso.klv", 6), f.cartella.file("Recupero/Perso.klv"));
+    f.messaggi.risposte = {Risposta::no};
+    EXPECT_TRUE(programma.Main(f.progettoSuDisco("altro.klv", 3)));
+    EXPECT_EQ(f.app.theRotonda().NomeFile(), "altro");
+    EXPECT_FALSE(fs::exists(f.cartella.file("Recupero/Perso.klv")));
+}
+
+TEST(Informazioni, VersionAndMakerAreShown) {
+    ShellFinta f;
+    frmINFO info(f.cornice.contorno());
+    EXPECT_EQ(info.lblVersione.testo().rfind("Versione ", 0), 0U);
+    EXPECT_EQ(info.lblProduttore.testo(), "Vaq");
+    int chiusure = 0;
+    info.allaChiusura = [&] { ++chiusure; };
+    info.cmdOk.premi();
+    EXPECT_EQ(chiusure, 1);
+}
+
+TEST(Percorsi, TheInstallationIsSearchedWithoutRegardToCase) {
+    CartellaTemporanea cartella;
+    fs::create_directories(cartella.file("userguide"));
+    scriviContenuto(cartella.file("userguide/USERGUIDE.PDF"), "");
+    const clsAmbiente ambiente(cartella.percorso(), cartella.percorso(), sistemaFileStandard());
+    EXPECT_EQ(percorsoInstallazione(ambiente, "\\UserGuide\\UserGuide.pdf"), cartella.file("userguide/USERGUIDE.PDF"));
+    EXPECT_EQ(percorsoInstallazione(ambiente, "\\Support\\x y.htm"), cartella.file("Support/x y.htm"));
+}
+
+TEST(Percorsi, TheNameOfAProjectIsItsFileWithoutFolderAndExtension) {
+    EXPECT_EQ(nomeProgetto("/a/b/Nodo Est.klv"), "Nodo Est");
+    EXPECT_EQ(nomeProgetto("Nodo.KLV"), "Nodo");
+    EXPECT_EQ(nomeProgetto("/a/Nodo.v2.klv"), "Nodo.v2");
+    EXPECT_EQ(nomeProgetto("/a/Nodo.txt"), "Nodo.txt");
+    EXPECT_EQ(nomeProgetto("/a/.klv"), "");
+}
+
+}  // namespace
+}  // namespace kelvo::prove::shell
