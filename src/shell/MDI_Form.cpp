@@ -170,6 +170,9 @@ void MDI_Form::abilitaOttimizzazione() {
     const Rotonda& rotonda = app_.theRotonda();
     for (std::int16_t ramo = 1; ramo <= rotonda.NumeroRami(); ++ramo) {
         const std::string analisi = fmt::format("keyAnalisiMarginale{}", ramo);
+        if (!albero.ctlTree.contiene(analisi)) {
+            return;  // a project is being opened: its tree is built later, and then this runs again
+        }
         albero.EnableNode(albero.ctlTree, analisi);
         ctlMenu.abilita(analisi, true);
         const AnalisiMarginale& usa = rotonda.Ramo(ramo).theAnalisiMarginale();

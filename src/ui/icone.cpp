@@ -4,7 +4,9 @@
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <map>
 #include <string_view>
+#include <utility>
 
 namespace kelvo::ui {
 
@@ -42,7 +44,9 @@ void cartellaImmagini(const std::string& cartella) {
     radice() = QString::fromStdString(cartella);
 }
 
-QIcon icona(const std::string& chiave, bool suBlu) {
+namespace {
+
+QIcon leggiIcona(const std::string& chiave, bool suBlu) {
     const QString abilitata =
         disegno(suBlu ? QStringLiteral("icone/su-blu") : QStringLiteral("icone/abilitate"), chiave);
     if (abilitata.isEmpty()) {
@@ -55,6 +59,18 @@ QIcon icona(const std::string& chiave, bool suBlu) {
         icona.addFile(spenta, {}, QIcon::Disabled);
     }
     return icona;
+}
+
+}  // namespace
+
+QIcon icona(const std::string& chiave, bool suBlu) {
+    // Menus and tree ask for the same few drawings again and again.
+    static std::map<std::pair<std::string, bool>, QIcon> lette;
+    const auto [voce, nuova] = lette.try_emplace({chiave, suBlu});
+    if (nuova) {
+        voce->second = leggiIcona(chiave, suBlu);
+    }
+    return voce->second;
 }
 
 QPixmap immagine(const std::string& risorsa, QSize misura, double rapporto) {

@@ -69,7 +69,7 @@ QLineEdit[fallito="true"], QComboBox[fallito="true"], QTimeEdit[fallito="true"] 
 QLineEdit:read-only { background: {barra}; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QTimeEdit:disabled, QSpinBox:disabled {
   color: {spento}; background: {barra}; border-color: {bordoSpento}; }
-QPushButton { border: 1px solid {bordoCampo}; border-radius: 2px; background: {fondo}; padding: 0px 16px; }
+QPushButton { border: 1px solid {bordoCampo}; border-radius: 2px; background: {fondo}; padding: 0px 16px; min-height: 26px; min-width: 62px; }
 QPushButton:hover { background: {sfiorato}; border-color: {principale}; }
 QPushButton:pressed, QPushButton:checked { background: {scelto}; border-color: {titolo}; }
 QPushButton:focus { border: 2px solid {principale}; padding: 0px 15px; }
@@ -101,6 +101,8 @@ QStatusBar { background: {barra}; } QStatusBar::item { border: none; }
 QProgressBar { border: 1px solid {bordoCampo}; border-radius: 2px; background: white; max-height: 14px; }
 QProgressBar::chunk { background: {principale}; }
 QWidget#piede { background: {barra}; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QDialog { background: white; }
 QToolTip { color: {inchiostro}; background: white; border: 1px solid {bordoCampo}; padding: 3px; }
 )");
     const std::array<std::pair<const char*, Colore>, 19> nomi{{{"{inchiostro}", tinta::inchiostro},

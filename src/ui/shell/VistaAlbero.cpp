@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QTreeWidgetItemIterator>
 
 #include "shell/icone.h"
@@ -46,8 +47,16 @@ VistaAlbero::VistaAlbero(frmTreeView& logica, QWidget* genitore) : QTreeWidget(g
     setDropIndicatorShown(true);
     setUniformRowHeights(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    legame_ = logica_.ctlTree.cambiato().connect([this] { aggiorna(); });
+    legame_ = logica_.ctlTree.cambiato().connect([this] { prenota(); });
     aggiorna();
+}
+
+void VistaAlbero::prenota() {
+    // A build of the tree changes it node by node: it is shown once, when all is said.
+    if (!prenotato_) {
+        prenotato_ = true;
+        QTimer::singleShot(0, this, &VistaAlbero::aggiorna);
+    }
 }
 
 VistaAlbero::~VistaAlbero() {
@@ -73,6 +82,7 @@ void VistaAlbero::aggiungi(const std::string& chiave, QTreeWidgetItem* padre) {
 }
 
 void VistaAlbero::aggiorna() {
+    prenotato_ = false;
     const QSignalBlocker zitto(this);
     inCostruzione_ = true;
     if (versione_ != logica_.ctlTree.versione()) {
@@ -91,7 +101,6 @@ void VistaAlbero::aggiorna() {
         }
     }
     inCostruzione_ = false;
-    setVisible(true);
 }
 
 std::string VistaAlbero::chiaveA(QPoint posto) const {

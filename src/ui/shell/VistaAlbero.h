@@ -26,6 +26,7 @@ protected:
     void dropEvent(QDropEvent* evento) override;
 
 private:
+    void prenota();
     void aggiorna();
     void aggiungi(const std::string& chiave, QTreeWidgetItem* padre);
     void scegli(QTreeWidgetItem* nodo);
@@ -35,6 +36,7 @@ private:
     sigc::connection legame_;
     unsigned versione_ = 0;
     bool inCostruzione_ = false;
+    bool prenotato_ = false;
 };
 
 }  // namespace kelvo::ui

@@ -150,7 +150,7 @@ QWidget* VistaMDI_Form::paginaVuota() {
     pagina->setObjectName(QStringLiteral("telaio"));
     auto* piano = new QVBoxLayout(pagina);
     auto* riquadro = new Pannello(QStringLiteral("Nessun progetto aperto"), pagina);
-    riquadro->setMaximumWidth(420);
+    riquadro->setFixedWidth(360);
     struct Voce {
         const char* testo;
         const char* chiave;

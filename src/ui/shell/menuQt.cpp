@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 
 #include "shell/icone.h"
 #include "ui/icone.h"
@@ -33,10 +34,17 @@ class Specchio final : public QObject {
 public:
     Specchio(MenuChiavi& menu, QMenuBar& barra) : QObject(&barra), menu_(menu), barra_(barra) {}
 
-    void aggiorna() {
-        if (versione_ == menu_.versione()) {
-            return;
+    /// A build of the menu changes it entry by entry: it is shown once, when all is said.
+    void prenota() {
+        if (versione_ != menu_.versione() && !prenotato_) {
+            prenotato_ = true;
+            QTimer::singleShot(0, this, [this] { aggiorna(); });
         }
+    }
+
+private:
+    void aggiorna() {
+        prenotato_ = false;
         versione_ = menu_.versione();
         barra_.clear();
         for (const MenuChiavi::Voce* voce : menu_.figli({})) {
@@ -47,7 +55,6 @@ public:
         }
     }
 
-private:
     void riempi(QMenu& tendina, const std::string& padre) {
         tendina.setToolTipsVisible(true);
         for (const MenuChiavi::Voce* voce : menu_.figli(padre)) {
@@ -80,6 +87,7 @@ private:
     MenuChiavi& menu_;
     QMenuBar& barra_;
     unsigned versione_ = 0;
+    bool prenotato_ = false;
 };
 
 }  // namespace
@@ -87,7 +95,7 @@ private:
 void collega(MenuChiavi& menu, QMenuBar& barra) {
     auto* specchio = new Specchio(menu, barra);
     auto* legame = new Legame(menu, barra);
-    legame->mostra([specchio] { specchio->aggiorna(); });
+    legame->mostra([specchio] { specchio->prenota(); });
 }
 
 }  // namespace kelvo::ui
