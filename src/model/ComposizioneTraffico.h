@@ -29,19 +29,19 @@ public:
 
     // Equivalent-car coefficients of the classes, owned by the project. No calculation reads them.
     float VEAutovetture() const { return veAutovetture_; }
-    void VEAutovetture(float valore) { scriviDato(veAutovetture_, valore); }
+    void VEAutovetture(float valore) { scriviAltro(veAutovetture_, valore); }
     float VEVeicoliDueRuote() const { return veVeicoliDueRuote_; }
-    void VEVeicoliDueRuote(float valore) { scriviDato(veVeicoliDueRuote_, valore); }
+    void VEVeicoliDueRuote(float valore) { scriviAltro(veVeicoliDueRuote_, valore); }
     float VERoulotte() const { return veRoulotte_; }
-    void VERoulotte(float valore) { scriviDato(veRoulotte_, valore); }
+    void VERoulotte(float valore) { scriviAltro(veRoulotte_, valore); }
     float VECamper() const { return veCamper_; }
-    void VECamper(float valore) { scriviDato(veCamper_, valore); }
+    void VECamper(float valore) { scriviAltro(veCamper_, valore); }
     float VEPullman() const { return vePullman_; }
-    void VEPullman(float valore) { scriviDato(vePullman_, valore); }
+    void VEPullman(float valore) { scriviAltro(vePullman_, valore); }
     float VEAutotreni() const { return veAutotreni_; }
-    void VEAutotreni(float valore) { scriviDato(veAutotreni_, valore); }
+    void VEAutotreni(float valore) { scriviAltro(veAutotreni_, valore); }
     float VEAutoarticolati() const { return veAutoarticolati_; }
-    void VEAutoarticolati(float valore) { scriviDato(veAutoarticolati_, valore); }
+    void VEAutoarticolati(float valore) { scriviAltro(veAutoarticolati_, valore); }
 
     // Shares of the classes in per cent, for one composition over the whole window.
     float Autovetture() const { return autovetture_; }

@@ -36,10 +36,10 @@ public:
 
     /// Mean flow, veic/min.
     float FlussoMedio() const { return flussoMedio_; }
-    void FlussoMedio(float valore) { scriviDato(flussoMedio_, valore); }
+    void FlussoMedio(float valore) { scriviAltro(flussoMedio_, valore); }
     /// Mean flow, veic/h.
     float FlussoOrario() const { return flussoOrario_; }
-    void FlussoOrario(float valore) { scriviDato(flussoOrario_, valore); }
+    void FlussoOrario(float valore) { scriviAltro(flussoOrario_, valore); }
     /// Vehicles over the whole window.
     float FlussoTotale() const { return flussoTotale_; }
     void FlussoTotale(float valore) { scriviDato(flussoTotale_, valore); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -43,27 +44,27 @@ public:
 
     /// Stage of the project.
     const std::string& StatoAvanzamento() const { return dati_.statoAvanzamento; }
-    void StatoAvanzamento(const std::string& valore) { scriviTesto(dati_.statoAvanzamento, valore); }
+    void StatoAvanzamento(const std::string& valore) { scriviAltro(dati_.statoAvanzamento, valore); }
     /// Locality or hamlet.
     const std::string& Localita() const { return dati_.localita; }
-    void Localita(const std::string& valore) { scriviTesto(dati_.localita, valore); }
+    void Localita(const std::string& valore) { scriviAltro(dati_.localita, valore); }
     /// Municipality.
     const std::string& Comune() const { return dati_.comune; }
-    void Comune(const std::string& valore) { scriviTesto(dati_.comune, valore); }
+    void Comune(const std::string& valore) { scriviAltro(dati_.comune, valore); }
     /// Province.
     const std::string& Provincia() const { return dati_.provincia; }
-    void Provincia(const std::string& valore) { scriviTesto(dati_.provincia, valore); }
+    void Provincia(const std::string& valore) { scriviAltro(dati_.provincia, valore); }
     /// Project name: the file name without folder and extension.
     const std::string& NomeFile() const { return dati_.nomeFile; }
-    void NomeFile(const std::string& valore) { scriviTesto(dati_.nomeFile, valore); }
+    void NomeFile(const std::string& valore) { scriviAltro(dati_.nomeFile, valore); }
     /// Percentile of the queue length, per cent.
     void ValorePercentile(float valore) { scriviDato(dati_.valorePercentile, valore); }
     float ValorePercentile() const { return dati_.valorePercentile; }
     /// The percentile is open to the user.
-    void UsaPercentile(bool valore) { scriviDato(dati_.usaPercentile, valore); }
+    void UsaPercentile(bool valore) { scriviAltro(dati_.usaPercentile, valore); }
     bool UsaPercentile() const { return dati_.usaPercentile; }
     /// The geometric sensitivity analysis is available.
-    void OttimizzazioneGeometrica(bool valore) { scriviDato(dati_.ottimizzazioneGeometrica, valore); }
+    void OttimizzazioneGeometrica(bool valore) { scriviAltro(dati_.ottimizzazioneGeometrica, valore); }
     bool OttimizzazioneGeometrica() const { return dati_.ottimizzazioneGeometrica; }
     /// Night or poor visibility reduces the capacity of the node.
     void CondizioniNotturne(bool valore) { scriviDato(dati_.condizioniNotturne, valore); }
@@ -79,13 +80,13 @@ public:
     std::int16_t TipoAnalisi() const { return dati_.tipoAnalisi; }
 
     // The engineer.
-    void EMailProfessionista(const std::string& valore) { scriviTesto(dati_.eMailProfessionista, valore); }
-    void TelefonoProfessionista(const std::string& valore) { scriviTesto(dati_.telefonoProfessionista, valore); }
-    void CittaProfessionista(const std::string& valore) { scriviTesto(dati_.cittaProfessionista, valore); }
-    void CAPProfessionista(const std::string& valore) { scriviTesto(dati_.capProfessionista, valore); }
-    void IndirizzoProfessionista(const std::string& valore) { scriviTesto(dati_.indirizzoProfessionista, valore); }
-    void NomeProfessionista(const std::string& valore) { scriviTesto(dati_.nomeProfessionista, valore); }
-    void ProvinciaProfessionista(const std::string& valore) { scriviTesto(dati_.provinciaProfessionista, valore); }
+    void EMailProfessionista(const std::string& valore) { scriviAltro(dati_.eMailProfessionista, valore); }
+    void TelefonoProfessionista(const std::string& valore) { scriviAltro(dati_.telefonoProfessionista, valore); }
+    void CittaProfessionista(const std::string& valore) { scriviAltro(dati_.cittaProfessionista, valore); }
+    void CAPProfessionista(const std::string& valore) { scriviAltro(dati_.capProfessionista, valore); }
+    void IndirizzoProfessionista(const std::string& valore) { scriviAltro(dati_.indirizzoProfessionista, valore); }
+    void NomeProfessionista(const std::string& valore) { scriviAltro(dati_.nomeProfessionista, valore); }
+    void ProvinciaProfessionista(const std::string& valore) { scriviAltro(dati_.provinciaProfessionista, valore); }
     const std::string& NomeProfessionista() const { return dati_.nomeProfessionista; }
     const std::string& IndirizzoProfessionista() const { return dati_.indirizzoProfessionista; }
     const std::string& CAPProfessionista() const { return dati_.capProfessionista; }
@@ -114,13 +115,13 @@ public:
     void GetMatriceSvoltePercentuale(Matrice& matrice) const;
     /// Notes.
     const std::string& Note() const { return dati_.note; }
-    void Note(const std::string& valore) { scriviTesto(dati_.note, valore); }
-    /// Date of the project.
+    void Note(const std::string& valore) { scriviAltro(dati_.note, valore); }
+    /// Date of the project, a whole day.
     DataOra Data() const { return dati_.data; }
-    void Data(DataOra valore) { scriviTesto(dati_.data, valore); }
+    void Data(DataOra valore) { scriviAltro(dati_.data, std::floor(valore)); }
     /// Title.
     const std::string& Titolo() const { return dati_.titolo; }
-    void Titolo(const std::string& valore) { scriviTesto(dati_.titolo, valore); }
+    void Titolo(const std::string& valore) { scriviAltro(dati_.titolo, valore); }
     /// The legs; as many as NumeroRami once the project is built.
     const RaccoltaRami& Rami() const { return rami_; }
     /// Number of legs, 3 to 7.

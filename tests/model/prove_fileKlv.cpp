@@ -119,7 +119,7 @@ TEST(ProveFileKlv, ALoadRaisesTheRevisionAndTakesTheStampAway) {
     const Revisione dopo = r.revisione();
     r.Ramo(3).theDatiTraffico().FlussoTempo1(77.0F);
     r.Ramo(3).theComposizioneTraffico().Autovetture(77.0F);
-    r.Ramo(3).theAnalisiMarginale().LungSvasatura(77.0);
+    r.Ramo(3).theAnalisiMarginale().CondizioniEsterne(77.0);
     r.Ramo(3).SemiLarghezza(77.0F);
     r.ValorePercentile(77.0F);
     EXPECT_EQ(r.revisione().calcolo, dopo.calcolo + 5) << "the loaded objects count in this project";
