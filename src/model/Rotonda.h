@@ -95,15 +95,17 @@ public:
     const std::string& TelefonoProfessionista() const { return dati_.telefonoProfessionista; }
     const std::string& EMailProfessionista() const { return dati_.eMailProfessionista; }
 
+    // The times are kept in whole seconds, as the project file tells them: a saved project comes back exactly.
+
     /// Length of a time segment, held as the time of day 00:mm:00.
     DataOra SegmentoTempo() const { return dati_.segmentoTempo; }
-    void SegmentoTempo(DataOra valore) { scriviDato(dati_.segmentoTempo, valore); }
+    void SegmentoTempo(DataOra valore) { scriviDato(dati_.segmentoTempo, alSecondo(valore)); }
     /// End of the modelling window, a time of day.
     DataOra TempoFinale() const { return dati_.tempoFinale; }
-    void TempoFinale(DataOra valore) { scriviDato(dati_.tempoFinale, valore); }
+    void TempoFinale(DataOra valore) { scriviDato(dati_.tempoFinale, alSecondo(valore)); }
     /// Start of the modelling window, a time of day.
     DataOra TempoIniziale() const { return dati_.tempoIniziale; }
-    void TempoIniziale(DataOra valore) { scriviDato(dati_.tempoIniziale, valore); }
+    void TempoIniziale(DataOra valore) { scriviDato(dati_.tempoIniziale, alSecondo(valore)); }
     /// Writes one cell of the turning matrix; origin and destination legs from 1. Fault 9 outside the matrix.
     void MatriceSvolte(float valore, std::int16_t riga, std::int16_t colonna);
     /// One cell of the turning matrix as entered. Fault 9 outside the matrix.

@@ -153,6 +153,31 @@ void attendiPredefiniti(const Rotonda& r) {
     EXPECT_EQ(r.timbro().forma, FormaCalcolo::nessuna);
 }
 
+TEST_F(ProveRotonda, TimesKeepWholeSecondsAndTheDateItsDay) {
+    rami(3);
+    DatiTraffico& traffico = rotonda.Ramo(1).theDatiTraffico();
+    const DataOra sommata = 1.0 / 24.0 + 10.0 / 1440.0;
+    ASSERT_NE(sommata, oraDelGiorno(1, 10)) << "a sum that misses the time by a bit";
+    rotonda.TempoIniziale(sommata);
+    rotonda.TempoFinale(sommata);
+    rotonda.SegmentoTempo(sommata);
+    traffico.Tempo1(sommata);
+    traffico.Tempo2(sommata);
+    traffico.Tempo3(sommata);
+    for (const DataOra letta : {rotonda.TempoIniziale(), rotonda.TempoFinale(), rotonda.SegmentoTempo(),
+                                traffico.Tempo1(), traffico.Tempo2(), traffico.Tempo3()}) {
+        EXPECT_EQ(letta, oraDelGiorno(1, 10));
+    }
+    const Revisione prima = rotonda.revisione();
+    rotonda.TempoIniziale(oraDelGiorno(1, 10));
+    EXPECT_EQ(rotonda.revisione().tutto, prima.tutto) << "the same second is no change";
+
+    const DataOra giorno = giornoCalendario(2026, 11, 21);
+    rotonda.Data(giorno + oraDelGiorno(23, 59, 59) + 0.9 / 86400.0);
+    EXPECT_EQ(rotonda.Data(), giorno);
+    EXPECT_EQ(Rotonda(sistemaFileStandard(), [&] { return giorno + 0.75; }).Data(), giorno);
+}
+
 TEST_F(ProveRotonda, FreshProjectHasItsDefaults) {
     attendiPredefiniti(rotonda);
 }
