@@ -12,7 +12,7 @@ namespace kelvo {
 inline constexpr std::int16_t numeroClassi = 7;
 
 /// One value for each vehicle class, in the order of the segment table: Autoarticolati, Autotreni, Pullman, Camper,
-/// Roulotte, VeicoliDueRuote, Autovetture.
+/// Roulotte, VeicoliDueRuote, Autovetture. The properties of ComposizioneTraffico are declared in another order.
 using PerClasse = std::array<float, numeroClassi>;
 
 /// Segments by classes.
@@ -23,11 +23,13 @@ class ComposizioneTraffico final : public OggettoProgetto {
 public:
     explicit ComposizioneTraffico(Revisione& revisione) : OggettoProgetto(revisione) {}
 
+    /// Number of time segments: rows of the segment table; the same as in DatiTraffico of the leg.
     std::int16_t NumSegmentiTempo() const { return static_cast<std::int16_t>(categorie_.size()); }
     /// Sets the number of segments; discards the segment table. Fault 9 for a negative number.
     void NumSegmentiTempo(std::int16_t valore);
 
-    // Equivalent-car coefficients of the classes, owned by the project. No calculation reads them.
+    // Equivalent-car coefficients of the classes as they stood when the leg was made. No calculation reads them: it
+    // takes those of the configuration.
     float VEAutovetture() const { return veAutovetture_; }
     void VEAutovetture(float valore) { scriviAltro(veAutovetture_, valore); }
     float VEVeicoliDueRuote() const { return veVeicoliDueRuote_; }
@@ -59,8 +61,8 @@ public:
     float Autoarticolati() const { return autoarticolati_; }
     void Autoarticolati(float valore) { scriviDato(autoarticolati_, valore); }
 
-    /// Vehicles of a class (0 to 6, in the order of PerClasse) in a segment, from 0; 0 past the last row.
-    /// Fault 9 below 0 or for another class.
+    /// Vehicles of a class (0 to 6, in the order of PerClasse) in a segment, from 0; 0 past the last row. Calculations
+    /// read the proportions of a row alone. Fault 9 below 0 or for another class.
     float CategoriaSegmento(std::int16_t segmento, std::int16_t classe) const;
     /// Writes the same. Fault 9 outside the table.
     void CategoriaSegmento(float valore, std::int16_t segmento, std::int16_t classe);

@@ -72,7 +72,7 @@ public:
     /// Composition: 0 one for the whole window, 1 one for each segment.
     void TipoFlusso(std::int16_t valore) { scriviDato(dati_.tipoFlusso, valore); }
     std::int16_t TipoFlusso() const { return dati_.tipoFlusso; }
-    /// Turning matrix: 0 vehicles, 1 per cent of the row.
+    /// Turning matrix: 0 vehicles, 1 per cent of the row; any other value is kept and read as vehicles.
     void TipoMatriceSvolte(std::int16_t valore) { scriviDato(dati_.tipoMatriceSvolte, valore); }
     std::int16_t TipoMatriceSvolte() const { return dati_.tipoMatriceSvolte; }
     /// Traffic input: 0 saturation only, 1 demand curve, 2 table of segment flows.
@@ -113,7 +113,7 @@ public:
     /// Copies the matrix as entered, vehicles or per cent, NumeroRami by NumeroRami.
     void GetMatriceSvolte(Matrice& matrice) const { matrice = dati_.matrice; }
     /// Copies the matrix as shares from 0 to 1: each row divided by its own total, the diagonal included (a row that
-    /// adds up to 0 gives 0), or by 100 where it was entered in per cent.
+    /// adds up to 0 gives 0), or by 100 where TipoMatriceSvolte is 1. Fault 6 for a share past the single range.
     void GetMatriceSvoltePercentuale(Matrice& matrice) const;
     /// Notes.
     const std::string& Note() const { return dati_.note; }
@@ -128,7 +128,8 @@ public:
     const RaccoltaRami& Rami() const { return rami_; }
     /// Number of legs, 3 to 7.
     std::int16_t NumeroRami() const { return dati_.numeroRami; }
-    /// Sets the number of legs and clears the matrix. Fault 5 outside 3 to 7, or once legs exist.
+    /// Sets the number of legs; a new number clears the matrix, the same one changes nothing. Fault 5 outside 3 to 7,
+    /// or for a new number once legs exist.
     void NumeroRami(std::int16_t valore);
     /// The leg at a position, from 1; fault 9 if there is none.
     kelvo::Ramo& Ramo(std::int16_t indice) const { return rami_.Item(indice); }

@@ -296,6 +296,40 @@ TEST_F(ProveRotonda, NumberOfLegsStaysBetweenThreeAndSeven) {
     }
 }
 
+TEST_F(ProveRotonda, ANewNumberOfLegsClearsTheMatrix) {
+    rotonda.MatriceSvolte(7.0F, 4, 3);
+    const Revisione prima = rotonda.revisione();
+    rotonda.NumeroRami(5);
+    Matrice matrice;
+    rotonda.GetMatriceSvolte(matrice);
+    EXPECT_EQ(matrice, Matrice(5, std::vector<float>(5, 0.0F)));
+    EXPECT_EQ(rotonda.revisione().tutto, prima.tutto + 1);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima.calcolo + 1);
+}
+
+TEST_F(ProveRotonda, TheSameNumberOfLegsChangesNothing) {
+    rotonda.MatriceSvolte(7.0F, 4, 3);
+    const Revisione prima = rotonda.revisione();
+    rotonda.NumeroRami(4);
+    EXPECT_EQ(rotonda.MatriceSvolte(4, 3), 7.0F);
+    EXPECT_EQ(rotonda.revisione().tutto, prima.tutto);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima.calcolo);
+}
+
+TEST_F(ProveRotonda, ALegMoreAndANumberOfSegmentsRaiseTheRevisionOfTheCalculation) {
+    rotonda.NumeroRami(3);
+    std::uint64_t prima = rotonda.revisione().calcolo;
+    Ramo& ramo = rotonda.AddRamo("1Ramo");
+    EXPECT_GT(rotonda.revisione().calcolo, prima);
+    prima = rotonda.revisione().calcolo;
+    ramo.theDatiTraffico().NumSegmentiTempo(4);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima + 1) << "also where the number stays: the table is discarded";
+    prima = rotonda.revisione().calcolo;
+    ramo.theComposizioneTraffico().NumSegmentiTempo(4);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima + 1);
+    EXPECT_GE(rotonda.revisione().tutto, rotonda.revisione().calcolo);
+}
+
 TEST_F(ProveRotonda, NumberOfLegsDoesNotChangeOnceTheyExist) {
     rami(3);
     EXPECT_EQ(numeroGuasto([&] { rotonda.NumeroRami(4); }), 5);
@@ -369,6 +403,18 @@ TEST_F(ProveRotonda, SharesOfAMatrixInPerCentDivideByAHundredAlsoWhereARowDoesNo
     rotonda.GetMatriceSvoltePercentuale(quote);
     EXPECT_EQ(quote[0], (std::vector<float>{0, 0.3F, 0.5F}));
     EXPECT_EQ(quote[1], (std::vector<float>{0, 0, 0}));
+}
+
+TEST_F(ProveRotonda, AMatrixOfAnUnknownKindIsReadAsVehicles) {
+    rotonda.NumeroRami(3);
+    rotonda.MatriceSvolte(30.0F, 1, 2);
+    rotonda.MatriceSvolte(10.0F, 1, 3);
+    for (const std::int16_t tipo : {std::int16_t{0}, std::int16_t{2}, std::int16_t{-1}}) {
+        rotonda.TipoMatriceSvolte(tipo);
+        Matrice quote;
+        rotonda.GetMatriceSvoltePercentuale(quote);
+        EXPECT_EQ(quote[0], (std::vector<float>{0, 0.75F, 0.25F})) << tipo;
+    }
 }
 
 TEST_F(ProveRotonda, StampTellsWhetherTheRecordsAreThoseOfTheProject) {
