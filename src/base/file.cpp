@@ -101,7 +101,10 @@ fs::path bersaglio(const std::string& percorso) {
 }
 
 /// Why a file that stands there may not be replaced, or an empty text.
-std::string intoccabile(const fs::file_status& stato) {
+std::string intoccabile(const fs::file_status& stato, const std::error_code& errore) {
+    if (!fs::status_known(stato)) {
+        return paroleErrore(errore);
+    }
     if (!fs::exists(stato)) {
         return {};
     }
@@ -148,6 +151,12 @@ std::string paroleErrore(const std::error_code& errore) {
     if (errore == std::errc::is_a_directory) {
         return "è una cartella";
     }
+    if (errore == std::errc::file_too_large) {
+        return "il file è troppo grande per il disco";
+    }
+    if (errore == std::errc::too_many_symbolic_link_levels) {
+        return "il collegamento non porta a un file";
+    }
     if (errore == std::errc::filename_too_long) {
         return "il nome è troppo lungo";
     }
@@ -172,9 +181,9 @@ std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, 
     const fs::path vero = bersaglio(percorso);
     const std::string testoVero = testoDi(vero);
     const std::string temporaneo = testoVero + ".tmp~";
-    std::error_code ignorato;
-    const fs::file_status stato = fs::status(vero, ignorato);
-    std::string errore = intoccabile(stato);
+    std::error_code causa;
+    const fs::file_status stato = fs::status(vero, causa);
+    std::string errore = intoccabile(stato, causa);
     if (!errore.empty()) {
         return errore;
     }
@@ -184,7 +193,7 @@ std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, 
     }
     if (fs::exists(stato)) {
         // Before the content: what was closed to others stays so at every instant.
-        fs::permissions(percorsoDi(temporaneo), stato.permissions(), ignorato);
+        fs::permissions(percorsoDi(temporaneo), stato.permissions(), causa);
     }
     errore = riempi(sistema, *file, temporaneo, dati);
     if (errore.empty()) {

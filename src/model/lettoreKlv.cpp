@@ -80,7 +80,7 @@ DataOra leggiTempo(const Valore& v, const std::string& dove, std::string_view mo
     if (!tempo) {
         constexpr std::size_t massimo = 30;
         const std::string breve = lunghezza(testo) > massimo ? "un testo lungo" : fmt::format("\"{}\"", testo);
-        errato(dove, fmt::format("atteso {}, trovato {}", modello, breve));
+        errato(dove, fmt::format("{}, trovato {}", modello, breve));
     }
     return *tempo;
 }
@@ -100,10 +100,10 @@ struct Scrittura {
     void operator()(const Singolo<O>& a) const { (oggetto.*a.scrivi)(leggiSingolo(valore, dove)); }
     void operator()(const Doppio<O>& a) const { (oggetto.*a.scrivi)(leggiDoppio(valore, dove)); }
     void operator()(const Ora<O>& a) const {
-        (oggetto.*a.scrivi)(leggiTempo(valore, dove, "un orario \"HH:MM\"", &leggiIsoOra));
+        (oggetto.*a.scrivi)(leggiTempo(valore, dove, "atteso un orario \"HH:MM\"", &leggiIsoOra));
     }
     void operator()(const Giorno<O>& a) const {
-        (oggetto.*a.scrivi)(leggiTempo(valore, dove, "una data \"AAAA-MM-GG\"", &leggiIsoGiorno));
+        (oggetto.*a.scrivi)(leggiTempo(valore, dove, "attesa una data \"AAAA-MM-GG\"", &leggiIsoGiorno));
     }
 };
 
