@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "base/guasto.h"
-#include "base/numeri.h"
 #include "base/testo.h"
 #include "model/alberoKlv.h"
 #include "model/campiKlv.h"
@@ -25,6 +24,8 @@ std::string sotto(const std::string& dove, std::string_view chiave) {
     return dove.empty() ? std::string{chiave} : fmt::format("{}.{}", dove, chiave);
 }
 
+// The place of a value is a callable that words it: it is called only for a message.
+
 /// Positions in messages count from 1, as the legs do.
 std::string voce(const std::string& dove, std::size_t indice) {
     return fmt::format("{}[{}]", dove, indice + 1);
@@ -37,16 +38,17 @@ std::string_view genere(const Valore& v) {
     return nomi.at(v.contenuto.index());
 }
 
-template <class T>
-const T& atteso(const Valore& v, std::string_view cosa, const std::string& dove) {
+template <class T, LuogoDiCalcolo L>
+const T& atteso(const Valore& v, std::string_view cosa, const L& dove) {
     const T* contenuto = std::get_if<T>(&v.contenuto);
     if (contenuto == nullptr) {
-        errato(dove, fmt::format("atteso {}, trovato {}", cosa, genere(v)));
+        errato(dove(), fmt::format("atteso {}, trovato {}", cosa, genere(v)));
     }
     return *contenuto;
 }
 
-double leggiDoppio(const Valore& v, const std::string& dove) {
+template <LuogoDiCalcolo L>
+double leggiDoppio(const Valore& v, const L& dove) {
     const std::string& testo = atteso<Numero>(v, "un numero", dove).testo;
     double numero = 0.0;
     const auto letto = std::from_chars(testo.data(), testo.data() + testo.size(), numero);
@@ -56,41 +58,44 @@ double leggiDoppio(const Valore& v, const std::string& dove) {
     return numero;
 }
 
-float leggiSingolo(const Valore& v, const std::string& dove) {
+template <LuogoDiCalcolo L>
+float leggiSingolo(const Valore& v, const L& dove) {
     const auto singolo = static_cast<float>(leggiDoppio(v, dove));
     if (!std::isfinite(singolo)) {
-        errato(dove, fmt::format("il numero {} è troppo grande", std::get<Numero>(v.contenuto).testo));
+        errato(dove(), fmt::format("il numero {} è troppo grande", std::get<Numero>(v.contenuto).testo));
     }
     return singolo;
 }
 
-std::int16_t leggiIntero(const Valore& v, const std::string& dove) {
+template <LuogoDiCalcolo L>
+std::int16_t leggiIntero(const Valore& v, const L& dove) {
     const double numero = leggiDoppio(v, dove);
     if (!(numero >= -32768.0 && numero <= 32767.0) || numero != std::floor(numero)) {
-        errato(dove, fmt::format("atteso un numero intero da -32768 a 32767, trovato {}",
-                                 std::get<Numero>(v.contenuto).testo));
+        errato(dove(), fmt::format("atteso un numero intero da -32768 a 32767, trovato {}",
+                                   std::get<Numero>(v.contenuto).testo));
     }
     return static_cast<std::int16_t>(numero);
 }
 
-DataOra leggiTempo(const Valore& v, const std::string& dove, std::string_view modello,
+template <LuogoDiCalcolo L>
+DataOra leggiTempo(const Valore& v, const L& dove, std::string_view modello,
                    std::optional<DataOra> (*lettura)(std::string_view)) {
     const std::string& testo = atteso<std::string>(v, "un testo", dove);
     const auto tempo = lettura(testo);
     if (!tempo) {
         constexpr std::size_t massimo = 30;
         const std::string breve = lunghezza(testo) > massimo ? "un testo lungo" : fmt::format("\"{}\"", testo);
-        errato(dove, fmt::format("{}, trovato {}", modello, breve));
+        errato(dove(), fmt::format("{}, trovato {}", modello, breve));
     }
     return *tempo;
 }
 
 /// Reads a value by the form of its property and hands it to the object.
-template <class O>
+template <class O, LuogoDiCalcolo L>
 struct Scrittura {
     O& oggetto;
     const Valore& valore;
-    const std::string& dove;
+    const L& dove;
 
     void operator()(const Testo<O>& a) const { (oggetto.*a.scrivi)(atteso<std::string>(valore, "un testo", dove)); }
     void operator()(const Logico<O>& a) const {
@@ -114,7 +119,8 @@ void leggiCampi(const Oggetto& fonte, const Campi& campi, const Altre& altre, co
         const auto campo =
             std::find_if(campi.begin(), campi.end(), [&](const Campo<O>& noto) { return noto.nome == membro.chiave; });
         if (campo != campi.end()) {
-            std::visit(Scrittura<O>{oggetto, membro.valore, sotto(dove, membro.chiave)}, campo->accesso);
+            const auto luogo = [&] { return sotto(dove, membro.chiave); };
+            std::visit(Scrittura<O, decltype(luogo)>{oggetto, membro.valore, luogo}, campo->accesso);
         } else if (std::find(altre.begin(), altre.end(), membro.chiave) == altre.end()) {
             oggetto.chiaviIgnote.emplace_back(membro.chiave, testoJson(membro.valore));
         }
@@ -125,13 +131,13 @@ void leggiCampi(const Oggetto& fonte, const Campi& campi, const Altre& altre, co
 const Oggetto& figlio(const Oggetto& fonte, std::string_view chiave, const std::string& dove) {
     static const Oggetto vuoto;
     const Valore* v = cerca(fonte, chiave);
-    return v == nullptr ? vuoto : atteso<Oggetto>(*v, "un oggetto", sotto(dove, chiave));
+    return v == nullptr ? vuoto : atteso<Oggetto>(*v, "un oggetto", [&] { return sotto(dove, chiave); });
 }
 
 const Elenco& elenco(const Oggetto& fonte, std::string_view chiave, const std::string& dove) {
     static const Elenco vuoto;
     const Valore* v = cerca(fonte, chiave);
-    return v == nullptr ? vuoto : atteso<Elenco>(*v, "un elenco", sotto(dove, chiave));
+    return v == nullptr ? vuoto : atteso<Elenco>(*v, "un elenco", [&] { return sotto(dove, chiave); });
 }
 
 /// The rows of figures of one leg, and where they stand.
@@ -149,7 +155,7 @@ std::optional<std::int16_t> segmentiDetti(const Oggetto& fonte, const std::strin
     if (v == nullptr) {
         return std::nullopt;
     }
-    const std::int16_t numero = leggiIntero(*v, sotto(dove, chiaveSegmenti));
+    const std::int16_t numero = leggiIntero(*v, [&] { return sotto(dove, chiaveSegmenti); });
     if (numero < 0 || numero > massimoSegmenti) {
         errato(sotto(dove, chiaveSegmenti),
                fmt::format("atteso un numero da 0 a {}, trovato {}", massimoSegmenti, numero));
@@ -185,20 +191,21 @@ void controllaLunghezza(const Elenco& righe, std::int16_t segmenti, const std::s
 void leggiFlussi(const Elenco& flussi, const std::string& dove, DatiTraffico& traffico) {
     controllaLunghezza(flussi, traffico.NumSegmentiTempo(), dove);
     for (std::size_t i = 0; i < flussi.size(); ++i) {
-        traffico.FlussoSegmento(leggiSingolo(flussi[i], voce(dove, i)), static_cast<std::int16_t>(i), 0);
+        traffico.FlussoSegmento(leggiSingolo(flussi[i], [&] { return voce(dove, i); }), static_cast<std::int16_t>(i),
+                                0);
     }
 }
 
 void leggiCategorie(const Elenco& categorie, const std::string& dove, ComposizioneTraffico& composizione) {
     controllaLunghezza(categorie, composizione.NumSegmentiTempo(), dove);
     for (std::size_t i = 0; i < categorie.size(); ++i) {
-        const auto& riga = atteso<Elenco>(categorie[i], "un elenco", voce(dove, i));
+        const auto& riga = atteso<Elenco>(categorie[i], "un elenco", [&] { return voce(dove, i); });
         if (riga.size() != static_cast<std::size_t>(numeroClassi)) {
             errato(voce(dove, i), fmt::format("attesi {} numeri, trovati {}", numeroClassi, riga.size()));
         }
         for (std::size_t c = 0; c < riga.size(); ++c) {
-            composizione.CategoriaSegmento(leggiSingolo(riga[c], voce(voce(dove, i), c)), static_cast<std::int16_t>(i),
-                                           static_cast<std::int16_t>(c));
+            composizione.CategoriaSegmento(leggiSingolo(riga[c], [&] { return voce(voce(dove, i), c); }),
+                                           static_cast<std::int16_t>(i), static_cast<std::int16_t>(c));
         }
     }
 }
@@ -214,21 +221,21 @@ void leggiMatrice(const Oggetto& radice, Rotonda& rotonda) {
         errato(dove, fmt::format("attese {} righe, trovate {}", lati, righe.size()));
     }
     for (std::size_t r = 0; r < lati; ++r) {
-        const auto& riga = atteso<Elenco>(righe[r], "un elenco", voce(dove, r));
+        const auto& riga = atteso<Elenco>(righe[r], "un elenco", [&] { return voce(dove, r); });
         if (riga.size() != lati) {
             errato(voce(dove, r), fmt::format("attesi {} numeri, trovati {}", lati, riga.size()));
         }
         for (std::size_t c = 0; c < lati; ++c) {
-            rotonda.MatriceSvolte(leggiSingolo(riga[c], voce(voce(dove, r), c)), static_cast<std::int16_t>(r + 1),
-                                  static_cast<std::int16_t>(c + 1));
+            rotonda.MatriceSvolte(leggiSingolo(riga[c], [&] { return voce(voce(dove, r), c); }),
+                                  static_cast<std::int16_t>(r + 1), static_cast<std::int16_t>(c + 1));
         }
     }
 }
 
 std::string leggiKey(const Oggetto& fonte, std::int16_t posizione, const std::string& dove, const Rotonda& rotonda) {
     const Valore* v = cerca(fonte, chiaveKey);
-    const std::string key =
-        v == nullptr ? fmt::format("{}Ramo", posizione) : atteso<std::string>(*v, "un testo", sotto(dove, chiaveKey));
+    const std::string key = v == nullptr ? fmt::format("{}Ramo", posizione)
+                                         : atteso<std::string>(*v, "un testo", [&] { return sotto(dove, chiaveKey); });
     if (!chiaveDelRamo(key, posizione)) {
         errato(sotto(dove, chiaveKey), fmt::format("la chiave del ramo non porta la cifra {}", posizione));
     }
@@ -277,7 +284,7 @@ std::int16_t leggiNumeroRami(const Oggetto& radice, const Elenco& rami) {
     const auto numero = static_cast<std::int16_t>(rami.size());
     if (const Valore* v = cerca(radice, chiaveNumeroRami)) {
         const std::string dove{chiaveNumeroRami};
-        const std::int16_t detto = leggiIntero(*v, dove);
+        const std::int16_t detto = leggiIntero(*v, [&] { return dove; });
         if (detto < minimoRami || detto > massimoRami) {
             errato(dove, fmt::format("atteso un numero da {} a {}, trovato {}", minimoRami, massimoRami, detto));
         }
@@ -301,7 +308,7 @@ void leggi(std::string_view testo, Rotonda& rotonda) {
     leggiCampi(radice, rotonda::campi, rotonda::altre, {}, rotonda);
     leggiMatrice(radice, rotonda);
     for (std::size_t i = 0; i < rami.size(); ++i) {
-        leggiRamo(atteso<Oggetto>(rami[i], "un oggetto", voce(std::string{chiaveRami}, i)),
+        leggiRamo(atteso<Oggetto>(rami[i], "un oggetto", [&] { return voce(std::string{chiaveRami}, i); }),
                   static_cast<std::int16_t>(i + 1), rotonda);
     }
 }

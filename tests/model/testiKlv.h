@@ -28,6 +28,11 @@ inline std::string sostituito(std::string testo, const std::string& da, const st
     return posto == std::string::npos ? testo : testo.replace(posto, da.size(), a);
 }
 
+/// A good project with one text in the place of another.
+inline std::string con(const std::string& da, const std::string& a) {
+    return sostituito(testoCompleto(), da, a);
+}
+
 struct EsitoLettura {
     bool esito = false;
     std::string messaggio;
@@ -46,6 +51,42 @@ inline std::string rifiuto(std::string_view testo) {
     const EsitoLettura letto = carica(rotonda, testo);
     EXPECT_EQ(letto.esito, letto.messaggio.empty());
     return letto.messaggio;
+}
+
+template <class O>
+void confrontaProprieta(const O& a, const O& b) {
+    perOgniProprieta(&a, [&](const auto& p) { EXPECT_EQ((a.*p.leggi)(), (b.*p.leggi)()) << p.nome; });
+}
+
+/// Expects every property of the two projects to be the same.
+inline void confronta(const Rotonda& a, const Rotonda& b) {
+    confrontaProprieta(a, b);
+    ASSERT_EQ(a.NumeroRami(), b.NumeroRami());
+    ASSERT_EQ(a.Rami().Count(), b.Rami().Count());
+    Matrice matriceA;
+    Matrice matriceB;
+    a.GetMatriceSvolte(matriceA);
+    b.GetMatriceSvolte(matriceB);
+    EXPECT_EQ(matriceA, matriceB);
+    for (std::int16_t i = 1; i <= a.Rami().Count(); ++i) {
+        SCOPED_TRACE(i);
+        const Ramo& ra = a.Ramo(i);
+        const Ramo& rb = b.Ramo(i);
+        EXPECT_EQ(ra.Key(), rb.Key());
+        confrontaProprieta(ra, rb);
+        confrontaProprieta(ra.theDatiTraffico(), rb.theDatiTraffico());
+        confrontaProprieta(ra.theComposizioneTraffico(), rb.theComposizioneTraffico());
+        confrontaProprieta(ra.theAnalisiMarginale(), rb.theAnalisiMarginale());
+        ASSERT_EQ(ra.theDatiTraffico().NumSegmentiTempo(), rb.theDatiTraffico().NumSegmentiTempo());
+        for (std::int16_t s = 0; s < ra.theDatiTraffico().NumSegmentiTempo(); ++s) {
+            EXPECT_EQ(ra.theDatiTraffico().FlussoSegmento(s, 0), rb.theDatiTraffico().FlussoSegmento(s, 0));
+        }
+        TabellaCategorie tabellaA;
+        TabellaCategorie tabellaB;
+        ra.theComposizioneTraffico().GetCategorieSegmenti(tabellaA);
+        rb.theComposizioneTraffico().GetCategorieSegmenti(tabellaB);
+        EXPECT_EQ(tabellaA, tabellaB);
+    }
 }
 
 }  // namespace kelvo::prove
