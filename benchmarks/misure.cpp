@@ -133,6 +133,9 @@ void stampaTabella(const std::vector<Coppia>& coppie, Raccolta& raccolta) {
     fmt::print("|---|---:|---:|---:|---:|---:|\n");
     for (const Coppia& c : coppie) {
         const std::string nuda = c.nome + "/nucleo";
+        if (!raccolta.tempi.contains(c.nome) || !raccolta.tempi.contains(nuda)) {
+            continue;  // left out by a filter
+        }
         fmt::print("| {} | {:.1f} | {:.1f} | {:.1f} | {:.1f} | {:.2f} |\n", c.nome, raccolta.quantile(c.nome, 0.5),
                    raccolta.quantile(c.nome, 0.95), raccolta.quantile(nuda, 0.5), raccolta.quantile(nuda, 0.95),
                    raccolta.quantile(c.nome, 0.5) / raccolta.quantile(nuda, 0.5));
