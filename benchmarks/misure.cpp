@@ -74,7 +74,7 @@ struct Passo {
     float Geometria::*misura;
     float passo;
 };
-constexpr Passo passi[] = {{&Geometria::e, 0.05F},   {&Geometria::v, 0.05F}, {&Geometria::l, 0.5F},
+constexpr Passo passi[] = {{&Geometria::e, 0.05F},  {&Geometria::v, 0.05F}, {&Geometria::l, 0.5F},
                            {&Geometria::phi, 5.0F}, {&Geometria::r, 1.0F},  {&Geometria::D, 1.0F}};
 constexpr int passiPerParte = 3;
 
@@ -98,12 +98,17 @@ struct Coppia {
 
 void registra(const Coppia& coppia) {
     const auto aggiungi = [](const std::string& nome, const std::function<void()>& lavoro) {
-        benchmark::RegisterBenchmark(nome.c_str(), [lavoro](benchmark::State& stato) {
-            for (auto _ : stato) {
-                lavoro();
-                benchmark::ClobberMemory();
-            }
-        })->Unit(benchmark::kMicrosecond)->MinTime(0.01)->Repetitions(50)->ReportAggregatesOnly(false);
+        benchmark::RegisterBenchmark(nome.c_str(),
+                                     [lavoro](benchmark::State& stato) {
+                                         for (auto _ : stato) {
+                                             lavoro();
+                                             benchmark::ClobberMemory();
+                                         }
+                                     })
+            ->Unit(benchmark::kMicrosecond)
+            ->MinTime(0.01)
+            ->Repetitions(50)
+            ->ReportAggregatesOnly(false);
     };
     aggiungi(coppia.nome, coppia.corsa);
     aggiungi(coppia.nome + "/nucleo", coppia.nuda);
@@ -155,10 +160,11 @@ std::vector<Coppia> coppieMotore(Banco& curva, Banco& destra, Banco& tabella, Ba
     };
     return {{"time-flow, 7 legs x 72", [&] { curva.motore.Calcola_Tempo_Flusso("0"); }, [&] { curva.nucleo.esegui(); }},
             {"right-turn lanes, 4 legs x 72",
-             [&] { destra.motore.Calcola_Tempo_Flusso_DX("0", {true, false, true, false}); },
+             [&] {
+                 destra.motore.Calcola_Tempo_Flusso_DX("0", {true, false, true, false});
+             },
              [&] { destra.nucleo.esegui(); }},
-            {"segment table, 7 legs x 72",
-             [&] { tabella.motore.Calcola_Tempo_Flusso_ST("1"); },
+            {"segment table, 7 legs x 72", [&] { tabella.motore.Calcola_Tempo_Flusso_ST("1"); },
              [&] { tabella.nucleo.esegui(); }},
             {"42 what-if runs, 7 legs x 72", quarantadue, quarantadueNude}};
 }
@@ -181,8 +187,9 @@ int main(int argc, char** argv) {
         const DatiTraffico& t = destra.app.theRotonda().Ramo(static_cast<std::int16_t>(i + 1)).theDatiTraffico();
         const ComposizioneTraffico& c =
             destra.app.theRotonda().Ramo(static_cast<std::int16_t>(i + 1)).theComposizioneTraffico();
-        const double G = (2.5 * static_cast<double>(c.Autoarticolati()) + 0.8 * static_cast<double>(c.VeicoliDueRuote()) +
-                          static_cast<double>(c.Autovetture())) / 100.0;
+        const double G = (2.5 * static_cast<double>(c.Autoarticolati()) +
+                          0.8 * static_cast<double>(c.VeicoliDueRuote()) + static_cast<double>(c.Autovetture())) /
+                         100.0;
         destra.nucleo.quota[i] =
             destra.motore.QuoteSvoltaDX()[i] * static_cast<double>(t.FlussoTotale()) / 100.0 / (5.0 * 72.0) * G;
     }
@@ -203,7 +210,8 @@ int main(int argc, char** argv) {
     coppie.push_back({"load, full project (bare: parse to a tree)", [&] { altra.Load(file, messaggio, esito); },
                       [&] { benchmark::DoNotOptimize(nlohmann::json::parse(testo)); }});
     coppie.push_back({"save, full project (bare: write and sync the bytes)",
-                      [&] { tabella.app.theRotonda().Save(file, messaggio, esito); }, [&] {
+                      [&] { tabella.app.theRotonda().Save(file, messaggio, esito); },
+                      [&] {
                           std::string errore;
                           const auto nudo = tabella.sistema.crea(file + ".nudo", errore);
                           benchmark::DoNotOptimize(nudo->scrivi(testo));
