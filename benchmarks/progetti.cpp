@@ -83,8 +83,8 @@ Nucleo nucleoDi(const Applicazione& app, Domanda domanda, bool perSegmento) {
         const DatiTraffico& t = ramo.theDatiTraffico();
         const ComposizioneTraffico& c = ramo.theComposizioneTraffico();
         nucleo.geometria[z] = {g.e, g.v, g.l, g.phi, g.r, g.D};
-        nucleo.percentuali[z] = {c.Autoarticolati(),  c.Autotreni(),  c.Pullman(), c.Camper(), c.Roulotte(),
-                                 c.VeicoliDueRuote(), c.Autovetture()};
+        nucleo.percentuali[z] = {c.Autoarticolati(), c.Autotreni(),       c.Pullman(),    c.Camper(),
+                                 c.Roulotte(),       c.VeicoliDueRuote(), c.Autovetture()};
         nucleo.q[z] = {t.FlussoTempo1(), t.FlussoTempo2(), t.FlussoTempo3()};
         nucleo.t[z] = {0, 180, 360 - minutiSegmento};
         nucleo.ped[z] = ramo.AttraversamentoPedonale() ? ramo.theAnalisiMarginale().AttraversamentoPedonale() : 0.0;
