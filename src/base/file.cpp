@@ -166,7 +166,7 @@ std::string paroleErrore(const std::error_code& errore) {
 namespace {
 
 std::string testoDimensione(std::uint64_t byte) {
-    constexpr std::uint64_t mebi = 1024 * 1024;
+    constexpr std::uint64_t mebi = std::uint64_t{1024} * 1024;
     return byte % mebi == 0 ? fmt::format("{} MiB", byte / mebi) : fmt::format("{} byte", byte);
 }
 

@@ -12,7 +12,7 @@ namespace {
 using prove::CartellaTemporanea;
 using prove::scriviContenuto;
 
-constexpr std::uint64_t mebi = 1024 * 1024;
+constexpr std::uint64_t mebi = std::uint64_t{1024} * 1024;
 
 TEST(LeggiFile, ReadsEveryByte) {
     const CartellaTemporanea cartella;

@@ -86,7 +86,7 @@ TEST(Lingua, TheTestsRunUnderTheLanguageOfTheSystem) {
     const char* lingua = std::getenv("LC_ALL");
     if (lingua != nullptr && std::string(lingua).rfind("it_IT", 0) == 0) {
         EXPECT_STREQ(std::localeconv()->decimal_point, ",");
-    } else if (lingua != nullptr && std::string(lingua).rfind("C", 0) == 0) {
+    } else if (lingua != nullptr && *lingua == 'C') {
         EXPECT_STREQ(std::localeconv()->decimal_point, ".");
     }
 }

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <new>
 
+// NOLINTBEGIN(cppcoreguidelines-no-malloc): the operators stand on it
+
 namespace {
 
 std::size_t contate = 0;
@@ -50,3 +52,5 @@ void operator delete(void* posto, std::align_val_t /*passo*/) noexcept {
 void operator delete(void* posto, std::size_t /*byte*/, std::align_val_t /*passo*/) noexcept {
     std::free(posto);
 }
+
+// NOLINTEND(cppcoreguidelines-no-malloc)
