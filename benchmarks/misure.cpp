@@ -7,12 +7,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -28,8 +28,7 @@ using namespace kelvo::misure;
 class MessaggiMuti final : public FinestraMessaggi {
 public:
     Risposta mostra(const std::string& testo, const std::string&, Icona, Pulsanti) override {
-        std::fprintf(stderr, "%s\n", testo.c_str());
-        std::exit(1);  // a measured run must not fail
+        throw std::runtime_error(testo);  // a measured run must not fail
     }
 };
 
@@ -58,13 +57,12 @@ void confronta(const Banco& banco, const char* nome) {
                                      .theDatiTraffico()
                                      .GetIterazione(static_cast<std::int16_t>(s + 1));
             const float veri[] = {r.Flusso, r.Capacita, r.Coeff_Sat, r.Coda, r.Ritardo};
-            const float* nudi = nucleo.record.data() + (s * nucleo.n + i) * 5;
+            const float* nudi = nucleo.record.data() + static_cast<std::ptrdiff_t>(s * nucleo.n + i) * 5;
             for (int c = 0; c < 5; ++c) {
                 const double scarto = std::fabs(static_cast<double>(veri[c]) - static_cast<double>(nudi[c]));
                 if (scarto > 1e-4 * std::max(1.0, std::fabs(static_cast<double>(veri[c])))) {
-                    fmt::print(stderr, "{}: ramo {}, segmento {}, campo {}: {} contro {}\n", nome, i + 1, s + 1, c,
-                               veri[c], nudi[c]);
-                    std::exit(1);
+                    throw std::runtime_error(fmt::format("{}: ramo {}, segmento {}, campo {}: {} contro {}", nome,
+                                                         i + 1, s + 1, c, veri[c], nudi[c]));
                 }
             }
         }
@@ -228,8 +226,7 @@ void confrontaTutti(Banchi& banchi, const std::vector<Coppia>& coppie) {
 
 void pretendi(bool vero, const std::string& parole) {
     if (!vero) {
-        fmt::print(stderr, "{}\n", parole);
-        std::exit(1);
+        throw std::runtime_error(parole);
     }
 }
 
@@ -299,13 +296,7 @@ std::vector<Coppia> coppieFile(Banco& banco, Rotonda& altra, const CartellaMisur
          [&sistema = banco.sistema, nudo, testo] { salvaNudo(sistema, nudo, testo); }}};
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 2;
-    }
+void misura() {
     Banchi banchi;
     preparaDestra(banchi.destra);
     preparaIpotesi(banchi.ipotesi);
@@ -323,5 +314,20 @@ int main(int argc, char** argv) {
     Raccolta raccolta;
     benchmark::RunSpecifiedBenchmarks(&raccolta);
     stampaTabella(coppie, raccolta);
-    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 2;
+    }
+    try {
+        misura();
+        return 0;
+    } catch (const std::exception& errore) {
+        std::fprintf(stderr, "%s\n", errore.what());
+        return 1;
+    }
 }

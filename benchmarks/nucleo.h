@@ -55,7 +55,7 @@ private:
 
     PerRamo<double> F{};
     PerRamo<double> Fc{};
-    std::array<double, massimo * massimo> M{};
+    std::array<double, 49> M{};  ///< n by n, n at most `massimo`
     PerRamo<std::array<float, 4>> rette{};
     PerRamo<std::array<int, 3>> k{};
     PerRamo<float> G{};

@@ -1,5 +1,6 @@
 // A run of the engine allocates nothing per segment: with six times the segments it allocates as often.
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -22,7 +23,7 @@ constexpr int minutiSegmento = 5;
 /// A study of `segmenti` segments with demand of both kinds and compositions of both kinds on every leg.
 class Studio {
 public:
-    Studio(std::int16_t rami, int segmenti) {
+    Studio(std::int16_t rami, std::int16_t segmenti) {
         creaProgetto(finta.app, rami);
         Rotonda& rotonda = finta.app.theRotonda();
         rotonda.TempoIniziale(oraDelGiorno(8, 0));
@@ -51,11 +52,11 @@ public:
     }
 
 private:
-    static void riempi(Ramo& ramo, int segmenti) {
+    static void riempi(Ramo& ramo, std::int16_t segmenti) {
         DatiTraffico& traffico = ramo.theDatiTraffico();
         ComposizioneTraffico& composizione = ramo.theComposizioneTraffico();
-        traffico.NumSegmentiTempo(static_cast<std::int16_t>(segmenti));
-        composizione.NumSegmentiTempo(static_cast<std::int16_t>(segmenti));
+        traffico.NumSegmentiTempo(segmenti);
+        composizione.NumSegmentiTempo(segmenti);
         traffico.Tempo1(oraDelGiorno(8, 0));
         traffico.Tempo2(oraDelGiorno(8, segmenti / 2 * minutiSegmento));
         traffico.Tempo3(oraDelGiorno(8, segmenti * minutiSegmento));
@@ -83,7 +84,7 @@ std::vector<Forma> forme() {
     std::vector<Forma> tutte;
     for (const std::string modo : {"0", "1"}) {
         const auto aggiungi = [&](const std::string& nome, std::int16_t rami, std::function<void(modCalcolo&)> corsa) {
-            tutte.push_back({nome + ", modo " + modo, rami, std::move(corsa)});
+            tutte.push_back({fmt::format("{}, modo {}", nome, modo), rami, std::move(corsa)});
         };
         aggiungi("curve", 7, [=](modCalcolo& m) { m.Calcola_Tempo_Flusso(modo); });
         aggiungi("curve, what-if", 7, [=](modCalcolo& m) { m.Calcola_Tempo_Flusso(2, g, modo); });
@@ -118,7 +119,7 @@ TEST_F(Allocazioni, AreCounted) {
 TEST_F(Allocazioni, DoNotGrowWithTheSegments) {
     for (const Forma& forma : forme()) {
         std::vector<std::size_t> contate;
-        for (const int segmenti : {12, 72}) {
+        for (const std::int16_t segmenti : {std::int16_t{12}, std::int16_t{72}}) {
             Studio studio(forma.rami, segmenti);
             forma.corsa(studio.motore);  // warms the engine and the records
             contate.push_back(studio.conta(forma.corsa));
