@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <cstdio>
+#include <filesystem>
 
 #include "base/file.h"
 #include "base/guasto.h"
@@ -80,7 +81,8 @@ bool Contesto::carica(const std::string& file) {
     bool esito = false;
     app_.theRotonda().Load(file, messaggio, esito);
     if (!esito) {
-        const bool manca = app_.file.dimensione(file) < 0;
+        std::error_code ignorato;
+        const bool manca = !std::filesystem::exists(file, ignorato);
         segnala(manca ? fileNonTrovato : formatoNonValido, "Load", messaggio);
     }
     caricato_ = esito;

@@ -157,6 +157,9 @@ TEST_F(Progetti, FileThatCannotBeReadGivesAJsonLineWithTheReason) {
     EXPECT_EQ(esito.uscita, "{\"file\":\"" + file("manca.klv") +
                                 "\",\"errori\":[{\"numero\":53,\"metodo\":\"Load\",\"descrizione\":\"il file non "
                                 "esiste\"}]}\n");
+    const Esito cartella = kelvoCli({"capacita-ultima", "--json", cartella_.percorso()});
+    EXPECT_EQ(cartella.codice, 1);
+    EXPECT_EQ(nlohmann::json::parse(cartella.uscita)["errori"][0]["numero"], 321);
 }
 
 }  // namespace
