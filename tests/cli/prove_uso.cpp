@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <regex>
+#include <filesystem>
+#include <set>
 
 #include "comune/cartella.h"
 #include "processo.h"
@@ -14,12 +15,23 @@ namespace {
 
 /// An English word of the option reader or of the C++ library, or an empty text.
 std::string parolaInglese(const std::string& testo) {
-    static const std::regex inglese(
-        "\\b(usage|options?|subcommands?|positionals?|required|missing|excludes|needs|value|argument|arguments|"
-        "expected|received|convert|range|int|text|uint|float|the|not|was|most|least|is|file not|error|run with)\\b",
-        std::regex::icase);
-    std::smatch trovata;
-    return std::regex_search(testo, trovata, inglese) ? trovata.str() : std::string{};
+    static const std::set<std::string> inglesi{
+        "usage",   "option",   "options", "subcommand", "subcommands", "positional", "positionals", "required",
+        "missing", "excludes", "needs",   "value",      "argument",    "arguments",  "expected",    "received",
+        "convert", "range",    "int",     "text",       "uint",        "float",      "the",         "not",
+        "was",     "most",     "least",   "is",         "error",       "run",        "with",        "at"};
+    std::string parola;
+    for (const char c : testo + ' ') {
+        const char minuscola = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 'a' - 'A') : c;
+        if (minuscola >= 'a' && minuscola <= 'z') {
+            parola += minuscola;
+        } else if (inglesi.contains(parola)) {
+            return parola;
+        } else {
+            parola.clear();
+        }
+    }
+    return {};
 }
 
 struct UsoErrato {
