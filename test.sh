@@ -33,4 +33,4 @@ if $lungo; then
 fi
 tabella_tempi
 # The summary of this run is the last thing that is printed.
-ultimo_passo "Prove Release" suite release
+ultimo_passo "Prove Release" prove_release
