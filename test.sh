@@ -19,7 +19,7 @@ for argomento in "$@"; do
     esac
 done
 
-installa costruzione librerie prove controlli
+installa costruzione librerie desktop prove controlli
 
 passo "Formato" formato
 passo "Compilazione Release" costruisci release
@@ -33,4 +33,4 @@ if $lungo; then
 fi
 tabella_tempi
 # The summary of this run is the last thing that is printed.
-ultimo_passo "Prove Release" suite release
+ultimo_passo "Prove Release" prove_release

@@ -8,10 +8,11 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -27,8 +28,7 @@ using namespace kelvo::misure;
 class MessaggiMuti final : public FinestraMessaggi {
 public:
     Risposta mostra(const std::string& testo, const std::string&, Icona, Pulsanti) override {
-        std::fprintf(stderr, "%s\n", testo.c_str());
-        std::exit(1);  // a measured run must not fail
+        throw std::runtime_error(testo);  // a measured run must not fail
     }
 };
 
@@ -57,13 +57,12 @@ void confronta(const Banco& banco, const char* nome) {
                                      .theDatiTraffico()
                                      .GetIterazione(static_cast<std::int16_t>(s + 1));
             const float veri[] = {r.Flusso, r.Capacita, r.Coeff_Sat, r.Coda, r.Ritardo};
-            const float* nudi = nucleo.record.data() + (s * nucleo.n + i) * 5;
+            const float* nudi = nucleo.record.data() + static_cast<std::ptrdiff_t>(s * nucleo.n + i) * 5;
             for (int c = 0; c < 5; ++c) {
                 const double scarto = std::fabs(static_cast<double>(veri[c]) - static_cast<double>(nudi[c]));
                 if (scarto > 1e-4 * std::max(1.0, std::fabs(static_cast<double>(veri[c])))) {
-                    fmt::print(stderr, "{}: ramo {}, segmento {}, campo {}: {} contro {}\n", nome, i + 1, s + 1, c,
-                               veri[c], nudi[c]);
-                    std::exit(1);
+                    throw std::runtime_error(fmt::format("{}: ramo {}, segmento {}, campo {}: {} contro {}", nome,
+                                                         i + 1, s + 1, c, veri[c], nudi[c]));
                 }
             }
         }
@@ -138,91 +137,197 @@ void stampaTabella(const std::vector<Coppia>& coppie, Raccolta& raccolta) {
     fmt::print("|---|---:|---:|---:|---:|---:|\n");
     for (const Coppia& c : coppie) {
         const std::string nuda = c.nome + "/nucleo";
+        if (!raccolta.tempi.contains(c.nome) || !raccolta.tempi.contains(nuda)) {
+            continue;  // left out by a filter
+        }
         fmt::print("| {} | {:.1f} | {:.1f} | {:.1f} | {:.1f} | {:.2f} |\n", c.nome, raccolta.quantile(c.nome, 0.5),
                    raccolta.quantile(c.nome, 0.95), raccolta.quantile(nuda, 0.5), raccolta.quantile(nuda, 0.95),
                    raccolta.quantile(c.nome, 0.5) / raccolta.quantile(nuda, 0.5));
     }
 }
 
-std::vector<Coppia> coppieMotore(Banco& curva, Banco& destra, Banco& tabella, Banco& ipotesi) {
-    const Geometria base = geometriaDi(ipotesi.app.theRotonda().Ramo(1));
-    const auto quarantadue = [&ipotesi, base] {
-        perOgniPasso(base, [&](const Geometria& g) { ipotesi.motore.Calcola_Tempo_Flusso(1, g, "0"); });
-    };
-    const auto quarantadueNude = [&ipotesi, base] {
-        perOgniPasso(base, [&](const Geometria& g) {
-            ipotesi.nucleo.geometria[0] = {g.e, g.v, g.l, g.phi, g.r, g.D};
-            ipotesi.nucleo.esegui();
-        });
-    };
-    return {{"time-flow, 7 legs x 72", [&] { curva.motore.Calcola_Tempo_Flusso("0"); }, [&] { curva.nucleo.esegui(); }},
-            {"right-turn lanes, 4 legs x 72",
-             [&] {
-                 destra.motore.Calcola_Tempo_Flusso_DX("0", {true, false, true, false});
-             },
-             [&] { destra.nucleo.esegui(); }},
-            {"segment table, 7 legs x 72", [&] { tabella.motore.Calcola_Tempo_Flusso_ST("1"); },
-             [&] { tabella.nucleo.esegui(); }},
-            {"42 what-if runs, 7 legs x 72", quarantadue, quarantadueNude}};
-}
+const CorsieDestra corsieAccese{true, false, true, false};
 
-}  // namespace
+/// The projects of the measured runs, each with its bare companion.
+struct Banchi {
+    Banco curva{7, Domanda::curva, false};
+    Banco destra{4, Domanda::curva, false};
+    Banco tabella{7, Domanda::tabella, true};
+    Banco ipotesi{7, Domanda::curva, false};
+};
 
-int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    Banco curva(7, Domanda::curva, false);
-    Banco destra(4, Domanda::curva, false);
-    Banco tabella(7, Domanda::tabella, true);
-    Banco ipotesi(7, Domanda::curva, false);
-    ipotesi.nucleo.doppio = true;
-    ipotesi.motore.Calcola_Tempo_Flusso("0");
-
-    std::vector<Coppia> coppie = coppieMotore(curva, destra, tabella, ipotesi);
-    // The lanes of the right-turn run take their share of the entry's vehicles a minute.
-    destra.motore.Calcola_Tempo_Flusso_DX("0", {true, false, true, false});
-    for (std::size_t i = 0; i < 4; ++i) {
-        const DatiTraffico& t = destra.app.theRotonda().Ramo(static_cast<std::int16_t>(i + 1)).theDatiTraffico();
-        const ComposizioneTraffico& c =
-            destra.app.theRotonda().Ramo(static_cast<std::int16_t>(i + 1)).theComposizioneTraffico();
+/// The lanes of the right-turn run take their share of the entry's vehicles a minute.
+void preparaDestra(Banco& banco) {
+    banco.motore.Calcola_Tempo_Flusso_DX("0", corsieAccese);
+    for (std::size_t i = 0; i < corsieAccese.size(); ++i) {
+        const Ramo& ramo = banco.app.theRotonda().Ramo(static_cast<std::int16_t>(i + 1));
+        const ComposizioneTraffico& c = ramo.theComposizioneTraffico();
         const double G = (2.5 * static_cast<double>(c.Autoarticolati()) +
                           0.8 * static_cast<double>(c.VeicoliDueRuote()) + static_cast<double>(c.Autovetture())) /
                          100.0;
-        destra.nucleo.quota[i] =
-            destra.motore.QuoteSvoltaDX()[i] * static_cast<double>(t.FlussoTotale()) / 100.0 / (5.0 * 72.0) * G;
+        banco.nucleo.quota[i] = banco.motore.QuoteSvoltaDX()[i] *
+                                static_cast<double>(ramo.theDatiTraffico().FlussoTotale()) / 100.0 / (5.0 * 72.0) * G;
     }
+}
+
+/// A what-if run goes on with the capacities of the last plain one, in double precision, and its curve ends at t3.
+void preparaIpotesi(Banco& banco) {
+    banco.motore.Calcola_Tempo_Flusso("0");
+    banco.nucleo.doppio = true;
+    banco.nucleo.capacitaTenute = true;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(banco.nucleo.n); ++i) {
+        banco.nucleo.t[i][2] = 360;
+        banco.nucleo.CU[i] = banco.app.theRotonda().Ramo(static_cast<std::int16_t>(i + 1)).CapacitaUltima();
+    }
+}
+
+void corriIpotesi(Banco& banco, const Geometria& g) {
+    banco.motore.Calcola_Tempo_Flusso(1, g, "0");
+}
+
+void corriNuda(Banco& banco, const Geometria& g) {
+    banco.nucleo.geometria[0] = {g.e, g.v, g.l, g.phi, g.r, g.D};
+    banco.nucleo.esegui();
+}
+
+std::vector<Coppia> coppieMotore(Banchi& banchi) {
+    const Geometria base = geometriaDi(banchi.ipotesi.app.theRotonda().Ramo(1));
+    const auto quarantadue = [&banco = banchi.ipotesi, base] {
+        perOgniPasso(base, [&](const Geometria& g) { corriIpotesi(banco, g); });
+    };
+    const auto quarantadueNude = [&banco = banchi.ipotesi, base] {
+        perOgniPasso(base, [&](const Geometria& g) { corriNuda(banco, g); });
+    };
+    return {{"time-flow, 7 legs x 72", [&banco = banchi.curva] { banco.motore.Calcola_Tempo_Flusso("0"); },
+             [&banco = banchi.curva] { banco.nucleo.esegui(); }},
+            {"right-turn lanes, 4 legs x 72",
+             [&banco = banchi.destra] { banco.motore.Calcola_Tempo_Flusso_DX("0", corsieAccese); },
+             [&banco = banchi.destra] { banco.nucleo.esegui(); }},
+            {"segment table, 7 legs x 72", [&banco = banchi.tabella] { banco.motore.Calcola_Tempo_Flusso_ST("1"); },
+             [&banco = banchi.tabella] { banco.nucleo.esegui(); }},
+            {"42 what-if runs, 7 legs x 72", quarantadue, quarantadueNude}};
+}
+
+/// Every bare run against its engine run; each of the what-if runs of its own.
+void confrontaTutti(Banchi& banchi, const std::vector<Coppia>& coppie) {
     for (const Coppia& c : coppie) {
         c.corsa();
         c.nuda();
     }
-    confronta(curva, "time-flow");
-    confronta(destra, "right-turn");
-    confronta(tabella, "segment table");
+    confronta(banchi.curva, "time-flow");
+    confronta(banchi.destra, "right-turn");
+    confronta(banchi.tabella, "segment table");
+    perOgniPasso(geometriaDi(banchi.ipotesi.app.theRotonda().Ramo(1)), [&](const Geometria& g) {
+        corriIpotesi(banchi.ipotesi, g);
+        corriNuda(banchi.ipotesi, g);
+        confronta(banchi.ipotesi, "what-if");
+    });
+}
 
-    const std::string file = (std::filesystem::temp_directory_path() / "kelvo-misura.klv").string();
-    const std::string testo = tabella.app.theRotonda().TestoFile();
-    std::string messaggio;
-    bool esito = false;
-    tabella.app.theRotonda().Save(file, messaggio, esito);
+void pretendi(bool vero, const std::string& parole) {
+    if (!vero) {
+        throw std::runtime_error(parole);
+    }
+}
+
+/// A folder of its own for the measured files, removed at the end.
+class CartellaMisure {
+public:
+    CartellaMisure() {
+        std::random_device caso;
+        percorso_ = std::filesystem::temp_directory_path() / ("kelvo-misure-" + std::to_string(caso()));
+        std::filesystem::create_directories(percorso_);
+    }
+    CartellaMisure(const CartellaMisure&) = delete;
+    CartellaMisure& operator=(const CartellaMisure&) = delete;
+    ~CartellaMisure() {
+        std::error_code ignorato;
+        std::filesystem::remove_all(percorso_, ignorato);
+    }
+    std::string file(const std::string& nome) const { return (percorso_ / nome).string(); }
+
+private:
+    std::filesystem::path percorso_;
+};
+
+/// The bare companion of a save: the bytes are at hand, the steps on the disk are the same.
+void salvaNudo(SistemaFile& sistema, const std::string& percorso, const std::string& testo) {
+    const std::string temporaneo = percorso + ".tmp~";
+    std::string errore;
+    {
+        const auto file = sistema.crea(temporaneo, errore);
+        pretendi(file != nullptr, errore);
+        errore = file->scrivi(testo);
+        errore += file->sincronizza();
+        errore += file->chiudi();
+    }
+    errore += sistema.rinomina(temporaneo, percorso);
+    sistema.sincronizzaCartella(percorso);
+    pretendi(errore.empty(), errore);
+}
+
+std::vector<Coppia> coppieFile(Banco& banco, Rotonda& altra, const CartellaMisure& cartella) {
+    const std::string pieno = cartella.file("pieno.klv");
+    const std::string nudo = cartella.file("nudo.klv");
+    Rotonda& rotonda = banco.app.theRotonda();
+    const std::string testo = rotonda.TestoFile();
+    const auto salva = [&rotonda, pieno] {
+        std::string messaggio;
+        bool esito = false;
+        rotonda.Save(pieno, messaggio, esito);
+        pretendi(esito, messaggio);
+    };
+    const auto carica = [&altra, pieno] {
+        std::string messaggio;
+        bool esito = false;
+        altra.Load(pieno, messaggio, esito);
+        pretendi(esito, messaggio);
+    };
+    salva();
+    carica();
+    pretendi(altra.TestoFile() == testo, "il progetto riletto non è quello salvato");
+    const nlohmann::json albero = nlohmann::json::parse(testo);
+    return {
+        {"load, full project (bare: parse to a tree)", carica,
+         [testo] { benchmark::DoNotOptimize(nlohmann::json::parse(testo)); }},
+        {"text of a full project (bare: dump of a tree)", [&rotonda] { benchmark::DoNotOptimize(rotonda.TestoFile()); },
+         [albero] { benchmark::DoNotOptimize(albero.dump(2)); }},
+        {"save, full project (bare: create, write, sync, close, rename)", salva,
+         [&sistema = banco.sistema, nudo, testo] { salvaNudo(sistema, nudo, testo); }}};
+}
+
+void misura() {
+    Banchi banchi;
+    preparaDestra(banchi.destra);
+    preparaIpotesi(banchi.ipotesi);
+    std::vector<Coppia> coppie = coppieMotore(banchi);
+    confrontaTutti(banchi, coppie);
+
+    const CartellaMisure cartella;
     Rotonda altra;
-    coppie.push_back({"load, full project (bare: parse to a tree)", [&] { altra.Load(file, messaggio, esito); },
-                      [&] { benchmark::DoNotOptimize(nlohmann::json::parse(testo)); }});
-    coppie.push_back({"save, full project (bare: write and sync the bytes)",
-                      [&] { tabella.app.theRotonda().Save(file, messaggio, esito); },
-                      [&] {
-                          std::string errore;
-                          const auto nudo = tabella.sistema.crea(file + ".nudo", errore);
-                          benchmark::DoNotOptimize(nudo->scrivi(testo));
-                          benchmark::DoNotOptimize(nudo->sincronizza());
-                      }});
-
+    for (const Coppia& c : coppieFile(banchi.tabella, altra, cartella)) {
+        coppie.push_back(c);
+    }
     for (const Coppia& c : coppie) {
         registra(c);
     }
     Raccolta raccolta;
     benchmark::RunSpecifiedBenchmarks(&raccolta);
     stampaTabella(coppie, raccolta);
-    std::error_code ignorato;
-    std::filesystem::remove(file, ignorato);
-    std::filesystem::remove(file + ".nudo", ignorato);
-    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 2;
+    }
+    try {
+        misura();
+        return 0;
+    } catch (const std::exception& errore) {
+        std::fprintf(stderr, "%s\n", errore.what());
+        return 1;
+    }
 }

@@ -112,7 +112,7 @@ void Nucleo::bilancia() {
         }
     }
     for (int i = 0; i < n; ++i) {
-        CU[z(i)] = d(Q[z(i)]);
+        CU[z(i)] = capacitaTenute ? CU[z(i)] : d(Q[z(i)]);
     }
 }
 

@@ -12,14 +12,14 @@ struct Nucleo {
     template <class T>
     using PerRamo = std::array<T, massimo>;
 
-    int n = 0;                 ///< legs
-    int K = 0;                 ///< segments
-    int m = 0;                 ///< minutes of a segment
-    int segmentiRecord = 0;    ///< segments as the records count them
-    bool tabella = false;      ///< demand from a table, else from a curve
-    bool perSegmento = false;  ///< one composition for each segment
-    bool doppio = false;       ///< queue and delay in double precision
-    bool corsie = false;       ///< right-turn lanes take their share
+    int n = 0;                    ///< legs
+    int K = 0;                    ///< segments
+    int m = 0;                    ///< minutes of a segment
+    int segmentiRecord = 0;       ///< segments as the records count them
+    bool tabella = false;         ///< demand from a table, else from a curve
+    bool perSegmento = false;     ///< one composition for each segment
+    bool doppio = false;          ///< queue and delay in double precision
+    bool capacitaTenute = false;  ///< the ultimate capacities stay those that CU holds
     double percentile = 95.0;
     double notte = 0.0;
     std::array<float, 7> VE{};
@@ -55,7 +55,7 @@ private:
 
     PerRamo<double> F{};
     PerRamo<double> Fc{};
-    std::array<double, massimo * massimo> M{};
+    std::array<double, 49> M{};  ///< n by n, n at most `massimo`
     PerRamo<std::array<float, 4>> rette{};
     PerRamo<std::array<int, 3>> k{};
     PerRamo<float> G{};

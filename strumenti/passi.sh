@@ -62,19 +62,30 @@ suite() {
     "${@:2}" ctest --test-dir "build/$1" -j2 --output-on-failure --no-tests=error
 }
 
-prove_italiane() {
-    local lingue=$RADICE/build/locale
-    if [[ ! -d $lingue/it_IT.UTF-8 ]]; then
-        mkdir -p "$lingue"
-        localedef -i it_IT -f UTF-8 "$lingue/it_IT.UTF-8"
+# Makes an Italian locale in the build folder, for the suite under it and for the tests that ask for one.
+readonly LINGUE=$RADICE/build/locale
+prepara_lingua() {
+    if [[ ! -d $LINGUE/it_IT.UTF-8 ]]; then
+        mkdir -p "$LINGUE"
+        localedef -i it_IT -f UTF-8 "$LINGUE/it_IT.UTF-8"
     fi
-    suite release env "LOCPATH=$lingue" LC_ALL=it_IT.UTF-8
+}
+
+prove_italiane() {
+    prepara_lingua
+    suite release env "LOCPATH=$LINGUE" LC_ALL=it_IT.UTF-8
+}
+
+prove_release() {
+    prepara_lingua
+    suite release env "LOCPATH=$LINGUE"
 }
 
 prove_asan() {
     export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
     export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
-    suite asan
+    prepara_lingua
+    suite asan env "LOCPATH=$LINGUE"
 }
 
 # fuzz <seconds>: every fuzzer for so long, on a copy of its seeds.

@@ -1,18 +1,45 @@
 #include "Comando.h"
 
+#include "argomenti.h"
+
 namespace kelvo::cli {
 
-void ComandoSuFile::aggiungiFile() {
+Comando::Comando(CLI::App& radice, const std::string& nome, const std::string& descrizione, const std::string& esempi)
+    : app_(radice.add_subcommand(nome, descrizione)) {
+    app_->group("Comandi");
+    app_->get_help_ptr()->group("Opzioni");
+    app_->footer("Esempi:\n" + esempi);
+}
+
+void Comando::aggiungiIni(OpzioniComuni& comuni) {
+    aggiungiTesto(*app_, "--ini", comuni.ini, "file di configurazione (se manca: Kelvo.ini accanto al programma)")
+        ->type_name("FILE");
+}
+
+ComandoSuFile::ComandoSuFile(CLI::App& radice, const std::string& nome, const std::string& descrizione,
+                             const std::string& esempi)
+    : Comando(radice, nome, descrizione, esempi) {
     app_->add_option("FILE", file_, "file di progetto .klv, uno o più")->required()->type_name("");
 }
 
 void ComandoSuFile::aggiungiComuni() {
-    app_->add_option("--ini", comuni_.ini, "file di configurazione (se manca: Kelvo.ini accanto al programma)")
-        ->type_name("FILE");
-    app_->add_option("--notte", comuni_.notte, "riduzione notturna della capacità del nodo, in per cento")
-        ->type_name("N")
-        ->check(CLI::Range(0, 100));
-    app_->add_flag("--json", comuni_.json, "una riga di JSON per file, a piena precisione");
+    constexpr Estremi percento{.minimo = 0, .massimo = 100};
+    aggiungiIni(comuni_);
+    aggiungiIntero(
+        *app_, "--notte", comuni_.notte, percento,
+        "riduzione della capacità di notte, da 0 a 100 per cento; vale per i progetti in condizioni notturne");
+    app_->add_flag("--json", comuni_.json, "una riga di JSON per file, con i numeri a piena precisione")
+        ->disable_flag_override();
+}
+
+void ComandoSuFile::avvisaNotte(Contesto& contesto) const {
+    const bool notturno = contesto.app().theRotonda().CondizioniNotturne();
+    if (comuni_.notte > 0 && !notturno) {
+        contesto.attenzione("--notte non ha effetto: il progetto non è in condizioni notturne");
+    }
+    if (notturno && app_->count("--notte") == 0) {
+        contesto.attenzione("il progetto è in condizioni notturne: senza --notte la riduzione vale 0");
+    }
 }
 
 int ComandoSuFile::esegui() {

@@ -12,7 +12,8 @@ namespace kelvo::cli {
 /// One command of the program: declares its options and runs.
 class Comando {
 public:
-    Comando() = default;
+    /// Adds the command to the program; `esempi`: lines at the end of its help.
+    Comando(CLI::App& radice, const std::string& nome, const std::string& descrizione, const std::string& esempi);
     Comando(const Comando&) = delete;
     Comando& operator=(const Comando&) = delete;
     virtual ~Comando() = default;
@@ -23,23 +24,28 @@ public:
     const CLI::App& opzioni() const { return *app_; }
 
 protected:
-    CLI::App* app_ = nullptr;
+    /// Adds --ini.
+    void aggiungiIni(OpzioniComuni& comuni);
+
+    CLI::App* app_;
 };
 
 /// A command that works through project files in order; one that fails does not stop the others.
 class ComandoSuFile : public Comando {
 public:
+    /// Adds the command with the argument that names its files.
+    ComandoSuFile(CLI::App& radice, const std::string& nome, const std::string& descrizione, const std::string& esempi);
     int esegui() override;
 
 protected:
-    /// Adds the option that names the files.
-    void aggiungiFile();
     /// Adds --ini, --notte and --json.
     void aggiungiComuni();
     /// False for options that do not go together; says why on standard error.
     virtual bool opzioniCoerenti() { return true; }
     /// False if the command computes nothing and needs no configuration.
     virtual bool serveConfigurazione() const { return true; }
+    /// Says where --notte and the project's own choice do not go together.
+    void avvisaNotte(Contesto& contesto) const;
     /// Works on one file; answers false if it failed.
     virtual bool tratta(Contesto& contesto, const std::string& file) = 0;
 

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <cstdio>
+#include <filesystem>
 
 #include "base/file.h"
 #include "base/guasto.h"
@@ -35,7 +36,7 @@ void stampa(const std::string& testo) {
 Contesto::Contesto() : app_(cartellaEseguibile(), cartellaTemporanea(), {*this, orologio_, sistemaFile()}) {
     app_.comune.alErrore = [this](const ErroreRegistrato& errore) {
         errori_.push_back(errore);
-        avvisa(fmt::format("{}: {} [{}, errore {}]", file_, errore.descrizione, errore.metodo, errore.numero));
+        avvisa(fmt::format("{}: {} [{}, errore {}]", nomeFile(), errore.descrizione, errore.metodo, errore.numero));
     };
 }
 
@@ -80,7 +81,8 @@ bool Contesto::carica(const std::string& file) {
     bool esito = false;
     app_.theRotonda().Load(file, messaggio, esito);
     if (!esito) {
-        const bool manca = app_.file.dimensione(file) < 0;
+        std::error_code ignorato;
+        const bool manca = !std::filesystem::exists(file, ignorato);
         segnala(manca ? fileNonTrovato : formatoNonValido, "Load", messaggio);
     }
     caricato_ = esito;
@@ -88,7 +90,16 @@ bool Contesto::carica(const std::string& file) {
 }
 
 void Contesto::segnala(int numero, const std::string& metodo, const std::string& descrizione) {
-    app_.comune.erroreLog(numero, metodo, descrizione, false);
+    errori_.push_back({.numero = numero, .metodo = metodo, .descrizione = descrizione});
+    avvisa(fmt::format("{}: {}", nomeFile(), descrizione));
+}
+
+void Contesto::attenzione(const std::string& testo) const {
+    avvisa(fmt::format("{}: attenzione: {}", nomeFile(), testo));
+}
+
+std::string Contesto::nomeFile() const {
+    return file_.empty() ? "''" : file_;
 }
 
 Risposta Contesto::mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti /*pulsanti*/) {

@@ -30,8 +30,10 @@ public:
     bool configura(const OpzioniComuni& opzioni);
     /// Drops the errors of the file before and loads a project; on failure the reason is among the errors.
     bool carica(const std::string& file);
-    /// Reports a failure that is no fault of an operation.
+    /// Records a failure that is no fault of an operation and says it on standard error, begun with the file.
     void segnala(int numero, const std::string& metodo, const std::string& descrizione);
+    /// Says on standard error what the user may not expect of the file at hand; no failure.
+    void attenzione(const std::string& testo) const;
 
     /// A message box: on the command line nobody presses a button. Faults have been written when they were recorded;
     /// any other message goes to standard error.
@@ -43,6 +45,8 @@ public:
     const std::vector<ErroreRegistrato>& errori() const { return errori_; }
 
 private:
+    std::string nomeFile() const;
+
     OrologioSistema orologio_;
     std::vector<ErroreRegistrato> errori_;
     std::string file_;

@@ -1,143 +1,67 @@
 #include <fmt/format.h>
 
-#include <array>
-#include <charconv>
 #include <optional>
-#include <string_view>
 
 #include "Comando.h"
+#include "argomenti.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "calc/modCalcolo.h"
-#include "json.h"
+#include "calcolaJson.h"
+#include "errori.h"
 #include "results/TabellaCapacitaUltima.h"
-#include "results/livelloServizio.h"
 #include "results/tabellaVerifiche.h"
 
 namespace kelvo::cli {
 
 namespace {
 
-constexpr int guastoIndice = 9;
 constexpr int guastoChiamata = 5;
+constexpr int ramiConCorsie = 4;
+constexpr int analisiTabella = 2;  // the highest kind of analysis
 
-std::vector<std::string> parti(std::string_view testo, char separatore) {
-    std::vector<std::string> pezzi;
-    for (;;) {
-        const auto fine = testo.find(separatore);
-        pezzi.emplace_back(testo.substr(0, fine));
-        if (fine == std::string_view::npos) {
-            return pezzi;
-        }
-        testo.remove_prefix(fine + 1);
-    }
-}
-
-/// "e,v,l,phi,r,D" with points as decimal separators, or the same with semicolons and commas.
-std::optional<Geometria> leggiGeometria(const std::string& testo) {
-    const char separatore = testo.find(';') == std::string::npos ? ',' : ';';
-    const std::vector<std::string> pezzi = parti(testo, separatore);
-    std::array<float, 6> misure{};
-    if (pezzi.size() != misure.size()) {
-        return std::nullopt;
-    }
-    for (std::size_t i = 0; i < misure.size(); ++i) {
-        const auto misura = leggiSingolo(pezzi[i], Separatore::virgolaOPunto);
-        if (!misura) {
-            return std::nullopt;
-        }
-        misure[i] = *misura;
-    }
-    return Geometria{.e = misure[0], .v = misure[1], .l = misure[2], .phi = misure[3], .r = misure[4], .D = misure[5]};
-}
-
-std::optional<CorsieDestra> leggiCorsie(const std::string& testo) {
-    CorsieDestra corsie{};
-    for (const std::string& pezzo : parti(testo, ',')) {
-        if (pezzo.size() != 1 || pezzo[0] < '1' || pezzo[0] > '4') {
-            return std::nullopt;
-        }
-        corsie[static_cast<std::size_t>(pezzo[0] - '1')] = true;
-    }
-    return corsie;
-}
-
-Json ambienteJson(Applicazione& app) {
-    Json coefficienti = Json::object();
-    const CoefficientiVeicoli valori = app.configurazione.coefficienti();
-    for (std::size_t i = 0; i < valori.size(); ++i) {
-        coefficienti[std::string{chiaviCoefficienti[i]}] = numero(valori[i]);
-    }
-    return {{"coefficienti", coefficienti},
-            {"ValorePercentile", numero(app.theRotonda().ValorePercentile())},
-            {"notte", app.theRotonda().CondizioniNotturne() ? app.theAmbiente.PercentualeNotturna() : 0}};
-}
-
-Json iterazioniJson(const Rotonda& rotonda, const DatiTraffico& traffico) {
-    Json iterazioni = Json::array();
-    for (std::int16_t k = 1; k <= traffico.IterazioniScritte(); ++k) {
-        const Iterazione r = traffico.GetIterazione(k);
-        iterazioni.push_back({{"intervallo", testoIntervallo(rotonda, k)},
-                              {"Flusso", numero(r.Flusso)},
-                              {"Capacita", numero(r.Capacita)},
-                              {"Coeff_Sat", numero(r.Coeff_Sat)},
-                              {"Coda", numero(r.Coda)},
-                              {"Ritardo", numero(r.Ritardo)},
-                              {"LOS", livelloDiRitardo(r.Ritardo)}});
-    }
-    return iterazioni;
-}
-
-Json ramoJson(const Rotonda& rotonda, const Ramo& ramo) {
-    return {{"Key", ramo.Key()},
-            {"Descrizione", ramo.Descrizione()},
-            {"K", numero(ramo.K())},
-            {"Td", numero(ramo.Td())},
-            {"S", numero(ramo.S())},
-            {"X2", numero(ramo.X2())},
-            {"F", numero(ramo.F())},
-            {"Fc", numero(ramo.Fc())},
-            {"CapacitaUltima", numero(ramo.CapacitaUltima())},
-            {"iterazioni", iterazioniJson(rotonda, ramo.theDatiTraffico())}};
-}
+constexpr const char* esempi =
+    "  kelvo-cli calcola Rotatoria.klv > Risultati.txt\n"
+    "  kelvo-cli calcola --json *.klv > risultati.jsonl\n"
+    "  kelvo-cli calcola --notte 20 Rotatoria.klv\n"
+    "  kelvo-cli calcola --ramo 2 --geometria 4.5,3.5,12,30,20,45 Rotatoria.klv\n"
+    "  kelvo-cli calcola --corsie-dx 1,3 Rotatoria.klv";
 
 class ComandoCalcola final : public ComandoSuFile {
 public:
-    explicit ComandoCalcola(CLI::App& radice) {
-        app_ = radice.add_subcommand("calcola", "Calcola capacità, saturazione, code, ritardi e livelli di servizio");
-        aggiungiFile();
+    explicit ComandoCalcola(CLI::App& radice)
+        : ComandoSuFile(radice, "calcola", "Calcola capacità, saturazione, code, ritardi e livelli di servizio",
+                        esempi) {
+        constexpr Estremi rami{.minimo = 1, .massimo = massimoRami};
         aggiungiComuni();
-        app_->add_option("--ramo", ramo_, "dopo il calcolo, ricalcola con altre misure per questo ramo")
-            ->type_name("N")
-            ->check(CLI::Range(1, static_cast<int>(massimoRami)));
-        app_->add_option("--geometria", geometriaScritta_,
-                         "le misure del ramo: e,v,l,phi,r,D con il punto decimale, o separate da ';' con la virgola")
+        aggiungiIntero(*app_, "--ramo", ramo_, rami, "dopo il calcolo, ricalcola con altre misure per questo ramo");
+        aggiungiTesto(*app_, "--geometria", geometriaScritta_,
+                      "le misure del ramo: e,v,l,phi,r,D con il punto decimale, o separate da ';' anche con la virgola")
             ->type_name("MISURE");
-        app_->add_option("--corsie-dx", corsieScritte_, "calcola con le corsie di svolta a destra: posizioni da 1 a 4")
-            ->type_name("1,3");
+        aggiungiTesto(*app_, "--corsie-dx", corsieScritte_,
+                      "calcola con le corsie di svolta a destra: posizioni da 1 a 4, separate da virgole")
+            ->type_name("POSIZIONI");
     }
 
 private:
     bool opzioniCoerenti() override {
         const bool ipotesi = app_->count("--ramo") > 0;
         const bool corsie = app_->count("--corsie-dx") > 0;
+        std::string errore;
         if (ipotesi != (app_->count("--geometria") > 0)) {
-            avvisa("le opzioni --ramo e --geometria vanno date insieme");
-            return false;
+            errore = "le opzioni --ramo e --geometria vanno date insieme";
+        } else if (ipotesi && corsie) {
+            errore = "--corsie-dx non si usa con --ramo e --geometria";
+        } else if (ipotesi && !(geometria_ = leggiGeometria(geometriaScritta_))) {
+            errore = fmt::format("--geometria: servono sei numeri, e,v,l,phi,r,D, non {}", citato(geometriaScritta_));
+        } else if (corsie && !(corsie_ = leggiCorsie(corsieScritte_))) {
+            errore = fmt::format("--corsie-dx: servono posizioni da 1 a 4, separate da virgole, non {}",
+                                 citato(corsieScritte_));
         }
-        if (ipotesi && corsie) {
-            avvisa("--corsie-dx non si usa con --ramo e --geometria");
-            return false;
+        if (!errore.empty()) {
+            usoErrato(*app_, errore);
         }
-        if (ipotesi && !(geometria_ = leggiGeometria(geometriaScritta_))) {
-            avvisa(fmt::format("--geometria '{}': servono sei numeri: e,v,l,phi,r,D", geometriaScritta_));
-            return false;
-        }
-        if (corsie && !(corsie_ = leggiCorsie(corsieScritte_))) {
-            avvisa(fmt::format("--corsie-dx '{}': servono posizioni da 1 a 4, separate da virgole", corsieScritte_));
-            return false;
-        }
-        return true;
+        return errore.empty();
     }
 
     bool tratta(Contesto& contesto, const std::string& file) override {
@@ -147,26 +71,41 @@ private:
             riuscito = contesto.errori().empty();
         }
         if (comuni_.json) {
-            stampa(riga(json(contesto, file)));
+            stampa(riga(calcolaJson(contesto, file, premessaJson())));
         } else if (riuscito) {
             riuscito = stampaTesto(contesto);
         }
         return riuscito;
     }
 
-    void calcola(Contesto& contesto) {
-        Rotonda& rotonda = contesto.app().theRotonda();
+    /// Why the project does not allow what the options ask for, or an empty text.
+    std::string impedimento(const Rotonda& rotonda) const {
+        if (rotonda.TipoAnalisi() < 0 || rotonda.TipoAnalisi() > analisiTabella) {
+            return fmt::format("il tipo di analisi {} non è previsto: i valori sono 0, 1 e 2", rotonda.TipoAnalisi());
+        }
         if (corsie_ && rotonda.TipoAnalisi() != 1 && rotonda.TipoAnalisi() != 2) {
-            contesto.segnala(guastoChiamata, "calcola",
-                             "le corsie di svolta a destra non hanno effetto su un'analisi della sola saturazione");
-            return;
+            return "le corsie di svolta a destra non hanno effetto su un'analisi della sola saturazione";
+        }
+        if (corsie_ && rotonda.NumeroRami() != ramiConCorsie) {
+            return fmt::format(
+                "corsie di svolta a destra: funzione disponibile solo per rotatorie a quattro ingressi, "
+                "questa ne ha {}",
+                rotonda.NumeroRami());
         }
         if (geometria_ && ramo_ > rotonda.NumeroRami()) {
-            contesto.segnala(
-                guastoIndice, "calcola",
-                fmt::format("il ramo {} non esiste: la rotatoria ha {} rami", ramo_, rotonda.NumeroRami()));
+            return fmt::format("il ramo {} non esiste: la rotatoria ha {} rami", ramo_, rotonda.NumeroRami());
+        }
+        return {};
+    }
+
+    void calcola(Contesto& contesto) {
+        Rotonda& rotonda = contesto.app().theRotonda();
+        const std::string motivo = impedimento(rotonda);
+        if (!motivo.empty()) {
+            contesto.segnala(guastoChiamata, "calcola", motivo);
             return;
         }
+        avvisaNotte(contesto);
         modCalcolo motore(contesto.app());
         const std::string modo = testoNumero(rotonda.TipoFlusso());
         if (corsie_) {
@@ -207,44 +146,58 @@ private:
         }
     }
 
-    static bool stampaTesto(Contesto& contesto) {
+    /// What tells figures of another form from the project's own, in front of them; empty for the project's own.
+    std::string premessa(const Rotonda& rotonda) const {
+        if (corsie_) {
+            return fmt::format("Con corsie preferenziali di svolta a destra: posizioni {}\r\n\r\n", corsieScritte_);
+        }
+        if (geometria_) {
+            const Geometria& g = *geometria_;
+            return fmt::format("Ipotesi: {} con e {}, v {}, l' {}, phi {}, r {}, D {}\r\n\r\n",
+                               rotonda.Ramo(ramo_).Descrizione(), testoNumero(g.e), testoNumero(g.v), testoNumero(g.l),
+                               testoNumero(g.phi), testoNumero(g.r), testoNumero(g.D));
+        }
+        return {};
+    }
+
+    Json premessaJson() const {
+        Json premessa = Json::object();
+        if (corsie_) {
+            Json posizioni = Json::array();
+            for (std::size_t i = 0; i < corsie_->size(); ++i) {
+                if ((*corsie_)[i]) {
+                    posizioni.push_back(i + 1);
+                }
+            }
+            premessa["corsie_dx"] = posizioni;
+        } else if (geometria_) {
+            const Geometria& g = *geometria_;
+            premessa["ipotesi"] = {{"ramo", ramo_},        {"e", numero(g.e)}, {"v", numero(g.v)}, {"l", numero(g.l)},
+                                   {"phi", numero(g.phi)}, {"r", numero(g.r)}, {"D", numero(g.D)}};
+        }
+        return premessa;
+    }
+
+    bool stampaTesto(Contesto& contesto) const {
         const Rotonda& rotonda = contesto.app().theRotonda();
         const DataOra momento = contesto.app().orologio.adesso();
         try {
             if (rotonda.TipoAnalisi() == 1 || rotonda.TipoAnalisi() == 2) {
                 Tabella tabella = impostaTabellaVerifiche(rotonda);
                 riempiTabellaVerifiche(rotonda, tabella);
-                stampa(testoVerifiche(tabella, rotonda, momento));
+                stampa(premessa(rotonda) + testoVerifiche(tabella, rotonda, momento));
             } else {
                 // Without demand over time the table of the entries is empty: the capacities are the result.
                 TabellaCapacitaUltima tabella;
                 tabella.riempi(rotonda);
-                stampa(tabella.testo(rotonda, momento));
+                stampa(premessa(rotonda) + tabella.testo(rotonda, momento));
             }
         } catch (const Guasto& guasto) {
-            contesto.segnala(guasto.codice(), "frmCapacitaCodeRitardi:Calcola", guasto.descrizione());
+            contesto.app().comune.erroreLog(guasto.codice(), "frmCapacitaCodeRitardi:Calcola", guasto.descrizione(),
+                                            false);
             return false;
         }
         return true;
-    }
-
-    static Json json(Contesto& contesto, const std::string& file) {
-        const Rotonda& rotonda = contesto.app().theRotonda();
-        Json uscita = {{"file", file}};
-        if (contesto.caricato()) {
-            uscita["NomeFile"] = rotonda.NomeFile();
-            uscita["TipoAnalisi"] = rotonda.TipoAnalisi();
-            uscita["TipoFlusso"] = rotonda.TipoFlusso();
-            uscita["NumeroRami"] = rotonda.NumeroRami();
-            uscita["ambiente"] = ambienteJson(contesto.app());
-            Json rami = Json::array();
-            for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
-                rami.push_back(ramoJson(rotonda, rotonda.Ramo(i)));
-            }
-            uscita["rami"] = rami;
-        }
-        uscita["errori"] = erroriJson(contesto);
-        return uscita;
     }
 
     std::int16_t ramo_ = 0;

@@ -10,9 +10,10 @@ namespace {
 
 class ComandoCapacitaUltima final : public ComandoSuFile {
 public:
-    explicit ComandoCapacitaUltima(CLI::App& radice) {
-        app_ = radice.add_subcommand("capacita-ultima", "Calcola la capacità ultima e l'indice di saturazione");
-        aggiungiFile();
+    explicit ComandoCapacitaUltima(CLI::App& radice)
+        : ComandoSuFile(radice, "capacita-ultima", "Calcola la capacità ultima e l'indice di saturazione",
+                        "  kelvo-cli capacita-ultima Rotatoria.klv\n"
+                        "  kelvo-cli capacita-ultima --json *.klv > capacita.jsonl") {
         aggiungiComuni();
     }
 
@@ -21,6 +22,7 @@ private:
         TabellaCapacitaUltima tabella;
         const bool caricato = contesto.carica(file);
         if (caricato) {
+            avvisaNotte(contesto);
             modCalcolo(contesto.app()).Calcola_Bilanciamento();
             riempi(contesto, tabella);
         }
@@ -37,7 +39,7 @@ private:
         try {
             tabella.riempi(contesto.app().theRotonda());
         } catch (const Guasto& guasto) {
-            contesto.segnala(guasto.codice(), "frmCapacitaUltima:Calcola", guasto.descrizione());
+            contesto.app().comune.erroreLog(guasto.codice(), "frmCapacitaUltima:Calcola", guasto.descrizione(), false);
         }
     }
 

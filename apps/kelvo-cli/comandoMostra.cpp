@@ -24,7 +24,7 @@ std::string voce(const std::array<const char*, N>& voci, std::int16_t valore) {
 
 void rigaDati(std::string& testo, std::string_view etichetta, const std::string& valore) {
     if (!valore.empty()) {
-        testo += fmt::format("{:<22}{}\n", fmt::format("{}:", etichetta), valore);
+        testo += fmt::format("{:<24}{}\n", fmt::format("{}:", etichetta), valore);
     }
 }
 
@@ -114,10 +114,9 @@ std::string riassunto(const Rotonda& rotonda) {
 
 class ComandoMostra final : public ComandoSuFile {
 public:
-    explicit ComandoMostra(CLI::App& radice) {
-        app_ = radice.add_subcommand("mostra", "Mostra i dati principali di un progetto");
-        aggiungiFile();
-    }
+    explicit ComandoMostra(CLI::App& radice)
+        : ComandoSuFile(radice, "mostra", "Mostra i dati principali di un progetto",
+                        "  kelvo-cli mostra Rotatoria.klv") {}
 
 private:
     bool serveConfigurazione() const override { return false; }

@@ -4,6 +4,8 @@
 
 #include "Comando.h"
 #include "app/nuovoProgetto.h"
+#include "argomenti.h"
+#include "errori.h"
 
 namespace kelvo::cli {
 
@@ -13,32 +15,32 @@ constexpr std::string_view caratteriVietati = "\\/:*?\"<>|";
 
 class ComandoNuovo final : public Comando {
 public:
-    explicit ComandoNuovo(CLI::App& radice) {
-        app_ = radice.add_subcommand("nuovo", "Crea un progetto nuovo, con i valori iniziali");
-        app_->add_option("--rami", rami_, "numero di rami, da 3 a 7")
-            ->required()
-            ->type_name("N")
-            ->check(CLI::Range(static_cast<int>(minimoRami), static_cast<int>(massimoRami)));
-        app_->add_option("--nome", nome_, "nome del progetto (se manca: il nome del file)")->type_name("NOME");
-        app_->add_flag("--sovrascrivi", sovrascrivi_, "sostituisce un file che esiste già");
-        app_->add_option("--ini", comuni_.ini, "file di configurazione (se manca: Kelvo.ini accanto al programma)")
-            ->type_name("FILE");
-        app_->add_option("FILE", file_, "file di progetto da creare, .klv")->required()->type_name("");
+    explicit ComandoNuovo(CLI::App& radice)
+        : Comando(radice, "nuovo", "Crea un progetto nuovo, con i valori iniziali",
+                  "  kelvo-cli nuovo --rami 4 Rotatoria.klv\n"
+                  "  kelvo-cli nuovo --rami 5 --nome \"Rotatoria Ospedale\" Ospedale.klv") {
+        constexpr Estremi rami{.minimo = minimoRami, .massimo = massimoRami};
+        aggiungiIntero(*app_, "--rami", rami_, rami, fmt::format("numero di rami, da {} a {}", minimoRami, massimoRami))
+            ->required();
+        aggiungiTesto(*app_, "--nome", nome_, "nome del progetto (se manca: il nome del file)")->type_name("NOME");
+        app_->add_flag("--sovrascrivi", sovrascrivi_, "sostituisce un file che esiste già")->disable_flag_override();
+        aggiungiIni(comuni_);
+        aggiungiTesto(*app_, "FILE", file_, "file di progetto da creare, .klv")->required()->type_name("");
     }
 
     int esegui() override {
         namespace fs = std::filesystem;
         const std::string nome = nome_.empty() ? fs::path(file_).stem().string() : nome_;
         if (nome.find_first_of(caratteriVietati) != std::string::npos) {
-            avvisa(fmt::format("nome '{}': non sono permessi i caratteri {}", nome, caratteriVietati));
-            return uscitaUsoErrato;
+            return usoErrato(*app_,
+                             fmt::format("nome {}: non sono permessi i caratteri {}", citato(nome), caratteriVietati));
         }
         Contesto contesto;
         if (!contesto.configura(comuni_)) {
             return uscitaUsoErrato;
         }
         std::error_code errore;
-        if (!sovrascrivi_ && fs::exists(fs::symlink_status(file_, errore))) {
+        if (!sovrascrivi_ && !fs::is_directory(file_, errore) && fs::exists(fs::symlink_status(file_, errore))) {
             avvisa(fmt::format("{}: esiste già; con --sovrascrivi viene sostituito", file_));
             return uscitaFallito;
         }

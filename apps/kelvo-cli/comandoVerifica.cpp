@@ -15,10 +15,9 @@ constexpr int analisiTabella = 2;
 
 class ComandoVerifica final : public ComandoSuFile {
 public:
-    explicit ComandoVerifica(CLI::App& radice) {
-        app_ = radice.add_subcommand("verifica", "Controlla che i file di progetto si leggano e siano coerenti");
-        aggiungiFile();
-    }
+    explicit ComandoVerifica(CLI::App& radice)
+        : ComandoSuFile(radice, "verifica", "Controlla che i file di progetto si leggano e siano coerenti",
+                        "  kelvo-cli verifica *.klv") {}
 
 private:
     bool serveConfigurazione() const override { return false; }
@@ -28,25 +27,33 @@ private:
             return false;
         }
         const Rotonda& rotonda = contesto.app().theRotonda();
-        std::vector<std::string> avvisi;
-        const auto prova = [&](auto controllo) {
-            try {
-                controllo(rotonda, avvisi);
-            } catch (const Guasto& guasto) {
-                avvisi.push_back(guasto.descrizione());
-            }
-        };
-        prova(controllaScelte);
-        prova(controllaSegmenti);
-        for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
-            prova([i](const Rotonda& r, std::vector<std::string>& a) { controllaTotali(r, r.Ramo(i), a); });
-        }
+        const std::vector<std::string> avvisi = avvisiDi(rotonda);
         stampa(fmt::format("{}: si legge, {}\n", file,
                            avvisi.empty() ? "nessun avviso" : fmt::format("avvisi: {}", avvisi.size())));
         for (const std::string& avviso : avvisi) {
             stampa(fmt::format("  attenzione: {}\n", avviso));
         }
         return true;
+    }
+
+    static std::vector<std::string> avvisiDi(const Rotonda& rotonda) {
+        std::vector<std::string> avvisi;
+        controllaScelte(rotonda, avvisi);
+        try {
+            controllaSegmenti(rotonda, avvisi);
+        } catch (const Guasto& guasto) {
+            avvisi.push_back(fmt::format("finestra di modellazione: {}", guasto.descrizione()));
+            return avvisi;  // nothing else can be worked out
+        }
+        for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
+            const Ramo& ramo = rotonda.Ramo(i);
+            try {
+                controllaTotali(rotonda, ramo, avvisi);
+            } catch (const Guasto& guasto) {
+                avvisi.push_back(fmt::format("{}: {}", ramo.Descrizione(), guasto.descrizione()));
+            }
+        }
+        return avvisi;
     }
 
     static void controllaScelte(const Rotonda& rotonda, std::vector<std::string>& avvisi) {
@@ -62,6 +69,9 @@ private:
 
     static void controllaSegmenti(const Rotonda& rotonda, std::vector<std::string>& avvisi) {
         const int intervalli = numeroIntervalli(rotonda);
+        if (intervalli <= 0) {
+            avvisi.emplace_back("la finestra di modellazione non ha segmenti di tempo");
+        }
         for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
             const int segmenti = rotonda.Ramo(i).theDatiTraffico().NumSegmentiTempo();
             if (segmenti != intervalli) {
@@ -75,6 +85,11 @@ private:
         std::optional<TotaliTraffico> attesi;
         if (rotonda.TipoAnalisi() == analisiCurva) {
             attesi = totaliCurva(rotonda, ramo);
+            if (!attesi) {
+                avvisi.push_back(
+                    fmt::format("{}: la curva di traffico non si può costruire, un suo tratto non ha segmenti di tempo",
+                                ramo.Descrizione()));
+            }
         } else if (rotonda.TipoAnalisi() == analisiTabella) {
             attesi = totaliTabella(rotonda, ramo);
         }

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <exception>
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "Comando.h"
@@ -14,11 +15,20 @@ namespace {
 
 using namespace kelvo::cli;
 
+constexpr const char* piede =
+    "Esempi:\n"
+    "  kelvo-cli nuovo --rami 4 Rotatoria.klv\n"
+    "  kelvo-cli calcola Rotatoria.klv\n"
+    "  kelvo-cli calcola --help\n"
+    "\n"
+    "Codice di uscita: 0 fatto; 1 il calcolo o un file non è riuscito; 2 uso errato o configurazione inutilizzabile";
+
 int esegui(int argc, char** argv) {
     CLI::App radice{"Kelvo: progetto e verifica di rotatorie", "kelvo-cli"};
     italiano(radice);
     radice.set_version_flag("--version", fmt::format("Kelvo {}", kelvo::versione()), "Mostra la versione");
     radice.require_subcommand(1);
+    radice.footer(piede);
 
     std::vector<std::unique_ptr<Comando>> comandi;
     for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica}) {
@@ -35,9 +45,14 @@ int esegui(int argc, char** argv) {
             uscita = comando->esegui();
         }
     }
+    return uscita;
+}
+
+/// A result that did not reach its reader whole is a failure.
+int conRisultatoScritto(int uscita) {
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         avvisa("impossibile scrivere il risultato");
-        return uscitaFallito;
+        return uscita == uscitaFatto ? uscitaFallito : uscita;
     }
     return uscita;
 }
@@ -46,7 +61,10 @@ int esegui(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     try {
-        return esegui(argc, argv);
+        return conRisultatoScritto(esegui(argc, argv));
+    } catch (const std::bad_alloc&) {
+        std::fputs("kelvo-cli: memoria insufficiente\n", stderr);
+        return uscitaFallito;
     } catch (const std::exception& errore) {
         std::fprintf(stderr, "kelvo-cli: errore imprevisto: %s\n", errore.what());
         return uscitaFallito;

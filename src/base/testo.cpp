@@ -53,6 +53,11 @@ std::string senzaUltimi(std::string_view testo, std::size_t quanti) {
     return std::string{testo.substr(0, inizioUltimi(testo, quanti))};
 }
 
+std::size_t parteValida(std::string_view testo) {
+    const char* const inizio = testo.data();
+    return static_cast<std::size_t>(utf8::find_invalid(inizio, inizio + testo.size()) - inizio);
+}
+
 std::string utf8Valido(std::string_view testo) {
     std::string valido;
     utf8::replace_invalid(testo.begin(), testo.end(), std::back_inserter(valido));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,8 @@ std::vector<std::string> caratteri(std::string_view testo);
 std::string ultimiCaratteri(std::string_view testo, std::size_t quanti);
 /// The text less its last `quanti` characters; empty if it is shorter.
 std::string senzaUltimi(std::string_view testo, std::size_t quanti);
+/// Number of bytes before the first that is no valid UTF-8: the size of the text if there is none.
+std::size_t parteValida(std::string_view testo);
 /// The text with every wrong byte sequence replaced by U+FFFD.
 std::string utf8Valido(std::string_view testo);
 /// The text without blanks and tabs at its ends.

@@ -47,6 +47,9 @@ private:
     std::size_t* letti_;
 };
 
+/// Room that a list takes with its first value: most lists of a project are rows of the seven classes.
+constexpr std::size_t rigaUsuale = 7;
+
 /// The places of the file whose size is bounded.
 enum class Luogo { altro, radice, rami, ramo, traffico, flussi, composizione, categorie };
 
@@ -227,7 +230,7 @@ private:
         return true;
     }
 
-    bool valore(Valore v) {
+    bool valore(Valore&& v) {
         if (aperte_.empty()) {
             return estraneo("il testo non è un oggetto");
         }
@@ -238,20 +241,23 @@ private:
         return true;
     }
 
-    void riponi(Valore v) {
+    void riponi(Valore&& v) {
         if (aperte_.empty()) {
             radice_ = std::move(v);
             return;
         }
         Cornice& cornice = aperte_.back();
         if (auto* elenco = std::get_if<Elenco>(&cornice.valore.contenuto)) {
+            if (elenco->empty()) {
+                elenco->reserve(rigaUsuale);
+            }
             elenco->push_back(std::move(v));
         } else {
             std::get<Oggetto>(cornice.valore.contenuto).push_back({std::move(cornice.chiave), std::move(v)});
         }
     }
 
-    bool apri(Valore v) {
+    bool apri(Valore&& v) {
         if (aperte_.size() >= massimaProfondita) {
             return rifiuta(fmt::format("più di {} livelli, uno dentro l'altro", massimaProfondita));
         }
@@ -311,11 +317,9 @@ void controllaByte(std::string_view testo) {
     if (testo.empty()) {
         rifiuta("il file è vuoto");
     }
-    const std::string valido = utf8Valido(testo);
-    const auto diverso = std::mismatch(testo.begin(), testo.end(), valido.begin(), valido.end()).first;
-    if (diverso != testo.end()) {
-        const auto fine = static_cast<std::size_t>(diverso - testo.begin()) + 1;
-        rifiuta(posto(testo, fine) + "il testo non è UTF-8");
+    const std::size_t valida = parteValida(testo);
+    if (valida != testo.size()) {
+        rifiuta(posto(testo, valida + 1) + "il testo non è UTF-8");
     }
 }
 

@@ -102,6 +102,16 @@ TEST(SenzaUltimi, IsTheComplementOfUltimiCaratteri) {
     }
 }
 
+TEST(ParteValida, EndsAtTheFirstWrongByte) {
+    EXPECT_EQ(parteValida(""), 0U);
+    EXPECT_EQ(parteValida("Citta"), 5U);
+    EXPECT_EQ(parteValida("Citt\xC3\xA0"), 6U);
+    EXPECT_EQ(parteValida("Citt\xE0"), 4U);
+    EXPECT_EQ(parteValida("\xFF"), 0U);
+    EXPECT_EQ(parteValida("a\xEF\xBF"), 1U);
+    EXPECT_EQ(parteValida("\xC3\xA0 \x80 x"), 3U);
+}
+
 TEST(Utf8Valido, LeavesGoodTextAlone) {
     const std::string testo = unisci({capacita, " ", euro, faccina, "\r\n"});
     EXPECT_EQ(utf8Valido(testo), testo);
