@@ -110,7 +110,7 @@ public:
     /// Copies the matrix as entered, vehicles or per cent, NumeroRami by NumeroRami.
     void GetMatriceSvolte(Matrice& matrice) const { matrice = dati_.matrice; }
     /// Copies the matrix as shares from 0 to 1: each row divided by its own total, the diagonal included (a row that
-    /// adds up to 0 gives 0), or by 100 where it was entered in per cent.
+    /// adds up to 0 gives 0), or by 100 where it was entered in per cent. Fault 6 for a share too large for a single.
     void GetMatriceSvoltePercentuale(Matrice& matrice) const;
     /// Notes.
     const std::string& Note() const { return dati_.note; }
