@@ -15,7 +15,6 @@ costruisci release apps/all assets/all
 di "Calcolo dei progetti di esempio"
 shopt -s nullglob
 mkdir -p -- "$USCITA"
-rm -f -- "$USCITA"/*.txt
 progetti=("$PROG"/Progetti/*.klv)
 ((${#progetti[@]})) || muori "nessun progetto di esempio in $PROG/Progetti"
 

@@ -1,7 +1,10 @@
-# kelvo_stanza(<room> [USA <room>...] [LIBRERIE <target>...])
+# kelvo_stanza(<room> [USA <room>...] [LIBRERIE <target>...] [LIBRERIE_PRIVATE <target>...])
 #
-# Makes the target of one room of src/. A room sees its own headers and those of the rooms that it names, and no
-# others: each room's headers are published through a folder of their own, so that a wrong include does not build.
+# Makes the target of one room of src/. Each room's headers are published through a folder of their own: a room sees its
+# own headers, those of the rooms that it names (USA) and, as the links are public, those of the rooms that these name
+# in turn, which their headers include. What lies beyond does not build. LIBRERIE are the libraries that the headers of
+# the room include, and go on to whoever uses it; LIBRERIE_PRIVATE those of its .cpp files alone. The table of who may
+# include whom is held exactly by the test of the includes, tests/casa.
 function(kelvo_stanza stanza)
   cmake_parse_arguments(S "" "" "USA;LIBRERIE;LIBRERIE_PRIVATE" ${ARGN})
   string(REPLACE "/" "_" bersaglio "${stanza}")

@@ -4,6 +4,13 @@
 
 namespace kelvo {
 
+void Applicazione::caricaRotonda(const std::string& percorso, std::string& messaggio, bool& esito) {
+    rotonda_->Load(percorso, messaggio, esito);
+    if (esito) {
+        theRamoCorrente = nullptr;
+    }
+}
+
 DataOra Applicazione::giorno() const {
     return std::floor(orologio.adesso());
 }

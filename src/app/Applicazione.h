@@ -50,6 +50,9 @@ public:
         theRamoCorrente = nullptr;
         rotonda_ = std::make_unique<Rotonda>(file, [this] { return giorno(); });
     }
+    /// Replaces the content of the project from a file, as Rotonda::Load. If that succeeds no leg is the current one
+    /// any more: the old ones are gone. If it fails, project and current leg stay.
+    void caricaRotonda(const std::string& percorso, std::string& messaggio, bool& esito);
     /// The leg whose window is open, if any; owned by the project.
     Ramo* theRamoCorrente = nullptr;
 

@@ -68,6 +68,10 @@ std::string valoreScritto(std::string_view valore) {
 
 }  // namespace
 
+bool FileIni::codificaNonValida(std::string_view testo) {
+    return testo.starts_with("\xFF\xFE") || testo.starts_with("\xFE\xFF") || testo.find('\0') != std::string_view::npos;
+}
+
 FileIni::FileIni(std::string_view testo) {
     if (testo.starts_with(bom)) {
         bom_ = true;

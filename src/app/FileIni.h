@@ -16,6 +16,10 @@ namespace kelvo {
 /// foreign keys, lines of no known form, each line's own end, a last line without one. Any text can be read.
 class FileIni {
 public:
+    /// True for a text in UTF-16 or UTF-32, known by the mark at its start or by a zero byte: no key can be found in
+    /// it, and nothing may be written into it. What is left (UTF-8 and the codes of one byte) can be read.
+    static bool codificaNonValida(std::string_view testo);
+
     FileIni() = default;
     explicit FileIni(std::string_view testo);
 

@@ -37,7 +37,7 @@ clsAmbiente::clsAmbiente(std::string cartellaProgramma, const std::string& carte
       sistema_(sistema) {}
 
 std::string clsAmbiente::PercorsoProgramma(const std::string& nome) const {
-    return conSeparatore(cartellaProgramma_) + nome;
+    return percorsoSenzaMaiuscole(conSeparatore(cartellaProgramma_), nome);
 }
 
 void clsAmbiente::ScriviIni(const std::string& percorsoFile, const std::string& sezione, const std::string& chiave,
@@ -45,6 +45,9 @@ void clsAmbiente::ScriviIni(const std::string& percorsoFile, const std::string& 
     std::string testo;
     if (!leggiFile(percorsoFile, massimoIni, testo).empty() && !manca(percorsoFile)) {
         return;  // it may be there and cannot be read: never overwrite what was not seen
+    }
+    if (FileIni::codificaNonValida(testo)) {
+        return;  // its lines cannot be told apart
     }
     FileIni ini(testo);
     ini.scrivi(sezione, chiave, valore);

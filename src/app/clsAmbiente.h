@@ -19,7 +19,8 @@ public:
 
     /// Folder for the temporary files of the exports; ends in a path separator.
     const std::string& CartellaLavoro() const { return cartellaLavoro_; }
-    /// Writes a key of a configuration file, whole path. A failure is silent: whoever needs to know reads back.
+    /// Writes a key of a configuration file, whole path. A file that cannot be read or written stays as it is, in
+    /// silence: whoever needs to know reads back. Fault 5 for a section or key that could not be found again.
     void ScriviIni(const std::string& percorsoFile, const std::string& sezione, const std::string& chiave,
                    const std::string& valore);
     /// Reads a key of a configuration file, whole path; empty text for a missing key or file.
@@ -27,7 +28,8 @@ public:
 
     /// Folder of the program, without a separator at its end.
     const std::string& CartellaProgramma() const { return cartellaProgramma_; }
-    /// Whole path of a file beside the program.
+    /// Whole path of a file or folder below the program's folder, as percorsoSenzaMaiuscole finds it: without regard to
+    /// case, '/' and '\\' alike between its components.
     std::string PercorsoProgramma(const std::string& nome) const;
     /// Whole path of the program's configuration file.
     std::string PercorsoIni() const { return percorsoIni_; }

@@ -16,6 +16,10 @@ namespace fs = std::filesystem;
 namespace {
 
 const std::string sezioneVeicoli = "VEICOLI EQUIVALENTI";
+const std::string sezioneAlbero = "OPZ_EXPLORER";
+const std::string chiaveAlbero = "Rami";
+const std::string sezioneMenu = "OPZ_MENU";
+const std::string chiaveMenu = "Attivo";
 
 fs::path percorsoDi(const std::string& testo) {
     return fs::path(std::u8string(testo.begin(), testo.end()));
@@ -78,6 +82,16 @@ void modCommonModule::LeggiConfigurazione() {
     configurazione_.coefficienti(leggiCoefficienti());
 }
 
+std::int16_t modCommonModule::LeggiOpzExplorer() {
+    configurazione_.OpzExplorer = leggiIntero(sezioneAlbero, chiaveAlbero);
+    return configurazione_.OpzExplorer;
+}
+
+std::int16_t modCommonModule::LeggiOpzMenu() {
+    configurazione_.OpzMenu = leggiIntero(sezioneMenu, chiaveMenu);
+    return configurazione_.OpzMenu;
+}
+
 void modCommonModule::ScriviCustomPanel(std::int16_t valore) {
     configurazione_.LayoutPannello = scriviIntero("LAY_OUT", "CustomPanel", valore);
 }
@@ -87,11 +101,11 @@ void modCommonModule::ScriviAvvioFilmato(std::int16_t valore) {
 }
 
 void modCommonModule::ScriviOpzExplorer(std::int16_t valore) {
-    configurazione_.OpzExplorer = scriviIntero("OPZ_EXPLORER", "Rami", valore);
+    configurazione_.OpzExplorer = scriviIntero(sezioneAlbero, chiaveAlbero, valore);
 }
 
 void modCommonModule::ScriviOpzMenu(std::int16_t valore) {
-    configurazione_.OpzMenu = scriviIntero("OPZ_MENU", "Attivo", valore);
+    configurazione_.OpzMenu = scriviIntero(sezioneMenu, chiaveMenu, valore);
 }
 
 void modCommonModule::ScriviVeicoliEquivalenti(const CoefficientiVeicoli& valori) {

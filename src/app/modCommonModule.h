@@ -24,8 +24,14 @@ public:
                     Orologio& orologio);
 
     /// Reads all settings from the configuration file: PathError, CustomPanel, TraceEnabled, Avvia, the seven
-    /// coefficients. A missing key gives an empty text or 0; fault 13 for a text that is no number.
+    /// coefficients. A missing key gives an empty text or 0; fault 13 for a text that is no number, fault 6 for one
+    /// that does not fit.
     void LeggiConfigurazione();
+
+    // Settings that are read where they are used, at each use: these keep the value in memory and answer it. A missing
+    // key gives 0; faults as above.
+    std::int16_t LeggiOpzExplorer();
+    std::int16_t LeggiOpzMenu();
 
     // Each writer writes the value, reads it straight back and keeps the value read, so that memory follows the file
     // even when the write failed.
@@ -39,7 +45,8 @@ public:
     /// Appends a line to the log if the trace is on. The log is opened only if it exists: where it does not, the
     /// failure goes to erroreLog, which makes it.
     void traceLog(const std::string& testo);
-    /// Records a fault in the log and, if `mostra`, shows it. A log that cannot be written is passed over.
+    /// Records a fault: tells `alErrore`, then shows it if `mostra`, then writes it to the log. A log that cannot be
+    /// written is passed over.
     void erroreLog(int numero, const std::string& metodo, const std::string& descrizione, bool mostra);
 
     /// Called with every fault that is recorded, before it is shown; may be empty.

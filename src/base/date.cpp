@@ -26,6 +26,16 @@ std::int64_t parteIntera(std::int64_t dividendo, std::int64_t divisore) {
     return (dividendo % divisore < 0) ? quoziente - 1 : quoziente;
 }
 
+/// Whole seconds from the day 0; nothing outside the calendar.
+std::optional<std::int64_t> secondiNelCalendario(DataOra data) {
+    // The rounded date must lie in the calendar: the last half second of the year 9999 does not.
+    const double secondi = std::round(data * static_cast<double>(secondiAlGiorno));
+    if (!(secondi >= primoGiorno * secondiAlGiorno && secondi < fineGiorni * secondiAlGiorno)) {
+        return std::nullopt;
+    }
+    return static_cast<std::int64_t>(secondi);
+}
+
 /// Reads exactly `cifre` digits at the start of `testo` and drops them.
 std::optional<int> cifre(std::string_view& testo, std::size_t quante) {
     if (testo.size() < quante) {
@@ -81,12 +91,16 @@ DataOra oggi() {
 }
 
 std::int64_t secondiDi(DataOra data) {
-    // The rounded date must lie in the calendar: the last half second of the year 9999 does not.
-    const double secondi = std::round(data * static_cast<double>(secondiAlGiorno));
-    if (!(secondi >= primoGiorno * secondiAlGiorno && secondi < fineGiorni * secondiAlGiorno)) {
+    const auto secondi = secondiNelCalendario(data);
+    if (!secondi) {
         throw Guasto(NumeroGuasto::overflow, "data fuori dal calendario");
     }
-    return static_cast<std::int64_t>(secondi);
+    return *secondi;
+}
+
+DataOra alSecondo(DataOra data) {
+    const auto secondi = secondiNelCalendario(data);
+    return secondi ? static_cast<double>(*secondi) / static_cast<double>(secondiAlGiorno) : data;
 }
 
 PartiData partiDi(DataOra data) {

@@ -32,6 +32,9 @@ DataOra oggi();
 /// Whole seconds from the day 0, rounded to nearest. Fault 6 for a date outside the years 100 to 9999.
 std::int64_t secondiDi(DataOra data);
 PartiData partiDi(DataOra data);
+/// The same moment in whole seconds, as the double nearest to it: a time that was added up and one that was read from
+/// text become the same number. A date outside the calendar, or none at all, comes back unchanged.
+DataOra alSecondo(DataOra data);
 
 /// Minutes from `da` to `a` as a date difference: the number of minute marks passed, negative if `a` is the earlier.
 std::int64_t minutiTra(DataOra da, DataOra a);

@@ -2,10 +2,14 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <system_error>
+
+#include "base/testo.h"
 
 namespace kelvo {
 
@@ -27,7 +31,7 @@ std::string erroreCorrente() {
     return errno == 0 ? "errore di scrittura" : paroleErrore(std::error_code(errno, std::generic_category()));
 }
 
-/// Removes a file or a link that is left from an earlier write; never a folder.
+/// Removes a file or a link; never a folder.
 void togliFile(const fs::path& percorso) {
     std::error_code errore;
     const fs::file_type tipo = fs::symlink_status(percorso, errore).type();
@@ -66,7 +70,11 @@ class SistemaFileStandard final : public SistemaFile {
 public:
     std::unique_ptr<FileInScrittura> crea(const std::string& percorso, std::string& errore) override {
         const fs::path posto = percorsoDi(percorso);
-        togliFile(posto);
+        std::error_code ignorato;
+        if (fs::exists(fs::symlink_status(posto, ignorato))) {
+            errore = paroleErrore(std::make_error_code(std::errc::file_exists));
+            return nullptr;
+        }
         errno = 0;
         auto file = std::make_unique<FileStandard>(posto);
         if (!file->aperto()) {
@@ -151,6 +159,9 @@ std::string paroleErrore(const std::error_code& errore) {
     if (errore == std::errc::is_a_directory) {
         return "è una cartella";
     }
+    if (errore == std::errc::file_exists) {
+        return "esiste già un file con questo nome";
+    }
     if (errore == std::errc::file_too_large) {
         return "il file è troppo grande per il disco";
     }
@@ -170,6 +181,30 @@ std::string testoDimensione(std::uint64_t byte) {
     return byte % mebi == 0 ? fmt::format("{} MiB", byte / mebi) : fmt::format("{} byte", byte);
 }
 
+/// A name beside the file that no other process takes at the same time.
+std::string nomeTemporaneo(const std::string& percorso) {
+    std::random_device caso;
+    return fmt::format("{}.{:08x}.tmp~", percorso, static_cast<std::uint32_t>(caso()));
+}
+
+/// The name under which `nome` stands in the folder, or `nome` itself.
+std::string componente(const fs::path& cartella, const std::string& nome) {
+    std::error_code errore;
+    if (fs::exists(fs::symlink_status(cartella / percorsoDi(nome), errore))) {
+        return nome;
+    }
+    const std::string cercato = maiuscoleAscii(nome);
+    std::string trovato;
+    for (auto voce = fs::directory_iterator(cartella, errore); !errore && voce != fs::directory_iterator();
+         voce.increment(errore)) {
+        const std::string altro = testoDi(voce->path().filename());
+        if (maiuscoleAscii(altro) == cercato && (trovato.empty() || altro < trovato)) {
+            trovato = altro;
+        }
+    }
+    return trovato.empty() ? nome : trovato;
+}
+
 }  // namespace
 
 SistemaFile& sistemaFileStandard() {
@@ -180,7 +215,7 @@ SistemaFile& sistemaFileStandard() {
 std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, std::string_view dati) {
     const fs::path vero = bersaglio(percorso);
     const std::string testoVero = testoDi(vero);
-    const std::string temporaneo = testoVero + ".tmp~";
+    const std::string temporaneo = nomeTemporaneo(testoVero);
     std::error_code causa;
     const fs::file_status stato = fs::status(vero, causa);
     std::string errore = intoccabile(stato, causa);
@@ -205,6 +240,18 @@ std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, 
     }
     sistema.sincronizzaCartella(testoVero);
     return {};
+}
+
+std::string percorsoSenzaMaiuscole(const std::string& cartella, std::string_view nome) {
+    fs::path trovato = percorsoDi(cartella);
+    while (!nome.empty()) {
+        const std::size_t lungo = std::min(nome.find_first_of("/\\"), nome.size());
+        if (lungo > 0) {
+            trovato /= percorsoDi(componente(trovato, std::string(nome.substr(0, lungo))));
+        }
+        nome.remove_prefix(std::min(lungo + 1, nome.size()));
+    }
+    return testoDi(trovato);
 }
 
 std::string leggiFile(const std::string& percorso, std::uint64_t massimo, std::string& dati) {

@@ -33,7 +33,8 @@ public:
     SistemaFile& operator=(const SistemaFile&) = delete;
     virtual ~SistemaFile() = default;
 
-    /// Makes the file, empty, in the place of a file or link of that name; null with `errore` set if that fails.
+    /// Makes the file, empty; null with `errore` set if that fails. What stands under that name, a link included, is
+    /// neither replaced nor followed: it is a failure.
     virtual std::unique_ptr<FileInScrittura> crea(const std::string& percorso, std::string& errore) = 0;
     /// Size in bytes, or -1.
     virtual std::int64_t dimensione(const std::string& percorso) = 0;
@@ -48,11 +49,19 @@ public:
 SistemaFile& sistemaFileStandard();
 
 /// Replaces the file by `dati` so that at any instant the old or the new content stands there, never a torn one:
-/// writes a temporary file beside it, checks the size written, flushes it to the disk and renames it. The new file has
+/// writes a temporary file beside it, checks the size written, flushes it to the disk and renames it. The temporary is
+/// called after the file, with eight random digits and ".tmp~" behind it, so that two processes that save the same
+/// file never meet: the last to rename wins. One that a killed process left stays there. The new file has
 /// the permissions of the old one; where `percorso` is a link, the file that it leads to is replaced. A read-only file
 /// and what is no regular file are refused.
 /// Answers an empty text, or in Italian why it failed; the old file then stands untouched and no temporary is left.
 std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, std::string_view dati);
+
+/// Whole path of `nome` below `cartella`, looked up without regard to (ASCII) case. `nome` is a relative path; '/' and
+/// '\\' both separate its components. Each component is taken as it stands where it exists, else under the name of the
+/// first entry, in alphabetical order, that differs from it in case alone, else as it stands: a new file goes to the
+/// folder that is there.
+std::string percorsoSenzaMaiuscole(const std::string& cartella, std::string_view nome);
 
 /// Reads a whole regular file of at most `massimo` bytes into `dati`.
 /// Answers an empty text, or in Italian why it failed.

@@ -12,44 +12,44 @@ public:
     explicit AnalisiMarginale(Revisione& revisione) : OggettoProgetto(revisione) {}
 
     /// Words for the external condition.
-    void DescrizioneCondizioniEsterne(const std::string& valore) { scriviTesto(descrizioneCondizioniEsterne_, valore); }
+    void DescrizioneCondizioniEsterne(const std::string& valore) { scriviAltro(descrizioneCondizioniEsterne_, valore); }
     const std::string& DescrizioneCondizioniEsterne() const { return descrizioneCondizioniEsterne_; }
     /// Reduction of the capacity by the external condition, per cent; negative raises it.
     void CondizioniEsterne(double valore) { scriviDato(condizioniEsterne_, valore); }
     double CondizioniEsterne() const { return condizioniEsterne_; }
     /// The fields of the external condition are open.
-    void UsaCondizioniEsterne(bool valore) { scriviDato(usaCondizioniEsterne_, valore); }
+    void UsaCondizioniEsterne(bool valore) { scriviAltro(usaCondizioniEsterne_, valore); }
     bool UsaCondizioniEsterne() const { return usaCondizioniEsterne_; }
     /// Reduction of the capacity by the pedestrian crossing, per cent.
     void AttraversamentoPedonale(double valore) { scriviDato(attraversamentoPedonale_, valore); }
     double AttraversamentoPedonale() const { return attraversamentoPedonale_; }
 
     // The parameter takes part in the analysis.
-    void UsaSemiLarghezza(bool valore) { scriviDato(usaSemiLarghezza_, valore); }
+    void UsaSemiLarghezza(bool valore) { scriviAltro(usaSemiLarghezza_, valore); }
     bool UsaSemiLarghezza() const { return usaSemiLarghezza_; }
-    void UsaRaggioCurvatura(bool valore) { scriviDato(usaRaggioCurvatura_, valore); }
+    void UsaRaggioCurvatura(bool valore) { scriviAltro(usaRaggioCurvatura_, valore); }
     bool UsaRaggioCurvatura() const { return usaRaggioCurvatura_; }
-    void UsaLunghezzaSvasatura(bool valore) { scriviDato(usaLunghezzaSvasatura_, valore); }
+    void UsaLunghezzaSvasatura(bool valore) { scriviAltro(usaLunghezzaSvasatura_, valore); }
     bool UsaLunghezzaSvasatura() const { return usaLunghezzaSvasatura_; }
-    void UsaLarghezzaIngresso(bool valore) { scriviDato(usaLarghezzaIngresso_, valore); }
+    void UsaLarghezzaIngresso(bool valore) { scriviAltro(usaLarghezzaIngresso_, valore); }
     bool UsaLarghezzaIngresso() const { return usaLarghezzaIngresso_; }
-    void UsaDiametroInscritto(bool valore) { scriviDato(usaDiametroInscritto_, valore); }
+    void UsaDiametroInscritto(bool valore) { scriviAltro(usaDiametroInscritto_, valore); }
     bool UsaDiametroInscritto() const { return usaDiametroInscritto_; }
-    void UsaAngoloConflitto(bool valore) { scriviDato(usaAngoloConflitto_, valore); }
+    void UsaAngoloConflitto(bool valore) { scriviAltro(usaAngoloConflitto_, valore); }
     bool UsaAngoloConflitto() const { return usaAngoloConflitto_; }
 
     // Step of the parameter, up and down; metres, the angle in degrees.
-    void LarghezzaIngresso(double valore) { scriviDato(larghezzaIngresso_, valore); }
+    void LarghezzaIngresso(double valore) { scriviAltro(larghezzaIngresso_, valore); }
     double LarghezzaIngresso() const { return larghezzaIngresso_; }
-    void SemiLarghezza(double valore) { scriviDato(semiLarghezza_, valore); }
+    void SemiLarghezza(double valore) { scriviAltro(semiLarghezza_, valore); }
     double SemiLarghezza() const { return semiLarghezza_; }
-    void LungSvasatura(double valore) { scriviDato(lungSvasatura_, valore); }
+    void LungSvasatura(double valore) { scriviAltro(lungSvasatura_, valore); }
     double LungSvasatura() const { return lungSvasatura_; }
-    void AngoloConflitto(double valore) { scriviDato(angoloConflitto_, valore); }
+    void AngoloConflitto(double valore) { scriviAltro(angoloConflitto_, valore); }
     double AngoloConflitto() const { return angoloConflitto_; }
-    void RaggioCurvatura(double valore) { scriviDato(raggioCurvatura_, valore); }
+    void RaggioCurvatura(double valore) { scriviAltro(raggioCurvatura_, valore); }
     double RaggioCurvatura() const { return raggioCurvatura_; }
-    void DiametroInscritto(double valore) { scriviDato(diametroInscritto_, valore); }
+    void DiametroInscritto(double valore) { scriviAltro(diametroInscritto_, valore); }
     double DiametroInscritto() const { return diametroInscritto_; }
 
 private:

@@ -12,7 +12,7 @@ namespace kelvo {
 inline constexpr std::int16_t numeroClassi = 7;
 
 /// One value for each vehicle class, in the order of the segment table: Autoarticolati, Autotreni, Pullman, Camper,
-/// Roulotte, VeicoliDueRuote, Autovetture.
+/// Roulotte, VeicoliDueRuote, Autovetture. The properties of ComposizioneTraffico are declared in another order.
 using PerClasse = std::array<float, numeroClassi>;
 
 /// Segments by classes.
@@ -23,25 +23,27 @@ class ComposizioneTraffico final : public OggettoProgetto {
 public:
     explicit ComposizioneTraffico(Revisione& revisione) : OggettoProgetto(revisione) {}
 
+    /// Number of time segments: rows of the segment table; the same as in DatiTraffico of the leg.
     std::int16_t NumSegmentiTempo() const { return static_cast<std::int16_t>(categorie_.size()); }
     /// Sets the number of segments; discards the segment table. Fault 9 for a negative number.
     void NumSegmentiTempo(std::int16_t valore);
 
-    // Equivalent-car coefficients of the classes, owned by the project. No calculation reads them.
+    // Equivalent-car coefficients of the classes as they stood when the leg was made. No calculation reads them: it
+    // takes those of the configuration.
     float VEAutovetture() const { return veAutovetture_; }
-    void VEAutovetture(float valore) { scriviDato(veAutovetture_, valore); }
+    void VEAutovetture(float valore) { scriviAltro(veAutovetture_, valore); }
     float VEVeicoliDueRuote() const { return veVeicoliDueRuote_; }
-    void VEVeicoliDueRuote(float valore) { scriviDato(veVeicoliDueRuote_, valore); }
+    void VEVeicoliDueRuote(float valore) { scriviAltro(veVeicoliDueRuote_, valore); }
     float VERoulotte() const { return veRoulotte_; }
-    void VERoulotte(float valore) { scriviDato(veRoulotte_, valore); }
+    void VERoulotte(float valore) { scriviAltro(veRoulotte_, valore); }
     float VECamper() const { return veCamper_; }
-    void VECamper(float valore) { scriviDato(veCamper_, valore); }
+    void VECamper(float valore) { scriviAltro(veCamper_, valore); }
     float VEPullman() const { return vePullman_; }
-    void VEPullman(float valore) { scriviDato(vePullman_, valore); }
+    void VEPullman(float valore) { scriviAltro(vePullman_, valore); }
     float VEAutotreni() const { return veAutotreni_; }
-    void VEAutotreni(float valore) { scriviDato(veAutotreni_, valore); }
+    void VEAutotreni(float valore) { scriviAltro(veAutotreni_, valore); }
     float VEAutoarticolati() const { return veAutoarticolati_; }
-    void VEAutoarticolati(float valore) { scriviDato(veAutoarticolati_, valore); }
+    void VEAutoarticolati(float valore) { scriviAltro(veAutoarticolati_, valore); }
 
     // Shares of the classes in per cent, for one composition over the whole window.
     float Autovetture() const { return autovetture_; }
@@ -59,8 +61,8 @@ public:
     float Autoarticolati() const { return autoarticolati_; }
     void Autoarticolati(float valore) { scriviDato(autoarticolati_, valore); }
 
-    /// Vehicles of a class (0 to 6, in the order of PerClasse) in a segment, from 0; 0 past the last row.
-    /// Fault 9 below 0 or for another class.
+    /// Vehicles of a class (0 to 6, in the order of PerClasse) in a segment, from 0; 0 past the last row. Calculations
+    /// read the proportions of a row alone. Fault 9 below 0 or for another class.
     float CategoriaSegmento(std::int16_t segmento, std::int16_t classe) const;
     /// Writes the same. Fault 9 outside the table.
     void CategoriaSegmento(float valore, std::int16_t segmento, std::int16_t classe);

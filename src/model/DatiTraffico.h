@@ -36,10 +36,10 @@ public:
 
     /// Mean flow, veic/min.
     float FlussoMedio() const { return flussoMedio_; }
-    void FlussoMedio(float valore) { scriviDato(flussoMedio_, valore); }
+    void FlussoMedio(float valore) { scriviAltro(flussoMedio_, valore); }
     /// Mean flow, veic/h.
     float FlussoOrario() const { return flussoOrario_; }
-    void FlussoOrario(float valore) { scriviDato(flussoOrario_, valore); }
+    void FlussoOrario(float valore) { scriviAltro(flussoOrario_, valore); }
     /// Vehicles over the whole window.
     float FlussoTotale() const { return flussoTotale_; }
     void FlussoTotale(float valore) { scriviDato(flussoTotale_, valore); }
@@ -52,15 +52,17 @@ public:
     /// q1, demand at t1, veic/min.
     float FlussoTempo1() const { return flussoTempo1_; }
     void FlussoTempo1(float valore) { scriviDato(flussoTempo1_, valore); }
+    // The times are kept in whole seconds, as the project file tells them.
+
     /// t3, end of the demand curve.
     DataOra Tempo3() const { return tempo3_; }
-    void Tempo3(DataOra valore) { scriviDato(tempo3_, valore); }
+    void Tempo3(DataOra valore) { scriviDato(tempo3_, alSecondo(valore)); }
     /// t2, time of the peak.
     DataOra Tempo2() const { return tempo2_; }
-    void Tempo2(DataOra valore) { scriviDato(tempo2_, valore); }
+    void Tempo2(DataOra valore) { scriviDato(tempo2_, alSecondo(valore)); }
     /// t1, start of the demand curve.
     DataOra Tempo1() const { return tempo1_; }
-    void Tempo1(DataOra valore) { scriviDato(tempo1_, valore); }
+    void Tempo1(DataOra valore) { scriviDato(tempo1_, alSecondo(valore)); }
     /// Writes the vehicles of a segment, from 0, column 0. Fault 9 outside the table.
     void FlussoSegmento(float valore, std::int16_t segmento, std::int16_t colonna);
     /// Vehicles of a segment, from 0, column 0; 0 past the last row. Fault 9 below 0 or in another column.

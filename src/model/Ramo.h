@@ -53,8 +53,8 @@ public:
 
     /// Name of the leg.
     const std::string& Descrizione() const { return descrizione_; }
-    void Descrizione(const std::string& valore) { scriviTesto(descrizione_, valore); }
-    /// Identity of the leg; its last character is the digit of the leg's position.
+    void Descrizione(const std::string& valore) { scriviAltro(descrizione_, valore); }
+    /// Identity of the leg: the digit of the leg's position and "Ramo".
     const std::string& Key() const { return chiave_; }
     /// Entry width e, m.
     void LarghezzaIngresso(float valore) { scriviDato(larghezzaIngresso_, valore); }

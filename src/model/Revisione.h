@@ -56,9 +56,10 @@ protected:
             segnaDato();
         }
     }
-    /// Writes input that no calculation reads: names, notes, the engineer.
+    /// Writes input that no calculation reads: names, notes, the engineer, settings of windows, figures worked out
+    /// from other input.
     template <class T>
-    void scriviTesto(T& campo, const T& valore) {
+    void scriviAltro(T& campo, const T& valore) {
         if (!(campo == valore)) {
             campo = valore;
             ++revisione_->tutto;

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "base/guasto.h"
@@ -44,7 +45,7 @@ Rotonda::Rotonda(SistemaFile& sistema, std::function<DataOra()> oggi)
 
 Rotonda::Dati Rotonda::datiPredefiniti() const {
     Dati dati;
-    dati.data = oggi_();
+    dati.data = std::floor(oggi_());
     dati.matrice = matriceVuota(dati.numeroRami);
     return dati;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -43,27 +44,27 @@ public:
 
     /// Stage of the project.
     const std::string& StatoAvanzamento() const { return dati_.statoAvanzamento; }
-    void StatoAvanzamento(const std::string& valore) { scriviTesto(dati_.statoAvanzamento, valore); }
+    void StatoAvanzamento(const std::string& valore) { scriviAltro(dati_.statoAvanzamento, valore); }
     /// Locality or hamlet.
     const std::string& Localita() const { return dati_.localita; }
-    void Localita(const std::string& valore) { scriviTesto(dati_.localita, valore); }
+    void Localita(const std::string& valore) { scriviAltro(dati_.localita, valore); }
     /// Municipality.
     const std::string& Comune() const { return dati_.comune; }
-    void Comune(const std::string& valore) { scriviTesto(dati_.comune, valore); }
+    void Comune(const std::string& valore) { scriviAltro(dati_.comune, valore); }
     /// Province.
     const std::string& Provincia() const { return dati_.provincia; }
-    void Provincia(const std::string& valore) { scriviTesto(dati_.provincia, valore); }
+    void Provincia(const std::string& valore) { scriviAltro(dati_.provincia, valore); }
     /// Project name: the file name without folder and extension.
     const std::string& NomeFile() const { return dati_.nomeFile; }
-    void NomeFile(const std::string& valore) { scriviTesto(dati_.nomeFile, valore); }
+    void NomeFile(const std::string& valore) { scriviAltro(dati_.nomeFile, valore); }
     /// Percentile of the queue length, per cent.
     void ValorePercentile(float valore) { scriviDato(dati_.valorePercentile, valore); }
     float ValorePercentile() const { return dati_.valorePercentile; }
     /// The percentile is open to the user.
-    void UsaPercentile(bool valore) { scriviDato(dati_.usaPercentile, valore); }
+    void UsaPercentile(bool valore) { scriviAltro(dati_.usaPercentile, valore); }
     bool UsaPercentile() const { return dati_.usaPercentile; }
     /// The geometric sensitivity analysis is available.
-    void OttimizzazioneGeometrica(bool valore) { scriviDato(dati_.ottimizzazioneGeometrica, valore); }
+    void OttimizzazioneGeometrica(bool valore) { scriviAltro(dati_.ottimizzazioneGeometrica, valore); }
     bool OttimizzazioneGeometrica() const { return dati_.ottimizzazioneGeometrica; }
     /// Night or poor visibility reduces the capacity of the node.
     void CondizioniNotturne(bool valore) { scriviDato(dati_.condizioniNotturne, valore); }
@@ -71,7 +72,7 @@ public:
     /// Composition: 0 one for the whole window, 1 one for each segment.
     void TipoFlusso(std::int16_t valore) { scriviDato(dati_.tipoFlusso, valore); }
     std::int16_t TipoFlusso() const { return dati_.tipoFlusso; }
-    /// Turning matrix: 0 vehicles, 1 per cent of the row.
+    /// Turning matrix: 0 vehicles, 1 per cent of the row; any other value is kept and read as vehicles.
     void TipoMatriceSvolte(std::int16_t valore) { scriviDato(dati_.tipoMatriceSvolte, valore); }
     std::int16_t TipoMatriceSvolte() const { return dati_.tipoMatriceSvolte; }
     /// Traffic input: 0 saturation only, 1 demand curve, 2 table of segment flows.
@@ -79,13 +80,13 @@ public:
     std::int16_t TipoAnalisi() const { return dati_.tipoAnalisi; }
 
     // The engineer.
-    void EMailProfessionista(const std::string& valore) { scriviTesto(dati_.eMailProfessionista, valore); }
-    void TelefonoProfessionista(const std::string& valore) { scriviTesto(dati_.telefonoProfessionista, valore); }
-    void CittaProfessionista(const std::string& valore) { scriviTesto(dati_.cittaProfessionista, valore); }
-    void CAPProfessionista(const std::string& valore) { scriviTesto(dati_.capProfessionista, valore); }
-    void IndirizzoProfessionista(const std::string& valore) { scriviTesto(dati_.indirizzoProfessionista, valore); }
-    void NomeProfessionista(const std::string& valore) { scriviTesto(dati_.nomeProfessionista, valore); }
-    void ProvinciaProfessionista(const std::string& valore) { scriviTesto(dati_.provinciaProfessionista, valore); }
+    void EMailProfessionista(const std::string& valore) { scriviAltro(dati_.eMailProfessionista, valore); }
+    void TelefonoProfessionista(const std::string& valore) { scriviAltro(dati_.telefonoProfessionista, valore); }
+    void CittaProfessionista(const std::string& valore) { scriviAltro(dati_.cittaProfessionista, valore); }
+    void CAPProfessionista(const std::string& valore) { scriviAltro(dati_.capProfessionista, valore); }
+    void IndirizzoProfessionista(const std::string& valore) { scriviAltro(dati_.indirizzoProfessionista, valore); }
+    void NomeProfessionista(const std::string& valore) { scriviAltro(dati_.nomeProfessionista, valore); }
+    void ProvinciaProfessionista(const std::string& valore) { scriviAltro(dati_.provinciaProfessionista, valore); }
     const std::string& NomeProfessionista() const { return dati_.nomeProfessionista; }
     const std::string& IndirizzoProfessionista() const { return dati_.indirizzoProfessionista; }
     const std::string& CAPProfessionista() const { return dati_.capProfessionista; }
@@ -94,15 +95,17 @@ public:
     const std::string& TelefonoProfessionista() const { return dati_.telefonoProfessionista; }
     const std::string& EMailProfessionista() const { return dati_.eMailProfessionista; }
 
+    // The times are kept in whole seconds, as the project file tells them: a saved project comes back exactly.
+
     /// Length of a time segment, held as the time of day 00:mm:00.
     DataOra SegmentoTempo() const { return dati_.segmentoTempo; }
-    void SegmentoTempo(DataOra valore) { scriviDato(dati_.segmentoTempo, valore); }
+    void SegmentoTempo(DataOra valore) { scriviDato(dati_.segmentoTempo, alSecondo(valore)); }
     /// End of the modelling window, a time of day.
     DataOra TempoFinale() const { return dati_.tempoFinale; }
-    void TempoFinale(DataOra valore) { scriviDato(dati_.tempoFinale, valore); }
+    void TempoFinale(DataOra valore) { scriviDato(dati_.tempoFinale, alSecondo(valore)); }
     /// Start of the modelling window, a time of day.
     DataOra TempoIniziale() const { return dati_.tempoIniziale; }
-    void TempoIniziale(DataOra valore) { scriviDato(dati_.tempoIniziale, valore); }
+    void TempoIniziale(DataOra valore) { scriviDato(dati_.tempoIniziale, alSecondo(valore)); }
     /// Writes one cell of the turning matrix; origin and destination legs from 1. Fault 9 outside the matrix.
     void MatriceSvolte(float valore, std::int16_t riga, std::int16_t colonna);
     /// One cell of the turning matrix as entered. Fault 9 outside the matrix.
@@ -110,22 +113,23 @@ public:
     /// Copies the matrix as entered, vehicles or per cent, NumeroRami by NumeroRami.
     void GetMatriceSvolte(Matrice& matrice) const { matrice = dati_.matrice; }
     /// Copies the matrix as shares from 0 to 1: each row divided by its own total, the diagonal included (a row that
-    /// adds up to 0 gives 0), or by 100 where it was entered in per cent. Fault 6 for a share too large for a single.
+    /// adds up to 0 gives 0), or by 100 where TipoMatriceSvolte is 1. Fault 6 for a share past the single range.
     void GetMatriceSvoltePercentuale(Matrice& matrice) const;
     /// Notes.
     const std::string& Note() const { return dati_.note; }
-    void Note(const std::string& valore) { scriviTesto(dati_.note, valore); }
-    /// Date of the project.
+    void Note(const std::string& valore) { scriviAltro(dati_.note, valore); }
+    /// Date of the project, a whole day.
     DataOra Data() const { return dati_.data; }
-    void Data(DataOra valore) { scriviTesto(dati_.data, valore); }
+    void Data(DataOra valore) { scriviAltro(dati_.data, std::floor(valore)); }
     /// Title.
     const std::string& Titolo() const { return dati_.titolo; }
-    void Titolo(const std::string& valore) { scriviTesto(dati_.titolo, valore); }
+    void Titolo(const std::string& valore) { scriviAltro(dati_.titolo, valore); }
     /// The legs; as many as NumeroRami once the project is built.
     const RaccoltaRami& Rami() const { return rami_; }
     /// Number of legs, 3 to 7.
     std::int16_t NumeroRami() const { return dati_.numeroRami; }
-    /// Sets the number of legs and clears the matrix. Fault 5 outside 3 to 7, or once legs exist.
+    /// Sets the number of legs; a new number clears the matrix, the same one changes nothing. Fault 5 outside 3 to 7,
+    /// or for a new number once legs exist.
     void NumeroRami(std::int16_t valore);
     /// The leg at a position, from 1; fault 9 if there is none.
     kelvo::Ramo& Ramo(std::int16_t indice) const { return rami_.Item(indice); }

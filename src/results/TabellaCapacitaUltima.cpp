@@ -1,5 +1,9 @@
 #include "results/TabellaCapacitaUltima.h"
 
+#include <fmt/format.h>
+
+#include <limits>
+
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
@@ -12,13 +16,41 @@ constexpr Formato formatoFlusso = "#0.00";
 constexpr int colonnaCapacita = 1;
 constexpr int colonnaFlusso = 2;
 
+/// Adds the figures that the column shows; each figure and each sum is a single.
 float sommaColonna(const Tabella& tabella, int colonna, int ultimaRiga) {
     float somma = 0.0F;
     for (int r = 1; r <= ultimaRiga; ++r) {
-        somma = aSingolo(static_cast<double>(somma) +
-                         static_cast<double>(leggiSingolo(tabella.testo(r, colonna)).value_or(0.0F)));
+        const auto luogo = [&] { return fmt::format("{}, {}", tabella.testo(r, 0), tabella.testo(0, colonna)); };
+        // A text without a number here is one past every range: only figures stand in these cells.
+        constexpr double troppoGrande = std::numeric_limits<double>::infinity();
+        const float mostrato = aSingolo(leggiNumero(tabella.testo(r, colonna)).value_or(troppoGrande), luogo);
+        somma = aSingolo(static_cast<double>(somma) + static_cast<double>(mostrato), luogo);
     }
     return somma;
+}
+
+void colora(Cella& cella, Colore sfondo, Colore inchiostro = colori::nero) {
+    cella.sfondo = sfondo;
+    cella.inchiostro = inchiostro;
+}
+
+/// Colours of the table for `n` legs: two headings, names, figures, the three results.
+void vesti(Tabella& tabella, int n) {
+    for (int riga = 0; riga < tabella.righe(); ++riga) {
+        const bool intestazione = riga == 0 || riga == n + 1;
+        for (int c = 0; c < tabella.colonne(); ++c) {
+            if (intestazione || (riga == n + 3 && c == 0)) {
+                colora(tabella.cella(riga, c), colori::intestazione, colori::bianco);
+            } else if (riga <= n && c == 0) {
+                colora(tabella.cella(riga, c), colori::nomeIngresso, colori::bianco);
+            } else {
+                colora(tabella.cella(riga, c), colori::dati);
+            }
+        }
+    }
+    colora(tabella.cella(n + 2, colonnaCapacita), colori::evidenza);
+    colora(tabella.cella(n + 2, colonnaFlusso), colori::evidenza);
+    colora(tabella.cella(n + 3, colonnaCapacita), colori::evidenza);
 }
 
 }  // namespace
@@ -26,6 +58,7 @@ float sommaColonna(const Tabella& tabella, int colonna, int ultimaRiga) {
 void TabellaCapacitaUltima::riempi(const Rotonda& rotonda) {
     const int n = rotonda.NumeroRami();
     tabella_ = Tabella(n + 4, 3);
+    vesti(tabella_, n);
     tabella_.cella(0, colonnaCapacita).testo = "Capacita' di saturazione [veic/h]";
     tabella_.cella(0, colonnaFlusso).testo = "Flusso orario [veic/h]";
     for (int i = 1; i <= n; ++i) {
@@ -42,9 +75,6 @@ void TabellaCapacitaUltima::riempi(const Rotonda& rotonda) {
     tabella_.cella(n + 2, colonnaFlusso).testo = formatta(SF_, formatoFlusso);
     tabella_.cella(n + 3, 0).testo = "Indice di saturazione della rotatoria (I.S.R.)";
     tabella_.cella(n + 3, colonnaCapacita).testo = testoIndice();
-    tabella_.cella(n + 2, colonnaCapacita).sfondo = colori::evidenza;
-    tabella_.cella(n + 2, colonnaFlusso).sfondo = colori::evidenza;
-    tabella_.cella(n + 3, colonnaCapacita).sfondo = colori::evidenza;
 }
 
 std::string TabellaCapacitaUltima::testoIndice() {

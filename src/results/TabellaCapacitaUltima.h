@@ -12,7 +12,8 @@ namespace kelvo {
 /// The texts of the cells are the only store of the figures: the totals add what the cells show.
 class TabellaCapacitaUltima {
 public:
-    /// Fills the table from what the legs hold: NumeroRami + 4 rows of 3 columns. Calculates nothing.
+    /// Fills the table from what the legs hold: NumeroRami + 4 rows of 3 columns, with their colours. Calculates
+    /// nothing. Fault 6 if a figure shown, a total or the index does not fit in a single; fault 9 if legs are missing.
     void riempi(const Rotonda& rotonda);
 
     const Tabella& tabella() const { return tabella_; }

@@ -2,9 +2,11 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
+#include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
 #include "results/livelloServizio.h"
@@ -97,8 +99,12 @@ void riempiTabellaVerifiche(const Rotonda& rotonda, Tabella& tabella) {
         livello.inchiostro = colori::nero;
         livello.grassetto = false;
     }
+    const bool nessunIntervallo = tabella.righe() <= 1;
     for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
         const DatiTraffico& traffico = rotonda.Ramo(i).theDatiTraffico();
+        if (nessunIntervallo && traffico.NumSegmentiTempo() > 0) {
+            throw Guasto(NumeroGuasto::indiceFuoriIntervallo, "la finestra di modellazione non ha intervalli");
+        }
         for (std::int16_t s = 1; s <= traffico.NumSegmentiTempo(); ++s) {
             const Iterazione record = traffico.GetIterazione(s);
             const int riga = rigaBanda(rotonda, s) + i;

@@ -80,6 +80,18 @@ TEST(ProveFileIni, LineBreaksInAValueBecomeBlanks) {
     EXPECT_EQ(FileIni(ini.testo()).leggi("T", "B"), std::nullopt);
 }
 
+TEST(ProveFileIni, ATextOfWideCharactersIsToldApart) {
+    for (const std::string_view testo :
+         {std::string_view{"\xFF\xFE[\0S\0", 6}, std::string_view{"\xFE\xFF\0[\0S", 6}, std::string_view{"\xFF\xFE"},
+          std::string_view{"[\0S\0]\0", 6}, std::string_view{"\0\0\xFE\xFF", 4}}) {
+        EXPECT_TRUE(FileIni::codificaNonValida(testo)) << testo.size();
+    }
+    for (const std::string_view testo :
+         {"", "[S]\nA=1\n", "\xEF\xBB\xBF[S]", "[Citt\xC3\xA0]", "[Citt\xE0]", "\xFF", "\xFE"}) {
+        EXPECT_FALSE(FileIni::codificaNonValida(testo)) << testo;
+    }
+}
+
 TEST(ProveFileIni, NamesThatCouldNotBeFoundAgainAreFaults) {
     FileIni ini("[S]\n");
     for (const std::string chiave : {"", "a=b", ";a", "#a", "[a", " a", "a ", "a\nb", "a\rb"}) {

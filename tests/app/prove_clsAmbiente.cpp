@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <iterator>
 
 #include "app/clsAmbiente.h"
 #include "comune/finti.h"
+#include "comune/guasti.h"
 
 namespace kelvo::prove {
 namespace {
@@ -47,9 +49,43 @@ TEST_F(ProveAmbiente, AFileThatCannotBeReadIsNotOverwritten) {
     scriviContenuto(ini, enorme);
     ambiente.ScriviIni(ini, "S", "B", "2");
     EXPECT_EQ(contenuto(ini), enorme);
-    ambiente.ScriviIni(cartella.percorso(), "S", "B", "2");
-    EXPECT_TRUE(std::filesystem::is_directory(cartella.percorso()));
-    EXPECT_FALSE(std::filesystem::exists(cartella.percorso() + ".tmp~"));
+    const std::string sotto = cartella.file("sotto");
+    std::filesystem::create_directory(sotto);
+    ambiente.ScriviIni(sotto, "S", "B", "2");
+    EXPECT_TRUE(std::filesystem::is_directory(sotto));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella.percorso()), {}), 2) << "and nothing else";
+}
+
+TEST_F(ProveAmbiente, AFileInUtf16IsReadAsEmptyAndNotWrittenInto) {
+    const std::string largo(
+        "\xFF\xFE[\0S\0]\0\n\0B\0=\0"
+        "1\0",
+        16);
+    scriviContenuto(ini, largo);
+    EXPECT_EQ(ambiente.LeggiIni("S", "B", ini), "");
+    ambiente.ScriviIni(ini, "S", "B", "2");
+    EXPECT_EQ(contenuto(ini), largo);
+}
+
+TEST_F(ProveAmbiente, ANameThatCouldNotBeFoundAgainIsFault5) {
+    EXPECT_EQ(numeroGuasto([&] { ambiente.ScriviIni(ini, "S", "A=B", "2"); }), 5);
+    EXPECT_EQ(numeroGuasto([&] { ambiente.ScriviIni(ini, "S]", "A", "2"); }), 5);
+    EXPECT_FALSE(std::filesystem::exists(ini));
+}
+
+TEST_F(ProveAmbiente, PathsOfTheProgramAreFoundWithoutRegardToCase) {
+    std::filesystem::create_directory(cartella.file("Modelli"));
+    scriviContenuto(cartella.file("Modelli/Relazione.dotx"), "");
+    EXPECT_EQ(ambiente.PercorsoProgramma("\\modelli\\RELAZIONE.dotx"), cartella.file("Modelli/Relazione.dotx"));
+    EXPECT_EQ(ambiente.PercorsoProgramma("modelli/nuova.dotx"), cartella.file("Modelli/nuova.dotx"));
+    EXPECT_EQ(ambiente.PercorsoProgramma("Relazioni"), cartella.file("Relazioni"));
+}
+
+TEST_F(ProveAmbiente, TheConfigurationIsFoundWhateverItsCase) {
+    scriviContenuto(cartella.file("KELVO.INI"), "[S]\nB=1\n");
+    const clsAmbiente altro(cartella.percorso(), cartella.percorso(), sistemaFileStandard());
+    EXPECT_EQ(altro.PercorsoIni(), cartella.file("KELVO.INI"));
+    EXPECT_EQ(altro.LeggiIni("S", "B", altro.PercorsoIni()), "1");
 }
 
 TEST_F(ProveAmbiente, AReadOnlyFileStaysAsItIs) {

@@ -72,6 +72,25 @@ TEST(Date, AFractionOfASecondIsRoundedToTheNearest) {
     EXPECT_EQ(minutoCampo(oraDelGiorno(1, 0) - 0.0001 * unSecondo), 0);
 }
 
+TEST(Date, AMomentInWholeSecondsIsTheSameNumberHoweverItWasMade) {
+    for (int ora = 0; ora < 24; ++ora) {
+        for (int minuto = 0; minuto < 60; minuto += 5) {
+            EXPECT_EQ(alSecondo(ora / 24.0 + minuto / 1440.0), oraDelGiorno(ora, minuto));
+        }
+    }
+    EXPECT_EQ(alSecondo(46000.0 + 10.0 / 24.0 + 0.4 * unSecondo), (46000.0 * 86400.0 + 36000.0) / 86400.0);
+    EXPECT_EQ(alSecondo(oraDelGiorno(8, 0) - 0.6 * unSecondo), oraDelGiorno(7, 59, 59));
+    EXPECT_EQ(alSecondo(-oraDelGiorno(0, 0, 30)), -oraDelGiorno(0, 0, 30));
+}
+
+TEST(Date, AMomentOutsideTheCalendarIsLeftAsItIs) {
+    for (const double data :
+         {-657435.0, 2958466.25, 2958466.0 - 1e-9, 1e300, -1e300, std::numeric_limits<double>::infinity()}) {
+        EXPECT_EQ(alSecondo(data), data);
+    }
+    EXPECT_TRUE(std::isnan(alSecondo(std::numeric_limits<double>::quiet_NaN())));
+}
+
 TEST(Date, ASumOfSegmentsKeepsTheMinute) {
     DataOra data = oraDelGiorno(8, 0);
     for (int i = 1; i <= 1000; ++i) {

@@ -125,8 +125,8 @@ TEST(Stanze, AWrongLinkOfTheBuildIsFound) {
     EXPECT_EQ(legamiEstranei("kelvo_stanza(shell/servizi USA app LIBRERIE sigc::sigc)").size(), 0U);
 }
 
-TEST(Stanze, NoSourceIsLongerThanSixHundredLines) {
-    constexpr std::ptrdiff_t massimo = 600;
+TEST(Stanze, NoSourceIsLongerThanFiveHundredLines) {
+    constexpr std::ptrdiff_t massimo = 500;
     int letti = 0;
     for (const std::string& percorso : fileDelDeposito()) {
         if (sorgente(percorso) && inCartella(percorso, "src")) {

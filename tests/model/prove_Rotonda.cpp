@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <type_traits>
 
@@ -25,24 +26,34 @@ struct ProveRotonda : testing::Test {
     }
 };
 
-template <class T>
-bool daCalcolo(const char* nome) {
-    // Names, notes and the date are read by no calculation.
-    return !std::is_same_v<T, std::string> && std::string{nome} != "Data";
-}
+/// Names of the properties of one object that a calculation reads, or that choose the calculation.
+using Nomi = std::set<std::string>;
 
+const Nomi lettiDelProgetto{"ValorePercentile", "CondizioniNotturne", "TipoFlusso",  "TipoMatriceSvolte",
+                            "TipoAnalisi",      "SegmentoTempo",      "TempoFinale", "TempoIniziale"};
+const Nomi lettiDelRamo{"LarghezzaIngresso", "SemiLarghezza",     "LunghezzaSvasatura",     "AngoloConflitto",
+                        "RaggioIngresso",    "DiametroInscritto", "AttraversamentoPedonale"};
+const Nomi lettiDelTraffico{"FlussoTotale", "FlussoTempo1", "FlussoTempo2", "FlussoTempo3",
+                            "Tempo1",       "Tempo2",       "Tempo3"};
+const Nomi lettiDellaComposizione{"Autovetture", "VeicoliDueRuote", "Roulotte",      "Camper",
+                                  "Pullman",     "Autotreni",       "Autoarticolati"};
+const Nomi lettiDellAnalisi{"CondizioniEsterne", "AttraversamentoPedonale"};
+
+/// Writes every property of the object; `letti` are those that raise the revision of the calculation.
 template <class O>
-void provaProprieta(O& oggetto, const Rotonda& rotonda) {
+void provaProprieta(O& oggetto, const Rotonda& rotonda, const Nomi& letti) {
+    std::size_t trovati = 0;
+    perOgniProprieta(&oggetto, [&](const auto& p) { trovati += letti.count(p.nome); });
+    EXPECT_EQ(trovati, letti.size());
     ValoriStrani valori;
     perOgniProprieta(&oggetto, [&](const auto& p) {
         SCOPED_TRACE(p.nome);
         const auto valore = valori.nuovo(p, oggetto);
-        using T = std::decay_t<decltype(valore)>;
         const Revisione prima = rotonda.revisione();
         (oggetto.*p.scrivi)(valore);
         EXPECT_EQ((oggetto.*p.leggi)(), valore);
         EXPECT_EQ(rotonda.revisione().tutto, prima.tutto + 1);
-        EXPECT_EQ(rotonda.revisione().calcolo, prima.calcolo + (daCalcolo<T>(p.nome) ? 1 : 0));
+        EXPECT_EQ(rotonda.revisione().calcolo, prima.calcolo + letti.count(p.nome));
         (oggetto.*p.scrivi)(valore);
         EXPECT_EQ(rotonda.revisione().tutto, prima.tutto + 1) << "the same value is no change";
     });
@@ -80,18 +91,18 @@ void provaLogici(O& oggetto) {
 }
 
 TEST_F(ProveRotonda, EveryPropertyOfTheProjectIsReadBackAndCounted) {
-    provaProprieta(rotonda, rotonda);
+    provaProprieta(rotonda, rotonda, lettiDelProgetto);
     provaLogici(rotonda);
 }
 
 TEST_F(ProveRotonda, EveryPropertyOfALegAndItsChildrenIsReadBackAndCounted) {
     rami(3);
     Ramo& ramo = rotonda.Ramo(2);
-    provaProprieta(ramo, rotonda);
+    provaProprieta(ramo, rotonda, lettiDelRamo);
     provaLogici(ramo);
-    provaProprieta(ramo.theDatiTraffico(), rotonda);
-    provaProprieta(ramo.theComposizioneTraffico(), rotonda);
-    provaProprieta(ramo.theAnalisiMarginale(), rotonda);
+    provaProprieta(ramo.theDatiTraffico(), rotonda, lettiDelTraffico);
+    provaProprieta(ramo.theComposizioneTraffico(), rotonda, lettiDellaComposizione);
+    provaProprieta(ramo.theAnalisiMarginale(), rotonda, lettiDellAnalisi);
     provaLogici(ramo.theAnalisiMarginale());
 }
 
@@ -140,6 +151,31 @@ void attendiPredefiniti(const Rotonda& r) {
     EXPECT_EQ(matrice, Matrice(4, std::vector<float>(4, 0.0F)));
     EXPECT_TRUE(r.chiaviIgnote.empty());
     EXPECT_EQ(r.timbro().forma, FormaCalcolo::nessuna);
+}
+
+TEST_F(ProveRotonda, TimesKeepWholeSecondsAndTheDateItsDay) {
+    rami(3);
+    DatiTraffico& traffico = rotonda.Ramo(1).theDatiTraffico();
+    const DataOra sommata = 1.0 / 24.0 + 10.0 / 1440.0;
+    ASSERT_NE(sommata, oraDelGiorno(1, 10)) << "a sum that misses the time by a bit";
+    rotonda.TempoIniziale(sommata);
+    rotonda.TempoFinale(sommata);
+    rotonda.SegmentoTempo(sommata);
+    traffico.Tempo1(sommata);
+    traffico.Tempo2(sommata);
+    traffico.Tempo3(sommata);
+    for (const DataOra letta : {rotonda.TempoIniziale(), rotonda.TempoFinale(), rotonda.SegmentoTempo(),
+                                traffico.Tempo1(), traffico.Tempo2(), traffico.Tempo3()}) {
+        EXPECT_EQ(letta, oraDelGiorno(1, 10));
+    }
+    const Revisione prima = rotonda.revisione();
+    rotonda.TempoIniziale(oraDelGiorno(1, 10));
+    EXPECT_EQ(rotonda.revisione().tutto, prima.tutto) << "the same second is no change";
+
+    const DataOra giorno = giornoCalendario(2026, 11, 21);
+    rotonda.Data(giorno + oraDelGiorno(23, 59, 59) + 0.9 / 86400.0);
+    EXPECT_EQ(rotonda.Data(), giorno);
+    EXPECT_EQ(Rotonda(sistemaFileStandard(), [&] { return giorno + 0.75; }).Data(), giorno);
 }
 
 TEST_F(ProveRotonda, FreshProjectHasItsDefaults) {
@@ -260,6 +296,40 @@ TEST_F(ProveRotonda, NumberOfLegsStaysBetweenThreeAndSeven) {
     }
 }
 
+TEST_F(ProveRotonda, ANewNumberOfLegsClearsTheMatrix) {
+    rotonda.MatriceSvolte(7.0F, 4, 3);
+    const Revisione prima = rotonda.revisione();
+    rotonda.NumeroRami(5);
+    Matrice matrice;
+    rotonda.GetMatriceSvolte(matrice);
+    EXPECT_EQ(matrice, Matrice(5, std::vector<float>(5, 0.0F)));
+    EXPECT_EQ(rotonda.revisione().tutto, prima.tutto + 1);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima.calcolo + 1);
+}
+
+TEST_F(ProveRotonda, TheSameNumberOfLegsChangesNothing) {
+    rotonda.MatriceSvolte(7.0F, 4, 3);
+    const Revisione prima = rotonda.revisione();
+    rotonda.NumeroRami(4);
+    EXPECT_EQ(rotonda.MatriceSvolte(4, 3), 7.0F);
+    EXPECT_EQ(rotonda.revisione().tutto, prima.tutto);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima.calcolo);
+}
+
+TEST_F(ProveRotonda, ALegMoreAndANumberOfSegmentsRaiseTheRevisionOfTheCalculation) {
+    rotonda.NumeroRami(3);
+    std::uint64_t prima = rotonda.revisione().calcolo;
+    Ramo& ramo = rotonda.AddRamo("1Ramo");
+    EXPECT_GT(rotonda.revisione().calcolo, prima);
+    prima = rotonda.revisione().calcolo;
+    ramo.theDatiTraffico().NumSegmentiTempo(4);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima + 1) << "also where the number stays: the table is discarded";
+    prima = rotonda.revisione().calcolo;
+    ramo.theComposizioneTraffico().NumSegmentiTempo(4);
+    EXPECT_EQ(rotonda.revisione().calcolo, prima + 1);
+    EXPECT_GE(rotonda.revisione().tutto, rotonda.revisione().calcolo);
+}
+
 TEST_F(ProveRotonda, NumberOfLegsDoesNotChangeOnceTheyExist) {
     rami(3);
     EXPECT_EQ(numeroGuasto([&] { rotonda.NumeroRami(4); }), 5);
@@ -333,6 +403,18 @@ TEST_F(ProveRotonda, SharesOfAMatrixInPerCentDivideByAHundredAlsoWhereARowDoesNo
     rotonda.GetMatriceSvoltePercentuale(quote);
     EXPECT_EQ(quote[0], (std::vector<float>{0, 0.3F, 0.5F}));
     EXPECT_EQ(quote[1], (std::vector<float>{0, 0, 0}));
+}
+
+TEST_F(ProveRotonda, AMatrixOfAnUnknownKindIsReadAsVehicles) {
+    rotonda.NumeroRami(3);
+    rotonda.MatriceSvolte(30.0F, 1, 2);
+    rotonda.MatriceSvolte(10.0F, 1, 3);
+    for (const std::int16_t tipo : {std::int16_t{0}, std::int16_t{2}, std::int16_t{-1}}) {
+        rotonda.TipoMatriceSvolte(tipo);
+        Matrice quote;
+        rotonda.GetMatriceSvoltePercentuale(quote);
+        EXPECT_EQ(quote[0], (std::vector<float>{0, 0.75F, 0.25F})) << tipo;
+    }
 }
 
 TEST_F(ProveRotonda, StampTellsWhetherTheRecordsAreThoseOfTheProject) {

@@ -24,6 +24,28 @@ TEST(ProveFileKlv, EveryPropertyComesBackExactly) {
     }
 }
 
+TEST(ProveFileKlv, TimesThatWereAddedUpComeBackExactly) {
+    const double ore = 1.0 / 24.0;
+    const double minuti = 1.0 / 1440.0;
+    for (int ora = 0; ora < 24; ++ora) {
+        Rotonda scritta;
+        riempi(scritta, 3, 1);
+        for (int cinque = 0; cinque < 12; ++cinque) {
+            const DataOra sommata = ora * ore + 5 * cinque * minuti;
+            scritta.TempoIniziale(sommata);
+            scritta.TempoFinale(sommata + 2 * ore);
+            scritta.SegmentoTempo(5 * minuti + cinque * minuti);
+            scritta.Data(46000.0 + sommata);
+            scritta.Ramo(1).theDatiTraffico().Tempo1(sommata);
+            scritta.Ramo(2).theDatiTraffico().Tempo2(sommata + 20 * minuti);
+            scritta.Ramo(3).theDatiTraffico().Tempo3(sommata + ore);
+            Rotonda letta;
+            ASSERT_TRUE(carica(letta, scritta.TestoFile()).esito);
+            confronta(scritta, letta);
+        }
+    }
+}
+
 TEST(ProveFileKlv, NumbersAtTheEdgesOfTheirTypesComeBackExactly) {
     const std::vector<float> singoli{FLT_MAX,     -FLT_MAX,    FLT_MIN,       std::numeric_limits<float>::denorm_min(),
                                      16777217.0F, 1.0F / 3.0F, 8388608.5F,    1.0e-10F,
@@ -119,7 +141,7 @@ TEST(ProveFileKlv, ALoadRaisesTheRevisionAndTakesTheStampAway) {
     const Revisione dopo = r.revisione();
     r.Ramo(3).theDatiTraffico().FlussoTempo1(77.0F);
     r.Ramo(3).theComposizioneTraffico().Autovetture(77.0F);
-    r.Ramo(3).theAnalisiMarginale().LungSvasatura(77.0);
+    r.Ramo(3).theAnalisiMarginale().CondizioniEsterne(77.0);
     r.Ramo(3).SemiLarghezza(77.0F);
     r.ValorePercentile(77.0F);
     EXPECT_EQ(r.revisione().calcolo, dopo.calcolo + 5) << "the loaded objects count in this project";

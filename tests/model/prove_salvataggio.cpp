@@ -5,9 +5,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <iterator>
+#include <string>
 
 #include "comune/fileDifettosi.h"
 #include "platform/linux/SistemaFileLinux.h"
@@ -139,11 +142,15 @@ TEST_P(ProveSalvataggio, AKillBetweenAnyTwoStepsLeavesTheOldOrTheNewFileWhole) {
         salva(sistemaFileStandard(), cartella.file("altro.klv"));  // what the new file would be
         const bool rinominato = passo == PassoFile::sincronizzaCartella;
         EXPECT_EQ(contenuto(file), rinominato ? nuovo : vecchio());
+        const bool temporaneo = passo != PassoFile::crea && !rinominato;
         // What the dead process left is in nobody's way.
         salva(sistema);
         EXPECT_TRUE(esito) << messaggio;
         EXPECT_EQ(contenuto(file), nuovo);
-        EXPECT_EQ(fileNellaCartella(), 2U);
+        EXPECT_EQ(fileNellaCartella(), temporaneo ? 3U : 2U);
+        for (const auto& voce : fs::directory_iterator(cartella.percorso())) {
+            fs::remove(voce.path());
+        }
     }
 }
 
@@ -247,36 +254,80 @@ TEST_P(ProveSalvataggio, ALinkStaysAndItsFileIsReplaced) {
     EXPECT_EQ(contenuto(vero), nuovo);
 }
 
-TEST_P(ProveSalvataggio, WhatStandsUnderTheTemporaryNameIsReplacedNeverFollowed) {
+TEST_P(ProveSalvataggio, EverySaveHasATemporaryNameOfItsOwnBesideTheFile) {
+    for (int i = 0; i < 3; ++i) {
+        // A process that dies in front of the rename leaves its temporary behind.
+        ASSERT_EQ(inUnFiglio([&] {
+                      FileDifettosi difettosi(sistema, PassoFile::rinomina, Incidente::morte);
+                      salva(difettosi);
+                      return 0;
+                  }),
+                  9);
+        EXPECT_EQ(fileNellaCartella(), static_cast<std::size_t>(i + 1)) << "an old temporary is left alone";
+    }
+    for (const auto& voce : fs::directory_iterator(cartella.percorso())) {
+        EXPECT_THAT(voce.path().filename().string(), testing::MatchesRegex("progetto\\.klv\\.[0-9a-f]{8}\\.tmp~"));
+    }
+}
+
+TEST_P(ProveSalvataggio, WhatStandsUnderTheTemporaryNameIsNeitherReplacedNorFollowed) {
     const std::string altrui = cartella.file("altrui.txt");
+    const std::string preso = cartella.file("preso");
     scriviContenuto(altrui, "altrui");
-    fs::create_symlink(altrui, file + ".tmp~");
-    salva(sistema);
-    EXPECT_TRUE(esito) << messaggio;
+    std::string errore;
+    for (const std::string& vero : {altrui, cartella.file("manca")}) {
+        errore.clear();
+        fs::create_symlink(vero, preso);
+        EXPECT_EQ(sistema.crea(preso, errore), nullptr);
+        EXPECT_EQ(errore, "esiste già un file con questo nome");
+        EXPECT_TRUE(fs::is_symlink(preso));
+        fs::remove(preso);
+    }
+    EXPECT_FALSE(fs::exists(cartella.file("manca")));
+    errore.clear();
+    EXPECT_EQ(sistema.crea(altrui, errore), nullptr);
+    EXPECT_EQ(errore, "esiste già un file con questo nome");
     EXPECT_EQ(contenuto(altrui), "altrui");
-    EXPECT_EQ(contenuto(file), nuovo);
-    fs::create_directory(file + ".tmp~");
-    salva(sistema);
-    EXPECT_FALSE(esito);
-    EXPECT_TRUE(fs::is_directory(file + ".tmp~")) << "a folder of that name is somebody's";
+}
+
+TEST_P(ProveSalvataggio, TwoProcessesThatSaveTheSameFileNeverMeet) {
+    constexpr int volte = 200;
+    const std::array contenuti{std::string(20000, 'a'), std::string(70000, 'b')};
+    const auto salvaSpesso = [&](const std::string& dati) {
+        int guasti = 0;
+        for (int i = 0; i < volte; ++i) {
+            guasti += scriviFileSicuro(sistema, file, dati).empty() ? 0 : 1;
+            const std::string letto = contenuto(file);
+            guasti += letto == contenuti[0] || letto == contenuti[1] ? 0 : 1;
+        }
+        return guasti;
+    };
+    const pid_t figlio = ::fork();
+    if (figlio == 0) {
+        ::_exit(std::min(salvaSpesso(contenuti[0]), 100));
+    }
+    EXPECT_EQ(salvaSpesso(contenuti[1]), 0);
+    int stato = 0;
+    ::waitpid(figlio, &stato, 0);
+    EXPECT_TRUE(WIFEXITED(stato));
+    EXPECT_EQ(WEXITSTATUS(stato), 0);
+    EXPECT_EQ(fileNellaCartella(), 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ProveSalvataggio, testing::Bool(),
                          [](const auto& caso) { return caso.param ? "Linux" : "Standard"; });
 
-TEST(ProveSistemaFileLinux, AFileOfTheSameNameIsMadeAnewAndNotInherited) {
+TEST(ProveSistemaFileLinux, AFileIsWrittenMeasuredAndClosedTwiceWithoutHarm) {
     const CartellaTemporanea cartella;
     const std::string percorso = cartella.file("a");
-    scriviContenuto(percorso, "vecchio");
-    fs::create_hard_link(percorso, cartella.file("b"));
     std::string errore;
     const auto file = sistemaLinux().crea(percorso, errore);
     ASSERT_NE(file, nullptr) << errore;
     EXPECT_EQ(file->scrivi("nuovo"), "");
     EXPECT_EQ(file->sincronizza(), "");
     EXPECT_EQ(file->chiudi(), "");
-    EXPECT_EQ(file->chiudi(), "") << "closing twice is harmless";
-    EXPECT_EQ(contenuto(cartella.file("b")), "vecchio");
+    EXPECT_EQ(file->chiudi(), "");
+    EXPECT_EQ(contenuto(percorso), "nuovo");
     EXPECT_EQ(sistemaLinux().dimensione(percorso), 5);
     EXPECT_EQ(sistemaLinux().dimensione(cartella.percorso()), -1);
     EXPECT_EQ(sistemaLinux().dimensione(cartella.file("manca")), -1);

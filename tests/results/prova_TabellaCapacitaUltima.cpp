@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "app/nuovoProgetto.h"
+#include "base/guasto.h"
 #include "comune/finti.h"
+#include "comune/guasti.h"
 #include "results/TabellaCapacitaUltima.h"
 
 namespace kelvo {
@@ -55,6 +59,67 @@ TEST_F(CapacitaUltima, TotalsAddTheShownFigures) {
     riempi(0.004, 0.004, 0.004, 1.0F, 0.0F, 0.0F);
     EXPECT_EQ(tabella.tabella().testo(5, 1), "0,00");
     EXPECT_EQ(tabella.SC(), 0.0F);
+}
+
+TEST_F(CapacitaUltima, TheTotalOfFlowsAddsTheShownFiguresToo) {
+    riempi(1.0, 1.0, 1.0, 0.004F, 0.004F, 0.004F);
+    EXPECT_EQ(tabella.tabella().testo(5, 2), "0,00");
+    EXPECT_EQ(tabella.SF(), 0.0F);
+    EXPECT_EQ(tabella.tabella().testo(6, 1), " - ");
+}
+
+TEST_F(CapacitaUltima, EachSumIsASingle) {
+    // 16777216 is the single from which on 1 is less than half a step; 16777218 would be a single.
+    riempi(16777216.0, 1.0, 1.0, 1.0F, 1.0F, 1.0F);
+    EXPECT_EQ(tabella.SC(), 16777216.0F);
+    // Shown with its seven digits, 16777220.
+    riempi(1.0, 1.0, 1.0, 16777216.0F, 1.0F, 1.0F);
+    EXPECT_EQ(tabella.tabella().testo(1, 2), "16777220,00");
+    EXPECT_EQ(tabella.SF(), 16777220.0F);
+}
+
+TEST_F(CapacitaUltima, AFigureOrATotalPastTheSinglesIsAnOverflow) {
+    for (const double grande : {3.5e38, -3.5e38, 1e300, std::numeric_limits<double>::max()}) {
+        try {
+            riempi(1.0, grande, 1.0, 1.0F, 1.0F, 1.0F);
+            ADD_FAILURE() << grande;
+        } catch (const Guasto& guasto) {
+            EXPECT_EQ(guasto.codice(), 6);
+            EXPECT_EQ(guasto.descrizione(), "Overflow (Ramo B, Capacita' di saturazione [veic/h])");
+        }
+    }
+    EXPECT_EQ(prove::numeroGuasto([&] { riempi(2e38, 2e38, 0.0, 1.0F, 1.0F, 1.0F); }), 6);
+    EXPECT_EQ(prove::numeroGuasto([&] { riempi(1.0, 1.0, 1.0, 2e38F, 2e38F, 0.0F); }), 6);
+    EXPECT_EQ(prove::numeroGuasto([&] { riempi(3e38, 0.0, 0.0, 3e38F, 0.0F, 0.0F); }), 0);
+}
+
+TEST_F(CapacitaUltima, HasTheColoursOfTheTables) {
+    for (const std::int16_t n : {std::int16_t{3}, std::int16_t{7}}) {
+        creaProgetto(finta.app, n);
+        tabella.riempi(rotonda());
+        const Tabella& t = tabella.tabella();
+        const Colore bianco{255, 255, 255};
+        const Colore nero{0, 0, 0};
+        const auto attendi = [&](int riga, int colonna, Colore sfondo, Colore inchiostro) {
+            EXPECT_EQ(t.cella(riga, colonna).sfondo, sfondo) << n << ": " << riga << ", " << colonna;
+            EXPECT_EQ(t.cella(riga, colonna).inchiostro, inchiostro) << n << ": " << riga << ", " << colonna;
+        };
+        for (int c = 0; c < 3; ++c) {
+            attendi(0, c, {0, 98, 0}, bianco);
+            attendi(n + 1, c, {0, 98, 0}, bianco);
+        }
+        for (int i = 1; i <= n; ++i) {
+            attendi(i, 0, {164, 196, 0}, bianco);
+            attendi(i, 1, {220, 220, 220}, nero);
+            attendi(i, 2, {220, 220, 220}, nero);
+        }
+        attendi(n + 2, 0, {220, 220, 220}, nero);
+        attendi(n + 2, 1, {244, 237, 90}, nero);
+        attendi(n + 2, 2, {244, 237, 90}, nero);
+        attendi(n + 3, 0, {0, 98, 0}, bianco);
+        attendi(n + 3, 1, {244, 237, 90}, nero);
+        attendi(n + 3, 2, {220, 220, 220}, nero);
+    }
 }
 
 TEST_F(CapacitaUltima, NoCapacityShowsADashAndKeepsTheIndexOfTheLastFilling) {

@@ -106,6 +106,67 @@ TEST_F(TabellaVerifiche, PaintsLevelFRedAndNotBoldAndOthersBlack) {
     EXPECT_FALSE(t.cella(6, 6).grassetto);
 }
 
+TEST_F(TabellaVerifiche, ARefillSetsTheLevelOfEveryRowButTheHeadingBack) {
+    for (std::int16_t i = 1; i <= 3; ++i) {
+        rotonda().Ramo(i).theDatiTraffico().SetIterazione(1, {1.0F, 2.0F, 3.0F, 4.0F, 60.0F});
+    }
+    Tabella t = piena();
+    for (const int riga : {2, 3, 4}) {
+        EXPECT_EQ(t.testo(riga, 6), "F");
+        EXPECT_EQ(t.cella(riga, 6).inchiostro, (Colore{255, 0, 0}));
+    }
+    for (int riga = 1; riga < t.righe(); ++riga) {
+        t.cella(riga, 6).inchiostro = {1, 2, 3};
+        t.cella(riga, 6).grassetto = true;
+    }
+    for (std::int16_t i = 1; i <= 3; ++i) {
+        rotonda().Ramo(i).theDatiTraffico().NumSegmentiTempo(1);
+        rotonda().Ramo(i).theDatiTraffico().SetIterazione(1, {1.0F, 2.0F, 3.0F, 4.0F, 5.0F});
+    }
+    riempiTabellaVerifiche(rotonda(), t);
+    for (int riga = 1; riga < t.righe(); ++riga) {
+        EXPECT_EQ(t.cella(riga, 6).inchiostro, (Colore{0, 0, 0})) << riga;
+        EXPECT_FALSE(t.cella(riga, 6).grassetto) << riga;
+    }
+    EXPECT_EQ(t.testo(3, 6), "A");
+    EXPECT_EQ(t.cella(0, 6).inchiostro, (Colore{255, 255, 255}));
+}
+
+TEST_F(TabellaVerifiche, NumberOfIntervalsIsRoundedWithTiesToEven) {
+    struct Caso {
+        int minuti;
+        int attesi;
+    };
+    rotonda().SegmentoTempo(oraDelGiorno(0, 10));
+    for (const Caso caso :
+         {Caso{75, 8}, Caso{65, 6}, Caso{74, 7}, Caso{76, 8}, Caso{5, 0}, Caso{60, 6}, Caso{-60, -6}}) {
+        rotonda().TempoFinale(oraDelGiorno(8, caso.minuti));
+        EXPECT_EQ(numeroIntervalli(rotonda()), caso.attesi) << caso.minuti;
+    }
+    rotonda().TempoFinale(oraDelGiorno(9, 15));
+    EXPECT_EQ(impostaTabellaVerifiche(rotonda()).righe(), (3 + 1) * 8 + 1);
+}
+
+TEST_F(TabellaVerifiche, AWindowThatEndsBeforeItStartsHasTheHeadingsAlone) {
+    rotonda().TempoFinale(oraDelGiorno(7, 30));
+    Tabella t = impostaTabellaVerifiche(rotonda());
+    EXPECT_EQ(t.righe(), 1);
+    EXPECT_EQ(t.testo(0, 6), "L.O.S.");
+    try {
+        riempiTabellaVerifiche(rotonda(), t);
+        ADD_FAILURE() << "no fault";
+    } catch (const Guasto& guasto) {
+        EXPECT_EQ(guasto.codice(), 9);
+        EXPECT_EQ(guasto.descrizione(),
+                  "Indice non compreso nell'intervallo (la finestra di modellazione non ha intervalli)");
+    }
+    for (std::int16_t i = 1; i <= 3; ++i) {
+        rotonda().Ramo(i).theDatiTraffico().NumSegmentiTempo(0);
+    }
+    riempiTabellaVerifiche(rotonda(), t);
+    EXPECT_EQ(t.righe(), 1);
+}
+
 TEST_F(TabellaVerifiche, HasItsWidths) {
     const Tabella t = piena();
     EXPECT_EQ(t.larghezze, (std::vector<int>{2000, 1300, 1400, 1400, 1000, 1300, 900}));

@@ -54,7 +54,6 @@ private:
 
 std::unique_ptr<FileInScrittura> SistemaFileLinux::crea(const std::string& percorso, std::string& errore) {
     constexpr mode_t permessi = 0666;  // less what the user's mask takes away
-    elimina(percorso);                 // one that a killed process left
     const int descrittore = ::open(percorso.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permessi);
     if (descrittore < 0) {
         errore = esitoDi(-1);

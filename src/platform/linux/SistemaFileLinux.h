@@ -4,10 +4,12 @@
 
 namespace kelvo {
 
-/// The file system of a POSIX system: what it writes stands on the disk itself when it answers.
+/// The file system of a POSIX system. `FileInScrittura::sincronizza` and `sincronizzaCartella` hand what was written
+/// to the disk itself; the other operations leave that to the system.
 class SistemaFileLinux final : public SistemaFile {
 public:
-    /// Never follows a link and never writes into a file that another process made at the same instant.
+    /// Makes the file in one step (O_EXCL): it never follows a link, and of two processes that make the same name at
+    /// the same instant one fails.
     std::unique_ptr<FileInScrittura> crea(const std::string& percorso, std::string& errore) override;
     std::int64_t dimensione(const std::string& percorso) override;
     std::string rinomina(const std::string& da, const std::string& a) override;
