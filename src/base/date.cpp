@@ -124,6 +124,12 @@ int minutoCampo(DataOra data) {
     return partiDi(data).minuto;
 }
 
+std::int16_t segmentiTra(DataOra da, DataOra a, int minuti, int aggiunta) {
+    const auto durata = static_cast<double>(minutiTra(da, a));
+    const double quoziente = dividi(durata, minuti, [] { return "segmento di tempo di 0 minuti"; });
+    return aIntero16(arrotondaPari(quoziente + aggiunta), [] { return "numero di segmenti di tempo"; });
+}
+
 std::string testoHHNN(DataOra data) {
     const PartiData p = partiDi(data);
     return fmt::format("{:02}:{:02}", p.ora, p.minuto);

@@ -40,6 +40,9 @@ DataOra alSecondo(DataOra data);
 std::int64_t minutiTra(DataOra da, DataOra a);
 /// The minutes field of a date, 0 to 59: a whole hour reads as 0.
 int minutoCampo(DataOra data);
+/// Time segments of so many minutes from `da` to `a`: the quotient with `aggiunta` added to it, rounded to nearest,
+/// ties to even. Fault 11 for segments of 0 minutes, fault 6 for a number past 16 bits.
+std::int16_t segmentiTra(DataOra da, DataOra a, int minuti, int aggiunta = 0);
 
 /// "08:05"
 std::string testoHHNN(DataOra data);

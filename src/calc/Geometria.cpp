@@ -22,6 +22,9 @@ void parametriCapacita(Ramo& ramo, const Geometria& g) {
             return fmt::format("{}, {} {}", ramo.Descrizione(), misura, testoNumero(valore));
         };
     };
+    const auto parametro = [&](std::string_view nome) {
+        return [&ramo, nome] { return fmt::format("{}, {}", ramo.Descrizione(), nome); };
+    };
     const double e = g.e;
     const double v = g.v;
     const double l = g.l;
@@ -30,18 +33,18 @@ void parametriCapacita(Ramo& ramo, const Geometria& g) {
     const double D = g.D;
 
     const double inverso = dividi(1.0, r, luogo("raggio ingresso", g.r));
-    ramo.K(controllato(1.0 - (phi - 30.0) * 0.00347 - (inverso - 0.05) * 0.978));
+    ramo.K(controllato(1.0 - (phi - 30.0) * 0.00347 - (inverso - 0.05) * 0.978, parametro("K")));
     const double E = esponenziale((D - 60.0) / 10.0, luogo("diametro inscritto", g.D));
     ramo.Td(0.5 / (1.0 + E) + 1.0);
     ramo.S(dividi((e - v) * 1.6, l, luogo("lunghezza svasatura", g.l)));
     const auto acutezza = [&] {
         return fmt::format("{}, acutezza svasatura {}", ramo.Descrizione(), testoNumero(ramo.S()));
     };
-    ramo.X2(controllato(dividi(e - v, 2.0 * ramo.S() + 1.0, acutezza) + v));
-    ramo.F(controllato(ramo.X2() * 303.0 * ramo.K()));
+    ramo.X2(controllato(dividi(e - v, 2.0 * ramo.S() + 1.0, acutezza) + v, parametro("X2")));
+    ramo.F(controllato(ramo.X2() * 303.0 * ramo.K(), parametro("F")));
     ramo.Fc(ramo.Td() * 0.21);
-    ramo.Fc(controllato((0.2 * ramo.X2() + 1.0) * ramo.Fc()));
-    ramo.Fc(controllato(ramo.K() * ramo.Fc()));
+    ramo.Fc(controllato((0.2 * ramo.X2() + 1.0) * ramo.Fc(), parametro("Fc")));
+    ramo.Fc(controllato(ramo.K() * ramo.Fc(), parametro("Fc")));
 }
 
 void parametriCapacita(const Rotonda& rotonda, std::int16_t indice, const Geometria& g) {

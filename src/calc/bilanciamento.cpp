@@ -24,10 +24,6 @@ void minore(int n, const Quadrata<double>& A, int senzaRiga, int senzaColonna, Q
     }
 }
 
-[[noreturn]] void nonConverge() {
-    throw Guasto::conParole(NumeroGuasto::operazioneImpossibile, "Il bilanciamento non converge");
-}
-
 /// Tells when a sequence of states comes back to one that it has passed, with one state kept.
 template <class T>
 class RitornoDiStato {
@@ -50,33 +46,13 @@ private:
     int passi_ = 0;
 };
 
-/// The weights of a column that are not 0, in order: leaving out the others changes no result.
-struct Colonna {
-    std::array<int, static_cast<std::size_t>(massimoRami)> righe{};
-    std::array<double, static_cast<std::size_t>(massimoRami)> pesi{};
-    int quanti = 0;
-};
-
-PerRamo<Colonna> colonneDi(int n, const Quadrata<float>& W) {
-    PerRamo<Colonna> colonne{};
-    for (int i = 0; i < n; ++i) {
-        Colonna& colonna = colonne[z(i)];
-        for (int j = 0; j < n; ++j) {
-            if (W[z(j)][z(i)] != 0.0F) {
-                colonna.righe[z(colonna.quanti)] = j;
-                colonna.pesi[z(colonna.quanti)] = static_cast<double>(W[z(j)][z(i)]);
-                ++colonna.quanti;
-            }
-        }
-    }
-    return colonne;
-}
+constexpr auto luogoBilanciamento = [] { return "bilanciamento dei flussi"; };
 
 }  // namespace
 
 double Determinante(int n, const Quadrata<double>& A) {
     if (n <= 2) {
-        return controllato(A[0][0] * A[1][1] - A[0][1] * A[1][0]);
+        return controllato(A[0][0] * A[1][1] - A[0][1] * A[1][0], luogoBilanciamento);
     }
     double prime = 0.0;
     double seconde = 0.0;
@@ -91,7 +67,7 @@ double Determinante(int n, const Quadrata<double>& A) {
         prime += prima;
         seconde += seconda;
     }
-    return controllato(prime - seconde);
+    return controllato(prime - seconde, luogoBilanciamento);
 }
 
 Quadrata<double> Trasposta(int n, const Quadrata<double>& A) {
@@ -126,7 +102,7 @@ PerRamo<double> Prodotto(int n, const PerRamo<double>& b, const Quadrata<double>
         for (int j = 0; j < n; ++j) {
             somma += b[z(j)] * A[z(i)][z(j)];
         }
-        prodotto[z(i)] = controllato(somma);
+        prodotto[z(i)] = controllato(somma, luogoBilanciamento);
     }
     return prodotto;
 }
@@ -138,7 +114,7 @@ Quadrata<float> Costruisci_Matrice(const Rotonda& rotonda) {
     PerRamo<float> Fc{};
     for (int i = 0; i < n; ++i) {
         const Ramo& ramo = rotonda.Ramo(static_cast<std::int16_t>(i + 1));
-        Fc[z(i)] = aSingolo(ramo.Fc(), [&] { return ramo.Descrizione(); });
+        Fc[z(i)] = aSingolo(ramo.Fc(), [&] { return ramo.Descrizione() + ", Fc"; });
     }
     Quadrata<float> M{};
     for (int i = 0; i < n; ++i) {
@@ -150,7 +126,7 @@ Quadrata<float> Costruisci_Matrice(const Rotonda& rotonda) {
             for (int a = i + n - 2; a >= i + 1; --a) {
                 somma += p[z(s % n)][z(a % n)];
             }
-            const float peso = aSingolo(static_cast<double>(somma) * static_cast<double>(Fc[z(i)]));
+            const float peso = aSingolo(static_cast<double>(somma) * static_cast<double>(Fc[z(i)]), luogoBilanciamento);
             if (peso != 0.0F) {
                 M[z(s % n)][z(i)] = peso;
             }
@@ -159,8 +135,24 @@ Quadrata<float> Costruisci_Matrice(const Rotonda& rotonda) {
     return M;
 }
 
+PerRamo<Colonna> colonneDi(int n, const Quadrata<float>& M) {
+    PerRamo<Colonna> colonne{};
+    for (int i = 0; i < n; ++i) {
+        Colonna& colonna = colonne[z(i)];
+        for (int j = 0; j < n; ++j) {
+            const float peso = M[z(j)][z(i)];
+            if (j != i && peso != 0.0F) {
+                colonna.righe[colonna.quanti] = z(j);
+                colonna.pesi[colonna.quanti] = static_cast<double>(peso);
+                ++colonna.quanti;
+            }
+        }
+    }
+    return colonne;
+}
+
 template <class T>
-Soluzione<T> Itera_Bilanciamento(int n, const PerRamo<T>& F, const Quadrata<float>& W) {
+Soluzione<T> scorriBilanciamento(int n, const PerRamo<T>& F, const Quadrata<float>& W) {
     const PerRamo<Colonna> colonne = colonneDi(n, W);
     Soluzione<T> s;
     RitornoDiStato<T> ritorno;
@@ -169,12 +161,12 @@ Soluzione<T> Itera_Bilanciamento(int n, const PerRamo<T>& F, const Quadrata<floa
         for (int i = 0; i < n; ++i) {
             const Colonna& colonna = colonne[z(i)];
             T q = F[z(i)];
-            for (int j = 0; j < colonna.quanti; ++j) {
+            for (std::size_t j = 0; j < colonna.quanti; ++j) {
                 // In single precision the product is not rounded, the difference is.
                 q = static_cast<T>(static_cast<double>(q) -
-                                   colonna.pesi[z(j)] * static_cast<double>(s.Q[z(colonna.righe[z(j)])]));
+                                   colonna.pesi[j] * static_cast<double>(s.Q[colonna.righe[j]]));
             }
-            controllato(static_cast<double>(q), [] { return "bilanciamento dei flussi"; });
+            controllato(static_cast<double>(q), luogoBilanciamento);
             const double cambio = std::fabs(static_cast<double>(s.Q[z(i)]) - static_cast<double>(q));
             s.Q[z(i)] = q;
             if (cambio > massimo) {
@@ -186,9 +178,19 @@ Soluzione<T> Itera_Bilanciamento(int n, const PerRamo<T>& F, const Quadrata<floa
             return s;
         }
         if (s.passate >= massimoPassate || ritorno.tornato(s.Q)) {
-            nonConverge();
+            s.convergente = false;
+            return s;
         }
     }
+}
+
+template <class T>
+Soluzione<T> Itera_Bilanciamento(int n, const PerRamo<T>& F, const Quadrata<float>& W) {
+    const Soluzione<T> s = scorriBilanciamento<T>(n, F, W);
+    if (!s.convergente) {
+        throw Guasto::conParole(NumeroGuasto::operazioneImpossibile, "Il bilanciamento non converge");
+    }
+    return s;
 }
 
 template <class T>
@@ -199,7 +201,7 @@ Equilibrio<T> bilancia(const Rotonda& rotonda) {
     for (int i = 0; i < n; ++i) {
         const Ramo& ramo = rotonda.Ramo(static_cast<std::int16_t>(i + 1));
         if constexpr (std::same_as<T, float>) {
-            F[z(i)] = aSingolo(ramo.F(), [&] { return ramo.Descrizione(); });
+            F[z(i)] = aSingolo(ramo.F(), [&] { return ramo.Descrizione() + ", F"; });
         } else {
             F[z(i)] = ramo.F();
         }
@@ -227,6 +229,8 @@ Equilibrio<T> bilancia(const Rotonda& rotonda) {
     return e;
 }
 
+template Soluzione<float> scorriBilanciamento<float>(int, const PerRamo<float>&, const Quadrata<float>&);
+template Soluzione<double> scorriBilanciamento<double>(int, const PerRamo<double>&, const Quadrata<float>&);
 template Soluzione<float> Itera_Bilanciamento<float>(int, const PerRamo<float>&, const Quadrata<float>&);
 template Soluzione<double> Itera_Bilanciamento<double>(int, const PerRamo<double>&, const Quadrata<float>&);
 template Equilibrio<float> bilancia<float>(const Rotonda&);

@@ -31,18 +31,33 @@ PerRamo<double> Prodotto(int n, const PerRamo<double>& b, const Quadrata<double>
 /// slopes Fc and the turning shares. Fault 6 for an overflow.
 Quadrata<float> Costruisci_Matrice(const Rotonda& rotonda);
 
+/// The entries that weigh on one entry, those alone: leaving out the others changes no result.
+struct Colonna {
+    std::array<std::size_t, static_cast<std::size_t>(massimoRami)> righe{};  ///< legs from 0, in order
+    std::array<double, static_cast<std::size_t>(massimoRami)> pesi{};
+    std::size_t quanti = 0;
+};
+
+/// The columns of M, or of M with a diagonal of 0, without the diagonal.
+PerRamo<Colonna> colonneDi(int n, const Quadrata<float>& M);
+
 /// Balanced entry flows, and the sweeps that they took.
 template <class T>
 struct Soluzione {
     PerRamo<T> Q{};  ///< veic/h
     int passate = 0;
+    bool convergente = true;  ///< false: the sweeps would go on for ever
 };
 
-/// Gauss-Seidel sweeps from Q = 0 until the largest change of a sweep is below 0.001.
+/// Gauss-Seidel sweeps from Q = 0 until the largest change of a sweep is below 0.001, or until the state comes back
+/// exactly while it still changes, or to the millionth sweep.
 ///
 /// `W` is M with a diagonal of 0; T is float, where each subtraction is rounded to single, or double. Nothing bounds
-/// Q. Fault 6 for an overflow; fault 17 "Il bilanciamento non converge" if the state comes back exactly while it
-/// still changes, or past one million sweeps.
+/// Q. Fault 6 for an overflow.
+template <class T>
+Soluzione<T> scorriBilanciamento(int n, const PerRamo<T>& F, const Quadrata<float>& W);
+
+/// The same; fault 17 "Il bilanciamento non converge" for sweeps that would go on for ever.
 template <class T>
 Soluzione<T> Itera_Bilanciamento(int n, const PerRamo<T>& F, const Quadrata<float>& W);
 

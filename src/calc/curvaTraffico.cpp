@@ -9,12 +9,6 @@ namespace kelvo {
 
 namespace {
 
-/// Minutes between two times over the length of a segment, rounded, ties to even; a 16-bit number of segments.
-int segmentiTra(DataOra da, DataOra a, int minuti) {
-    const auto durata = static_cast<double>(minutiTra(da, a));
-    return aIntero16(arrotondaPari(dividi(durata, minuti, [] { return "segmento di tempo di 0 minuti"; })));
-}
-
 double comeTesto(float valore) {
     return leggiNumero(testoNumero(valore)).value_or(0.0);
 }
@@ -31,38 +25,36 @@ std::string etichetta(DataOra data, int indice, int minuti) {
 
 }  // namespace
 
-CurvaTraffico CostruisciCurva(const DatiCurva& dati) {
-    CurvaTraffico curva;
+bool CostruisciCurva(const DatiCurva& dati, CurvaTraffico& curva) {
+    const auto oltre = [] { return "curva di traffico"; };
     const int m = dati.minuti;
     const int n1 = segmentiTra(dati.t1, dati.t2, m);
-    const int discesa = segmentiTra(dati.t2, dati.t3, m) - 1;
-    curva.piatto = discesa <= 1;
+    curva.piatto = segmentiTra(dati.t2, dati.t3, m, -1) <= 1;
     const int piatto = curva.piatto ? 1 : 0;
     const double q3 = curva.piatto ? dati.q2 : dati.q3;
-    const int n2 = discesa + piatto;
+    const int n2 = segmentiTra(dati.t2, dati.t3, m, piatto - 1);
     const auto durata = static_cast<double>(minutiTra(dati.t1, dati.t3));
     if (n1 == 0 || n2 == 0) {
-        return curva;
+        return false;
     }
-    const auto p1 = static_cast<double>(aSingolo(dividi(dati.q2 - dati.q1, n1)));
-    const auto p2 = static_cast<double>(aSingolo(dividi(q3 - dati.q2, n2)));
-    const int ultima = std::abs(n1) + std::abs(n2) - piatto;
+    const auto p1 = static_cast<double>(aSingolo(dividi(dati.q2 - dati.q1, n1), oltre));
+    const auto p2 = static_cast<double>(aSingolo(dividi(q3 - dati.q2, n2), oltre));
+    const auto barre = static_cast<std::size_t>(std::abs(n1) + std::abs(n2) - piatto + 1);
+    curva.FlussiSegmento.assign(barre, 0.0F);
+    curva.EtichetteSegmento.assign(barre, {});
     float totale = 0.0F;
-    for (int i = 0; i <= ultima; ++i) {
+    for (std::size_t barra = 0; barra < barre; ++barra) {
+        const int i = static_cast<int>(barra);
         const bool salita = i <= n1;
-        const float flusso = aSingolo(salita ? dati.q1 + i * p1 : dati.q2 + (i - n1) * p2);
-        curva.EtichetteSegmento.push_back(salita ? etichetta(dati.t1, i, m) : etichetta(dati.t2, i - n1, m));
-        curva.FlussiSegmento.push_back(flusso);
-        totale = aSingolo(static_cast<double>(totale) + static_cast<double>(flusso) * m);
+        curva.EtichetteSegmento[barra] = salita ? etichetta(dati.t1, i, m) : etichetta(dati.t2, i - n1, m);
+        const float flusso = aSingolo(salita ? dati.q1 + i * p1 : dati.q2 + (i - n1) * p2, oltre);
+        curva.FlussiSegmento[barra] = flusso;
+        totale = aSingolo(static_cast<double>(totale) + static_cast<double>(flusso) * m, oltre);
     }
     curva.TotaleArrotondato = formatta(totale, "#0");
     curva.TotaleEsatto = formatta(totale, "#0.00");
-    curva.FlussoTotale = curva.TotaleArrotondato;
-    const double medio = dividi(static_cast<double>(totale), durata, [] { return "t1 e t3 coincidono"; });
-    curva.FlussoMedio = formatta(medio, "#0.00");
-    curva.FlussoOrario = formatta(medio * 60.0, "#0.00");
-    curva.costruita = true;
-    return curva;
+    scriviTotali(curva.totali, totale, durata);
+    return true;
 }
 
 DatiCurva datiCurvaDi(const Rotonda& rotonda, const Ramo& ramo) {

@@ -28,10 +28,11 @@ T sommaPesata(const CoefficientiVeicoli& VE, const PerClasse& quantita) {
 
 }  // namespace
 
-float Simulazione::coefficienteMedio(const ComposizioneTraffico& c) const {
+float Simulazione::coefficienteMedio(const Ingresso& in) const {
+    const ComposizioneTraffico& c = in.ramo->theComposizioneTraffico();
     const PerClasse percentuali{c.Autoarticolati(), c.Autotreni(),       c.Pullman(),    c.Camper(),
                                 c.Roulotte(),       c.VeicoliDueRuote(), c.Autovetture()};
-    return aSingolo(sommaPesata<double>(VE_, percentuali) / 100.0);
+    return aSingolo(sommaPesata<double>(VE_, percentuali) / 100.0, luogo(*in.ramo, "composizione"));
 }
 
 float Simulazione::coefficienteSegmento(const Ingresso& in, std::int16_t k) const {
@@ -40,16 +41,17 @@ float Simulazione::coefficienteSegmento(const Ingresso& in, std::int16_t k) cons
         return 0.0F;
     }
     const PerClasse& categorie = tabella[static_cast<std::size_t>(k)];
+    const auto dove = luogo(*in.ramo, static_cast<std::int16_t>(k + 1), "composizione");
     float totale = 0.0F;
     for (const float c : categorie) {
         totale += c;
     }
-    controllato(static_cast<double>(totale), luogo(*in.ramo, k, "composizione"));
+    controllato(static_cast<double>(totale), dove);
     if (totale == 0.0F) {
         return 0.0F;
     }
     const float pesata = sommaPesata<float>(VE_, categorie);
-    return aSingolo(static_cast<double>(pesata / totale), luogo(*in.ramo, k, "composizione"));
+    return aSingolo(static_cast<double>(pesata / totale), dove);
 }
 
 double Simulazione::quotaCorsia(std::size_t i) const {
@@ -60,7 +62,8 @@ double Simulazione::quotaCorsia(std::size_t i) const {
     const DatiTraffico& traffico = in.ramo->theDatiTraffico();
     const double veicoli = quote_[i] * static_cast<double>(traffico.FlussoTotale()) / 100.0;
     const double durata = static_cast<double>(m_) * traffico.NumSegmentiTempo();
-    const double quota = dividi(veicoli, durata, luogo(*in.ramo, "nessun segmento di tempo"));
+    const std::string_view nulla = m_ == 0 ? segmentoZero : "nessun segmento di tempo";
+    const double quota = dividi(veicoli, durata, luogo(*in.ramo, nulla));
     return composizione_ == Composizione::costante ? quota * static_cast<double>(in.G) : quota;
 }
 
@@ -73,7 +76,7 @@ void Simulazione::leggiCurve() {
         in.d12 = minuti(traffico.Tempo1(), traffico.Tempo2());
         in.d23 = minuti(traffico.Tempo2(), in.t3);
         if (composizione_ == Composizione::costante) {
-            in.G = coefficienteMedio(in.ramo->theComposizioneTraffico());
+            in.G = coefficienteMedio(in);
             const auto G = static_cast<double>(in.G);
             in.q1 = aSingolo(static_cast<double>(traffico.FlussoTempo1()) * G, luogo(*in.ramo, "q1"));
             in.q2 = aSingolo(static_cast<double>(traffico.FlussoTempo2()) * G, luogo(*in.ramo, "q2"));
@@ -94,13 +97,14 @@ Simulazione::Retta Simulazione::retta(const Ingresso& in, float qa, float qb, do
     const double x = arrotondaPari(dividi(durata, m_, luogo(*in.ramo, segmentoZero)));
     const auto a = static_cast<double>(qa);
     const auto b = static_cast<double>(qb);
-    const auto tratto = luogo(*in.ramo, "tratto della curva senza segmenti");
-    const auto sum = static_cast<double>(aSingolo(a + b, tratto));
-    const auto xy = static_cast<double>(aSingolo(x * b, tratto));
-    const auto xx = static_cast<double>(aSingolo(x * x, tratto));
-    const auto det = static_cast<double>(aSingolo(xx - 2.0 * xx, tratto));
-    return {.pendenza = aSingolo(dividi(x * sum - 2.0 * xy, det, tratto), tratto),
-            .scarto = aSingolo(dividi(x * xy - xx * sum, det, tratto), tratto)};
+    const auto curva = luogo(*in.ramo, "curva di domanda");
+    const auto senzaSegmenti = luogo(*in.ramo, "tratto della curva senza segmenti");
+    const auto sum = static_cast<double>(aSingolo(a + b, curva));
+    const auto xy = static_cast<double>(aSingolo(x * b, curva));
+    const auto xx = static_cast<double>(aSingolo(x * x, curva));
+    const auto det = static_cast<double>(aSingolo(xx - 2.0 * xx, curva));
+    return {.pendenza = aSingolo(dividi(x * sum - 2.0 * xy, det, senzaSegmenti), curva),
+            .scarto = aSingolo(dividi(x * xy - xx * sum, det, senzaSegmenti), curva)};
 }
 
 void Simulazione::costruisciRette() {
@@ -131,14 +135,16 @@ void Simulazione::dividiCurve() {
 void Simulazione::leggiComposizioni() {
     if (composizione_ == Composizione::costante) {
         for (std::size_t i = 0; i < n_; ++i) {
-            ingressi_[i].G = coefficienteMedio(ingressi_[i].ramo->theComposizioneTraffico());
+            ingressi_[i].G = coefficienteMedio(ingressi_[i]);
         }
     }
 }
 
 void Simulazione::leggiCorsie() {
-    leggiComposizioni();
     for (std::size_t i = 0; i < n_; ++i) {
+        if (composizione_ == Composizione::costante) {
+            ingressi_[i].G = coefficienteMedio(ingressi_[i]);
+        }
         ingressi_[i].quota = quotaCorsia(i);
     }
 }
@@ -164,7 +170,8 @@ float Simulazione::domandaCurva(const Ingresso& in, std::int16_t k) const {
     const float portata = y * 60.0F;
     // The what-if form works out the composition of the segment and does not apply it.
     const bool applicata = segmenti && richiesta_.forma != FormaCalcolo::ipotesi;
-    return aSingolo(static_cast<double>(applicata ? portata * G : portata), luogo(*in.ramo, k));
+    return aSingolo(static_cast<double>(applicata ? portata * G : portata),
+                    luogo(*in.ramo, static_cast<std::int16_t>(k + 1)));
 }
 
 float Simulazione::domandaTabella(const Ingresso& in, std::int16_t k) const {
@@ -178,7 +185,7 @@ float Simulazione::domandaTabella(const Ingresso& in, std::int16_t k) const {
     const double veicoli = riga < flussi.size() ? static_cast<double>(flussi[riga]) : 0.0;
     const double portata =
         richiesta_.forma == FormaCalcolo::corsiaDestra ? (veicoli - in.quota) * 60.0 * G : 60.0 * veicoli * G;
-    return aSingolo(portata / m_, luogo(*in.ramo, k));
+    return aSingolo(portata / m_, luogo(*in.ramo, static_cast<std::int16_t>(k + 1)));
 }
 
 void Simulazione::calcolaPortate(std::int16_t K) {
@@ -197,13 +204,13 @@ void Simulazione::calcolaPortate(std::int16_t K) {
             const Ingresso& in = ingressi_[i];
             // No entry sends round more than its ultimate capacity.
             float R = in.F;
-            for (std::size_t v = 0; v < in.quantiVicini; ++v) {
-                const std::size_t j = in.vicini[v];
+            for (std::size_t v = 0; v < in.vicini.quanti; ++v) {
+                const std::size_t j = in.vicini.righe[v];
                 const auto domanda = static_cast<double>(Dq[j]);
                 const double u = ingressi_[j].CU > domanda ? domanda : ingressi_[j].CU;
-                R = static_cast<float>(static_cast<double>(R) - in.pesi[v] * u);
+                R = static_cast<float>(static_cast<double>(R) - in.vicini.pesi[v] * u);
             }
-            Cq[i] = aSingolo(static_cast<double>(R), luogo(*in.ramo, k));
+            Cq[i] = aSingolo(static_cast<double>(R), luogo(*in.ramo, static_cast<std::int16_t>(k + 1)));
         }
     }
 }

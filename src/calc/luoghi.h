@@ -12,7 +12,7 @@
 /// Words and minutes that the files of the simulation share.
 namespace kelvo::simulazione {
 
-/// Place of a fault in a segment of an entry.
+/// Place of a fault in a segment of an entry; `k` from 1, as the records count it.
 inline auto luogo(const Ramo& ramo, std::int16_t k, std::string_view cosa = {}) {
     return [&ramo, k, cosa] {
         std::string testo = fmt::format("{}, segmento {}", ramo.Descrizione(), k);

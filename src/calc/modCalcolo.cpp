@@ -60,10 +60,11 @@ void modCalcolo::bilanciamentoIpotesi(std::int16_t indice, const Geometria& g) {
     for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
         Ramo& ramo = rotonda.Ramo(i);
         DatiTraffico& traffico = ramo.theDatiTraffico();
-        const Iterazione record{.Capacita = aSingolo(ramo.CapacitaUltima(), [&] { return ramo.Descrizione(); })};
-        rotonda.timbra(FormaCalcolo::interrotta);
-        for (std::int16_t k = 1; k <= traffico.NumSegmentiTempo(); ++k) {
-            traffico.SetIterazione(k, record);
+        const auto dove = [&] { return ramo.Descrizione() + ", capacità ultima"; };
+        for (int k = 1; k <= traffico.NumSegmentiTempo(); ++k) {
+            const Iterazione record{.Capacita = aSingolo(ramo.CapacitaUltima(), dove)};
+            rotonda.timbra(FormaCalcolo::interrotta);
+            traffico.SetIterazione(static_cast<std::int16_t>(k), record);
         }
     }
     rotonda.timbra(FormaCalcolo::ipotesi);

@@ -16,6 +16,8 @@ namespace kelvo {
 /// the operation ends; what was written up to then stays. The what-if forms take the measures `g` for the leg of
 /// number `indice`, from 1, in place of those it holds; with a number that matches no leg they read every leg's own.
 /// A calculation stamps the project with its form; one that a fault ends among its records stamps it as broken off.
+/// Where legs are missing every operation ends in fault 9: a simulation with nothing written, the others with the
+/// parameters of the legs that stand before the first missing one.
 class modCalcolo {
 public:
     explicit modCalcolo(Applicazione& app) : app_(app) {}

@@ -12,7 +12,6 @@ namespace kelvo {
 
 using simulazione::luogo;
 using simulazione::minuti;
-using simulazione::segmentoZero;
 
 namespace {
 
@@ -139,7 +138,9 @@ void Simulazione::esegui() {
             leggiCorsie();
         }
         bilanciaRete();
-        leggiComposizioni();
+        if (K >= 0) {
+            leggiComposizioni();
+        }
     }
     calcolaPortate(K);
     scriviRecord(K);
@@ -151,34 +152,20 @@ void Simulazione::bilanciaRete() {
     const Equilibrio<float> equilibrio = bilancia<float>(rotonda_);
     // The what-if form of a demand curve goes on with the capacities of the last plain calculation.
     const bool scritta = richiesta_.domanda == Domanda::tabella || richiesta_.forma != FormaCalcolo::ipotesi;
+    const PerRamo<Colonna> colonne = colonneDi(static_cast<int>(n_), equilibrio.M);
     for (std::size_t i = 0; i < n_; ++i) {
         Ingresso& in = ingressi_[i];
+        in.vicini = colonne[i];
         if (scritta) {
             in.ramo->CapacitaUltima(static_cast<double>(equilibrio.soluzione.Q[i]));
         }
         in.CU = in.ramo->CapacitaUltima();
         in.F = aSingolo(in.ramo->F(), luogo(*in.ramo, "F"));
     }
-    collegaVicini(equilibrio.M);
-}
-
-void Simulazione::collegaVicini(const Quadrata<float>& M) {
-    for (std::size_t i = 0; i < n_; ++i) {
-        Ingresso& in = ingressi_[i];
-        for (std::size_t j = 0; j < n_; ++j) {
-            if (j != i && M[j][i] != 0.0F) {
-                in.vicini[in.quantiVicini] = j;
-                in.pesi[in.quantiVicini] = static_cast<double>(M[j][i]);
-                ++in.quantiVicini;
-            }
-        }
-    }
 }
 
 std::int16_t Simulazione::numeroSegmenti() const {
-    const double segmenti =
-        dividi(minuti(rotonda_.TempoIniziale(), rotonda_.TempoFinale()), m_, [] { return std::string{segmentoZero}; });
-    return aIntero16(arrotondaPari(segmenti), [] { return "numero di segmenti di tempo"; });
+    return segmentiTra(rotonda_.TempoIniziale(), rotonda_.TempoFinale(), m_);
 }
 
 template <class C>

@@ -32,14 +32,15 @@ struct RichiestaSimulazione {
     CorsieDestra corsie{};
 };
 
-/// Working arrays, kept from run to run so that a run allocates nothing once they have grown.
+/// Working arrays, kept from run to run so that no segment allocates. Once they and the records of the legs have grown,
+/// a run allocates the turning shares alone.
 struct MemoriaSimulazione {
     std::vector<float> Dq;  ///< demand, veic/h; segments by legs
     std::vector<float> Cq;  ///< capacity before the reductions, veic/h; segments by legs
 };
 
 /// Sets each share to 0 and then, for a lane that is on, to the per cent of the entry's flow that turns right there.
-/// Fault 9 if the lane starts or ends at a leg that does not exist.
+/// Fault 9 if the lane starts or ends at a leg that does not exist; fault 6 for a turning share too large for a single.
 void preparaQuote(const Rotonda& rotonda, const CorsieDestra& corsie, std::array<double, 4>& quote);
 
 /// One run of the simulation over time, in any of its forms.
@@ -78,10 +79,7 @@ private:
         double quota = 0.0;  ///< taken away by the right-turn lane
         float F = 0.0F;
         double CU = 0.0;  ///< ultimate capacity, veic/h
-        // The two upstream entries that weigh on this one, in order.
-        std::array<std::size_t, 2> vicini{};
-        std::array<double, 2> pesi{};
-        std::size_t quantiVicini = 0;
+        Colonna vicini;   ///< the upstream entries that weigh on this one
     };
     /// What is the same for every record of one entry.
     struct CostantiCoda {
@@ -90,7 +88,7 @@ private:
         std::optional<double> menoLn;  ///< -ln w, where it was worked out
     };
 
-    float coefficienteMedio(const ComposizioneTraffico& composizione) const;
+    float coefficienteMedio(const Ingresso& in) const;
     float coefficienteSegmento(const Ingresso& in, std::int16_t k) const;
     double quotaCorsia(std::size_t i) const;
 
@@ -106,7 +104,6 @@ private:
     float domandaCurva(const Ingresso& in, std::int16_t k) const;
     float domandaTabella(const Ingresso& in, std::int16_t k) const;
     void calcolaPortate(std::int16_t K);
-    void collegaVicini(const Quadrata<float>& M);
     void scriviRecord(std::int16_t K);
     template <class C>
     CostantiCoda costantiCoda(const Ingresso& in, std::int16_t k) const;

@@ -6,30 +6,36 @@
 
 namespace kelvo {
 
+void scriviTotali(TotaliTraffico& totali, float veicoli, double durata) {
+    totali.FlussoTotale = formatta(veicoli, "#0");
+    const double medio = dividi(static_cast<double>(veicoli), durata, [] { return "curva di 0 minuti"; });
+    totali.FlussoMedio = formatta(medio, "#0.00");
+    totali.FlussoOrario = formatta(medio * 60.0, "#0.00");
+}
+
 std::optional<TotaliTraffico> totaliTabella(const Rotonda& rotonda, const Ramo& ramo) {
-    const int m = minutoCampo(rotonda.SegmentoTempo());
-    const auto durata = static_cast<double>(minutiTra(rotonda.TempoIniziale(), rotonda.TempoFinale()));
-    const std::int16_t n = aIntero16(arrotondaPari(dividi(durata, m, [] { return "segmento di tempo di 0 minuti"; })));
+    const DataOra inizio = rotonda.TempoIniziale();
+    const DataOra fine = rotonda.TempoFinale();
+    const std::int16_t n = segmentiTra(inizio, fine, minutoCampo(rotonda.SegmentoTempo()));
     if (n == 0) {
         return std::nullopt;
     }
     float totale = 0.0F;
     for (std::int16_t i = 0; i < n; ++i) {
-        totale =
-            aSingolo(static_cast<double>(totale) + static_cast<double>(ramo.theDatiTraffico().FlussoSegmento(i, 0)));
+        const auto veicoli = static_cast<double>(ramo.theDatiTraffico().FlussoSegmento(i, 0));
+        totale = aSingolo(static_cast<double>(totale) + veicoli, [&] { return ramo.Descrizione(); });
     }
-    const double medio = dividi(static_cast<double>(totale), durata);
-    return TotaliTraffico{.FlussoTotale = formatta(totale, "#0"),
-                          .FlussoMedio = formatta(medio, "#0.00"),
-                          .FlussoOrario = formatta(medio * 60.0, "#0.00")};
+    TotaliTraffico totali;
+    scriviTotali(totali, totale, static_cast<double>(minutiTra(inizio, fine)));
+    return totali;
 }
 
 std::optional<TotaliTraffico> totaliCurva(const Rotonda& rotonda, const Ramo& ramo) {
-    const CurvaTraffico curva = CostruisciCurva(datiCurvaDi(rotonda, ramo));
-    if (!curva.costruita) {
+    CurvaTraffico curva;
+    if (!CostruisciCurva(datiCurvaDi(rotonda, ramo), curva)) {
         return std::nullopt;
     }
-    return TotaliTraffico{curva.FlussoTotale, curva.FlussoMedio, curva.FlussoOrario};
+    return curva.totali;
 }
 
 TotaliTraffico totaliConservati(const Ramo& ramo) {

@@ -15,8 +15,11 @@ struct TotaliTraffico {
     friend bool operator==(const TotaliTraffico&, const TotaliTraffico&) = default;
 };
 
+/// Words a total of vehicles over so many minutes. Fault 11 for a duration of 0, with FlussoTotale written.
+void scriviTotali(TotaliTraffico& totali, float veicoli, double durata);
+
 /// Totals of the segment table of a leg over the modelling window; nothing if the window has no segment.
-/// Fault 11 for segments of 0 minutes.
+/// Fault 11 for segments of 0 minutes, fault 6 for a total too large for a single or segments past 16 bits.
 std::optional<TotaliTraffico> totaliTabella(const Rotonda& rotonda, const Ramo& ramo);
 
 /// Totals of the demand curve of a leg; nothing if the curve cannot be built. Faults of CostruisciCurva.

@@ -71,7 +71,9 @@ float Rotonda::MatriceSvolte(std::int16_t riga, std::int16_t colonna) const {
 
 void Rotonda::GetMatriceSvoltePercentuale(Matrice& matrice) const {
     matrice = dati_.matrice;
-    for (auto& riga : matrice) {
+    for (std::size_t numero = 1; auto& riga : matrice) {
+        const auto dove = [numero] { return fmt::format("riga {} della matrice delle svolte", numero); };
+        ++numero;
         double totale = 100.0;
         if (dati_.tipoMatriceSvolte != 1) {
             totale = 0.0;
@@ -80,7 +82,7 @@ void Rotonda::GetMatriceSvoltePercentuale(Matrice& matrice) const {
             }
         }
         for (float& cella : riga) {
-            cella = totale == 0.0 ? 0.0F : aSingolo(static_cast<double>(cella) / totale);
+            cella = totale == 0.0 ? 0.0F : aSingolo(static_cast<double>(cella) / totale, dove);
         }
     }
 }
@@ -113,12 +115,12 @@ kelvo::Ramo& Rotonda::AddRamo(const std::string& chiave) {
 
     // The modelling window gives the segments and the three times, the peak in the middle.
     const int passo = minutoCampo(dati_.segmentoTempo);
-    const auto durata = static_cast<double>(minutiTra(dati_.tempoIniziale, dati_.tempoFinale));
-    const double segmenti = passo == 0 ? 0.0 : std::max(0.0, arrotondaPari(durata / passo));
+    const int contati = passo == 0 ? 0 : segmentiTra(dati_.tempoIniziale, dati_.tempoFinale, passo);
+    const auto segmenti = static_cast<std::int16_t>(std::max(0, contati));
     const double meta = arrotondaPari(segmenti / 2.0);
     DatiTraffico& traffico = ramo->theDatiTraffico();
-    traffico.NumSegmentiTempo(aIntero16(segmenti));
-    ramo->theComposizioneTraffico().NumSegmentiTempo(aIntero16(segmenti));
+    traffico.NumSegmentiTempo(segmenti);
+    ramo->theComposizioneTraffico().NumSegmentiTempo(segmenti);
     traffico.Tempo1(dati_.tempoIniziale);
     traffico.Tempo3(dati_.tempoFinale);
     traffico.Tempo2(dopoMinuti(dati_.tempoIniziale, static_cast<std::int64_t>(meta) * passo));

@@ -72,9 +72,7 @@ void impostaIntervallo(const Rotonda& rotonda, Tabella& tabella, int k) {
 }  // namespace
 
 int numeroIntervalli(const Rotonda& rotonda) {
-    const auto durata = static_cast<double>(minutiTra(rotonda.TempoIniziale(), rotonda.TempoFinale()));
-    const int passo = minutoCampo(rotonda.SegmentoTempo());
-    return aIntero16(arrotondaPari(dividi(durata, passo, [] { return "segmento di tempo di 0 minuti"; })));
+    return segmentiTra(rotonda.TempoIniziale(), rotonda.TempoFinale(), minutoCampo(rotonda.SegmentoTempo()));
 }
 
 std::string testoIntervallo(const Rotonda& rotonda, int k) {

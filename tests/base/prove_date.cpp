@@ -11,9 +11,12 @@
 
 #include "base/date.h"
 #include "base/guasto.h"
+#include "comune/guasti.h"
 
 namespace kelvo {
 namespace {
+
+using prove::numeroGuasto;
 
 constexpr double unSecondo = 1.0 / 86400.0;
 
@@ -221,6 +224,28 @@ TEST(Date, TimesAndDaysOfTheWindowsReadBack) {
     for (const char* storta : {"", "29/02/2023", "1/1/2024", "21-11-2026", "21/11/26", "21/11/2026-", "21/11/2026 "}) {
         EXPECT_FALSE(leggiData(storta)) << storta;
     }
+
+TEST(Date, SegmentsBetweenTwoTimesGoToTheEvenNumberOfTheWholeExpression) {
+    const DataOra otto = oraDelGiorno(8, 0);
+    const auto segmenti = [&](int durata, int aggiunta = 0) {
+        return segmentiTra(otto, oraDelGiorno(8, durata), 10, aggiunta);
+    };
+    EXPECT_EQ(segmenti(0), 0);
+    EXPECT_EQ(segmenti(4), 0);
+    EXPECT_EQ(segmenti(5), 0);
+    EXPECT_EQ(segmenti(6), 1);
+    EXPECT_EQ(segmenti(15), 2);
+    EXPECT_EQ(segmenti(25), 2);
+    EXPECT_EQ(segmenti(35), 4);
+    EXPECT_EQ(segmenti(25, -1), 2);  // 1.5
+    EXPECT_EQ(segmenti(35, -1), 2);  // 2.5
+    EXPECT_EQ(segmenti(-15), -2);
+    EXPECT_EQ(segmenti(-5), 0);
+    EXPECT_EQ(numeroGuasto([&] { (void)segmentiTra(otto, otto, 0); }), 11);
+    EXPECT_EQ(segmentiTra(otto, otto + oraDelGiorno(0, 32767), 1), 32767);
+    EXPECT_EQ(segmentiTra(otto, otto - oraDelGiorno(0, 32768), 1), -32768);
+    EXPECT_EQ(numeroGuasto([&] { (void)segmentiTra(otto, otto + oraDelGiorno(0, 32768), 1); }), 6);
+    EXPECT_EQ(numeroGuasto([&] { (void)segmentiTra(otto, otto - oraDelGiorno(0, 32769), 1); }), 6);
 }
 
 TEST(Date, TheClockAgreesWithTheSystems) {

@@ -17,17 +17,24 @@ Geometria geometria(const oracolo::Misure& m) {
     return {.e = m.e, .v = m.v, .l = m.l, .phi = m.phi, .r = m.r, .D = m.D};
 }
 
-/// Number of the last fault in the log: its third line of six.
-int numeroNelLog(const std::string& testo) {
+/// The blocks of a log, six lines each: the number stands in the third, label and description in the fourth.
+std::vector<Banco::Blocco> blocchiDi(const std::string& testo) {
     std::istringstream righe(testo);
     std::string riga;
-    int numero = 0;
+    std::vector<Banco::Blocco> blocchi;
     for (int i = 0; std::getline(righe, riga); ++i) {
-        if (i % 6 == 2) {
-            numero = std::stoi(riga);
+        if (!riga.empty() && riga.back() == '\r') {
+            riga.pop_back();
+        }
+        if (i % 6 == 0) {
+            blocchi.emplace_back();
+        } else if (i % 6 == 2) {
+            blocchi.back().numero = std::stoi(riga);
+        } else if (i % 6 == 3) {
+            blocchi.back().riga = riga;
         }
     }
-    return numero;
+    return blocchi;
 }
 
 std::string diverso(const std::string& dove, double atteso, double trovato) {
@@ -242,7 +249,8 @@ void Banco::esegui(const Corsa& corsa) {
                 break;
         }
     }
-    guasto = std::filesystem::exists(log) ? numeroNelLog(contenuto(log)) : 0;
+    blocchi = std::filesystem::exists(log) ? blocchiDi(contenuto(log)) : std::vector<Blocco>{};
+    guasto = blocchi.empty() ? 0 : blocchi.back().numero;
     const auto& mostrati = finta.messaggi.mostrati;
     metodo = mostrati.empty() ? "" : mostrati[0].titolo.substr(std::string("KELVO 2014").size());
     descrizione = mostrati.empty() ? "" : mostrati[0].testo;
@@ -266,6 +274,18 @@ std::string Banco::confrontaGuasto(const Corsa& corsa) const {
     }
     if (atteso.guasto != 0 && metodo != corsa.metodo()) {
         return fmt::format("{}: fault reported under '{}'", corsa.nome(), metodo);
+    }
+    const std::string log = confrontaLog();
+    return log.empty() ? "" : fmt::format("{}: {}", corsa.nome(), log);
+}
+
+std::string Banco::confrontaLog() const {
+    if (blocchi.size() != (atteso.guasto == 0 ? 0U : 1U)) {
+        return fmt::format("{} blocks in the log", blocchi.size());
+    }
+    const std::string riga = fmt::format("Errore nel modulo:  - Metodo: {} - Descrizione: {}", metodo, descrizione);
+    if (!blocchi.empty() && blocchi[0].riga != riga) {
+        return fmt::format("logged '{}' for '{}'", blocchi[0].riga, riga);
     }
     return {};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "calc/modCalcolo.h"
 #include "comune/finti.h"
@@ -50,6 +51,13 @@ public:
 
     /// Runs the engine alone.
     void esegui(const Corsa& corsa);
+    /// A block of the log.
+    struct Blocco {
+        int numero = 0;
+        std::string riga;  ///< its line with label and description
+    };
+    /// What the last run wrote to the log.
+    std::vector<Blocco> blocchi;
     /// Number, label and description of the fault of the last run; 0 and empty texts if it had none.
     int guasto = 0;
     std::string metodo;
@@ -63,6 +71,7 @@ public:
 
 private:
     std::string confrontaGuasto(const Corsa& corsa) const;
+    std::string confrontaLog() const;
 };
 
 }  // namespace kelvo::prove

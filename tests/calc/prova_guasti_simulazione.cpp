@@ -301,6 +301,99 @@ TEST_F(GuastiSimulazione, PedestrianIncidenceIsReadOnlyWhereACrossingStands) {
     scritti(curva("0"), 4, 2);
 }
 
+TEST_F(GuastiSimulazione, RowPastTheLastRecordTakesPart) {
+    // Nine rows for eight records; the composition of the ninth is too large for a single.
+    banco.finestra(oraDelGiorno(7, 30), oraDelGiorno(9, 30), 15, 9);
+    for (int i = 1; i <= 4; ++i) {
+        for (std::int16_t k = 0; k < 9; ++k) {
+            banco.ramo(i).theComposizioneTraffico().CategoriaSegmento(90.0F, k, 6);
+        }
+    }
+    banco.ramo(1).theComposizioneTraffico().CategoriaSegmento(3e38F, 8, 5);
+    banco.ramo(1).theComposizioneTraffico().CategoriaSegmento(3e38F, 8, 6);
+    for (const auto& corse : {curve("1"), tabelle("1")}) {
+        for (const Corsa& corsa : corse) {
+            corri(corsa, 6, "Overflow (Ramo A, segmento 9, composizione)");
+            scritti(corsa, capacitaDi(corsa), 0);
+        }
+    }
+    corriBene(curva("0"));
+    scritti(curva("0"), 4, 32);
+}
+
+TEST_F(GuastiSimulazione, VehiclesTooManyForASingleOverflowAlsoWithoutCoefficients) {
+    banco.finta.app.configurazione.coefficienti({});
+    banco.ramo(2).theComposizioneTraffico().CategoriaSegmento(3e38F, 2, 0);
+    banco.ramo(2).theComposizioneTraffico().CategoriaSegmento(3e38F, 2, 6);
+    for (const auto& corse : {curve("1"), tabelle("1")}) {
+        for (const Corsa& corsa : corse) {
+            corri(corsa, 6, "Overflow (Ramo B, segmento 3, composizione)");
+            scritti(corsa, capacitaDi(corsa), 0);
+        }
+    }
+}
+
+TEST_F(GuastiSimulazione, CompositionOfTheWindowTooLargeForASingleOverflows) {
+    banco.ramo(2).theComposizioneTraffico().Autotreni(3e38F);
+    banco.finta.app.configurazione.VEAutotreni = 1000.0F;
+    for (const Corsa& corsa : curve("0")) {
+        corri(corsa, 6, "Overflow (Ramo B, composizione)");
+        nullaScritto(corsa);
+    }
+    for (const Corsa& corsa : tabelle("0")) {
+        corri(corsa, 6, "Overflow (Ramo B, composizione)");
+        if (corsa.richiesta.forma == oracolo::Forma::corsie) {
+            nullaScritto(corsa);
+        } else {
+            scritti(corsa, 4, 0);
+        }
+    }
+    // A window that holds row 0 alone needs it, one that ends before it starts does not; the lanes do in any window.
+    banco.rotonda().TempoFinale(banco.rotonda().TempoIniziale());
+    corri(tabella("0"), 6, overflow);
+    banco.rotonda().TempoFinale(oraDelGiorno(6, 0));
+    corriBene(tabella("0"));
+    corriBene(tabellaIpotesi(1, misureDi(banco, 1), "0"));
+    corri(tabellaDX("0", nessunaCorsia), 6, overflow);
+    nullaScritto(tabellaDX("0", nessunaCorsia));
+}
+
+TEST_F(GuastiSimulazione, LanesReadCompositionAndShareLegByLeg) {
+    // Leg 2 has no segments to share by, leg 3 a composition that overflows: leg 2 comes first.
+    banco.ramo(2).theDatiTraffico().NumSegmentiTempo(0);
+    banco.ramo(3).theComposizioneTraffico().Autotreni(3e38F);
+    banco.finta.app.configurazione.VEAutotreni = 1000.0F;
+    for (const Corsa& corsa : {curvaDX("0", nessunaCorsia), tabellaDX("0", nessunaCorsia)}) {
+        corri(corsa, 11, "Divisione per zero (Ramo B, nessun segmento di tempo)");
+        nullaScritto(corsa);
+    }
+    // The other way round the composition of leg 1 comes before the share of leg 2.
+    banco.ramo(1).theComposizioneTraffico().Autotreni(3e38F);
+    for (const Corsa& corsa : {curvaDX("0", nessunaCorsia), tabellaDX("0", nessunaCorsia)}) {
+        corri(corsa, 6, "Overflow (Ramo A, composizione)");
+    }
+}
+
+TEST_F(GuastiSimulazione, FaultsOfDemandNameTheirPlace) {
+    banco.ramo(3).theDatiTraffico().FlussoSegmento(3e38F, 0, 0);
+    corri(tabella("0"), 6, "Overflow (Ramo C, segmento 1)");
+    banco.ramo(3).theDatiTraffico().FlussoTempo2(1e38F);  // times 60
+    corri(curva("0"), 6, "Overflow (Ramo C, segmento 3)");
+    banco.ramo(3).theDatiTraffico().FlussoTempo2(3e38F);  // times the segments of the rise
+    corri(curva("0"), 6, "Overflow (Ramo C, curva di domanda)");
+    banco.ramo(3).theDatiTraffico().Tempo1(banco.ramo(3).theDatiTraffico().Tempo2());
+    banco.ramo(3).theDatiTraffico().FlussoTempo2(5.0F);
+    corri(curva("0"), 11, "Divisione per zero (Ramo C, tratto della curva senza segmenti)");
+}
+
+TEST_F(GuastiSimulazione, SegmentOfWholeHoursIsNamedInEveryForm) {
+    banco.rotonda().SegmentoTempo(oraDelGiorno(1, 0));
+    corri(curva("0"), 11, "Divisione per zero (Ramo A, segmento di tempo di 0 minuti)");
+    corri(curvaDX("0", nessunaCorsia), 11, "Divisione per zero (Ramo A, segmento di tempo di 0 minuti)");
+    corri(tabella("0"), 11, "Divisione per zero (segmento di tempo di 0 minuti)");
+    corri(tabellaDX("0", nessunaCorsia), 11, "Divisione per zero (segmento di tempo di 0 minuti)");
+}
+
 TEST_F(GuastiSimulazione, RecordsPastTheGridKeepTheirOldValues) {
     for (const auto& corse : {curve("0"), tabelle("1")}) {
         for (const Corsa& corsa : corse) {

@@ -99,8 +99,7 @@ TEST_P(TavolaAttesa, RunGivesTheExpectedFigures) {
 
 INSTANTIATE_TEST_SUITE_P(Casi, TavolaAttesa, testing::Range(std::size_t{0}, casiAttesi.size()));
 
-TEST(TavolaAttesaCopertura, TableHoldsSaturatedEntriesAndEveryReduction) {
-    // The demand of these cases lies above the ultimate capacity on some leg in the peak.
+TEST(TavolaAttesaCopertura, ThreeCasesHoldDemandAboveTheUltimateCapacity) {
     for (const std::size_t numero : {std::size_t{4}, std::size_t{5}, std::size_t{9}}) {
         int saturi = 0;
         for (const RecordAtteso& atteso : recordAttesi) {

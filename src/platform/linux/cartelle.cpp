@@ -39,7 +39,7 @@ std::string cartellaEseguibile() {
 std::string cartellaTemporanea() {
     const char* const sessione = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe): one thread
     if (sessione != nullptr && *sessione == '/') {
-        const std::string cartella = std::string{sessione} + "/kelvo";
+        std::string cartella = std::string{sessione} + "/kelvo";
         if (prendi(cartella)) {
             return cartella;
         }
@@ -49,7 +49,7 @@ std::string cartellaTemporanea() {
     if (errore) {
         return ".";
     }
-    const std::string cartella = (comune / fmt::format("kelvo-{}", ::geteuid())).string();
+    std::string cartella = (comune / fmt::format("kelvo-{}", ::geteuid())).string();
     if (prendi(cartella)) {
         return cartella;
     }
