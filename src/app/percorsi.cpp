@@ -22,7 +22,7 @@ std::string testoDi(const fs::path& percorso) {
 /// The entry of a folder that has this name but for the case of its letters; else the name itself.
 fs::path cercaSenzaMaiuscole(const fs::path& cartella, const std::string& nome) {
     std::error_code errore;
-    const fs::path esatto = cartella / percorsoDi(nome);
+    fs::path esatto = cartella / percorsoDi(nome);
     if (fs::exists(esatto, errore)) {
         return esatto;
     }

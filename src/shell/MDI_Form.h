@@ -89,7 +89,8 @@ public:
     void Menu_Click(const std::string& chiave);
     /// A button of the tool bar was pressed.
     void Toolbar_Click(const std::string& chiave);
-    /// Runs the entry or button of a shortcut ("Ctrl+Shift+S"); false if it belongs to none or that is disabled.
+    /// Runs the menu entry of a shortcut ("Ctrl+Shift+S"), or the button of the window at hand that has it ("F5");
+    /// false if it belongs to none or that is disabled.
     bool scorciatoia(std::string_view tasti);
     /// Stores the project's state and sets the flags that follow it.
     void gestioneToolbar(StatoProgetto stato);
@@ -152,6 +153,7 @@ public:
 private:
     struct Comando;
     static const std::vector<Comando>& comandi();
+    bool scorciatoiaFinestra(std::string_view tasti);
     void costruisciMenu(bool perTipo);
     void aggiungiVociProprie();
     void aggiornaRecenti();

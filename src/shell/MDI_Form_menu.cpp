@@ -126,6 +126,25 @@ bool MDI_Form::scorciatoia(std::string_view tasti) {
         ctlToolbar.premi("Help");  // before any project the menu has no guide
         return true;
     }
+    return scorciatoiaFinestra(tasti);
+}
+
+bool MDI_Form::scorciatoiaFinestra(std::string_view tasti) {
+    BarraStrumenti* barra = gestione.corrente() == nullptr ? nullptr : gestione.corrente()->barra();
+    if (barra == nullptr) {
+        return false;
+    }
+    for (const ScorciatoiaFinestra& s : scorciatoieFinestra) {
+        const auto& bottoni = barra->tasti();
+        const bool suo = s.tasti == tasti && std::any_of(bottoni.begin(), bottoni.end(), [&](const auto& bottone) {
+                             return bottone.chiave == s.tasto && bottone.abilitato;
+                         });
+        if (suo) {
+            barra->premi(s.tasto);
+            aggiornaSegno();
+            return true;
+        }
+    }
     return false;
 }
 

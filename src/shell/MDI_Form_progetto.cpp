@@ -103,6 +103,7 @@ void MDI_Form::NewRotonda() {
         if (!stato_.ProgettoAperto) {
             return;
         }
+        stato_.NumSegmenti = app_.theRotonda().Ramo(1).theDatiTraffico().NumSegmentiTempo();
         fissaProgetto(true);
         distruggiFinestre();
         albero.visibile(true);

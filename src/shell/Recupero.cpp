@@ -62,7 +62,7 @@ std::string Recupero::scrivi() {
         std::error_code errore;
         fs::create_directories(percorsoDi(cartella_), errore);
         const std::string meta = percorso();
-        const std::string esito = scriviFileSicuro(app_.file, meta, app_.theRotonda().TestoFile());
+        std::string esito = scriviFileSicuro(app_.file, meta, app_.theRotonda().TestoFile());
         if (esito.empty()) {
             revisione_ = revisione;
             eliminaAltre(meta);

@@ -9,6 +9,7 @@ namespace kelvo {
 
 std::vector<BarraStrumenti::Tasto> tastiBarraPrincipale() {
     std::vector<BarraStrumenti::Tasto> tasti;
+    tasti.reserve(barraPrincipale.size());
     for (const RigaBarra& riga : barraPrincipale) {
         tasti.push_back({.chiave = std::string{riga.chiave},
                          .testo = std::string{riga.descrizione},

@@ -17,7 +17,7 @@ namespace {
 /// Width of the tree on a screen that is at most so large, twips.
 struct LarghezzaSchermo {
     Misura massimo;
-    double larghezza;
+    double larghezza = 0.0;
 };
 constexpr std::array larghezze{
     LarghezzaSchermo{{15360.0, 11520.0}, 4500.0},

@@ -59,6 +59,20 @@ struct ScorciatoiaAggiunta {
 };
 inline constexpr std::array scorciatoieAggiunte{ScorciatoiaAggiunta{"Ctrl+Shift+S", "mnuSalva"}};
 
+/// A shortcut of a button in the tool bar of the window at hand.
+struct ScorciatoiaFinestra {
+    std::string_view tasti;
+    std::string_view tasto;
+};
+inline constexpr std::array scorciatoieFinestra{
+    ScorciatoiaFinestra{"F5", "Refresh"},
+    ScorciatoiaFinestra{"F9", "keyCalcola"},
+    ScorciatoiaFinestra{"Ctrl+Enter", "AggiornaDati"},
+    ScorciatoiaFinestra{"Ctrl+I", "Archivio"},
+    ScorciatoiaFinestra{"Ctrl+P", "keyAnteprima"},
+    ScorciatoiaFinestra{"Ctrl+R", "keyRelazione"},
+};
+
 /// Rows of the file menu, alike in both builds.
 std::span<const RigaMenu> righeFile();
 /// Data, options and results of the build per type.

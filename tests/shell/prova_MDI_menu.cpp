@@ -318,6 +318,41 @@ TEST(Instradamento, AFieldThatRefusesToBeLeftStopsEveryCommand) {
     EXPECT_TRUE(f.dialogo.richieste.empty());
 }
 
+/// A data window that counts what its tool bar runs.
+class DatiFinti final : public FinestraDati {
+public:
+    explicit DatiFinti(const Contorno& c) : FinestraDati(c, "frmMatriceSvolte", "") { ordina({}); }
+    void ReadData() override { ++letture; }
+    void SaveData() override {
+        rotonda().Titolo("scritto");
+        DatiAllineati(true);
+    }
+    void Archivio() override { ++importazioni; }
+    int letture = 0;
+    int importazioni = 0;
+};
+
+TEST(Scorciatoie, TheToolBarOfTheWindowAtHandHasItsOwn) {
+    ShellFinta f;
+    f.cornice.Load();
+    EXPECT_FALSE(f.cornice.scorciatoia("F5"));
+    f.nuovo(3);
+    f.cornice.finestre.registra("frmMatriceSvolte", [](const Contorno& c) { return std::make_unique<DatiFinti>(c); });
+    f.cornice.albero.UserClick("keyMatriceSvolte");
+    auto* finestra = dynamic_cast<DatiFinti*>(f.cornice.gestione.corrente());
+    ASSERT_NE(finestra, nullptr);
+    EXPECT_TRUE(f.cornice.scorciatoia("F5"));
+    EXPECT_EQ(finestra->letture, 2);
+    EXPECT_TRUE(f.cornice.scorciatoia("Ctrl+I"));
+    EXPECT_EQ(finestra->importazioni, 1);
+    EXPECT_TRUE(f.cornice.scorciatoia("Ctrl+Enter"));
+    EXPECT_EQ(f.app.theRotonda().Titolo(), "scritto");
+    EXPECT_EQ(f.cornice.didascalia.testo(), "KELVO 2014 - [.klv] *");
+    EXPECT_FALSE(f.cornice.scorciatoia("F9"));
+    EXPECT_FALSE(f.cornice.scorciatoia("Ctrl+P"));
+    EXPECT_FALSE(f.cornice.scorciatoia("Ctrl+R"));
+}
+
 TEST(Scorciatoie, EachRunsItsEntryAndADisabledOneDoesNothing) {
     ShellFinta f;
     f.cornice.Load();

@@ -316,6 +316,31 @@ TEST(Segno, UnsavedChangesShowBehindTheCaptionAndAreNoPartOfIt) {
     EXPECT_EQ(f.cornice.didascalia.testo(), "KELVO 2014");
 }
 
+TEST(Etichette, AFaultInAWindowThatGoesIsRecordedUnderTheProcedureThatClosesIt) {
+    ShellFinta f;
+    f.nuovo(3);
+    f.cornice.albero.UserClick("keyMatriceSvolte");
+    f.cornice.finestre.allaFine = [](Finestra&) { throw Guasto(NumeroGuasto::overflow); };
+    f.messaggi.risposte = {Risposta::no};
+    f.cornice.CloseRotonda();
+    EXPECT_EQ(f.messaggi.mostrati.back().titolo, "KELVO 2014MDI_Form:CloseRotonda()");
+    EXPECT_EQ(f.messaggi.mostrati.back().testo, "6 : Overflow");
+    f.cornice.LoadRotonda(f.progettoSuDisco("a.klv", 3));
+    EXPECT_EQ(f.messaggi.mostrati.back().titolo, "KELVO 2014MDI_Form:LoadRotonda()");
+}
+
+TEST(Etichette, OptionsOfAProjectWithoutItsLegsAreRecordedUnderTheirProcedure) {
+    ShellFinta f;
+    f.app.theRotonda().Clear();
+    f.app.theRotonda().OttimizzazioneGeometrica(true);
+    f.cornice.SetUpOpzioni();
+    EXPECT_EQ(f.messaggi.mostrati.front().titolo, "KELVO 2014frmTreeView:EnableNode()");
+    EXPECT_EQ(f.messaggi.mostrati.back().titolo, "KELVO 2014MDI_Form:SetUpOpzioni");
+    EXPECT_EQ(f.messaggi.mostrati.back().testo.substr(0, 4), "9 : ");
+    f.cornice.albero.GestioneAnalisiMarginale();
+    EXPECT_EQ(f.messaggi.mostrati.back().titolo, "KELVO 2014frmTreeView:GestioneAnalisiMarginale");
+}
+
 TEST(Etichette, AFaultOfTheLifecycleIsRecordedUnderItsProcedure) {
     ShellFinta f;
     f.superficie.alModale = [](Finestra&) { throw Guasto(NumeroGuasto::overflow); };
