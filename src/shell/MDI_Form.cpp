@@ -170,18 +170,19 @@ void MDI_Form::abilitaOttimizzazione() {
     const Rotonda& rotonda = app_.theRotonda();
     for (std::int16_t ramo = 1; ramo <= rotonda.NumeroRami(); ++ramo) {
         const std::string analisi = fmt::format("keyAnalisiMarginale{}", ramo);
-        if (!albero.ctlTree.contiene(analisi)) {
-            return;  // a project is being opened: its tree is built later, and then this runs again
+        // While a project is opened its tree is not built yet; this runs again when it is.
+        const bool costruito = albero.ctlTree.contiene(analisi);
+        if (costruito) {
+            albero.EnableNode(albero.ctlTree, analisi);
         }
-        albero.EnableNode(albero.ctlTree, analisi);
         ctlMenu.abilita(analisi, true);
         const AnalisiMarginale& usa = rotonda.Ramo(ramo).theAnalisiMarginale();
         const bool qualcuna = usa.UsaLarghezzaIngresso() || usa.UsaSemiLarghezza() || usa.UsaLunghezzaSvasatura() ||
                               usa.UsaAngoloConflitto() || usa.UsaRaggioCurvatura() || usa.UsaDiametroInscritto();
         const std::string risultati = fmt::format("keyOttimizzazioneGeometrica{}", ramo);
-        if (qualcuna) {
+        if (costruito && qualcuna) {
             albero.EnableNode(albero.ctlTree, risultati);
-        } else {
+        } else if (costruito) {
             albero.DisableNode(albero.ctlTree, risultati);
         }
         ctlMenu.abilita(risultati, qualcuna);

@@ -1,14 +1,14 @@
 #include "ui/VistaFinestra.h"
 
-#include <QFrame>
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPaintEvent>
-#include <QPainter>
-#include <QScrollArea>
-#include <QToolBar>
-#include <QVBoxLayout>
+#include <QtGui/QPaintEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QVBoxLayout>
 
 #include "ui/legame.h"
 #include "ui/legami.h"

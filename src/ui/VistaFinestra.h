@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
-#include <QWidget>
+#include <QtCore/QString>
+#include <QtWidgets/QWidget>
 #include <memory>
 #include <string_view>
 

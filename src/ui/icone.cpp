@@ -1,9 +1,9 @@
 #include "ui/icone.h"
 
-#include <QDir>
-#include <QFile>
-#include <QPainter>
-#include <QSvgRenderer>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtGui/QPainter>
+#include <QtSvg/QSvgRenderer>
 #include <map>
 #include <string_view>
 #include <utility>

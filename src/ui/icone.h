@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QIcon>
-#include <QPixmap>
+#include <QtGui/QIcon>
+#include <QtGui/QPixmap>
 #include <string>
 
 namespace kelvo::ui {

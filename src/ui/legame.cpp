@@ -1,11 +1,11 @@
 #include "ui/legame.h"
 
-#include <QApplication>
-#include <QEvent>
-#include <QFocusEvent>
-#include <QKeyEvent>
-#include <QPointer>
-#include <QTimer>
+#include <QtCore/QEvent>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtGui/QFocusEvent>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 #include <utility>
 
 #include "ui/stile.h"

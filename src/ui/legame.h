@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QObject>
-#include <QWidget>
+#include <QtCore/QObject>
+#include <QtWidgets/QWidget>
 #include <functional>
 
 #include "shell/servizi/Controllo.h"

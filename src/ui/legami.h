@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QtCore/QString>
 #include <string>
 
 #include "shell/servizi/ElencoColonne.h"

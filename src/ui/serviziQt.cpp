@@ -1,19 +1,19 @@
 #include "ui/serviziQt.h"
 
-#include <QApplication>
-#include <QDesktopServices>
-#include <QDir>
-#include <QEventLoop>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QKeyEvent>
-#include <QMessageBox>
-#include <QProcess>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QSettings>
-#include <QTimer>
-#include <QUrl>
+#include <QtCore/QDir>
+#include <QtCore/QEventLoop>
+#include <QtCore/QFileInfo>
+#include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSettings>
+#include <QtCore/QTimer>
+#include <QtCore/QUrl>
+#include <QtGui/QDesktopServices>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <array>
 
 #include "ui/legami.h"

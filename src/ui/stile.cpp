@@ -1,10 +1,10 @@
 #include "ui/stile.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QFontDatabase>
-#include <QString>
-#include <QStringList>
+#include <QtCore/QDir>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtGui/QFontDatabase>
+#include <QtWidgets/QApplication>
 #include <algorithm>
 #include <array>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QColor>
-#include <QFont>
+#include <QtGui/QColor>
+#include <QtGui/QFont>
 
 #include "base/Tabella.h"
 

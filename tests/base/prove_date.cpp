@@ -224,6 +224,7 @@ TEST(Date, TimesAndDaysOfTheWindowsReadBack) {
     for (const char* storta : {"", "29/02/2023", "1/1/2024", "21-11-2026", "21/11/26", "21/11/2026-", "21/11/2026 "}) {
         EXPECT_FALSE(leggiData(storta)) << storta;
     }
+}
 
 TEST(Date, SegmentsBetweenTwoTimesGoToTheEvenNumberOfTheWholeExpression) {
     const DataOra otto = oraDelGiorno(8, 0);

@@ -48,6 +48,7 @@ class SuperficieFinta final : public Superficie {
 public:
     Rettangolo albero() const override { return posto; }
     double larghezzaInterna() const override { return 20000.0; }
+    void mostra(Finestra& /*finestra*/) override {}
     void colloca(Finestra& finestra, const Rettangolo& dove) override {
         mostrate.push_back(finestra.nome());
         postoFiglia = dove;

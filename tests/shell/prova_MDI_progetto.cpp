@@ -329,12 +329,22 @@ TEST(Etichette, AFaultInAWindowThatGoesIsRecordedUnderTheProcedureThatClosesIt) 
     EXPECT_EQ(f.messaggi.mostrati.back().titolo, "KELVO 2014MDI_Form:LoadRotonda()");
 }
 
+TEST(Progetto, OpeningAProjectWithTheSensitivityAnalysisEnablesNothingInATreeThatIsNotBuilt) {
+    ShellFinta f;
+    creaProgetto(f.app, 4);
+    f.app.theRotonda().OttimizzazioneGeometrica(true);
+    f.app.theRotonda().Ramo(2).theAnalisiMarginale().UsaSemiLarghezza(true);
+    f.cornice.SetUpOpzioni();
+    EXPECT_TRUE(f.messaggi.mostrati.empty());
+    EXPECT_FALSE(f.cornice.albero.ctlTree.contiene("keyAnalisiMarginale2"));
+}
+
 TEST(Etichette, OptionsOfAProjectWithoutItsLegsAreRecordedUnderTheirProcedure) {
     ShellFinta f;
     f.app.theRotonda().Clear();
     f.app.theRotonda().OttimizzazioneGeometrica(true);
     f.cornice.SetUpOpzioni();
-    EXPECT_EQ(f.messaggi.mostrati.front().titolo, "KELVO 2014frmTreeView:EnableNode()");
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
     EXPECT_EQ(f.messaggi.mostrati.back().titolo, "KELVO 2014MDI_Form:SetUpOpzioni");
     EXPECT_EQ(f.messaggi.mostrati.back().testo.substr(0, 4), "9 : ");
     f.cornice.albero.GestioneAnalisiMarginale();

@@ -21,9 +21,9 @@ public:
         int icona = -1;      ///< position in the list of pictures; -1 for none
         bool abilitata = true;
         bool spuntata = false;
-        std::string scorciatoia;
-        std::string mnemonico;  ///< the letter of the caption that is underlined; empty for none
-        std::string nota;       ///< why the entry is closed; empty where there is nothing to tell
+        std::string scorciatoia{};
+        std::string mnemonico{};  ///< the letter of the caption that is underlined; empty for none
+        std::string nota{};       ///< why the entry is closed; empty where there is nothing to tell
         friend bool operator==(const Voce&, const Voce&) = default;
     };
     explicit MenuChiavi(std::string nome) : Controllo(std::move(nome)) {}

@@ -1,4 +1,4 @@
-#include <QVBoxLayout>
+#include <QtWidgets/QVBoxLayout>
 
 #include "input/frmTempoModellazione.h"
 #include "ui/legami.h"

@@ -1,13 +1,13 @@
 #include "ui/shell/VistaAlbero.h"
 
-#include <QDrag>
-#include <QDropEvent>
-#include <QHeaderView>
-#include <QKeyEvent>
-#include <QMimeData>
-#include <QMouseEvent>
-#include <QTimer>
-#include <QTreeWidgetItemIterator>
+#include <QtCore/QMimeData>
+#include <QtCore/QTimer>
+#include <QtGui/QDrag>
+#include <QtGui/QDropEvent>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QTreeWidgetItemIterator>
 
 #include "shell/icone.h"
 #include "ui/icone.h"

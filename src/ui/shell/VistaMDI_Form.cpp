@@ -1,23 +1,23 @@
 #include "ui/shell/VistaMDI_Form.h"
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QDialog>
-#include <QFileInfo>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QMenuBar>
-#include <QMimeData>
-#include <QPushButton>
-#include <QScreen>
-#include <QShortcut>
-#include <QSplitter>
-#include <QStackedLayout>
-#include <QStatusBar>
-#include <QTimer>
-#include <QToolBar>
-#include <QUrl>
-#include <QVBoxLayout>
+#include <QtCore/QFileInfo>
+#include <QtCore/QMimeData>
+#include <QtCore/QTimer>
+#include <QtCore/QUrl>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QScreen>
+#include <QtGui/QShortcut>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStackedLayout>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 #include <array>
 
@@ -42,8 +42,8 @@ struct ScorciatoiaFinestra {
     const char* chiave;
 };
 constexpr std::array scorciatoieFinestra{
-    ScorciatoiaFinestra{"F5", "Refresh"},      ScorciatoiaFinestra{"Ctrl+Return", "AggiornaDati"},
-    ScorciatoiaFinestra{"Ctrl+I", "Archivio"}, ScorciatoiaFinestra{"F9", "keyCalcola"},
+    ScorciatoiaFinestra{"F5", "Refresh"},          ScorciatoiaFinestra{"Ctrl+Return", "AggiornaDati"},
+    ScorciatoiaFinestra{"Ctrl+I", "Archivio"},     ScorciatoiaFinestra{"F9", "keyCalcola"},
     ScorciatoiaFinestra{"Ctrl+P", "keyAnteprima"}, ScorciatoiaFinestra{"Ctrl+R", "keyRelazione"},
     ScorciatoiaFinestra{"Ctrl+E", "keyExcel"},
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QMainWindow>
-#include <QPointer>
+#include <QtCore/QPointer>
+#include <QtWidgets/QMainWindow>
 #include <map>
 
 #include "shell/MDI_Form.h"

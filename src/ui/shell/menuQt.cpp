@@ -1,9 +1,9 @@
 #include "ui/shell/menuQt.h"
 
-#include <QAction>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTimer>
+#include <QtCore/QTimer>
+#include <QtGui/QAction>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
 
 #include "shell/icone.h"
 #include "ui/icone.h"
@@ -18,7 +18,8 @@ namespace {
 QString conMnemonico(const MenuChiavi::Voce& voce) {
     QString testo = q(voce.testo);
     testo.replace(QLatin1Char('&'), QStringLiteral("&&"));
-    const auto posto = voce.mnemonico.empty() ? qsizetype{-1} : testo.indexOf(q(voce.mnemonico), 0, Qt::CaseInsensitive);
+    const auto posto =
+        voce.mnemonico.empty() ? qsizetype{-1} : testo.indexOf(q(voce.mnemonico), 0, Qt::CaseInsensitive);
     if (posto >= 0) {
         testo.insert(posto, QLatin1Char('&'));
     }

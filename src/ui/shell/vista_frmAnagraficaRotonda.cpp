@@ -1,5 +1,5 @@
-#include <QPlainTextEdit>
-#include <QVBoxLayout>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmAnagraficaRotonda.h"
 #include "ui/legami.h"

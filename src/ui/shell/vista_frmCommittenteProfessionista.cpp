@@ -1,4 +1,4 @@
-#include <QVBoxLayout>
+#include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmCommittenteProfessionista.h"
 #include "ui/legami.h"

@@ -1,6 +1,6 @@
-#include <QLabel>
-#include <QTreeWidget>
-#include <QVBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QTreeWidget>
+#include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmEmptyForm.h"
 #include "ui/legami.h"

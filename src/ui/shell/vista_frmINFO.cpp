@@ -1,6 +1,6 @@
-#include <QAbstractButton>
-#include <QLabel>
-#include <QVBoxLayout>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmINFO.h"
 #include "ui/legami.h"

@@ -1,9 +1,9 @@
-#include <QAbstractButton>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QVBoxLayout>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSpinBox>
+#include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmInputNumeroRami.h"
 #include "ui/legami.h"

@@ -1,6 +1,6 @@
-#include <QLabel>
-#include <QProgressBar>
-#include <QVBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmSplash.h"
 #include "ui/legami.h"

@@ -1,6 +1,6 @@
 #include "ui/shell/viste.h"
 
-#include <QString>
+#include <QtCore/QString>
 #include <array>
 
 namespace kelvo::ui {

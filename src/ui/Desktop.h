@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "app/serviziSistema.h"
+#include "base/file.h"
+
+namespace kelvo::ui {
+
+/// What the system below gives to the desktop program.
+struct Piattaforma {
+    SistemaFile& file;
+    IstanzaUnica& istanza;
+    LocaleUtente& locale;
+    std::string cartellaProgramma;  ///< without a separator at its end
+    std::string cartellaLavoro;     ///< temporary files of the user's own
+    std::string cartellaRecupero;   ///< recovery copies of the user's own
+};
+
+/// Runs the desktop program to its end; answers its exit code.
+int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma);
+
+}  // namespace kelvo::ui
