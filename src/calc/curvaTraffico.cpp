@@ -39,7 +39,8 @@ bool CostruisciCurva(const DatiCurva& dati, CurvaTraffico& curva) {
     }
     const auto p1 = static_cast<double>(aSingolo(dividi(dati.q2 - dati.q1, n1), oltre));
     const auto p2 = static_cast<double>(aSingolo(dividi(q3 - dati.q2, n2), oltre));
-    const auto barre = static_cast<std::size_t>(std::abs(n1) + std::abs(n2) - piatto + 1);
+    const int ultima = std::abs(n1) + std::abs(n2) - piatto;
+    const std::size_t barre = static_cast<std::size_t>(ultima) + 1;
     curva.FlussiSegmento.assign(barre, 0.0F);
     curva.EtichetteSegmento.assign(barre, {});
     float totale = 0.0F;
