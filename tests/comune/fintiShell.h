@@ -98,10 +98,14 @@ public:
         return prossimo();
     }
     std::vector<RichiestaFile> richieste;
-    std::deque<std::string> scelte;  ///< none left: Cancel
+    std::deque<std::string> scelte;       ///< none left: Cancel
+    std::function<void()> allaRichiesta;  ///< while a dialogue stands; may be empty
 
 private:
     std::optional<std::string> prossimo() {
+        if (allaRichiesta) {
+            allaRichiesta();
+        }
         if (scelte.empty()) {
             return std::nullopt;
         }

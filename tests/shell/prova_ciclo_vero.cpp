@@ -282,6 +282,47 @@ TEST_F(CicloVero, OneFileStandsOnceInTheRecentOnes) {
     EXPECT_EQ(f.cornice.recenti.elenco(), (std::vector<std::string>{terzo, secondo, primo}));
 }
 
+TEST_F(CicloVero, TheTrafficWindowsFollowTheProjectAtHand) {
+    f.nuovo(3);
+    const std::string trafficoNuovo{f.cornice.finestraTraffico()};
+    const std::string composizioneNuova{f.cornice.finestraComposizione()};
+    Rotonda& rotonda = f.app.theRotonda();
+    rotonda.TipoAnalisi(rotonda.TipoAnalisi() == 2 ? 1 : 2);
+    rotonda.TipoFlusso(rotonda.TipoFlusso() == 1 ? 0 : 1);
+    EXPECT_TRUE(salva(f.cartella.file("altro.klv")));
+    chiudi();
+    f.cornice.LoadRotonda(f.cartella.file("altro.klv"));
+    EXPECT_NE(f.cornice.finestraTraffico(), trafficoNuovo);
+    EXPECT_NE(f.cornice.finestraComposizione(), composizioneNuova);
+    chiudi();
+    f.nuovo(3);
+    EXPECT_EQ(f.cornice.finestraTraffico(), trafficoNuovo);
+    EXPECT_EQ(f.cornice.finestraComposizione(), composizioneNuova);
+}
+
+TEST_F(CicloVero, AFaultInTheDialogueIsRecordedUnderItsProcedure) {
+    f.dialogo.allaRichiesta = [] { throw Guasto(NumeroGuasto::overflow); };
+    f.cornice.OpenRotonda();
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014MDI_Form:OpenRotonda()");
+    EXPECT_EQ(f.messaggi.mostrati[0].testo, "6 : Overflow");
+    f.nuovo(3);
+    bool esito = true;
+    f.cornice.SaveRotonda(esito);
+    EXPECT_FALSE(esito);
+    EXPECT_EQ(f.messaggi.mostrati.back().titolo, "KELVO 2014MDI_Form:SaveRotonda()");
+}
+
+TEST_F(CicloVero, ARecoveryCopyIsWrittenWhileADialogueStands) {
+    f.nuovo(3);
+    f.app.theRotonda().Titolo("uno");
+    f.dialogo.allaRichiesta = [&] { f.cronometro.rintocco(); };
+    bool esito = true;
+    f.cornice.SaveRotonda(esito);
+    EXPECT_FALSE(esito);
+    EXPECT_TRUE(f.cornice.recupero.trovata());
+}
+
 TEST_F(CicloVero, ADroppedFileThatIsNoProjectIsToldAndNotTaken) {
     scriviContenuto(f.cartella.file("x.klv"), "nulla");
     EXPECT_FALSE(f.cornice.rilasciato(f.cartella.file("x.klv")));
