@@ -233,6 +233,7 @@ std::optional<std::string> MDI_Form::chiediPercorso() {
             break;
         }
     }
+    avviso({});
     return percorso;
 }
 

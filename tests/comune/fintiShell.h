@@ -258,7 +258,7 @@ public:
         for (int i = 1; i <= rami; ++i) {
             rotonda.AddRamo(std::to_string(i) + "Ramo");
         }
-        const std::string percorso = cartella.file(nome);
+        std::string percorso = cartella.file(nome);
         std::string messaggio;
         bool esito = false;
         rotonda.Save(percorso, messaggio, esito);

@@ -328,6 +328,44 @@ TEST_F(Avvio, TheNameOfTheLogIsAskedForBeforeTheOtherInstance) {
     EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014 - Errore Irreversibile!");
 }
 
+TEST_F(Avvio, AConfigurationInAWideEncodingHasNoNameOfTheLog) {
+    f.scriviIni(std::string("\xFF\xFE[\0F\0", 6));
+    EXPECT_FALSE(programma.Main(""));
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014 - Errore Irreversibile!");
+}
+
+TEST_F(Avvio, WhateverStandsInPlaceOfAProjectIsToldOnceAndTheProgramGoesOn) {
+    const std::string buono = contenuto(f.progettoSuDisco("buono.klv", 3));
+    fs::create_directories(f.cartella.file("cartella.klv"));
+    scriviContenuto(f.cartella.file("vuoto.klv"), "");
+    scriviContenuto(f.cartella.file("binario.klv"), std::string("\x7F"
+                                                                "ELF\0\0\xFF",
+                                                                7));
+    scriviContenuto(f.cartella.file("tronco.klv"), buono.substr(0, buono.size() / 2));
+    scriviContenuto(f.cartella.file("grande.klv"), std::string(5UL * 1024 * 1024, ' '));
+    std::string nuovo = buono;
+    const std::string versione = "\"versione\": 1";
+    ASSERT_NE(nuovo.find(versione), std::string::npos);
+    scriviContenuto(f.cartella.file("nuovo.klv"),
+                    nuovo.replace(nuovo.find(versione), versione.size(), "\"versione\": 2"));
+    for (const char* nome : {"cartella.klv", "vuoto.klv", "binario.klv", "tronco.klv", "grande.klv", "nuovo.klv",
+                             "manca.klv", "manca/x.klv"}) {
+        f.messaggi.mostrati.clear();
+        EXPECT_TRUE(programma.Main(f.cartella.file(nome))) << nome;
+        EXPECT_EQ(f.messaggi.testi(), (std::vector<std::string>{"Il file selezionato non è corretto!"})) << nome;
+        EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::NessunProgetto) << nome;
+        EXPECT_FALSE(f.stato.ProgettoAperto) << nome;
+        EXPECT_FALSE(f.superficie.alberoVisibile) << nome;
+        EXPECT_EQ(f.cornice.titolo(), "KELVO 2014") << nome;
+        EXPECT_EQ(f.cornice.gestione.corrente(), nullptr) << nome;
+        EXPECT_TRUE(f.cornice.recenti.elenco().empty()) << nome;
+    }
+    EXPECT_TRUE(f.cornice.ctlMenu.voce("mnuApri").abilitata);
+    f.nuovo(4);
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoNuovo);
+}
+
 TEST_F(Avvio, QuotesAloneAreAPathThatIsNoProject) {
     EXPECT_TRUE(programma.Main("\"\""));
     EXPECT_EQ(f.messaggi.testi(), (std::vector<std::string>{"Il file selezionato non è corretto!"}));

@@ -162,19 +162,38 @@ TEST_F(CicloVero, ASaveThatFailsKeepsTheOldFileAndTheMark) {
     EXPECT_EQ(f.cornice.recenti.elenco(), (std::vector<std::string>{percorso}));
 }
 
+TEST_F(CicloVero, CancelBehindAnEmptyNameWritesNothing) {
+    f.nuovo(3);
+    f.dialogo.scelte = {f.cartella.file(".klv")};
+    std::vector<std::string> avvisi;
+    f.dialogo.allaRichiesta = [&] { avvisi.push_back(f.cornice.ctlStatusBar.avviso()); };
+    bool esito = true;
+    f.cornice.SaveRotonda(esito);
+    EXPECT_FALSE(esito);
+    EXPECT_EQ(avvisi, (std::vector<std::string>{"", "Il nome del file è vuoto: scriverne uno."}));
+    EXPECT_FALSE(fs::exists(f.cartella.file(".klv")));
+    attendiTitolo("KELVO 2014 - [.klv]", ".klv");
+    EXPECT_TRUE(f.messaggi.mostrati.empty());
+    EXPECT_TRUE(f.impostazioni.valori.empty());
+    EXPECT_EQ(f.cornice.ctlStatusBar.avviso(), "");
+}
+
 TEST_F(CicloVero, TheFolderOfTheRecoveryCopiesTakesNoProject) {
     f.nuovo(3);
     f.app.theRotonda().Titolo("uno");
     f.cronometro.rintocco();
     const std::string riservato = f.cartella.file("Recupero/mio.klv");
     f.dialogo.scelte = {riservato, f.cartella.file("mio.klv")};
+    std::vector<std::string> avvisi;
+    f.dialogo.allaRichiesta = [&] { avvisi.push_back(f.cornice.ctlStatusBar.avviso()); };
     bool esito = false;
     f.cornice.SaveRotonda(esito);
     EXPECT_TRUE(esito);
     ASSERT_EQ(f.dialogo.richieste.size(), 2U);
     EXPECT_EQ(f.dialogo.richieste[1].nome, "mio.klv");
-    EXPECT_EQ(f.cornice.ctlStatusBar.avviso(),
-              "Questa cartella è riservata alle copie di recupero: sceglierne un'altra.");
+    EXPECT_EQ(avvisi, (std::vector<std::string>{
+                          "", "Questa cartella è riservata alle copie di recupero: sceglierne un'altra."}));
+    EXPECT_EQ(f.cornice.ctlStatusBar.avviso(), "");
     EXPECT_FALSE(fs::exists(riservato));
     EXPECT_TRUE(fs::exists(f.cartella.file("mio.klv")));
 }
