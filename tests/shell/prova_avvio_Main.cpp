@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "app/percorsi.h"
 #include "comune/fintiShell.h"
 #include "shell/frmINFO.h"
 #include "shell/frmInputNumeroRami.h"
@@ -431,14 +430,6 @@ TEST(Informazioni, VersionAndMakerAreShown) {
     info.allaChiusura = [&] { ++chiusure; };
     info.cmdOk.premi();
     EXPECT_EQ(chiusure, 1);
-}
-
-TEST(Percorsi, TheNameOfAProjectIsItsFileWithoutFolderAndExtension) {
-    EXPECT_EQ(nomeProgetto("/a/b/Nodo Est.klv"), "Nodo Est");
-    EXPECT_EQ(nomeProgetto("Nodo.KLV"), "Nodo");
-    EXPECT_EQ(nomeProgetto("/a/Nodo.v2.klv"), "Nodo.v2");
-    EXPECT_EQ(nomeProgetto("/a/Nodo.txt"), "Nodo.txt");
-    EXPECT_EQ(nomeProgetto("/a/.klv"), "");
 }
 
 }  // namespace
