@@ -212,7 +212,7 @@ void VistaFinestra::disponiDialogo() {
 }
 
 void VistaFinestra::larghezzaColonna(int larghezza) {
-    sinistra_->setMinimumWidth(std::min(larghezza, misura::colonnaStretta));
+    sinistra_->setMinimumWidth(std::min(larghezza, misura::colonnaMinima));
     sinistra_->setMaximumWidth(larghezza);
 }
 

@@ -4,7 +4,9 @@
 #include <QtGui/QAction>
 #include <QtGui/QPalette>
 #include <QtGui/QShortcut>
+#include <QtGui/QTextCharFormat>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateEdit>
@@ -21,6 +23,8 @@
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
+#include <algorithm>
+#include <vector>
 
 #include "ui/Figura.h"
 #include "ui/icone.h"
@@ -159,6 +163,14 @@ QWidget* collegaOra(tBox& campo, QWidget* genitore) {
     preparaCampo(*ora);
     ora->setDisplayFormat(formato);
     ora->setCalendarPopup(campo.giorno);
+    if (QCalendarWidget* calendario = ora->calendarWidget()) {
+        // Red is for what is wrong: a Sunday is not.
+        QTextCharFormat festivo;
+        festivo.setForeground(qcolore(tinta::secondario));
+        calendario->setWeekdayTextFormat(Qt::Saturday, festivo);
+        calendario->setWeekdayTextFormat(Qt::Sunday, festivo);
+        calendario->setFont(dati(corpo));
+    }
     auto* legame = new Legame(campo, *ora);
     legame->allEscape = [&campo] { campo.annulla(); };
     legame->mostra([&campo, ora, formato] {
@@ -307,16 +319,39 @@ QProgressBar* collega(BarraProgresso& barra, QWidget* genitore) {
 
 namespace {
 
-/// Gives each column the room of its texts; what is missing is taken from the last one, what is left goes there.
-void allargaColonne(QTreeWidget& righe) {
-    const int ultima = righe.columnCount() - 1;
-    for (int c = 0; c < ultima; ++c) {
-        righe.resizeColumnToContents(c);
-    }
-    righe.header()->setStretchLastSection(true);
-}
+/// A list whose columns take the room of their texts and share what there is where it is not enough.
+class ListaColonne final : public QTreeWidget {
+public:
+    explicit ListaColonne(QWidget* genitore) : QTreeWidget(genitore) {}
 
-void riempi(QTreeWidget& righe, const ElencoColonne& elenco) {
+    void spartisci() {
+        const int ultima = columnCount() - 1;
+        const int spazio = viewport()->width() - misura::campoCorto;  // the last column has at least this
+        int chiesto = 0;
+        std::vector<int> larghezze;
+        for (int c = 0; c < ultima; ++c) {
+            larghezze.push_back(std::max(sizeHintForColumn(c), header()->sectionSizeHint(c)));
+            chiesto += larghezze.back();
+        }
+        for (int c = 0; c < ultima; ++c) {
+            const int voluta = larghezze[static_cast<std::size_t>(c)];
+            const bool basta = chiesto <= spazio || spazio <= 0;
+            header()->resizeSection(c, basta ? voluta : voluta * spazio / chiesto);
+        }
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* evento) override {
+        QTreeWidget::resizeEvent(evento);
+        spartisci();
+    }
+    void showEvent(QShowEvent* evento) override {
+        QTreeWidget::showEvent(evento);
+        spartisci();
+    }
+};
+
+void riempi(ListaColonne& righe, const ElencoColonne& elenco) {
     righe.clear();
     for (const ElencoColonne::Riga& riga : elenco.righe()) {
         auto* voce = new QTreeWidgetItem(&righe);
@@ -330,15 +365,17 @@ void riempi(QTreeWidget& righe, const ElencoColonne& elenco) {
             }
         }
     }
-    allargaColonne(righe);
+    righe.spartisci();
 }
 
 }  // namespace
 
 QTreeWidget* collega(ElencoColonne& elenco, QWidget* genitore) {
-    auto* righe = new QTreeWidget(genitore);
+    auto* righe = new ListaColonne(genitore);
     righe->setRootIsDecorated(false);
+    righe->header()->setStretchLastSection(true);
     righe->setUniformRowHeights(true);
+    righe->setMinimumWidth(misura::elenco);
     righe->setFrameShape(QFrame::NoFrame);
     righe->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     righe->setFont(dati(corpo));

@@ -85,7 +85,9 @@ QAbstractSpinBox::up-arrow:disabled, QAbstractSpinBox::up-arrow:off { image: url
 QAbstractSpinBox::down-arrow:disabled, QAbstractSpinBox::down-arrow:off { image: url("{segni}/giu-spento.svg"); }
 QComboBox QAbstractItemView { border: 1px solid {bordoCampo}; background: white; outline: none;
   selection-background-color: {scelto}; selection-color: {inchiostro}; }
-QComboBox QAbstractItemView::item { min-height: 26px; padding: 0px 6px; }
+QComboBox QAbstractItemView::item { min-height: 26px; padding: 0px 6px; border: none; }
+QComboBox QAbstractItemView::item:selected, QComboBox QAbstractItemView::item:hover {
+  background: {scelto}; color: {inchiostro}; }
 QPushButton { border: 1px solid {bordoCampo}; border-radius: 2px; background: {fondo}; padding: 0px 16px;
   min-height: 28px; min-width: 62px; }
 QPushButton:hover { background: {sfiorato}; border-color: {principale}; }
@@ -164,6 +166,8 @@ QCalendarWidget QWidget#qt_calendar_navigationbar { background: {principale}; }
 QCalendarWidget QToolButton { color: white; background: transparent; border: none; padding: 4px 8px; }
 QCalendarWidget QToolButton:hover { background: {principaleScuro}; }
 QCalendarWidget QToolButton::menu-indicator { image: none; }
+QCalendarWidget QToolButton#qt_calendar_prevmonth { qproperty-icon: url("{segni}/indietro-su-blu.svg"); }
+QCalendarWidget QToolButton#qt_calendar_nextmonth { qproperty-icon: url("{segni}/avanti-su-blu.svg"); }
 QCalendarWidget QAbstractItemView { selection-background-color: {principale}; selection-color: white; outline: none; }
 QToolTip { color: {inchiostro}; background: white; border: 1px solid {bordoCampo}; padding: 3px; }
 )");
