@@ -34,7 +34,7 @@ std::string rigaComando(int argc, char** argv) {
 
 void preparaApplicazione(const std::string& cartellaProgramma) {
     // The toolkit sets the system's locale: numbers in files would carry its comma.
-    std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe): one thread
     QApplication::setApplicationName(QStringLiteral("Kelvo"));
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     auto* traduttore = new QTranslator(qApp);
