@@ -15,7 +15,7 @@ namespace {
 namespace testi {
 constexpr const char* didascalia = "Tempi di modellazione";
 constexpr const char* tempoIniziale = "Tempo iniziale";
-constexpr const char* segmentoTempo = "Segmento di tempo [min]";
+constexpr const char* segmentoTempo = "Segmento di tempo";
 constexpr const char* tempoFinale = "Tempo finale";
 constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
@@ -82,6 +82,9 @@ frmTempoModellazione::frmTempoModellazione(const Contorno& contorno)
       lblTempoFinale("lblTempoFinale", testi::tempoFinale) {
     ordina(
         {&lblTempoIniziale, &txtTempoIniziale, &lblSegmentoTempo, &txtSegmentoTempo, &lblTempoFinale, &txtTempoFinale});
+    txtTempoIniziale.paginaAiuto = "TempoIniziale.htm";
+    txtSegmentoTempo.paginaAiuto = "SegmentoTempo.htm";
+    txtTempoFinale.paginaAiuto = "TempoFinale.htm";
     txtSegmentoTempo.digitabile = true;
     txtSegmentoTempo.caratteriAmmessi = "0123456789";
     txtSegmentoTempo.voci({"", "5", "10", "15", "20", "30"});

@@ -4,6 +4,15 @@
 
 namespace kelvo {
 
+std::vector<std::string> FabbricaFinestre::nomi() const {
+    std::vector<std::string> tutti;
+    tutti.reserve(creatori_.size());
+    for (const auto& voce : creatori_) {
+        tutti.push_back(voce.first);
+    }
+    return tutti;
+}
+
 Finestra& FabbricaFinestre::finestra(std::string_view nome, const Contorno& contorno) {
     if (Finestra* trovata = viva(nome)) {
         return *trovata;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "shell/servizi/Finestra.h"
 
@@ -20,6 +21,8 @@ public:
     /// Registers a window.
     void registra(const std::string& nome, CreatoreFinestra creatore) { creatori_[nome] = std::move(creatore); }
     bool conosce(std::string_view nome) const { return creatori_.find(nome) != creatori_.end(); }
+    /// Names of all registered windows, in order.
+    std::vector<std::string> nomi() const;
 
     /// The window of a name, made if it does not live. Fault 9 for a name that is not registered.
     Finestra& finestra(std::string_view nome, const Contorno& contorno);

@@ -1,5 +1,7 @@
 #include "shell/frmAnagraficaRotonda.h"
 
+#include <fmt/format.h>
+
 #include <array>
 
 #include "base/date.h"
@@ -64,6 +66,7 @@ frmAnagraficaRotonda::frmAnagraficaRotonda(const Contorno& contorno)
     ordina({&lblNomeFile, &txtNomeFile, &lblData, &txtData, &lblStatoAvanzamento, &txtStatoAvanzamento, &lblLocalita,
             &txtLocalita, &lblComune, &txtComune, &lblProvincia, &txtProvincia, &lblTitolo, &txtTitolo, &lblNote,
             &txtNote, &lblNumeroRami, &txtNumeroRami});
+    assegnaPagine();
     txtData.giorno = true;
     txtStatoAvanzamento.digitabile = true;
     txtStatoAvanzamento.voci({stadi.begin(), stadi.end()});
@@ -76,6 +79,18 @@ frmAnagraficaRotonda::frmAnagraficaRotonda(const Contorno& contorno)
         }
     }
     txtNote.dopoUscita = [this] { confronta(); };
+}
+
+void frmAnagraficaRotonda::assegnaPagine() {
+    txtNomeFile.paginaAiuto = "NomeFile.htm";
+    txtData.paginaAiuto = "Data.htm";
+    txtStatoAvanzamento.paginaAiuto = "StatoAvanzamento.htm";
+    txtLocalita.paginaAiuto = "Localita.htm";
+    txtComune.paginaAiuto = "Comune.htm";
+    txtProvincia.paginaAiuto = "Provincia.htm";
+    txtTitolo.paginaAiuto = "Titolo.htm";
+    txtNote.paginaAiuto = "Note.htm";
+    txtNumeroRami.paginaAiuto = "NumeroRami.htm";
 }
 
 void frmAnagraficaRotonda::attivata() {
@@ -92,6 +107,7 @@ void frmAnagraficaRotonda::ReadData() {
     txtData.testo(testoData(rotonda().Data()));
     txtNote.testo(rotonda().Note());
     txtNumeroRami.testo(testoNumero(rotonda().NumeroRami()));
+    ctlPicture.risorsa(fmt::format("RAMI{}", rotonda().NumeroRami()));
     DatiAllineati(true);
 }
 

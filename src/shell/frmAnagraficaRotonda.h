@@ -29,6 +29,8 @@ public:
     Etichetta lblNumeroRami;
     tBox txtNumeroRami{"txtNumeroRami", tBox::textbox};  ///< shown only
 
+    Immagine ctlPicture{"ctlPicture"};  ///< "RAMI3" to "RAMI7", beside the help
+
     /// Reads the project; with a project open the focus goes to the first field.
     void attivata() override;
     void ReadData() override;
@@ -36,6 +38,7 @@ public:
     void SaveData() override;
 
 private:
+    void assegnaPagine();
     EsitoUscita controllaNomeFile() const;
     void confronta();
     void mostraTitolo(const std::string& nome);

@@ -1,5 +1,7 @@
 #include "shell/frmCommittenteProfessionista.h"
 
+#include <fmt/format.h>
+
 #include <array>
 
 namespace kelvo {
@@ -50,6 +52,29 @@ constexpr std::array legami{
     Legame{&Modulo::txtEMailProfessionista, &Rotonda::EMailProfessionista, &Rotonda::EMailProfessionista},
 };
 
+/// Pages of the help pane; the client's block has one for all its fields.
+struct Pagina {
+    tBox Modulo::*campo;
+    const char* pagina;
+};
+constexpr const char* paginaCommittente = "Committente.htm";
+constexpr std::array pagine{
+    Pagina{&Modulo::txtNomeProfessionista, "NomeProfessionista.htm"},
+    Pagina{&Modulo::txtIndirizzoProfessionista, "IndirizzoProfessionista.htm"},
+    Pagina{&Modulo::txtCAPProfessionista, "CAPProfessionista.htm"},
+    Pagina{&Modulo::txtCittaProfessionista, "CittaProfessionista.htm"},
+    Pagina{&Modulo::txtProvinciaProfessionista, "ProvinciaProfessionista.htm"},
+    Pagina{&Modulo::txtTelefonoProfessionista, "TelefonoProfessionista.htm"},
+    Pagina{&Modulo::txtEMailProfessionista, "EMailProfessionista.htm"},
+    Pagina{&Modulo::txtNomeCommittente, paginaCommittente},
+    Pagina{&Modulo::txtIndirizzoCommittente, paginaCommittente},
+    Pagina{&Modulo::txtCAPCommittente, paginaCommittente},
+    Pagina{&Modulo::txtCittaCommittente, paginaCommittente},
+    Pagina{&Modulo::txtProvinciaCommittente, paginaCommittente},
+    Pagina{&Modulo::txtTelefonoCommittente, paginaCommittente},
+    Pagina{&Modulo::txtEMailCommittente, paginaCommittente},
+};
+
 void mascheraCAP(tBox& campo) {
     campo.caratteriAmmessi = cifre;
     campo.lunghezzaMassima = cifreCAP;
@@ -94,6 +119,9 @@ frmCommittenteProfessionista::frmCommittenteProfessionista(const Contorno& conto
     txtTelefonoProfessionista.caratteriAmmessi = telefono;
     txtTelefonoCommittente.caratteriAmmessi = telefono;
     txtCAPProfessionista.controllo = [this] { return controllaCAP(); };
+    for (const Pagina& voce : pagine) {
+        (this->*voce.campo).paginaAiuto = voce.pagina;
+    }
     for (const Legame& legame : legami) {
         (this->*legame.campo).dopoUscita = [this] { confronta(); };
     }
@@ -108,6 +136,7 @@ void frmCommittenteProfessionista::ReadData() {
             campo.testo(valore);
         }
     }
+    ctlPicture.risorsa(fmt::format("RAMI{}", rotonda().NumeroRami()));
     DatiAllineati(true);
 }
 

@@ -43,6 +43,8 @@ public:
     Riquadro frProfessionista;
     Riquadro frCommittente;
 
+    Immagine ctlPicture{"ctlPicture"};  ///< "RAMI3" to "RAMI7", beside the help
+
     void ReadData() override;
     /// Writes the fields of the engineer that were changed.
     void SaveData() override;

@@ -10,6 +10,7 @@
 #include "app/Applicazione.h"
 #include "shell/Main.h"
 #include "shell/registroFinestre.h"
+#include "ui/RiquadroAiuto.h"
 #include "ui/icone.h"
 #include "ui/legami.h"
 #include "ui/serviziQt.h"
@@ -31,19 +32,24 @@ std::string rigaComando(int argc, char** argv) {
 
 }  // namespace
 
-int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication qt(argc, argv);
+void preparaApplicazione(const std::string& cartellaProgramma) {
     // The toolkit sets the system's locale: numbers in files would carry its comma.
-    std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe): one thread
     QApplication::setApplicationName(QStringLiteral("Kelvo"));
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-    QTranslator traduttore;
-    if (traduttore.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(&traduttore);
+    auto* traduttore = new QTranslator(qApp);
+    if (traduttore->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(traduttore);
     }
-    applicaStile(qt, q(piattaforma.cartellaProgramma + "/Caratteri"));
-    cartellaImmagini(piattaforma.cartellaProgramma + "/Immagini");
+    cartellaImmagini(cartellaProgramma + "/Immagini");
+    cartellaAiuto(cartellaProgramma + "/Support");
+    applicaStile(*qApp, q(cartellaProgramma + "/Caratteri"));
+}
+
+int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    const QApplication qt(argc, argv);
+    preparaApplicazione(piattaforma.cartellaProgramma);
 
     MessaggiQt messaggi;
     OrologioSistema orologio;

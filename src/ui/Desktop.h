@@ -17,6 +17,9 @@ struct Piattaforma {
     std::string cartellaRecupero;   ///< recovery copies of the user's own
 };
 
+/// Language, faces, look and drawings of the program for the application object that was just made.
+void preparaApplicazione(const std::string& cartellaProgramma);
+
 /// Runs the desktop program to its end; answers its exit code.
 int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma);
 

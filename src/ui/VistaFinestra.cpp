@@ -9,7 +9,9 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
+#include <algorithm>
 
+#include "ui/RiquadroAiuto.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/stile.h"
@@ -18,11 +20,56 @@ namespace kelvo::ui {
 
 namespace {
 
-constexpr double puntiTitoloPannello = 13.0;
-constexpr double puntiGruppo = 10.5;
-constexpr double puntiCorpo = 10.0;
-constexpr double puntiLimiti = 9.0;
-constexpr int larghezzaColonna = 432;
+/// Letters of the menu bar: no label inside a window takes one of them.
+const QString lettereMenu = QStringLiteral("FDORSKH");
+
+/// The caption panel: what it reads, cut in the middle where there is no room.
+class PannelloTitolo final : public QWidget {
+public:
+    explicit PannelloTitolo(QWidget* genitore) : QWidget(genitore) { setFont(forte(punti::pannello)); }
+
+    void mostra(const QString& testo, Colore sfondo) {
+        testo_ = testo;
+        sfondo_ = sfondo;
+        setAccessibleName(testo);
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*evento*/) override {
+        QPainter pennello(this);
+        pennello.fillRect(rect(), qcolore(sfondo_));
+        pennello.setPen(qcolore(neroOBianco(sfondo_)));
+        const QRect posto = rect().adjusted(misura::margine, 0, -misura::margine, 0);
+        pennello.drawText(posto, Qt::AlignLeft | Qt::AlignVCenter,
+                          fontMetrics().elidedText(testo_, Qt::ElideMiddle, posto.width()));
+    }
+
+private:
+    QString testo_;
+    Colore sfondo_;
+};
+
+QFrame* lineaSottile(QWidget* genitore) {
+    auto* linea = new QFrame(genitore);
+    linea->setObjectName(QStringLiteral("rigaPannello"));
+    return linea;
+}
+
+/// The letter of a text that no other label has, at the start of a word where there is one.
+QChar letteraLibera(const QString& testo, const QString& prese) {
+    for (const bool inizio : {true, false}) {
+        for (qsizetype i = 0; i < testo.size(); ++i) {
+            const QChar lettera = testo[i].toUpper();
+            const bool prima = i == 0 || !testo[i - 1].isLetter();
+            const bool semplice = lettera >= QLatin1Char('A') && lettera <= QLatin1Char('Z');
+            if (semplice && (prima || !inizio) && !prese.contains(lettera)) {
+                return lettera;
+            }
+        }
+    }
+    return {};
+}
 
 }  // namespace
 
@@ -34,39 +81,61 @@ Pannello::Pannello(const QString& titolo, QWidget* genitore) : QWidget(genitore)
     fuori->addWidget(cornice);
     auto* dentro = new QVBoxLayout(cornice);
     dentro->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
+    dentro->setSpacing(misura::spazioRighe);
     if (!titolo.isEmpty()) {
         auto* testata = new QLabel(titolo, cornice);
         testata->setObjectName(QStringLiteral("titoloPannello"));
-        testata->setFont(forte(puntiGruppo));
-        dentro->addWidget(testata);
-        auto* linea = new QFrame(cornice);
-        linea->setObjectName(QStringLiteral("rigaPannello"));
-        dentro->addWidget(linea);
+        testata->setFont(forte(punti::gruppo));
+        testata_ = new QHBoxLayout;
+        testata_->addWidget(testata, 1);
+        dentro->addLayout(testata_);
+        dentro->addWidget(lineaSottile(cornice));
     }
     griglia_ = new QGridLayout;
-    griglia_->setHorizontalSpacing(8);
-    griglia_->setVerticalSpacing(6);
-    griglia_->setColumnStretch(1, 1);
+    griglia_->setHorizontalSpacing(misura::spazio);
+    griglia_->setVerticalSpacing(misura::spazioRighe);
+    griglia_->setColumnStretch(3, 1);
     dentro->addLayout(griglia_);
+}
+
+void Pannello::nota(const QString& testo) {
+    if (testata_ != nullptr) {
+        auto* parola = new QLabel(testo, this);
+        parola->setObjectName(QStringLiteral("notaPannello"));
+        parola->setFont(dati(punti::nota));
+        testata_->addWidget(parola);
+    }
 }
 
 void Pannello::riga(const std::string& etichetta, QWidget* campo, const QString& unita, const QString& limiti) {
     auto* testo = new QLabel(q(etichetta), this);
-    testo->setFont(leggero(puntiCorpo));
-    testo->setBuddy(campo);
-    testo->setMinimumHeight(misura::campo);
-    griglia_->addWidget(testo, righe_, 0);
-    griglia_->addWidget(campo, righe_, 1);
+    testo->setFont(leggero(punti::corpo));
+    riga(testo, campo, unita, limiti);
+}
+
+void Pannello::riga(Etichetta& etichetta, QWidget* campo, const QString& unita, const QString& limiti) {
+    riga(collega(etichetta, this), campo, unita, limiti);
+}
+
+void Pannello::riga(QLabel* etichetta, QWidget* campo, const QString& unita, const QString& limiti) {
+    const bool stretto = !unita.isEmpty() || !limiti.isEmpty();
+    etichetta->setBuddy(campo);
+    etichetta->setMinimumHeight(misura::campo);
+    griglia_->addWidget(etichetta, righe_, 0, Qt::AlignTop);
+    if (stretto) {
+        campo->setFixedWidth(misura::campoCorto);
+    }
+    griglia_->addWidget(campo, righe_, 1, 1, stretto ? 1 : 3);
     if (!unita.isEmpty()) {
         auto* misuraCampo = new QLabel(unita, this);
         misuraCampo->setObjectName(QStringLiteral("unita"));
-        misuraCampo->setFont(dati(puntiCorpo));
+        misuraCampo->setFont(dati(punti::corpo));
         griglia_->addWidget(misuraCampo, righe_, 2);
     }
     if (!limiti.isEmpty()) {
         auto* intervallo = new QLabel(limiti, this);
         intervallo->setObjectName(QStringLiteral("limiti"));
-        intervallo->setFont(dati(puntiLimiti));
+        intervallo->setFont(dati(punti::nota));
         griglia_->addWidget(intervallo, righe_, 3, Qt::AlignRight | Qt::AlignVCenter);
     }
     ++righe_;
@@ -77,35 +146,99 @@ void Pannello::larga(QWidget* oggetto) {
     ++righe_;
 }
 
-VistaFinestra::VistaFinestra(Finestra& finestra, QWidget* genitore) : QWidget(genitore), finestra_(finestra) {
+int Pannello::larghezzaEtichette() const {
+    int massima = 0;
+    for (int r = 0; r < righe_; ++r) {
+        const QLayoutItem* posto = griglia_->itemAtPosition(r, 0);
+        const auto* etichetta = posto == nullptr ? nullptr : qobject_cast<QLabel*>(posto->widget());
+        if (etichetta != nullptr && etichetta->buddy() != nullptr) {
+            massima = std::max(massima, etichetta->sizeHint().width());
+        }
+    }
+    return massima;
+}
+
+void Pannello::larghezzaEtichette(int larghezza) {
+    griglia_->setColumnMinimumWidth(0, larghezza);
+}
+
+VistaFinestra::VistaFinestra(Finestra& finestra, QWidget* genitore, Forma forma)
+    : QWidget(genitore), finestra_(finestra), forma_(forma) {
     setObjectName(q(finestra.nome()));
+    corpo_ = new QWidget(this);
+    corpo_->setObjectName(QStringLiteral("lavoro"));
+    auto* piano = new QHBoxLayout(corpo_);
+    piano->setSpacing(misura::margine);
+    sinistra_ = new QWidget(corpo_);
+    colonna_ = new QVBoxLayout(sinistra_);
+    colonna_->setContentsMargins(0, 0, 0, 0);
+    colonna_->setSpacing(misura::margine);
+    // The column takes its width first, the rest goes to what stands at its right.
+    constexpr int precedenza = 100;
+    piano->addWidget(sinistra_, precedenza);
+    destra_ = new QVBoxLayout;
+    destra_->setSpacing(misura::margine);
+    piano->addLayout(destra_, 1);
+    if (forma == Forma::dialogo) {
+        disponiDialogo();
+    } else {
+        disponiFinestra();
+    }
+}
+
+void VistaFinestra::disponiFinestra() {
     auto* tutto = new QVBoxLayout(this);
     tutto->setContentsMargins(0, 0, 0, 0);
     tutto->setSpacing(0);
     tutto->addWidget(fascia());
-
     auto* scorrevole = new QScrollArea(this);
     scorrevole->setWidgetResizable(true);
     scorrevole->setFrameShape(QFrame::NoFrame);
     scorrevole->setFocusPolicy(Qt::NoFocus);
-    corpo_ = new QWidget(scorrevole);
-    corpo_->setObjectName(QStringLiteral("lavoro"));
     scorrevole->setWidget(corpo_);
     tutto->addWidget(scorrevole, 1);
+    constexpr int m = misura::margine;
+    corpo_->layout()->setContentsMargins(m, m, m, m);
+    larghezzaColonna(misura::colonna);
+}
 
-    auto* piano = new QHBoxLayout(corpo_);
-    piano->setContentsMargins(misura::margine, misura::margine, misura::margine, misura::margine);
-    piano->setSpacing(misura::margine);
-    auto* sinistra = new QWidget(corpo_);
-    sinistra->setMinimumWidth(larghezzaColonna);
-    sinistra->setMaximumWidth(larghezzaColonna * 2);
-    colonna_ = new QVBoxLayout(sinistra);
-    colonna_->setContentsMargins(0, 0, 0, 0);
-    colonna_->setSpacing(misura::margine);
-    piano->addWidget(sinistra, 1);
-    destra_ = new QVBoxLayout;
-    destra_->setSpacing(misura::margine);
-    piano->addLayout(destra_, 1);
+void VistaFinestra::disponiDialogo() {
+    auto* tutto = new QVBoxLayout(this);
+    tutto->setContentsMargins(0, 0, 0, 0);
+    tutto->setSpacing(0);
+    tutto->addWidget(corpo_, 1);
+    constexpr int m = misura::margineDialogo;
+    corpo_->layout()->setContentsMargins(m, m, m, m);
+}
+
+void VistaFinestra::larghezzaColonna(int larghezza) {
+    sinistra_->setMinimumWidth(std::min(larghezza, misura::colonnaMinima));
+    sinistra_->setMaximumWidth(larghezza);
+}
+
+void VistaFinestra::alPiede(QWidget* bottone) {
+    if (piede_ == nullptr) {
+        auto* piede = new QWidget(this);
+        piede->setObjectName(QStringLiteral("piede"));
+        piede->setAttribute(Qt::WA_StyledBackground);
+        piede_ = new QHBoxLayout(piede);
+        piede_->setContentsMargins(misura::margineDialogo, misura::piedeVerticale, misura::margine,
+                                   misura::piedeVerticale);
+        piede_->setSpacing(misura::spazio);
+        piede_->addStretch(1);
+        layout()->addWidget(piede);
+    }
+    piede_->addWidget(bottone);
+}
+
+RiquadroAiuto* VistaFinestra::aggiungiAiuto(const QString& titolo) {
+    PannelloAiuto* aiuto = finestra_.aiuto();
+    if (aiuto == nullptr) {
+        return nullptr;
+    }
+    auto* riquadro = new RiquadroAiuto(*aiuto, titolo, corpo_);
+    destra_->addWidget(riquadro, 1);
+    return riquadro;
 }
 
 QWidget* VistaFinestra::fascia() {
@@ -115,28 +248,28 @@ QWidget* VistaFinestra::fascia() {
     auto* riga = new QHBoxLayout(banda);
     riga->setContentsMargins(0, 0, 0, 0);
     riga->setSpacing(0);
-    auto* titolo = new QLabel(banda);
-    titolo->setFont(forte(puntiTitoloPannello));
-    titolo->setIndent(misura::margine);
+    auto* titolo = new PannelloTitolo(banda);
     auto* legame = new Legame(finestra_.pannello, *titolo);
-    legame->mostra([this, titolo] {
-        const Colore sfondo = finestra_.pannello.aspetto().sfondo;
-        titolo->setText(q(finestra_.pannello.testo()));
-        titolo->setStyleSheet(QStringLiteral("background: %1; color: %2;")
-                                  .arg(qcolore(sfondo).name(), qcolore(neroOBianco(sfondo)).name()));
-    });
+    legame->mostra(
+        [this, titolo] { titolo->mostra(q(finestra_.pannello.testo()), finestra_.pannello.aspetto().sfondo); });
     riga->addWidget(titolo, 1);
     if (BarraStrumenti* barra = finestra_.barra()) {
-        riga->addWidget(collega(*barra, banda, misura::icona, true));
+        QWidget* strumenti = collega(*barra, banda, misura::icona, true);
+        strumenti->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+        riga->addSpacing(misura::spazio);
+        riga->addWidget(strumenti);
+        riga->addSpacing(misura::spazio);
     }
     return banda;
 }
 
 void VistaFinestra::chiudiDisposizione() {
     colonna_->addStretch(1);
+    allineaEtichette();
+    assegnaMnemonici();
     QWidget* prima = nullptr;
     for (const Controllo* controllo : finestra_.ordine()) {
-        auto* widget = corpo_->findChild<QWidget*>(q(controllo->nome()));
+        auto* widget = findChild<QWidget*>(q(controllo->nome()));
         if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0) {
             continue;
         }
@@ -147,11 +280,37 @@ void VistaFinestra::chiudiDisposizione() {
     }
 }
 
+void VistaFinestra::allineaEtichette() {
+    const QList<Pannello*> pannelli = sinistra_->findChildren<Pannello*>();
+    int massima = 0;
+    for (const Pannello* pannello : pannelli) {
+        massima = std::max(massima, pannello->larghezzaEtichette());
+    }
+    for (Pannello* pannello : pannelli) {
+        pannello->larghezzaEtichette(massima);
+    }
+}
+
+void VistaFinestra::assegnaMnemonici() {
+    QString prese = lettereMenu;
+    for (const Controllo* controllo : finestra_.ordine()) {
+        auto* etichetta = findChild<QLabel*>(q(controllo->nome()));
+        if (etichetta == nullptr || etichetta->buddy() == nullptr) {
+            continue;
+        }
+        const QChar lettera = letteraLibera(etichetta->text(), prese);
+        if (!lettera.isNull()) {
+            prese += lettera;
+            mnemonico(*etichetta, lettera);
+        }
+    }
+}
+
 void VistaFinestra::fuocoIniziale() {
     for (const Controllo* controllo : finestra_.ordine()) {
-        auto* widget = corpo_->findChild<QWidget*>(q(controllo->nome()));
+        auto* widget = findChild<QWidget*>(q(controllo->nome()));
         if (widget != nullptr && controllo->prendeFuoco()) {
-            widget->setFocus(Qt::OtherFocusReason);
+            widget->setFocus(Qt::TabFocusReason);
             return;
         }
     }

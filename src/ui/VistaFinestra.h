@@ -8,10 +8,13 @@
 #include "shell/servizi/Finestra.h"
 
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QVBoxLayout;
 
 namespace kelvo::ui {
+
+class RiquadroAiuto;
 
 /// A titled panel with one row a field: label, field, unit, allowed range.
 class Pannello final : public QWidget {
@@ -19,42 +22,73 @@ class Pannello final : public QWidget {
 public:
     Pannello(const QString& titolo, QWidget* genitore);
 
-    /// Appends a row with a field on the right of its label; the mnemonic of the label leads to the field.
+    /// Appends a row with a field on the right of its label; the mnemonic of the label leads to the field. A field with
+    /// a unit or a range is as narrow as a number asks, the others take the room.
     void riga(const std::string& etichetta, QWidget* campo, const QString& unita = {}, const QString& limiti = {});
+    /// The same with a label of the window, which follows it.
+    void riga(Etichetta& etichetta, QWidget* campo, const QString& unita = {}, const QString& limiti = {});
     /// Appends something that takes the whole row.
     void larga(QWidget* oggetto);
+    /// A word at the right of the title.
+    void nota(const QString& testo);
+
+    /// Room that the widest label takes, and room that all shall take: fields of several panels stand in one column.
+    int larghezzaEtichette() const;
+    void larghezzaEtichette(int larghezza);
 
 private:
-    QGridLayout* griglia_;
+    void riga(QLabel* etichetta, QWidget* campo, const QString& unita, const QString& limiti);
+
+    QGridLayout* griglia_ = nullptr;
+    QHBoxLayout* testata_ = nullptr;
     int righe_ = 0;
 };
 
-/// View of a window: its caption panel and tool bar in one band, its body below.
+/// View of a window: its caption panel and tool bar in one band, its body below; or the content of a dialogue, with the
+/// buttons in a footer.
 class VistaFinestra : public QWidget {
     Q_OBJECT
 public:
-    VistaFinestra(Finestra& finestra, QWidget* genitore);
+    enum class Forma { finestra, dialogo };
+    VistaFinestra(Finestra& finestra, QWidget* genitore, Forma forma = Forma::finestra);
 
     Finestra& finestra() { return finestra_; }
+    Forma forma() const { return forma_; }
+    /// The dialogue has no frame of the system.
+    virtual bool senzaCornice() const { return false; }
     /// Puts the keyboard on the first control of the tab order.
     void fuocoIniziale();
 
 protected:
     /// Column of panels of a data window, at the left of the body.
     QVBoxLayout* colonna() { return colonna_; }
+    /// Largest width of the column; the rest is for what stands at its right.
+    void larghezzaColonna(int larghezza);
     QWidget* corpo() { return corpo_; }
     /// Room at the right of the column.
     QVBoxLayout* destra() { return destra_; }
-    /// Sets the tab order to that of the window's controls; called at the end of the view's constructor.
+    /// Appends a button to the footer of a dialogue.
+    void alPiede(QWidget* bottone);
+    /// Appends the help pane of the window at the right, with its title.
+    RiquadroAiuto* aggiungiAiuto(const QString& titolo);
+    /// Sets the tab order to that of the window's controls and the mnemonics of the labels; called at the end of the
+    /// view's constructor.
     void chiudiDisposizione();
 
 private:
     QWidget* fascia();
+    void disponiFinestra();
+    void disponiDialogo();
+    void allineaEtichette();
+    void assegnaMnemonici();
 
     Finestra& finestra_;
+    Forma forma_;
     QWidget* corpo_ = nullptr;
+    QWidget* sinistra_ = nullptr;
     QVBoxLayout* colonna_ = nullptr;
     QVBoxLayout* destra_ = nullptr;
+    QHBoxLayout* piede_ = nullptr;
 };
 
 /// The view of a window, by the window's name; null for a window that has none.

@@ -44,6 +44,24 @@ void cartellaImmagini(const std::string& cartella) {
     radice() = QString::fromStdString(cartella);
 }
 
+QString cartellaSegni() {
+    return radice() + QStringLiteral("/segni");
+}
+
+QIcon segno(const std::string& nome) {
+    for (const char* cartella : {"icone/livelli", "segni"}) {
+        const QString file = disegno(QString::fromLatin1(cartella), nome);
+        if (!file.isEmpty()) {
+            return QIcon(file);
+        }
+    }
+    return {};
+}
+
+bool esisteImmagine(const std::string& risorsa) {
+    return !disegno(QStringLiteral("figure"), nomeFigura(risorsa)).isEmpty();
+}
+
 namespace {
 
 QIcon leggiIcona(const std::string& chiave, bool suBlu) {

@@ -28,7 +28,10 @@ void Legame::mostra(std::function<void()> funzione) {
 }
 
 void Legame::aggiorna() {
-    widget_.setVisible(controllo_.visibile());
+    // Only a change: showing a widget fixes its font before its view has laid it out.
+    if (widget_.isHidden() == controllo_.visibile()) {
+        widget_.setVisible(controllo_.visibile());
+    }
     widget_.setEnabled(controllo_.abilitato());
     if (funzione_) {
         funzione_();

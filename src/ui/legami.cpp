@@ -2,7 +2,11 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QAction>
+#include <QtGui/QPalette>
+#include <QtGui/QShortcut>
+#include <QtGui/QTextCharFormat>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateEdit>
@@ -14,11 +18,15 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStyle>
+#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QTimeEdit>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
+#include <algorithm>
+#include <vector>
 
+#include "ui/Figura.h"
 #include "ui/icone.h"
 #include "ui/legame.h"
 #include "ui/stile.h"
@@ -27,22 +35,57 @@ namespace kelvo::ui {
 
 namespace {
 
-constexpr double corpo = 10.0;
+constexpr double corpo = punti::corpo;
+constexpr const char* proprietaMnemonico = "mnemonico";
 const QString formatoOra = QStringLiteral("HH:mm");
 const QString formatoGiorno = QStringLiteral("dd/MM/yyyy");
+
+/// The sign at the left inside a field that was refused.
+void mostraSegno(QWidget& widget, bool visibile) {
+    const QString nome = QStringLiteral("segnoErrore");
+    auto* sign = widget.findChild<QLabel*>(nome, Qt::FindDirectChildrenOnly);
+    if (sign == nullptr && visibile) {
+        sign = new QLabel(&widget);
+        sign->setObjectName(nome);
+        sign->setAttribute(Qt::WA_TransparentForMouseEvents);
+        const QSize lato(misura::segnoErrore, misura::segnoErrore);
+        sign->setPixmap(segno("errore").pixmap(lato, widget.devicePixelRatioF()));
+        sign->setGeometry(QRect(QPoint(misura::spazioRighe, (misura::campo - lato.height()) / 2), lato));
+    }
+    if (sign != nullptr) {
+        sign->setVisible(visibile);
+    }
+}
 
 /// Shows the failed state, which the style sheet paints.
 void mostraFallito(QWidget& widget, bool fallito) {
     if (widget.property("fallito").toBool() != fallito) {
         widget.setProperty("fallito", fallito);
+        mostraSegno(widget, fallito);
+        auto* riga = qobject_cast<QLineEdit*>(&widget);
+        riga = riga != nullptr ? riga : widget.findChild<QLineEdit*>();
+        if (riga != nullptr) {
+            riga->setTextMargins(fallito ? misura::segnoErrore + misura::canale : 0, 0, 0, 0);
+        }
         widget.style()->unpolish(&widget);
         widget.style()->polish(&widget);
     }
 }
 
+/// A label's text with its mnemonic marked; only a label that leads to a field has one.
+QString conMnemonico(const QLabel& etichetta, QString testo) {
+    if (etichetta.buddy() == nullptr) {
+        return testo;
+    }
+    testo.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    const QString lettera = etichetta.property(proprietaMnemonico).toString();
+    const auto posto = lettera.isEmpty() ? qsizetype{-1} : testo.indexOf(lettera, 0, Qt::CaseInsensitive);
+    return posto < 0 ? testo : testo.insert(posto, QLatin1Char('&'));
+}
+
 void preparaCampo(QWidget& widget) {
     widget.setFont(dati(corpo));
-    widget.setMinimumHeight(misura::campo);
+    widget.setFixedHeight(misura::campo);
     widget.setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -79,9 +122,13 @@ QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
 QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     auto* elenco = new QComboBox(genitore);
     preparaCampo(*elenco);
+    elenco->setItemDelegate(new QStyledItemDelegate(elenco));  // the rows of the list follow the style sheet
     elenco->setEditable(campo.digitabile);
+    if (QLineEdit* riga = elenco->lineEdit()) {
+        riga->setFont(dati(corpo));
+        riga->setCompleter(nullptr);
+    }
     elenco->setInsertPolicy(QComboBox::NoInsert);
-    elenco->setCompleter(nullptr);
     auto* legame = new Legame(campo, *elenco);
     legame->allEscape = [&campo] { campo.annulla(); };
     legame->mostra([&campo, elenco] {
@@ -116,6 +163,14 @@ QWidget* collegaOra(tBox& campo, QWidget* genitore) {
     preparaCampo(*ora);
     ora->setDisplayFormat(formato);
     ora->setCalendarPopup(campo.giorno);
+    if (QCalendarWidget* calendario = ora->calendarWidget()) {
+        // Red is for what is wrong: a Sunday is not.
+        QTextCharFormat festivo;
+        festivo.setForeground(qcolore(tinta::secondario));
+        calendario->setWeekdayTextFormat(Qt::Saturday, festivo);
+        calendario->setWeekdayTextFormat(Qt::Sunday, festivo);
+        calendario->setFont(dati(corpo));
+    }
     auto* legame = new Legame(campo, *ora);
     legame->allEscape = [&campo] { campo.annulla(); };
     legame->mostra([&campo, ora, formato] {
@@ -162,6 +217,7 @@ QWidget* collega(tBox& campo, QWidget* genitore) {
 QPlainTextEdit* collega(AreaTesto& area, QWidget* genitore) {
     auto* testo = new QPlainTextEdit(genitore);
     testo->setFont(dati(corpo));
+    testo->document()->setDocumentMargin(misura::bordoTesto);
     testo->setTabChangesFocus(true);
     auto* legame = new Legame(area, *testo);
     legame->mostra([&area, testo] {
@@ -175,17 +231,23 @@ QPlainTextEdit* collega(AreaTesto& area, QWidget* genitore) {
     return testo;
 }
 
+void mnemonico(QLabel& etichetta, QChar lettera) {
+    etichetta.setProperty(proprietaMnemonico, QString(lettera));
+    etichetta.setText(conMnemonico(etichetta, etichetta.text()));
+}
+
 QLabel* collega(Etichetta& etichetta, QWidget* genitore) {
     auto* label = new QLabel(genitore);
     label->setFont(leggero(corpo));
     auto* legame = new Legame(etichetta, *label);
     legame->mostra([&etichetta, label] {
-        label->setText(q(etichetta.testo()));
+        label->setText(conMnemonico(*label, q(etichetta.testo())));
         const Colore colore = etichetta.aspetto().inchiostro;
         const bool proprio = colore != colori::nero;
-        label->setStyleSheet(
-            proprio ? QStringLiteral("color: %1").arg(qcolore(inchiostroLeggibile(colore, colori::bianco)).name())
-                    : QString{});
+        QPalette tavolozza = label->palette();
+        tavolozza.setColor(QPalette::WindowText,
+                           qcolore(proprio ? inchiostroLeggibile(colore, colori::bianco) : tinta::inchiostro));
+        label->setPalette(tavolozza);
     });
     return label;
 }
@@ -193,7 +255,7 @@ QLabel* collega(Etichetta& etichetta, QWidget* genitore) {
 QAbstractButton* collega(Bottone& bottone, QWidget* genitore) {
     auto* pulsante = new QPushButton(genitore);
     pulsante->setFont(dati(corpo));
-    pulsante->setMinimumHeight(misura::bottone);
+    pulsante->setFixedHeight(misura::bottone);
     pulsante->setAutoDefault(false);
     auto* legame = new Legame(bottone, *pulsante);
     legame->mostra([&bottone, pulsante] { pulsante->setText(q(bottone.testo())); });
@@ -229,6 +291,7 @@ QSpinBox* collega(Spin& spin, QWidget* genitore) {
     auto* numero = new QSpinBox(genitore);
     preparaCampo(*numero);
     numero->setRange(spin.minimo(), spin.massimo());
+    numero->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* legame = new Legame(spin, *numero);
     legame->mostra([&spin, numero] {
         const QSignalBlocker zitto(numero);
@@ -239,14 +302,10 @@ QSpinBox* collega(Spin& spin, QWidget* genitore) {
 }
 
 QLabel* collega(Immagine& figura, QWidget* genitore) {
-    auto* label = new QLabel(genitore);
-    label->setAlignment(Qt::AlignCenter);
-    label->setMinimumSize(misura::figura, misura::figura);
-    auto* legame = new Legame(figura, *label);
-    legame->mostra([&figura, label] {
-        label->setPixmap(immagine(figura.risorsa(), QSize(misura::figura, misura::figura), label->devicePixelRatioF()));
-    });
-    return label;
+    auto* disegno = new Figura(genitore);
+    auto* legame = new Legame(figura, *disegno);
+    legame->mostra([&figura, disegno] { disegno->risorsa(figura.risorsa()); });
+    return disegno;
 }
 
 QProgressBar* collega(BarraProgresso& barra, QWidget* genitore) {
@@ -258,38 +317,93 @@ QProgressBar* collega(BarraProgresso& barra, QWidget* genitore) {
     return avanzamento;
 }
 
+namespace {
+
+/// A list whose columns take the room of their texts and share what there is where it is not enough.
+class ListaColonne final : public QTreeWidget {
+public:
+    explicit ListaColonne(QWidget* genitore) : QTreeWidget(genitore) {}
+
+    void spartisci() {
+        const int ultima = columnCount() - 1;
+        const int spazio = viewport()->width() - misura::campoCorto;  // the last column has at least this
+        int chiesto = 0;
+        std::vector<int> larghezze;
+        for (int c = 0; c < ultima; ++c) {
+            larghezze.push_back(std::max(sizeHintForColumn(c), header()->sectionSizeHint(c)));
+            chiesto += larghezze.back();
+        }
+        for (int c = 0; c < ultima; ++c) {
+            const int voluta = larghezze[static_cast<std::size_t>(c)];
+            const bool basta = chiesto <= spazio || spazio <= 0;
+            header()->resizeSection(c, basta ? voluta : voluta * spazio / chiesto);
+        }
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* evento) override {
+        QTreeWidget::resizeEvent(evento);
+        spartisci();
+    }
+    void showEvent(QShowEvent* evento) override {
+        QTreeWidget::showEvent(evento);
+        spartisci();
+    }
+};
+
+void riempi(ListaColonne& righe, const ElencoColonne& elenco) {
+    righe.clear();
+    for (const ElencoColonne::Riga& riga : elenco.righe()) {
+        auto* voce = new QTreeWidgetItem(&righe);
+        voce->setData(0, Qt::UserRole, q(riga.chiave));
+        for (int c = 0; c < righe.columnCount() && c < static_cast<int>(riga.celle.size()); ++c) {
+            const QString cella = q(riga.celle[static_cast<std::size_t>(c)]);
+            voce->setText(c, cella);
+            voce->setToolTip(c, cella);
+            if (riga.evidente) {
+                voce->setFont(c, forte(corpo));
+            }
+        }
+    }
+    righe.spartisci();
+}
+
+}  // namespace
+
 QTreeWidget* collega(ElencoColonne& elenco, QWidget* genitore) {
-    auto* righe = new QTreeWidget(genitore);
+    auto* righe = new ListaColonne(genitore);
     righe->setRootIsDecorated(false);
+    righe->header()->setStretchLastSection(true);
     righe->setUniformRowHeights(true);
+    righe->setMinimumWidth(misura::elenco);
+    righe->setFrameShape(QFrame::NoFrame);
+    righe->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     righe->setFont(dati(corpo));
+    righe->header()->setFont(forte(punti::barra));
+    righe->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    righe->header()->setSectionsClickable(false);
+    righe->header()->setMinimumSectionSize(misura::campoCorto / 2);
+    righe->viewport()->setCursor(Qt::PointingHandCursor);
+    righe->setMouseTracking(true);
     QStringList titoli;
     for (const std::string& titolo : elenco.intestazioni()) {
         titoli << q(titolo);
     }
     righe->setHeaderLabels(titoli);
     auto* legame = new Legame(elenco, *righe);
-    legame->mostra([&elenco, righe] {
-        righe->clear();
-        for (const ElencoColonne::Riga& riga : elenco.righe()) {
-            QStringList celle;
-            for (const std::string& cella : riga.celle) {
-                celle << q(cella);
-            }
-            auto* voce = new QTreeWidgetItem(righe, celle);
-            voce->setData(0, Qt::UserRole, q(riga.chiave));
-            for (int c = 0; riga.evidente && c < righe->columnCount(); ++c) {
-                voce->setFont(c, forte(corpo));
-            }
-        }
-        for (int c = 0; c < righe->columnCount(); ++c) {
-            righe->resizeColumnToContents(c);
-        }
-    });
+    righe->setProperty("elenco", true);
+    legame->mostra([&elenco, righe] { riempi(*righe, elenco); });
+    const auto apri = [&elenco](QTreeWidgetItem* voce) { elenco.attiva(s(voce->data(0, Qt::UserRole).toString())); };
     // Queued: what a row leads to hides the window that it stands in.
+    QObject::connect(righe, &QTreeWidget::itemClicked, legame, apri, Qt::QueuedConnection);
+    auto* invio = new QShortcut(QKeySequence(Qt::Key_Return), righe, nullptr, nullptr, Qt::WidgetShortcut);
     QObject::connect(
-        righe, &QTreeWidget::itemActivated, legame,
-        [&elenco](QTreeWidgetItem* voce) { elenco.attiva(s(voce->data(0, Qt::UserRole).toString())); },
+        invio, &QShortcut::activated, legame,
+        [righe, apri] {
+            if (QTreeWidgetItem* voce = righe->currentItem()) {
+                apri(voce);
+            }
+        },
         Qt::QueuedConnection);
     return righe;
 }
@@ -311,7 +425,7 @@ QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTe
         QObject::connect(azione, &QAction::triggered, legame, [&barra, chiave = tasto.chiave] { barra.premi(chiave); });
         if (QWidget* bottone = strumenti->widgetForAction(azione)) {
             bottone->setFocusPolicy(Qt::TabFocus);
-            bottone->setFont(dati(9.5));
+            bottone->setFont(dati(punti::barra));
         }
     }
     legame->mostra([&barra, strumenti] {

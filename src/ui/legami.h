@@ -23,6 +23,9 @@ namespace kelvo::ui {
 QString q(const std::string& testo);
 std::string s(const QString& testo);
 
+/// Underlines a letter of a label and makes it its mnemonic; it stays where the text changes and still holds it.
+void mnemonico(QLabel& etichetta, QChar lettera);
+
 QWidget* collega(tBox& campo, QWidget* genitore);
 QPlainTextEdit* collega(AreaTesto& area, QWidget* genitore);
 QLabel* collega(Etichetta& etichetta, QWidget* genitore);

@@ -12,52 +12,13 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPushButton>
-#include <array>
 
+#include "ui/DialogoMessaggio.h"
 #include "ui/legami.h"
 
 namespace kelvo::ui {
 
 namespace {
-
-struct VoceIcona {
-    Icona icona;
-    QMessageBox::Icon qt;
-};
-constexpr std::array icone{
-    VoceIcona{Icona::nessuna, QMessageBox::NoIcon},       VoceIcona{Icona::critica, QMessageBox::Critical},
-    VoceIcona{Icona::esclamazione, QMessageBox::Warning}, VoceIcona{Icona::informazione, QMessageBox::Information},
-    VoceIcona{Icona::domanda, QMessageBox::Question},
-};
-
-struct VocePulsanti {
-    Pulsanti pulsanti;
-    QMessageBox::StandardButtons qt;
-    QMessageBox::StandardButton predefinito;
-    QMessageBox::StandardButton innocuo;  ///< what Escape answers
-};
-constexpr std::array tavolaPulsanti{
-    VocePulsanti{Pulsanti::ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok},
-    VocePulsanti{Pulsanti::okAnnulla, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::Cancel},
-    VocePulsanti{Pulsanti::siNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No},
-    VocePulsanti{Pulsanti::siNoAnnulla, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
-                 QMessageBox::Cancel},
-};
-
-Risposta rispostaDi(int qt) {
-    switch (qt) {
-        case QMessageBox::Yes:
-            return Risposta::si;
-        case QMessageBox::No:
-            return Risposta::no;
-        case QMessageBox::Cancel:
-            return Risposta::annulla;
-        default:
-            return Risposta::ok;
-    }
-}
 
 /// "Words (*.klv)|*.klv|..." as the toolkit wants it, one pair a line.
 QString filtroQt(const std::string& filtro) {
@@ -115,26 +76,9 @@ private:
 }  // namespace
 
 Risposta MessaggiQt::mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) {
-    QMessageBox box(QApplication::activeWindow());
-    box.setObjectName(QStringLiteral("messaggio"));
-    box.setWindowTitle(q(titolo));
-    box.setTextFormat(Qt::PlainText);
-    QString parole = q(testo);
-    parole.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    box.setText(parole);
-    for (const VoceIcona& voce : icone) {
-        if (voce.icona == icona) {
-            box.setIcon(voce.qt);
-        }
-    }
-    for (const VocePulsanti& voce : tavolaPulsanti) {
-        if (voce.pulsanti == pulsanti) {
-            box.setStandardButtons(voce.qt);
-            box.setDefaultButton(voce.predefinito);
-            box.setEscapeButton(voce.innocuo);
-        }
-    }
-    return rispostaDi(box.exec());
+    DialogoMessaggio dialogo(testo, titolo, icona, pulsanti, QApplication::activeWindow());
+    dialogo.exec();
+    return dialogo.risposta();
 }
 
 std::optional<std::string> DialogoFileQt::apri(const RichiestaFile& richiesta,

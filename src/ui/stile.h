@@ -29,6 +29,8 @@ inline constexpr Colore sfiorato{229, 241, 250};
 inline constexpr Colore errore{176, 0, 32};
 inline constexpr Colore fondoErrore{255, 240, 240};
 inline constexpr Colore rigaPannello{225, 228, 231};
+inline constexpr Colore spentoSuBlu{97, 168, 220};
+inline constexpr Colore verde{0, 98, 0};
 }  // namespace tinta
 
 /// Logical pixels at 100 %.
@@ -48,7 +50,41 @@ inline constexpr int canale = 4;
 inline constexpr int iconaPrincipale = 28;
 inline constexpr int icona = 20;
 inline constexpr int figura = 240;
+inline constexpr int figuraMinima = 144;  ///< on a low window
+inline constexpr int colonna = 432;       ///< column of panels of a data window
+inline constexpr int colonnaLarga = 520;  ///< of a window of texts
+inline constexpr int colonnaStretta = 336;
+inline constexpr int colonnaMinima = 272;
+inline constexpr int elenco = 376;      ///< least width of a list with columns
+inline constexpr int campoCorto = 96;   ///< field of a number or a time
+inline constexpr int aiuto = 112;       ///< text of the help pane
+inline constexpr int aiutoLargo = 272;  ///< least width of the help pane
+inline constexpr int barraAlbero = 3;   ///< mark of the selected node
+inline constexpr int rientroAlbero = 16;
+inline constexpr int aggiuntaAlbero = 24;  ///< beside the widest row
+inline constexpr int bordoTesto = 2;
+inline constexpr int margineDialogo = 24;
+inline constexpr int piedeVerticale = 12;
+inline constexpr int segno = 32;        ///< sign of a message
+inline constexpr int segnoErrore = 14;  ///< sign in a field
+inline constexpr int testoMessaggio = 460;
+inline constexpr int riquadroVuoto = 360;
+inline constexpr int spazio = 8;
+inline constexpr int spazioRighe = 6;
+inline constexpr int lineaRamo = 18;  ///< between title and leg in the caption panel
+inline constexpr int avanzamento = 360;
+inline constexpr int note = 84;
 }  // namespace misura
+
+/// Sizes of the type, points.
+namespace punti {
+inline constexpr double corpo = 10.0;
+inline constexpr double barra = 9.5;
+inline constexpr double nota = 9.0;
+inline constexpr double gruppo = 10.5;
+inline constexpr double pannello = 13.0;
+inline constexpr double titolo = 18.0;
+}  // namespace punti
 
 QColor qcolore(Colore colore);
 
@@ -65,7 +101,8 @@ double contrasto(Colore a, Colore b);
 /// Black or white, whichever contrasts more.
 Colore neroOBianco(Colore sfondo);
 
-/// Loads the faces from the program's folder or the system and dresses the application.
+/// Loads the faces from the program's folder or the system and dresses the application; the folder of the drawings is
+/// known before.
 void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri);
 
 }  // namespace kelvo::ui

@@ -60,7 +60,7 @@ TEST_F(ProveTempo, TheFieldsShowTheTimesOfTheProject) {
 TEST_F(ProveTempo, LabelsAreInTheWordsOfTheField) {
     EXPECT_EQ(finestra.didascalia(), "Tempi di modellazione");
     EXPECT_EQ(finestra.lblTempoIniziale.testo(), "Tempo iniziale");
-    EXPECT_EQ(finestra.lblSegmentoTempo.testo(), "Segmento di tempo [min]");
+    EXPECT_EQ(finestra.lblSegmentoTempo.testo(), "Segmento di tempo");
     EXPECT_EQ(finestra.lblTempoFinale.testo(), "Tempo finale");
 }
 

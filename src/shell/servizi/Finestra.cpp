@@ -8,9 +8,9 @@ namespace kelvo {
 namespace {
 
 std::vector<BarraStrumenti::Tasto> tastiDati() {
-    return {{"Archivio", "Archivio", "Importa da un altro progetto (Ctrl+I)", "Apri", true},
-            {"AggiornaDati", "Aggiorna dati", "Scrive i dati nel progetto (Ctrl+Invio)", "Salva", true},
-            {"Refresh", "Ripristina", "Rilegge i dati del progetto (F5)", "Nuovo", true}};
+    return {{"Archivio", "Archivio", "Importa da un altro progetto (Ctrl+I)", "Archivio", true},
+            {"AggiornaDati", "Aggiorna dati", "Scrive i dati nel progetto (Ctrl+Invio)", "AggiornaDati", true},
+            {"Refresh", "Refresh", "Rilegge i dati del progetto (F5)", "Refresh", true}};
 }
 
 }  // namespace

@@ -3,8 +3,21 @@
 #include <algorithm>
 
 #include "base/guasto.h"
+#include "shell/servizi/CustodeCampi.h"
 
 namespace kelvo {
+
+void AreaTesto::entra() {
+    if (!raggiungibile()) {
+        return;
+    }
+    if (custode() != nullptr) {
+        if (PannelloAiuto* aiuto = custode()->aiuto()) {
+            aiuto->pagina(paginaAiuto.empty() ? std::string{paginaAiutoVuota} : paginaAiuto);
+        }
+    }
+    Controllo::entra();
+}
 
 void Spin::valore(int nuovo) {
     cambia(valore_, std::clamp(nuovo, minimo_, massimo_));

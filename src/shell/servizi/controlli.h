@@ -32,8 +32,11 @@ public:
         cambia(testo_, valore);
     }
     bool modificato() const { return testo_ != messo_; }
+    /// Page of the help pane; empty for the blank one.
+    std::string paginaAiuto;
     std::function<void()> dopoUscita;
 
+    void entra() override;
     void scrivi(std::string_view testo) {
         if (raggiungibile()) {
             cambia(testo_, std::string{testo});

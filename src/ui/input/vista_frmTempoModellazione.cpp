@@ -1,6 +1,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "input/frmTempoModellazione.h"
+#include "ui/RiquadroAiuto.h"
 #include "ui/legami.h"
 #include "ui/shell/viste.h"
 
@@ -12,11 +13,12 @@ class Vista final : public VistaFinestra {
 public:
     Vista(frmTempoModellazione& f, QWidget* genitore) : VistaFinestra(f, genitore) {
         auto* tempi = new Pannello(QStringLiteral("Finestra di modellazione"), corpo());
-        tempi->riga(f.lblTempoIniziale.testo(), collega(f.txtTempoIniziale, tempi), QStringLiteral("[ora]"));
-        tempi->riga(f.lblSegmentoTempo.testo(), collega(f.txtSegmentoTempo, tempi), QStringLiteral("[min]"),
+        tempi->riga(f.lblTempoIniziale, collega(f.txtTempoIniziale, tempi), QStringLiteral("[hh:mm]"));
+        tempi->riga(f.lblSegmentoTempo, collega(f.txtSegmentoTempo, tempi), QStringLiteral("[min]"),
                     QStringLiteral("5 ÷ 30"));
-        tempi->riga(f.lblTempoFinale.testo(), collega(f.txtTempoFinale, tempi), QStringLiteral("[ora]"));
+        tempi->riga(f.lblTempoFinale, collega(f.txtTempoFinale, tempi), QStringLiteral("[hh:mm]"));
         colonna()->addWidget(tempi);
+        aggiungiAiuto(QStringLiteral("Descrizione del parametro"))->figura("TempiModellazione");
         chiudiDisposizione();
     }
 };

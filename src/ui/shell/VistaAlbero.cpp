@@ -6,8 +6,10 @@
 #include <QtGui/QDropEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTreeWidgetItemIterator>
+#include <algorithm>
 
 #include "shell/icone.h"
 #include "ui/icone.h"
@@ -39,9 +41,9 @@ std::string disegnoDi(const std::string& immagine) {
 VistaAlbero::VistaAlbero(frmTreeView& logica, QWidget* genitore) : QTreeWidget(genitore), logica_(logica) {
     setObjectName(q(logica.ctlTree.nome()));
     header()->hide();
-    setIndentation(16);
+    setIndentation(misura::rientroAlbero);
     setIconSize({misura::icona, misura::icona});
-    setFont(leggero(10.0));
+    setFont(leggero(punti::corpo));
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(true);
@@ -83,8 +85,9 @@ void VistaAlbero::aggiungi(const std::string& chiave, QTreeWidgetItem* padre) {
 
 void VistaAlbero::aggiorna() {
     prenotato_ = false;
-    const QSignalBlocker zitto(this);
+    QSignalBlocker zitto(this);
     inCostruzione_ = true;
+    const bool nuove = versione_ != logica_.ctlTree.versione();
     if (versione_ != logica_.ctlTree.versione()) {
         versione_ = logica_.ctlTree.versione();
         clear();
@@ -95,12 +98,39 @@ void VistaAlbero::aggiorna() {
     for (QTreeWidgetItemIterator it(this); *it != nullptr; ++it) {
         const bool scelto = chiaveDi(*it) == logica_.ctlTree.selezionato();
         (*it)->setSelected(scelto);
-        (*it)->setFont(0, scelto ? forte(10.0) : leggero(10.0));
+        (*it)->setFont(0, scelto ? forte(punti::corpo) : leggero(punti::corpo));
         if (scelto) {
             setCurrentItem(*it);
         }
     }
     inCostruzione_ = false;
+    if (nuove) {
+        zitto.unblock();
+        Q_EMIT righeNuove();
+    }
+}
+
+int VistaAlbero::larghezzaRighe() const {
+    // Every row counts, also those that are closed: the tree keeps its width when they open.
+    const QFontMetrics metrica(forte(punti::corpo));
+    int massima = 0;
+    for (QTreeWidgetItemIterator it(const_cast<VistaAlbero*>(this)); *it != nullptr; ++it) {
+        int livello = 1;
+        for (const QTreeWidgetItem* padre = (*it)->parent(); padre != nullptr; padre = padre->parent()) {
+            ++livello;
+        }
+        const int riga = livello * indentation() + misura::icona + misura::spazio;
+        massima = std::max(massima, riga + metrica.horizontalAdvance((*it)->text(0)));
+    }
+    return massima;
+}
+
+void VistaAlbero::drawRow(QPainter* pennello, const QStyleOptionViewItem& opzione, const QModelIndex& indice) const {
+    QTreeWidget::drawRow(pennello, opzione, indice);
+    if (selectionModel()->isSelected(indice)) {
+        const QRect riga = opzione.rect;
+        pennello->fillRect(QRect(0, riga.top(), misura::barraAlbero, riga.height()), qcolore(tinta::principale));
+    }
 }
 
 std::string VistaAlbero::chiaveA(QPoint posto) const {

@@ -16,7 +16,15 @@ public:
     VistaAlbero(const VistaAlbero&) = delete;
     VistaAlbero& operator=(const VistaAlbero&) = delete;
 
+    /// Room that the widest row takes, logical pixels.
+    int larghezzaRighe() const;
+
+Q_SIGNALS:
+    /// The rows were made anew.
+    void righeNuove();
+
 protected:
+    void drawRow(QPainter* pennello, const QStyleOptionViewItem& opzione, const QModelIndex& indice) const override;
     void mousePressEvent(QMouseEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;

@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/servizi/pelle.h"
 #include "ui/icone.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
@@ -86,6 +87,8 @@ void VistaMDI_Form::collegaA(MDI_Form& logica) {
     divisore_->setStretchFactor(0, 0);
     divisore_->setStretchFactor(1, 1);
     albero_->setVisible(false);
+    QObject::connect(albero_, &VistaAlbero::righeNuove, this, [this] { logica_->albero.ResizeMe(); });
+    QObject::connect(divisore_, &QSplitter::splitterMoved, this, [this](int posto) { larghezzaScelta_ = posto; });
 
     vuota_ = paginaVuota();
     pila_->addWidget(vuota_);
@@ -150,23 +153,25 @@ QWidget* VistaMDI_Form::paginaVuota() {
     pagina->setObjectName(QStringLiteral("telaio"));
     auto* piano = new QVBoxLayout(pagina);
     auto* riquadro = new Pannello(QStringLiteral("Nessun progetto aperto"), pagina);
-    riquadro->setFixedWidth(360);
+    riquadro->setFixedWidth(misura::riquadroVuoto);
     struct Voce {
         const char* testo;
         const char* chiave;
         const char* icona;
     };
-    constexpr std::array voci{Voce{"Nuovo progetto (Ctrl+N)", "mnuNuovo", "Nuovo"},
-                              Voce{"Apri progetto (Ctrl+O)", "mnuApri", "Apri"}};
+    constexpr std::array voci{Voce{"Nuovo (Ctrl+N)", "mnuNuovo", "Nuovo"}, Voce{"Apri (Ctrl+O)", "mnuApri", "Apri"}};
     for (const Voce& voce : voci) {
         auto* bottone = new QPushButton(icona(voce.icona, false), QString::fromUtf8(voce.testo), riquadro);
-        bottone->setMinimumHeight(misura::fasciaTitolo);
-        bottone->setFont(dati(10.0));
+        bottone->setFixedHeight(misura::fasciaTitolo);
+        bottone->setIconSize({misura::icona, misura::icona});
+        bottone->setFont(dati(punti::corpo));
+        bottone->setAutoDefault(true);
         bottone->setObjectName(QString::fromLatin1(voce.chiave));
         QObject::connect(bottone, &QPushButton::clicked, this,
                          [this, chiave = voce.chiave] { logica_->Menu_Click(chiave); });
         riquadro->larga(bottone);
     }
+    pagina->setFocusProxy(riquadro->findChild<QPushButton*>());
     piano->addStretch(1);
     piano->addWidget(riquadro, 0, Qt::AlignHCenter);
     piano->addStretch(2);
@@ -221,6 +226,7 @@ void VistaMDI_Form::vestiBarra(Finestra& /*finestra*/) {}
 
 void VistaMDI_Form::mostraCornice() {
     show();
+    vuota_->setFocus(Qt::OtherFocusReason);
 }
 
 void VistaMDI_Form::mostraAlbero(bool visibile) {
@@ -232,9 +238,11 @@ void VistaMDI_Form::mostraAlbero(bool visibile) {
 }
 
 void VistaMDI_Form::collocaAlbero(const Rettangolo& posto) {
-    // The told width is an upper bound: a screen of our days is wider than its sheet.
+    // The told width is an upper bound: a screen of our days is wider than its sheet. What the user chose holds.
     const int quota = std::max(larghezzaMinimaAlbero, static_cast<int>(width() * quotaAlbero));
-    const int larghezza = std::min(static_cast<int>(posto.W / twip), quota);
+    const int righe = std::max(larghezzaMinimaAlbero, albero_->larghezzaRighe() + misura::aggiuntaAlbero);
+    const int proposta = std::min({static_cast<int>(posto.W / twip), quota, righe});
+    const int larghezza = larghezzaScelta_ > 0 ? larghezzaScelta_ : proposta;
     divisore_->setSizes({larghezza, std::max(1, divisore_->width() - larghezza)});
 }
 
@@ -266,14 +274,22 @@ void VistaMDI_Form::apriSopra(Finestra& finestra) {
     dialogo->setObjectName(q(finestra.nome()));
     dialogo->setWindowTitle(q(finestra.didascalia()));
     dialogo->setWindowModality(Qt::ApplicationModal);
-    auto* piano = new QVBoxLayout(dialogo);
-    piano->setContentsMargins(0, 0, 0, 0);
+    vesti(finestra, logica_->contorno().app.configurazione.LayoutPannello);
     VistaFinestra* contenuto = creaVista(finestra, dialogo);
     if (contenuto == nullptr) {
         delete dialogo;
         return;
     }
+    auto* piano = new QVBoxLayout(dialogo);
+    const int cornice = contenuto->senzaCornice() ? 1 : 0;
+    piano->setContentsMargins(cornice, cornice, cornice, cornice);
     piano->addWidget(contenuto);
+    if (contenuto->senzaCornice()) {
+        dialogo->setWindowFlag(Qt::FramelessWindowHint);
+    }
+    if (contenuto->forma() == VistaFinestra::Forma::dialogo) {
+        piano->setSizeConstraint(QLayout::SetFixedSize);
+    }
     sopra_[&finestra] = dialogo;
     dialogo->adjustSize();
     dialogo->show();

@@ -67,6 +67,7 @@ private:
     QWidget* area_ = nullptr;
     QStackedLayout* pila_ = nullptr;
     QWidget* vuota_ = nullptr;
+    int larghezzaScelta_ = 0;  ///< of the tree, by the user's hand; 0 as long as he chose none
     std::map<const Finestra*, QPointer<VistaFinestra>> viste_;
     std::map<const Finestra*, QPointer<QDialog>> sopra_;
 };

@@ -1,8 +1,10 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmCommittenteProfessionista.h"
+#include "ui/RiquadroAiuto.h"
 #include "ui/legami.h"
 #include "ui/shell/viste.h"
+#include "ui/stile.h"
 
 namespace kelvo::ui {
 
@@ -11,27 +13,27 @@ namespace {
 class Vista final : public VistaFinestra {
 public:
     Vista(frmCommittenteProfessionista& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+        larghezzaColonna(misura::colonnaLarga);
         auto* professionista = new Pannello(q(f.frProfessionista.titolo()), corpo());
-        professionista->riga(f.lblNomeProfessionista.testo(), collega(f.txtNomeProfessionista, professionista));
-        professionista->riga(f.lblIndirizzoProfessionista.testo(),
-                             collega(f.txtIndirizzoProfessionista, professionista));
-        professionista->riga(f.lblCAPProfessionista.testo(), collega(f.txtCAPProfessionista, professionista));
-        professionista->riga(f.lblCittaProfessionista.testo(), collega(f.txtCittaProfessionista, professionista));
-        professionista->riga(f.lblProvinciaProfessionista.testo(),
-                             collega(f.txtProvinciaProfessionista, professionista));
-        professionista->riga(f.lblTelefonoProfessionista.testo(), collega(f.txtTelefonoProfessionista, professionista));
-        professionista->riga(f.lblEMailProfessionista.testo(), collega(f.txtEMailProfessionista, professionista));
+        professionista->riga(f.lblNomeProfessionista, collega(f.txtNomeProfessionista, professionista));
+        professionista->riga(f.lblIndirizzoProfessionista, collega(f.txtIndirizzoProfessionista, professionista));
+        professionista->riga(f.lblCAPProfessionista, collega(f.txtCAPProfessionista, professionista));
+        professionista->riga(f.lblCittaProfessionista, collega(f.txtCittaProfessionista, professionista));
+        professionista->riga(f.lblProvinciaProfessionista, collega(f.txtProvinciaProfessionista, professionista));
+        professionista->riga(f.lblTelefonoProfessionista, collega(f.txtTelefonoProfessionista, professionista));
+        professionista->riga(f.lblEMailProfessionista, collega(f.txtEMailProfessionista, professionista));
         colonna()->addWidget(professionista);
         auto* committente = new Pannello(q(f.frCommittente.titolo()), corpo());
-        committente->riga(f.lblNomeCommittente.testo(), collega(f.txtNomeCommittente, committente));
-        committente->riga(f.lblIndirizzoCommittente.testo(), collega(f.txtIndirizzoCommittente, committente));
-        committente->riga(f.lblCAPCommittente.testo(), collega(f.txtCAPCommittente, committente));
-        committente->riga(f.lblCittaCommittente.testo(), collega(f.txtCittaCommittente, committente));
-        committente->riga(f.lblProvinciaCommittente.testo(), collega(f.txtProvinciaCommittente, committente));
-        committente->riga(f.lblTelefonoCommittente.testo(), collega(f.txtTelefonoCommittente, committente));
-        committente->riga(f.lblEMailCommittente.testo(), collega(f.txtEMailCommittente, committente));
-        destra()->addWidget(committente);
-        destra()->addStretch(1);
+        committente->nota(QStringLiteral("non fa parte del progetto"));
+        committente->riga(f.lblNomeCommittente, collega(f.txtNomeCommittente, committente));
+        committente->riga(f.lblIndirizzoCommittente, collega(f.txtIndirizzoCommittente, committente));
+        committente->riga(f.lblCAPCommittente, collega(f.txtCAPCommittente, committente));
+        committente->riga(f.lblCittaCommittente, collega(f.txtCittaCommittente, committente));
+        committente->riga(f.lblProvinciaCommittente, collega(f.txtProvinciaCommittente, committente));
+        committente->riga(f.lblTelefonoCommittente, collega(f.txtTelefonoCommittente, committente));
+        committente->riga(f.lblEMailCommittente, collega(f.txtEMailCommittente, committente));
+        colonna()->addWidget(committente);
+        aggiungiAiuto(QStringLiteral("Descrizione del campo"))->segui(f.ctlPicture);
         chiudiDisposizione();
     }
 };

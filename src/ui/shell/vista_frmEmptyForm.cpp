@@ -14,14 +14,16 @@ namespace {
 class Vista final : public VistaFinestra {
 public:
     Vista(frmEmptyForm& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+        larghezzaColonna(misura::colonnaStretta);
         auto* titolo = collega(f.lblTitolo, corpo());
-        titolo->setFont(leggero(18.0));
+        titolo->setFont(leggero(punti::titolo));
         titolo->setWordWrap(true);
         colonna()->addWidget(titolo);
         auto* guida = collega(f.lblGuida, corpo());
+        guida->setFont(dati(punti::corpo));
         guida->setWordWrap(true);
         colonna()->addWidget(guida);
-        colonna()->addWidget(collega(f.ctlPicture, corpo()));
+        colonna()->addWidget(collega(f.ctlPicture, corpo()), 3);
         destra()->addWidget(collega(f.ctlContenuto, corpo()), 1);
         chiudiDisposizione();
     }

@@ -1,5 +1,5 @@
-#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 #include "shell/frmINFO.h"
@@ -13,13 +13,17 @@ namespace {
 
 class Vista final : public VistaFinestra {
 public:
-    Vista(frmINFO& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+    Vista(frmINFO& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {
         auto* programma = collega(f.lblProgramma, corpo());
-        programma->setFont(leggero(18.0));
+        programma->setFont(leggero(punti::titolo));
+        programma->setMinimumWidth(misura::avanzamento);
+        colonna()->setSpacing(misura::spazio);
         colonna()->addWidget(programma);
         colonna()->addWidget(collega(f.lblVersione, corpo()));
         colonna()->addWidget(collega(f.lblProduttore, corpo()));
-        colonna()->addWidget(collega(f.cmdOk, corpo()), 0, Qt::AlignRight);
+        auto* ok = qobject_cast<QPushButton*>(collega(f.cmdOk, this));
+        ok->setDefault(true);
+        alPiede(ok);
         chiudiDisposizione();
         f.allaChiusura = [this] { window()->close(); };
     }

@@ -1,5 +1,4 @@
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
@@ -16,24 +15,24 @@ namespace {
 
 class Vista final : public VistaFinestra {
 public:
-    Vista(frmInputNumeroRami& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+    Vista(frmInputNumeroRami& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {
         auto* dati = new Pannello({}, corpo());
-        dati->riga(f.lblNumeroRami.testo(), collega(f.txtNumeroRami, dati));
-        dati->larga(collega(f.ctlPicture, dati));
+        dati->setMinimumWidth(misura::avanzamento);
+        dati->riga(f.lblNumeroRami, collega(f.txtNumeroRami, dati), {}, QStringLiteral("3 ÷ 7"));
+        auto* figura = collega(f.ctlPicture, dati);
+        figura->setFixedHeight(misura::figura);
+        dati->larga(figura);
         auto* attenzione = collega(f.lblAttenzione, dati);
-        attenzione->setFont(forte(10.5));
+        attenzione->setFont(forte(punti::gruppo));
         dati->larga(attenzione);
         auto* avvertenza = collega(f.lblAvvertenza, dati);
         avvertenza->setWordWrap(true);
         dati->larga(avvertenza);
         colonna()->addWidget(dati);
-        auto* pulsanti = new QHBoxLayout;
-        pulsanti->addStretch(1);
-        auto* ok = qobject_cast<QPushButton*>(collega(f.cmdOk, corpo()));
+        auto* ok = qobject_cast<QPushButton*>(collega(f.cmdOk, this));
         ok->setDefault(true);
-        pulsanti->addWidget(ok);
-        pulsanti->addWidget(collega(f.cmdCancel, corpo()));
-        colonna()->addLayout(pulsanti);
+        alPiede(ok);
+        alPiede(collega(f.cmdCancel, this));
         chiudiDisposizione();
         chiusura_ = f.chiusura().connect([this] { window()->close(); });
     }

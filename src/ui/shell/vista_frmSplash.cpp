@@ -5,6 +5,7 @@
 #include "shell/frmSplash.h"
 #include "ui/legami.h"
 #include "ui/shell/viste.h"
+#include "ui/stile.h"
 
 namespace kelvo::ui {
 
@@ -12,11 +13,18 @@ namespace {
 
 class Vista final : public VistaFinestra {
 public:
-    Vista(frmSplash& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+    Vista(frmSplash& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {
+        auto* nome = new QLabel(q(f.didascalia()), corpo());
+        nome->setFont(leggero(punti::titolo));
+        nome->setObjectName(QStringLiteral("pagina"));
+        colonna()->addWidget(nome);
         colonna()->addWidget(collega(f.lblTesto, corpo()));
-        colonna()->addWidget(collega(f.ctlProgresso, corpo()));
+        auto* avanzamento = collega(f.ctlProgresso, corpo());
+        avanzamento->setFixedWidth(misura::avanzamento);
+        colonna()->addWidget(avanzamento);
         chiudiDisposizione();
     }
+    bool senzaCornice() const override { return true; }
 };
 
 }  // namespace

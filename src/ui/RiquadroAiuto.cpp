@@ -1,0 +1,102 @@
+#include "ui/RiquadroAiuto.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QTextBrowser>
+#include <QtWidgets/QVBoxLayout>
+
+#include "ui/Figura.h"
+#include "ui/icone.h"
+#include "ui/legame.h"
+#include "ui/legami.h"
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+QString& radice() {
+    static QString cartella;
+    return cartella;
+}
+
+/// The text of a page, found without regard to case; empty if there is none.
+QString testoPagina(const QString& pagina) {
+    const QDir dove(radice());
+    for (const QString& nome : dove.entryList({QStringLiteral("*.htm")}, QDir::Files)) {
+        QFile file(dove.filePath(nome));
+        if (nome.compare(pagina, Qt::CaseInsensitive) == 0 && file.open(QIODevice::ReadOnly)) {
+            return QString::fromUtf8(file.readAll());
+        }
+    }
+    return {};
+}
+
+/// How the pages look: sizes and colours stand here, words and order there.
+QString foglioPagine() {
+    return QStringLiteral(
+               "body { font-family: '%1'; font-size: %2pt; color: %3; }"
+               "p.nome { font-family: '%4'; margin: 0; }"
+               "p { margin: 2px 0 0 0; }"
+               ".limiti { font-size: %5pt; color: %6; }")
+        .arg(dati(punti::corpo).families().join(QStringLiteral("','")))
+        .arg(punti::corpo)
+        .arg(qcolore(tinta::inchiostro).name(), forte(punti::corpo).families().join(QStringLiteral("','")))
+        .arg(punti::nota)
+        .arg(qcolore(tinta::secondario).name());
+}
+
+}  // namespace
+
+void cartellaAiuto(const std::string& cartella) {
+    radice() = q(cartella);
+}
+
+RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidget* genitore)
+    : QFrame(genitore), aiuto_(aiuto), figura_(new Figura(this)), testo_(new QTextBrowser(this)) {
+    auto* piano = new QVBoxLayout(this);
+    piano->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
+    auto* testata = new QLabel(titolo, this);
+    testata->setObjectName(QStringLiteral("titoloPannello"));
+    testata->setFont(forte(punti::gruppo));
+    const auto linea = [this] {
+        auto* riga = new QFrame(this);
+        riga->setObjectName(QStringLiteral("rigaPannello"));
+        return riga;
+    };
+    piano->addWidget(testata);
+    piano->addWidget(linea());
+    piano->addWidget(figura_, 1);
+    piano->addWidget(linea());
+    testo_->setFixedHeight(misura::aiuto);
+    testo_->setFocusPolicy(Qt::NoFocus);
+    testo_->setOpenLinks(false);
+    testo_->document()->setDocumentMargin(0.0);
+    testo_->document()->setDefaultStyleSheet(foglioPagine());
+    testo_->setFont(dati(punti::corpo));
+    piano->addWidget(testo_);
+    auto* legame = new Legame(aiuto_, *testo_);
+    legame->mostra([this] { mostra(); });
+    setMinimumWidth(misura::aiutoLargo);
+    setObjectName(QStringLiteral("pannelloDati"));
+}
+
+void RiquadroAiuto::figura(const std::string& risorsa) {
+    risorsa_ = risorsa;
+    mostra();
+}
+
+void RiquadroAiuto::segui(Immagine& immagine) {
+    auto* legame = new Legame(immagine, *figura_);
+    legame->mostra([this, &immagine] { figura(immagine.risorsa()); });
+}
+
+void RiquadroAiuto::mostra() {
+    const QString pagina = q(aiuto_.pagina());
+    testo_->setHtml(testoPagina(pagina));
+    const std::string propria = s(pagina.section(QLatin1Char('.'), 0, 0));
+    figura_->risorsa(esisteImmagine(propria) ? propria : risorsa_);
+}
+
+}  // namespace kelvo::ui

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QtWidgets/QFrame>
+#include <string>
+
+#include "shell/servizi/controlli.h"
+
+class QTextBrowser;
+
+namespace kelvo::ui {
+
+class Figura;
+
+/// The folder of the help pages.
+void cartellaAiuto(const std::string& cartella);
+
+/// The help pane of a data window: a picture, a line, and the page of the field in use.
+///
+/// A page "Name.htm" that has a picture "Name" shows it; the others show the picture of the window.
+class RiquadroAiuto final : public QFrame {
+    Q_OBJECT
+public:
+    RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidget* genitore);
+
+    /// The picture of the window, by its resource name.
+    void figura(const std::string& risorsa);
+    /// The picture of the window is the one of a control, and follows it.
+    void segui(Immagine& immagine);
+
+private:
+    void mostra();
+
+    PannelloAiuto& aiuto_;
+    Figura* figura_;
+    QTextBrowser* testo_;
+    std::string risorsa_;
+};
+
+}  // namespace kelvo::ui

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtGui/QPixmap>
+#include <filesystem>
+#include <string>
+
+class QWidget;
+
+namespace kelvo::schermate {
+
+/// Writes pictures of widgets into a folder.
+class Fotografo {
+public:
+    /// Makes the folder where it is missing. Raises std::filesystem::filesystem_error where it cannot.
+    explicit Fotografo(const std::string& cartella);
+
+    /// Lets all pending work run, then writes "<name>.png"; the picture has the size of the widget in device pixels.
+    void scatta(QWidget& oggetto, const std::string& nome);
+    /// The same with another widget laid over the first, its corner at `posto`.
+    void scatta(QWidget& oggetto, QWidget& sopra, QPoint posto, const std::string& nome);
+
+    int scritte() const { return scritte_; }
+    /// Names of the pictures that could not be written.
+    const std::string& fallite() const { return fallite_; }
+
+private:
+    void scrivi(const QPixmap& immagine, const std::string& nome);
+
+    std::filesystem::path cartella_;
+    int scritte_ = 0;
+    std::string fallite_;
+};
+
+/// Lets the pending events run, those that these raise included.
+void lasciaCorrere();
+
+}  // namespace kelvo::schermate

@@ -1,0 +1,229 @@
+#include "schermate/Giro.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+#include <array>
+#include <filesystem>
+
+#include "shell/finestrePerChiave.h"
+#include "shell/frmSplash.h"
+#include "shell/registroFinestre.h"
+#include "shell/servizi/tBox.h"
+#include "ui/legami.h"
+#include "ui/serviziQt.h"
+
+namespace kelvo::schermate {
+
+namespace {
+
+/// A message of each kind, in words that the program says.
+struct Messaggio {
+    const char* nome;
+    Icona icona;
+    Pulsanti pulsanti;
+    const char* titolo;
+    const char* testo;
+};
+constexpr std::array messaggiMostrati{
+    Messaggio{"messaggio-critica", Icona::critica, Pulsanti::ok, "KELVO 2014 - Errore",
+              "Attenzione, non sono permessi i caratteri: \\/:*?\"<>|"},
+    Messaggio{"messaggio-esclamazione", Icona::esclamazione, Pulsanti::ok, "KELVO 2014 - Attenzione",
+              "Attenzione, i parametri di modellazione sono stati modificati.\nI dati di traffico dovranno essere "
+              "nuovamente inseriti"},
+    Messaggio{"messaggio-informazione", Icona::informazione, Pulsanti::ok, "KELVO 2014 - Informazione",
+              "Sono consentiti valori compresi tra <5> e <30> minuti"},
+    Messaggio{"messaggio-domanda", Icona::domanda, Pulsanti::siNo, "KELVO 2014 - Attenzione",
+              "Attenzione! Salvare il progetto corrente prima di chiuderlo?"},
+    Messaggio{"messaggio-domanda-annulla", Icona::domanda, Pulsanti::siNoAnnulla, "KELVO 2014 - Attenzione",
+              "Vuoi salvare la rotonda prima di uscire dal programma?"},
+    Messaggio{"messaggio-conferma", Icona::esclamazione, Pulsanti::okAnnulla, "KELVO 2014 - Attenzione",
+              "Attenzione! Sono state modificate delle opzioni: verificare con attenzione i dati precedentemente "
+              "inseriti."},
+    Messaggio{"messaggio-senza-segno", Icona::nessuna, Pulsanti::ok, "KELVO 2014", "Operazione annullata"},
+};
+
+/// A field with a text that it refuses.
+constexpr const char* chiaveRifiuto = "keyTempoModellazione";
+constexpr const char* finestraRifiuto = "frmTempoModellazione";
+constexpr const char* campoRifiuto = "txtSegmentoTempo";
+constexpr const char* testoRifiuto = "45";
+
+std::string nomeDi(const std::string& percorso) {
+    return std::filesystem::path(percorso).stem().string();
+}
+
+}  // namespace
+
+Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, SistemaFile& file)
+    : richiesta_(richiesta),
+      progetti_(richiesta.progetti.empty() ? installazione.esempi() : richiesta.progetti),
+      app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
+      cornice_(app_, stato_, {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero()}),
+      fotografo_(richiesta.cartella) {
+    registraFinestre(cornice_.finestre);
+    vista_.collegaA(cornice_);
+    app_.comune.LeggiConfigurazione();
+    cornice_.InitGraphics();
+    cornice_.Load();
+    vista_.resize(richiesta.larghezza, richiesta.altezza);
+    vista_.mostraCornice();
+    QApplication::setActiveWindow(&vista_);
+}
+
+std::string Giro::percorri() {
+    senzaProgetto();
+    std::string errori;
+    bool primo = true;
+    for (const std::string& percorso : progetti_) {
+        errori += progetto(percorso, primo);
+        primo = false;
+    }
+    dialoghi();
+    messaggi();
+    errori += nonAttesi();
+    if (!fotografo_.fallite().empty()) {
+        errori += "immagini non scritte: " + fotografo_.fallite() + "\n";
+    }
+    return errori;
+}
+
+void Giro::senzaProgetto() {
+    fotografo_.scatta(vista_, "senza-progetto");
+}
+
+std::string Giro::progetto(const std::string& percorso, bool primo) {
+    cornice_.LoadRotonda(percorso);
+    if (!stato_.ProgettoAperto) {
+        detti_.detti.clear();
+        return "il progetto '" + percorso + "' non si apre\n";
+    }
+    finestre(nomeDi(percorso));
+    if (primo) {
+        disposizioniAlbero();
+        menu();
+        campoRifiutato();
+    }
+    return nonAttesi();
+}
+
+void Giro::finestre(const std::string& progetto) {
+    std::set<std::string> fatte;
+    for (const FinestraDiChiave& riga : finestrePerChiave) {
+        const std::string chiave = std::string{riga.chiave} + (riga.perRamo ? "1" : "");
+        const std::string nome{cornice_.albero.finestra(chiave)};
+        if (!cornice_.finestre.conosce(nome) || fatte.count(nome) != 0) {
+            continue;
+        }
+        if (cornice_.albero.mostra(chiave)) {
+            fatte.insert(nome);
+            mostrate_.insert(nome);
+            fotografo_.scatta(vista_, nome + "-" + progetto);
+        }
+    }
+}
+
+void Giro::disposizioniAlbero() {
+    struct Disposizione {
+        std::int16_t valore = 0;
+        const char* nome = "";
+    };
+    constexpr std::array disposizioni{Disposizione{1, "albero-per-tipo"}, Disposizione{0, "albero-per-ramo"}};
+    for (const Disposizione& d : disposizioni) {
+        app_.comune.ScriviOpzExplorer(d.valore);
+        cornice_.LoadTreeView();
+        cornice_.albero.mostra("keyMyProject");
+        fotografo_.scatta(vista_, d.nome);
+    }
+}
+
+void Giro::menu() {
+    lasciaCorrere();
+    for (QAction* voce : vista_.menuBar()->actions()) {
+        QMenu* tendina = voce->menu();
+        if (tendina == nullptr || tendina->isEmpty() || !voce->isEnabled()) {
+            continue;
+        }
+        const QPoint posto = vista_.menuBar()->actionGeometry(voce).bottomLeft() + QPoint(0, 1);
+        vista_.menuBar()->setActiveAction(voce);
+        tendina->popup(vista_.menuBar()->mapToGlobal(posto));
+        fotografo_.scatta(vista_, *tendina, vista_.menuBar()->mapTo(&vista_, posto),
+                          ("menu-" + voce->objectName()).toStdString());
+        tendina->close();
+        vista_.menuBar()->setActiveAction(nullptr);
+    }
+}
+
+void Giro::campoRifiutato() {
+    cornice_.albero.mostra(chiaveRifiuto);
+    Finestra* finestra = cornice_.finestre.viva(finestraRifiuto);
+    if (finestra == nullptr) {
+        return;
+    }
+    lasciaCorrere();
+    for (Controllo* controllo : finestra->ordine()) {
+        auto* campo = dynamic_cast<tBox*>(controllo);
+        if (campo != nullptr && campo->nome() == campoRifiuto) {
+            if (auto* veduto = vista_.findChild<QWidget*>(ui::q(campo->nome()))) {
+                veduto->setFocus(Qt::TabFocusReason);
+            }
+            lasciaCorrere();
+            campo->scrivi(testoRifiuto);
+            campo->convalida();
+        }
+    }
+    detti_.detti.clear();  // the refusal was asked for
+    fotografo_.scatta(vista_, "campo-non-valido");
+    finestra->barra()->premi("Refresh");
+}
+
+void Giro::dialoghi() {
+    std::vector<std::string> nomi;
+    for (const std::string& nome : cornice_.finestre.nomi()) {
+        if (mostrate_.count(nome) == 0) {
+            nomi.push_back(nome);
+        }
+    }
+    const auto ritrai = [this](Finestra& finestra) {
+        vista_.apriSopra(finestra);
+        if (auto* dialogo = vista_.findChild<QDialog*>(ui::q(finestra.nome()))) {
+            fotografo_.scatta(*dialogo, finestra.nome());
+        }
+        vista_.chiudiSopra(finestra);
+        lasciaCorrere();
+    };
+    for (const std::string& nome : nomi) {
+        ritrai(cornice_.finestre.finestra(nome, cornice_.contorno()));
+        cornice_.finestre.distruggi(nome);
+    }
+    frmSplash splash(cornice_.contorno());
+    splash.ctlProgresso.valore(splash.ctlProgresso.massimo() / 2);
+    ritrai(splash);
+}
+
+void Giro::messaggi() {
+    ui::MessaggiQt veri;
+    for (const Messaggio& m : messaggiMostrati) {
+        QTimer::singleShot(0, &vista_, [this, &m] {
+            if (auto* aperto = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                fotografo_.scatta(*aperto, m.nome);
+                aperto->reject();
+            }
+        });
+        veri.mostra(m.testo, m.titolo, m.icona, m.pulsanti);
+    }
+}
+
+std::string Giro::nonAttesi() {
+    std::string errori;
+    for (const std::string& detto : detti_.detti) {
+        errori += "messaggio non atteso: " + detto + "\n";
+    }
+    detti_.detti.clear();
+    return errori;
+}
+
+}  // namespace kelvo::schermate

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "app/Applicazione.h"
+#include "schermate/Fotografo.h"
+#include "schermate/Installazione.h"
+#include "schermate/Richiesta.h"
+#include "schermate/serviziMuti.h"
+#include "shell/MDI_Form.h"
+#include "ui/shell/VistaMDI_Form.h"
+
+namespace kelvo::schermate {
+
+/// The round through the program: every window, dialogue and message, each in a picture of its own.
+class Giro {
+public:
+    Giro(const Richiesta& richiesta, const Installazione& installazione, SistemaFile& file);
+
+    /// Takes all pictures; answers what went wrong, empty for nothing.
+    std::string percorri();
+    int scritte() const { return fotografo_.scritte(); }
+
+private:
+    void senzaProgetto();
+    void dialoghi();
+    void messaggi();
+    std::string progetto(const std::string& percorso, bool primo);
+    void finestre(const std::string& progetto);
+    void disposizioniAlbero();
+    void menu();
+    void campoRifiutato();
+    /// Messages that came up without being asked for.
+    std::string nonAttesi();
+
+    Richiesta richiesta_;
+    std::vector<std::string> progetti_;
+    MessaggiMuti detti_;
+    OrologioSistema orologio_;
+    DialogoMuto dialogo_;
+    DocumentiMuti documenti_;
+    ImpostazioniMute impostazioni_;
+    CronometroMuto cronometro_;
+    Applicazione app_;
+    StatoFinestre stato_;
+    ui::VistaMDI_Form vista_;
+    MDI_Form cornice_;
+    Fotografo fotografo_;
+    std::set<std::string> mostrate_;  ///< names of the windows that were seen in the work area
+};
+
+}  // namespace kelvo::schermate
