@@ -6,11 +6,20 @@
 #include <QtGui/QFocusEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
 #include <utility>
 
 #include "ui/stile.h"
 
 namespace kelvo::ui {
+
+void mostraFallito(QWidget& widget, bool fallito) {
+    if (widget.property("fallito").toBool() != fallito) {
+        widget.setProperty("fallito", fallito);
+        widget.style()->unpolish(&widget);
+        widget.style()->polish(&widget);
+    }
+}
 
 Legame::Legame(Controllo& controllo, QWidget& oggetto) : QObject(&oggetto), controllo_(controllo), widget_(oggetto) {
     widget_.setObjectName(QString::fromStdString(controllo.nome()));
@@ -35,8 +44,13 @@ void Legame::aggiorna() {
     }
 }
 
+bool Legame::fuocoDentro() const {
+    const QWidget* fuoco = QApplication::focusWidget();
+    return fuoco == &widget_ || (fuoco != nullptr && widget_.isAncestorOf(fuoco));
+}
+
 bool Legame::fuocoPerso() {
-    if (inUscita_ || !widget_.isVisible()) {
+    if (inUscita_ || fuocoDentro() || !widget_.isVisible()) {
         return false;
     }
     inUscita_ = true;

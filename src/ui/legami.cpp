@@ -13,7 +13,6 @@
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
-#include <QtWidgets/QStyle>
 #include <QtWidgets/QTimeEdit>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolButton>
@@ -30,15 +29,6 @@ namespace {
 constexpr double corpo = 10.0;
 const QString formatoOra = QStringLiteral("HH:mm");
 const QString formatoGiorno = QStringLiteral("dd/MM/yyyy");
-
-/// Shows the failed state, which the style sheet paints.
-void mostraFallito(QWidget& widget, bool fallito) {
-    if (widget.property("fallito").toBool() != fallito) {
-        widget.setProperty("fallito", fallito);
-        widget.style()->unpolish(&widget);
-        widget.style()->polish(&widget);
-    }
-}
 
 void preparaCampo(QWidget& widget) {
     widget.setFont(dati(corpo));

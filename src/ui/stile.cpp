@@ -77,6 +77,21 @@ QTreeView::item:disabled:hover { background: transparent; }
 QStatusBar { background: {barra}; } QStatusBar::item { border: none; }
 QProgressBar { border: 1px solid {bordoCampo}; border-radius: 2px; background: white; max-height: 14px; }
 QProgressBar::chunk { background: {principale}; }
+QTableView { background: white; border: none; }
+QTableView QLineEdit, QTableView QLineEdit:focus { border: 2px solid {principale}; border-radius: 0px; padding: 0px 4px; }
+QTableView QLineEdit[fallito="true"] { border: 2px solid {errore}; background: {fondoErrore}; }
+QHeaderView { background: white; border: none; }
+QListWidget { background: white; border: 1px solid {bordoCampo}; border-radius: 2px; outline: none; }
+QListWidget:focus { border: 2px solid {principale}; }
+QListWidget::item:hover { background: {sfiorato}; }
+QListWidget::item:selected { background: {scelto}; color: {inchiostro}; }
+QListWidget:disabled { color: {spento}; background: {barra}; border-color: {bordoSpento}; }
+QTabWidget::pane { border: 1px solid {bordo}; background: white; top: -1px; }
+QTabBar::tab { background: transparent; border: 1px solid transparent; border-top-width: 3px; padding: 6px 14px; }
+QTabBar::tab:hover { background: {sfiorato}; }
+QTabBar::tab:selected { background: white; border-color: {bordo}; border-top-color: {principale}; border-bottom-color: white; }
+QTabBar::tab:disabled { color: {spento}; }
+QTabBar::tab:focus { border: 2px solid {principale}; border-top-width: 3px; }
 QWidget#piede { background: {barra}; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QDialog { background: white; }

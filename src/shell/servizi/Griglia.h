@@ -122,6 +122,8 @@ public:
     std::string testoEditor() const { return editor_ ? editor_->testo : std::string{}; }
     /// The next character typed takes the place of the whole text.
     bool tuttoScelto() const { return editor_ && editor_->tutto; }
+    /// The column of the cursor takes the character.
+    bool ammette(std::string_view carattere) const;
     /// The last text was refused.
     bool fallita() const { return fallita_; }
     /// The selected cells as text: tabs between cells, CR LF between rows; with the fixed ones that belong to them.
@@ -187,7 +189,6 @@ private:
     void apri(Editor editor);
     void chiudi();
     bool conferma();
-    bool ammesso(std::string_view carattere) const;
     void batti(const std::string& carattere);
     void giudica(const EsitoUscita& esito);
 

@@ -86,14 +86,14 @@ bool Griglia::convalida() {
     return esito.accettato;
 }
 
-bool Griglia::ammesso(std::string_view carattere) const {
+bool Griglia::ammette(std::string_view carattere) const {
     const std::string& caratteri = colonna(corrente_.colonna).regole.caratteri;
     return caratteri.empty() || caratteri.find(carattere) != std::string::npos;
 }
 
 void Griglia::batti(const std::string& carattere) {
     const RegoleCella& regole = colonna(corrente_.colonna).regole;
-    if (!ammesso(carattere)) {
+    if (!ammette(carattere)) {
         if (editor_ && regole.esclusoChiude && conferma()) {
             avanza(versoInvio, true, false);
         }
@@ -129,7 +129,7 @@ void Griglia::correggi(std::string_view testo) {
     std::string nuovo;
     std::size_t presi = 0;
     for (const std::string& carattere : caratteri(testo)) {
-        if (ammesso(carattere) && (massima == 0 || presi < massima)) {
+        if (ammette(carattere) && (massima == 0 || presi < massima)) {
             nuovo += carattere;
             ++presi;
         }
