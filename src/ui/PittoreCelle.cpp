@@ -1,7 +1,6 @@
 #include "ui/PittoreCelle.h"
 
 #include <QtCore/QStringList>
-#include <QtGui/QFontMetrics>
 #include <QtGui/QPaintDevice>
 #include <QtGui/QPainter>
 #include <QtGui/QPolygonF>
@@ -63,24 +62,33 @@ void frecceAngolo(QPainter& pittore, const QRectF& posto) {
 
 }  // namespace
 
+PittoreCelle::PittoreCelle(const Griglia& griglia)
+    : griglia_(griglia), normale_(dati(puntiCella)), forte_(forte(puntiCella)), testata_(forte(puntiTestata)) {}
+
 OrnamentoCella PittoreCelle::ornamento(Posto cella) const {
     return griglia_.ornamento ? griglia_.ornamento(cella) : OrnamentoCella{};
+}
+
+QString PittoreCelle::testo(Posto cella) const {
+    // A unit stays in one piece where the line is broken: "[veic/h]".
+    constexpr char16_t unione = 0x2060;
+    return q(griglia_.testo(cella.riga, cella.colonna))
+        .replace(QLatin1Char('/'), QLatin1Char('/') + QString(QChar(unione)));
 }
 
 bool PittoreCelle::aCapo(Posto cella) const {
     return cella.riga < griglia_.righeFisse() || griglia_.colonna(cella.colonna).aCapo;
 }
 
-QFont PittoreCelle::carattere(Posto cella) const {
+const PittoreCelle::Faccia& PittoreCelle::faccia(Posto cella) const {
     if (cella.riga < griglia_.righeFisse()) {
-        return forte(puntiTestata);
+        return testata_;
     }
-    return griglia_.tabella().cella(cella.riga, cella.colonna).grassetto ? forte(puntiCella) : dati(puntiCella);
+    return griglia_.tabella().cella(cella.riga, cella.colonna).grassetto ? forte_ : normale_;
 }
 
-int PittoreCelle::altezzaRiga() {
-    const int alta = std::max(QFontMetrics(dati(puntiCella)).height(), QFontMetrics(forte(puntiCella)).height());
-    return std::max(altezzaMinima, alta + aria);
+int PittoreCelle::altezzaRiga() const {
+    return std::max(altezzaMinima, std::max(normale_.metrica.height(), forte_.metrica.height()) + aria);
 }
 
 Qt::Alignment PittoreCelle::allineamento(Posto cella) const {
@@ -96,26 +104,25 @@ Qt::Alignment PittoreCelle::allineamento(Posto cella) const {
 }
 
 int PittoreCelle::larghezza(Posto cella) const {
-    const QFontMetrics metrica(carattere(cella));
-    const QString testo = q(griglia_.testo(cella.riga, cella.colonna));
+    const QFontMetrics& metrica = faccia(cella).metrica;
+    const QString intero = testo(cella);
     int lunga = 0;
     if (aCapo(cella)) {
-        for (const QString& parola : testo.split(QLatin1Char(' '))) {
+        for (const QString& parola : intero.split(QLatin1Char(' '))) {
             lunga = std::max(lunga, metrica.horizontalAdvance(parola));
         }
     } else {
-        lunga = metrica.horizontalAdvance(testo);
+        lunga = metrica.horizontalAdvance(intero);
     }
     const bool conSegno = ornamento(cella).segno != Segno::nessuno;
     return lunga + 2 * margineStretto + 2 + (conSegno ? static_cast<int>(latoSegno) + margineStretto : 0);
 }
 
 int PittoreCelle::altezza(Posto cella, int larghezza) const {
-    const QFontMetrics metrica(carattere(cella));
+    const QFontMetrics& metrica = faccia(cella).metrica;
     const int libera = std::max(1, larghezza - 2 * margineDi(larghezza) - 1);
-    const QRect testo = metrica.boundingRect(QRect(0, 0, libera, altezzaSenzaFine), Qt::TextWordWrap,
-                                             q(griglia_.testo(cella.riga, cella.colonna)));
-    return std::max(altezzaRiga(), testo.height() + aria);
+    const QRect preso = metrica.boundingRect(QRect(0, 0, libera, altezzaSenzaFine), Qt::TextWordWrap, testo(cella));
+    return std::max(altezzaRiga(), preso.height() + aria);
 }
 
 void PittoreCelle::dipingiSegno(QPainter& pittore, const QRectF& posto, Segno segno, const QColor& tintaSegno) const {
@@ -154,11 +161,11 @@ void PittoreCelle::dipingiDistintivo(QPainter& pittore, const QRectF& posto, Pos
     pittore.setBrush(qcolore(distintivo.fondo));
     pittore.drawRoundedRect(quadro.adjusted(0.5, 0.5, -0.5, -0.5), raggio, raggio);
     pittore.setPen(qcolore(inchiostroLeggibile(distintivo.testo, distintivo.fondo)));
-    pittore.drawText(quadro, Qt::AlignCenter, q(griglia_.testo(cella.riga, cella.colonna)));
+    pittore.drawText(quadro, Qt::AlignCenter, testo(cella));
     pittore.restore();
 }
 
-void PittoreCelle::dipingi(QPainter& pittore, const QRect& posto, Posto cella) const {
+void PittoreCelle::dipingi(QPainter& pittore, const QRect& posto, Posto cella, bool conFuoco) const {
     const Cella& contenuto = griglia_.tabella().cella(cella.riga, cella.colonna);
     const AreaCelle scelte = griglia_.selezione();
     const bool corrente = cella == griglia_.corrente();
@@ -185,9 +192,9 @@ void PittoreCelle::dipingi(QPainter& pittore, const QRect& posto, Posto cella) c
         const int lato = margineDi(posto.width());
         const int modo = static_cast<int>(allineamento(cella)) | (aCapo(cella) ? Qt::TextWordWrap : Qt::TextSingleLine);
         pittore.setPen(penna);
-        pittore.drawText(dentro.adjusted(lato, 0.0, -lato, 0.0), modo, q(contenuto.testo));
+        pittore.drawText(dentro.adjusted(lato, 0.0, -lato, 0.0), modo, testo(cella));
     }
-    if (corrente) {
+    if (corrente && conFuoco) {
         pittore.setPen(Qt::NoPen);
         pittore.setBrush(qcolore(tinta::principale));
         const double b = bordoCorrente;

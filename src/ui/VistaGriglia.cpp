@@ -86,7 +86,8 @@ public:
     DelegatoGriglia(const Griglia& griglia, const ModelloGriglia& modello, QObject* genitore)
         : QStyledItemDelegate(genitore), pittore_(griglia), modello_(modello) {}
     void paint(QPainter* pittore, const QStyleOptionViewItem& opzione, const QModelIndex& indice) const override {
-        pittore_.dipingi(*pittore, opzione.rect, modello_.posto(indice));
+        const auto* vista = qobject_cast<const VistaGriglia*>(opzione.widget);
+        pittore_.dipingi(*pittore, opzione.rect, modello_.posto(indice), vista != nullptr && vista->conFuoco());
     }
 
 private:
@@ -338,6 +339,10 @@ void VistaGriglia::contextMenuEvent(QContextMenuEvent* evento) {
     }
     const QPoint dove = tastiera ? visualRect(currentIndex()).bottomLeft() : evento->pos();
     mostraContesto(*griglia_.menuContesto, *viewport(), dove);
+}
+
+bool VistaGriglia::conFuoco() const {
+    return hasFocus() || editor_->hasFocus();
 }
 
 void VistaGriglia::focusInEvent(QFocusEvent* evento) {

@@ -24,6 +24,8 @@ public:
     void mostra();
     /// The editor of the cells; it takes the focus in the view's stead while it is open.
     QLineEdit& editor() { return *editor_; }
+    /// The keyboard is here or in the editor.
+    bool conFuoco() const;
     /// Height of the whole table without scrolling, frame included.
     int altezzaIntera() const;
 
@@ -41,6 +43,7 @@ protected:
 private:
     void prepara();
     void collegaGesti();
+    int spazio() const;
     void disponi();
     void disponiLarghezze();
     void disponiAltezze();
@@ -57,6 +60,17 @@ private:
     PittoreCelle pittore_;
     ModelloGriglia* modello_ = nullptr;
     QLineEdit* editor_ = nullptr;
+    /// What a cell read when its width was measured: of a large table only what changes is measured again.
+    struct Misurata {
+        std::string testo;
+        bool grassetto = false;
+        bool segno = false;
+        bool aCapo = false;
+        int larghezza = -1;
+    };
+    int larghezzaDi(Posto cella);
+
+    std::vector<Misurata> misurate_;
     std::vector<int> minime_;  ///< smallest width of each column, fixed ones too
     std::vector<int> larghezze_;
     unsigned versione_ = 0;

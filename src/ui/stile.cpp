@@ -83,9 +83,17 @@ QTableView QLineEdit[fallito="true"] { border: 2px solid {errore}; background: {
 QHeaderView { background: white; border: none; }
 QListWidget { background: white; border: 1px solid {bordoCampo}; border-radius: 2px; outline: none; }
 QListWidget:focus { border: 2px solid {principale}; }
+QListWidget::item { height: 24px; }
 QListWidget::item:hover { background: {sfiorato}; }
 QListWidget::item:selected { background: {scelto}; color: {inchiostro}; }
 QListWidget:disabled { color: {spento}; background: {barra}; border-color: {bordoSpento}; }
+QScrollBar:vertical { background: {barra}; border: none; width: 12px; margin: 0px; }
+QScrollBar:horizontal { background: {barra}; border: none; height: 12px; margin: 0px; }
+QScrollBar::handle { background: {bordo}; border-radius: 2px; margin: 2px; }
+QScrollBar::handle:vertical { min-height: 24px; } QScrollBar::handle:horizontal { min-width: 24px; }
+QScrollBar::handle:hover { background: {bordoCampo}; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QTabWidget::pane { border: 1px solid {bordo}; background: white; top: -1px; }
 QTabBar::tab { background: transparent; border: 1px solid transparent; border-top-width: 3px; padding: 6px 14px; }
 QTabBar::tab:hover { background: {sfiorato}; }
