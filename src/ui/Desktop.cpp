@@ -59,6 +59,8 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     CronometroQt cronometro;
     AttesaQt attesa;
     Applicazione app(piattaforma.cartellaProgramma, piattaforma.cartellaLavoro, {messaggi, orologio, piattaforma.file});
+    AppuntiQt appunti;
+    app.appunti = &appunti;
     StatoFinestre stato;
     VistaMDI_Form vista;
     MDI_Form cornice(app, stato, {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero});

@@ -6,11 +6,50 @@
 #include <QtGui/QFocusEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyle>
 #include <utility>
 
+#include "ui/icone.h"
 #include "ui/stile.h"
 
 namespace kelvo::ui {
+
+namespace {
+
+/// The sign at the left inside a field that was refused.
+void mostraSegno(QWidget& widget, bool visibile) {
+    const QString nome = QStringLiteral("segnoErrore");
+    auto* sign = widget.findChild<QLabel*>(nome, Qt::FindDirectChildrenOnly);
+    if (sign == nullptr && visibile) {
+        sign = new QLabel(&widget);
+        sign->setObjectName(nome);
+        sign->setAttribute(Qt::WA_TransparentForMouseEvents);
+        const QSize lato(misura::segnoErrore, misura::segnoErrore);
+        sign->setPixmap(segno("errore").pixmap(lato, widget.devicePixelRatioF()));
+        sign->setGeometry(QRect(QPoint(misura::spazioRighe, (misura::campo - lato.height()) / 2), lato));
+    }
+    if (sign != nullptr) {
+        sign->setVisible(visibile);
+    }
+}
+
+}  // namespace
+
+void mostraFallito(QWidget& widget, bool fallito) {
+    if (widget.property("fallito").toBool() != fallito) {
+        widget.setProperty("fallito", fallito);
+        mostraSegno(widget, fallito);
+        auto* riga = qobject_cast<QLineEdit*>(&widget);
+        riga = riga != nullptr ? riga : widget.findChild<QLineEdit*>();
+        if (riga != nullptr) {
+            riga->setTextMargins(fallito ? misura::segnoErrore + misura::canale : 0, 0, 0, 0);
+        }
+        widget.style()->unpolish(&widget);
+        widget.style()->polish(&widget);
+    }
+}
 
 Legame::Legame(Controllo& controllo, QWidget& oggetto) : QObject(&oggetto), controllo_(controllo), widget_(oggetto) {
     widget_.setObjectName(QString::fromStdString(controllo.nome()));
@@ -38,8 +77,13 @@ void Legame::aggiorna() {
     }
 }
 
+bool Legame::fuocoDentro() const {
+    const QWidget* fuoco = QApplication::focusWidget();
+    return fuoco == &widget_ || (fuoco != nullptr && widget_.isAncestorOf(fuoco));
+}
+
 bool Legame::fuocoPerso() {
-    if (inUscita_ || !widget_.isVisible()) {
+    if (inUscita_ || fuocoDentro() || !widget_.isVisible()) {
         return false;
     }
     inUscita_ = true;

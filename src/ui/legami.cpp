@@ -40,38 +40,6 @@ constexpr const char* proprietaMnemonico = "mnemonico";
 const QString formatoOra = QStringLiteral("HH:mm");
 const QString formatoGiorno = QStringLiteral("dd/MM/yyyy");
 
-/// The sign at the left inside a field that was refused.
-void mostraSegno(QWidget& widget, bool visibile) {
-    const QString nome = QStringLiteral("segnoErrore");
-    auto* sign = widget.findChild<QLabel*>(nome, Qt::FindDirectChildrenOnly);
-    if (sign == nullptr && visibile) {
-        sign = new QLabel(&widget);
-        sign->setObjectName(nome);
-        sign->setAttribute(Qt::WA_TransparentForMouseEvents);
-        const QSize lato(misura::segnoErrore, misura::segnoErrore);
-        sign->setPixmap(segno("errore").pixmap(lato, widget.devicePixelRatioF()));
-        sign->setGeometry(QRect(QPoint(misura::spazioRighe, (misura::campo - lato.height()) / 2), lato));
-    }
-    if (sign != nullptr) {
-        sign->setVisible(visibile);
-    }
-}
-
-/// Shows the failed state, which the style sheet paints.
-void mostraFallito(QWidget& widget, bool fallito) {
-    if (widget.property("fallito").toBool() != fallito) {
-        widget.setProperty("fallito", fallito);
-        mostraSegno(widget, fallito);
-        auto* riga = qobject_cast<QLineEdit*>(&widget);
-        riga = riga != nullptr ? riga : widget.findChild<QLineEdit*>();
-        if (riga != nullptr) {
-            riga->setTextMargins(fallito ? misura::segnoErrore + misura::canale : 0, 0, 0, 0);
-        }
-        widget.style()->unpolish(&widget);
-        widget.style()->polish(&widget);
-    }
-}
-
 /// A label's text with its mnemonic marked; only a label that leads to a field has one.
 QString conMnemonico(const QLabel& etichetta, QString testo) {
     if (etichetta.buddy() == nullptr) {

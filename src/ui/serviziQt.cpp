@@ -8,7 +8,9 @@
 #include <QtCore/QSettings>
 #include <QtCore/QTimer>
 #include <QtCore/QUrl>
+#include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
@@ -149,6 +151,14 @@ void CronometroQt::ogni(int millisecondi, const std::function<void()>& cosa) {
 
 void CronometroQt::ferma() {
     tempo_->stop();
+}
+
+void AppuntiQt::scrivi(const std::string& testo) {
+    QGuiApplication::clipboard()->setText(q(testo));
+}
+
+std::string AppuntiQt::leggi() const {
+    return s(QGuiApplication::clipboard()->text());
 }
 
 }  // namespace kelvo::ui

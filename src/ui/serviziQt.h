@@ -41,6 +41,13 @@ public:
                       const std::string& chiave) const override;
 };
 
+/// The clipboard of the desktop.
+class AppuntiQt final : public Appunti {
+public:
+    void scrivi(const std::string& testo) override;
+    std::string leggi() const override;
+};
+
 /// Waits in the event loop; a key or a click ends a pause.
 class AttesaQt final : public Attesa {
 public:

@@ -6,9 +6,7 @@
 #include <QtGui/QFontDatabase>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
-#include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 #include "ui/icone.h"
@@ -17,7 +15,6 @@ namespace kelvo::ui {
 
 namespace {
 
-constexpr double contrastoMinimo = 4.5;
 constexpr const char* famigliaSistema = "Segoe UI Semilight";
 constexpr const char* famigliaForteSistema = "Segoe UI Semibold";
 
@@ -30,26 +27,6 @@ QFont famiglie(std::initializer_list<const char*> nomi, double punti) {
     carattere.setFamilies(elenco);
     carattere.setPointSizeF(punti);
     return carattere;
-}
-
-double canale(std::uint8_t valore) {
-    const double v = valore / 255.0;
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-}
-
-double luminanza(Colore c) {
-    return 0.2126 * canale(c.rosso) + 0.7152 * canale(c.verde) + 0.0722 * canale(c.blu);
-}
-
-bool grigio(Colore c) {
-    return c.rosso == c.verde && c.verde == c.blu;
-}
-
-Colore verso(Colore c, Colore meta, double quanto) {
-    const auto mescola = [quanto](std::uint8_t da, std::uint8_t a) {
-        return static_cast<std::uint8_t>(std::lround(da + (a - da) * quanto));
-    };
-    return {mescola(c.rosso, meta.rosso), mescola(c.verde, meta.verde), mescola(c.blu, meta.blu)};
 }
 
 QString nomeColore(Colore c) {
@@ -158,6 +135,29 @@ QAbstractScrollArea::corner { background: {barra}; border: none; }
 QStatusBar { background: {barra}; } QStatusBar::item { border: none; }
 QProgressBar { border: 1px solid {bordoCampo}; border-radius: 2px; background: white; max-height: 14px; }
 QProgressBar::chunk { background: {principale}; }
+QTableView { background: white; border: none; }
+QTableView QLineEdit, QTableView QLineEdit:focus { border: 2px solid {principale}; border-radius: 0px; padding: 0px 4px; }
+QTableView QLineEdit[fallito="true"] { border: 2px solid {errore}; background: {fondoErrore}; }
+QHeaderView { background: white; border: none; }
+QListWidget { background: white; border: 1px solid {bordoCampo}; border-radius: 2px; outline: none; }
+QListWidget:focus { border: 2px solid {principale}; }
+QListWidget::item { height: 24px; }
+QListWidget::item:hover { background: {sfiorato}; }
+QListWidget::item:selected { background: {scelto}; color: {inchiostro}; }
+QListWidget:disabled { color: {spento}; background: {barra}; border-color: {bordoSpento}; }
+QScrollBar:vertical { background: {barra}; border: none; width: 12px; margin: 0px; }
+QScrollBar:horizontal { background: {barra}; border: none; height: 12px; margin: 0px; }
+QScrollBar::handle { background: {bordo}; border-radius: 2px; margin: 2px; }
+QScrollBar::handle:vertical { min-height: 24px; } QScrollBar::handle:horizontal { min-width: 24px; }
+QScrollBar::handle:hover { background: {bordoCampo}; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QTabWidget::pane { border: 1px solid {bordo}; background: white; top: -1px; }
+QTabBar::tab { background: transparent; border: 1px solid transparent; border-top-width: 3px; padding: 6px 14px; }
+QTabBar::tab:hover { background: {sfiorato}; }
+QTabBar::tab:selected { background: white; border-color: {bordo}; border-top-color: {principale}; border-bottom-color: white; }
+QTabBar::tab:disabled { color: {spento}; }
+QTabBar::tab:focus { border: 2px solid {principale}; border-top-width: 3px; }
 QWidget#piede { background: {barra}; }
 QDialog { background: white; }
 QDialog#frmSplash { border: 1px solid {bordoCampo}; }
@@ -232,32 +232,6 @@ QFont dati(double punti) {
 
 QFont forte(double punti) {
     return famiglie({famigliaForteSistema, "Open Sans Semibold", "Open Sans SemiBold", "Open Sans"}, punti);
-}
-
-double contrasto(Colore a, Colore b) {
-    const double alta = std::max(luminanza(a), luminanza(b));
-    const double bassa = std::min(luminanza(a), luminanza(b));
-    return (alta + 0.05) / (bassa + 0.05);
-}
-
-Colore neroOBianco(Colore sfondo) {
-    return contrasto(colori::nero, sfondo) > contrasto(colori::bianco, sfondo) ? colori::nero : colori::bianco;
-}
-
-Colore inchiostroLeggibile(Colore testo, Colore sfondo) {
-    constexpr int passi = 20;
-    if (contrasto(testo, sfondo) >= contrastoMinimo) {
-        return testo;
-    }
-    const bool chiaro = neroOBianco(sfondo) == colori::nero;
-    if (grigio(testo) && chiaro) {
-        return tinta::inchiostro;
-    }
-    Colore provato = testo;
-    for (int i = 1; i <= passi && contrasto(provato, sfondo) < contrastoMinimo; ++i) {
-        provato = verso(testo, chiaro ? colori::nero : colori::bianco, i / static_cast<double>(passi));
-    }
-    return provato;
 }
 
 void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri) {

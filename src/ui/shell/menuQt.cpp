@@ -31,6 +31,37 @@ QIcon iconaVoce(const MenuChiavi::Voce& voce) {
     return nota ? icona(std::string{ImageList2014[static_cast<std::size_t>(voce.icona)]}, false) : QIcon{};
 }
 
+void riempi(MenuChiavi& menu, const std::string& padre, QMenu& tendina, QObject& contesto);
+
+void aggiungi(MenuChiavi& menu, const MenuChiavi::Voce& voce, QMenu& tendina, QObject& contesto) {
+    QAction* azione = tendina.addAction(iconaVoce(voce), conMnemonico(voce));
+    azione->setObjectName(q(voce.chiave));
+    azione->setEnabled(voce.abilitata);
+    azione->setCheckable(voce.spuntata);
+    azione->setChecked(voce.spuntata);
+    azione->setToolTip(q(voce.nota));
+    azione->setShortcut(QKeySequence::fromString(q(voce.scorciatoia)));
+    // Queued: what the entry does may rebuild the menu that it stands in.
+    QObject::connect(
+        azione, &QAction::triggered, &contesto, [&menu, chiave = voce.chiave] { menu.premi(chiave); },
+        Qt::QueuedConnection);
+}
+
+void riempi(MenuChiavi& menu, const std::string& padre, QMenu& tendina, QObject& contesto) {
+    tendina.setToolTipsVisible(true);
+    for (const MenuChiavi::Voce* voce : menu.figli(padre)) {
+        if (voce->testo == "-") {
+            tendina.addSeparator();
+        } else if (!menu.figli(voce->chiave).empty()) {
+            QMenu* sotto = tendina.addMenu(iconaVoce(*voce), conMnemonico(*voce));
+            sotto->setEnabled(voce->abilitata);
+            riempi(menu, voce->chiave, *sotto, contesto);
+        } else {
+            aggiungi(menu, *voce, tendina, contesto);
+        }
+    }
+}
+
 class Specchio final : public QObject {
 public:
     Specchio(MenuChiavi& menu, QMenuBar& barra) : QObject(&barra), menu_(menu), barra_(barra) {}
@@ -52,37 +83,8 @@ private:
             QMenu* tendina = barra_.addMenu(conMnemonico(*voce));
             tendina->menuAction()->setObjectName(q(voce->chiave));
             tendina->setEnabled(voce->abilitata);
-            riempi(*tendina, voce->chiave);
+            riempi(menu_, voce->chiave, *tendina, *this);
         }
-    }
-
-    void riempi(QMenu& tendina, const std::string& padre) {
-        tendina.setToolTipsVisible(true);
-        for (const MenuChiavi::Voce* voce : menu_.figli(padre)) {
-            if (voce->testo == "-") {
-                tendina.addSeparator();
-            } else if (!menu_.figli(voce->chiave).empty()) {
-                QMenu* sotto = tendina.addMenu(iconaVoce(*voce), conMnemonico(*voce));
-                sotto->setEnabled(voce->abilitata);
-                riempi(*sotto, voce->chiave);
-            } else {
-                aggiungi(tendina, *voce);
-            }
-        }
-    }
-
-    void aggiungi(QMenu& tendina, const MenuChiavi::Voce& voce) {
-        QAction* azione = tendina.addAction(iconaVoce(voce), conMnemonico(voce));
-        azione->setObjectName(q(voce.chiave));
-        azione->setEnabled(voce.abilitata);
-        azione->setCheckable(voce.spuntata);
-        azione->setChecked(voce.spuntata);
-        azione->setToolTip(q(voce.nota));
-        azione->setShortcut(QKeySequence::fromString(q(voce.scorciatoia)));
-        // Queued: what the entry does may rebuild the menu that it stands in.
-        connect(
-            azione, &QAction::triggered, this, [this, chiave = voce.chiave] { menu_.premi(chiave); },
-            Qt::QueuedConnection);
     }
 
     MenuChiavi& menu_;
@@ -97,6 +99,19 @@ void collega(MenuChiavi& menu, QMenuBar& barra) {
     auto* specchio = new Specchio(menu, barra);
     auto* legame = new Legame(menu, barra);
     legame->mostra([specchio] { specchio->prenota(); });
+}
+
+void mostraContesto(MenuChiavi& menu, QWidget& oggetto, QPoint dove) {
+    const auto radici = menu.figli({});
+    if (radici.empty() || !menu.visibile() || !menu.abilitato() || menu.figli(radici.front()->chiave).empty()) {
+        return;
+    }
+    auto* tendina = new QMenu(&oggetto);
+    tendina->setObjectName(q(menu.nome()));
+    tendina->setAttribute(Qt::WA_DeleteOnClose);
+    // The entries are told after the menu has gone: the widget outlives it.
+    riempi(menu, radici.front()->chiave, *tendina, oggetto);
+    tendina->popup(oggetto.mapToGlobal(dove));
 }
 
 }  // namespace kelvo::ui

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QtCore/QRect>
+#include <QtCore/QString>
+#include <QtGui/QFont>
+#include <QtGui/QFontMetrics>
+
+#include "shell/servizi/Griglia.h"
+
+class QPainter;
+
+namespace kelvo::ui {
+
+/// Paints the cells of a grid, fixed ones too, and knows the room that they need. The colours are those of the table;
+/// only the text is painted so that it can be read.
+class PittoreCelle {
+public:
+    explicit PittoreCelle(const Griglia& griglia);
+
+    /// Paints a cell in its place, in logical pixels. The cell of the cursor is marked while the grid has the focus.
+    void dipingi(QPainter& pittore, const QRect& posto, Posto cella, bool conFuoco = false) const;
+    /// Face of a cell's text.
+    const QFont& carattere(Posto cella) const { return faccia(cella).carattere; }
+    /// Height of a row of one line.
+    int altezzaRiga() const;
+    /// Width that shows the whole text of a cell: in one line, or its longest word where the text may be broken.
+    int larghezza(Posto cella) const;
+    /// Height of the text of a cell that is broken to a width.
+    int altezza(Posto cella, int larghezza) const;
+    Qt::Alignment allineamento(Posto cella) const;
+
+private:
+    /// A face with its measures: both are dear to make and asked for cell by cell.
+    struct Faccia {
+        explicit Faccia(const QFont& font) : carattere(font), metrica(font) {}
+        QFont carattere;
+        QFontMetrics metrica;
+    };
+    const Faccia& faccia(Posto cella) const;
+    QString testo(Posto cella) const;
+    bool aCapo(Posto cella) const;
+    OrnamentoCella ornamento(Posto cella) const;
+    void dipingiSegno(QPainter& pittore, const QRectF& posto, OrnamentoCella::Segno segno, const QColor& tinta) const;
+    void dipingiDistintivo(QPainter& pittore, const QRectF& posto, Posto cella, const Distintivo& distintivo) const;
+
+    const Griglia& griglia_;
+    Faccia normale_;
+    Faccia forte_;
+    Faccia testata_;
+};
+
+}  // namespace kelvo::ui
