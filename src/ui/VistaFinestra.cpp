@@ -10,6 +10,7 @@
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 
+#include "ui/SegnoDati.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/stile.h"
@@ -126,6 +127,7 @@ QWidget* VistaFinestra::fascia() {
                                   .arg(qcolore(sfondo).name(), qcolore(neroOBianco(sfondo)).name()));
     });
     riga->addWidget(titolo, 1);
+    new SegnoDati(finestra_, *titolo);
     if (BarraStrumenti* barra = finestra_.barra()) {
         riga->addWidget(collega(*barra, banda, misura::icona, true));
     }

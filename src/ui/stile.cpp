@@ -97,6 +97,7 @@ QTreeView { background: white; border: none; outline: none; show-decoration-sele
 QTreeView::item { height: 24px; border: none; }
 QTreeView::item:hover { background: {sfiorato}; } QTreeView::item:selected { background: {scelto}; color: {inchiostro}; }
 QTreeView::item:disabled:hover { background: transparent; }
+QLabel#tastoSuggerito { border: 1px solid {bordoCampo}; border-radius: 2px; background: white; padding: 0px 4px; }
 QStatusBar { background: {barra}; } QStatusBar::item { border: none; }
 QProgressBar { border: 1px solid {bordoCampo}; border-radius: 2px; background: white; max-height: 14px; }
 QProgressBar::chunk { background: {principale}; }

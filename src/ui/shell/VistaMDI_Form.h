@@ -40,6 +40,7 @@ public:
     void mostraCornice() override;
     void mostraAlbero(bool visibile) override;
     void collocaAlbero(const Rettangolo& posto) override;
+    void scambiaFuoco() override;
     MetricheCornice metriche() const override;
     Misura schermo() const override;
     void mostraModale(Finestra& finestra) override;
@@ -58,12 +59,14 @@ protected:
 private:
     VistaFinestra* vista(Finestra& finestra);
     void creaBarraStato();
+    QWidget* creaSuggerimenti();
     void creaScorciatoie();
     QWidget* paginaVuota();
 
     MDI_Form* logica_ = nullptr;
     QSplitter* divisore_ = nullptr;
     VistaAlbero* albero_ = nullptr;
+    bool larghezzaScelta_ = false;  ///< the user moved the splitter
     QWidget* area_ = nullptr;
     QStackedLayout* pila_ = nullptr;
     QWidget* vuota_ = nullptr;

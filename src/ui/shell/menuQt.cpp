@@ -6,6 +6,7 @@
 #include <QtWidgets/QMenuBar>
 
 #include "shell/icone.h"
+#include "shell/servizi/scorciatoie.h"
 #include "ui/icone.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
@@ -72,13 +73,14 @@ private:
     }
 
     void aggiungi(QMenu& tendina, const MenuChiavi::Voce& voce) {
-        QAction* azione = tendina.addAction(iconaVoce(voce), conMnemonico(voce));
+        // The shortcut is shown only: the main window binds all of them in one place.
+        const QString tasti = voce.scorciatoia.empty() ? QString{} : QLatin1Char('\t') + q(nomeTasti(voce.scorciatoia));
+        QAction* azione = tendina.addAction(iconaVoce(voce), conMnemonico(voce) + tasti);
         azione->setObjectName(q(voce.chiave));
         azione->setEnabled(voce.abilitata);
         azione->setCheckable(voce.spuntata);
         azione->setChecked(voce.spuntata);
         azione->setToolTip(q(voce.nota));
-        azione->setShortcut(QKeySequence::fromString(q(voce.scorciatoia)));
         // Queued: what the entry does may rebuild the menu that it stands in.
         connect(
             azione, &QAction::triggered, this, [this, chiave = voce.chiave] { menu_.premi(chiave); },
