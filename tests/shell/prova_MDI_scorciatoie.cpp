@@ -34,7 +34,7 @@ public:
 class Tasti : public ::testing::Test {
 protected:
     void SetUp() override { f.cornice.Load(); }
-    ConBarra& mostra(std::vector<BarraStrumenti::Tasto> tasti) {
+    ConBarra& mostra(const std::vector<BarraStrumenti::Tasto>& tasti) {
         f.cornice.finestre.registra("frmMatriceSvolte", [tasti](const Contorno& c) {
             return std::make_unique<ConBarra>(c, "frmMatriceSvolte", tasti);
         });
