@@ -39,11 +39,14 @@ void MDI_Form::Area::colloca(Finestra& finestra, const Rettangolo& posto) {
 
 void MDI_Form::Area::nascondi(Finestra& finestra) {
     cornice_.superficie().nascondi(finestra);
+    cornice_.aggiornaSuggerimenti(nullptr);
     cornice_.copiaDiRecupero();
 }
 
 void MDI_Form::Area::vestiBarra(Finestra& finestra) {
     cornice_.superficie().vestiBarra(finestra);
+    cornice_.inPrimoPiano();
+    cornice_.aggiornaSuggerimenti(&finestra);
 }
 
 MDI_Form::MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servizi)
@@ -64,8 +67,13 @@ MDI_Form::MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servi
     finestre.registra("frmINFO", [](const Contorno& contorno) { return std::make_unique<frmINFO>(contorno); });
     finestre.allaNascita = [this](Finestra& finestra) {
         if (BarraStrumenti* barra = finestra.barra()) {
-            // A data window tells there that its data were written.
-            barra->cambiato().connect([this] { aggiornaSegno(); });
+            // A button may write the window's data to the project.
+            barra->dopoPressione = [this] { aggiornaSegno(); };
+            barra->cambiato().connect([this, &finestra] {
+                if (gestione.corrente() == &finestra) {
+                    aggiornaSuggerimenti(&finestra);
+                }
+            });
         }
     };
     finestre.allaFine = [this](Finestra& finestra) { superficie().dimentica(finestra); };
@@ -84,6 +92,7 @@ void MDI_Form::Load() {
         aggiungiVociProprie();
         albero.Load();
         riapplica();
+        aggiornaSuggerimenti(nullptr);
         servizi_.cronometro.ogni(Recupero::intervallo, [this] { copiaDiRecupero(); });
     });
 }

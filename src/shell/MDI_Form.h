@@ -89,8 +89,10 @@ public:
     void Menu_Click(const std::string& chiave);
     /// A button of the tool bar was pressed.
     void Toolbar_Click(const std::string& chiave);
-    /// Runs the menu entry of a shortcut ("Ctrl+Shift+S"), or the button of the window at hand that has it ("F5");
-    /// false if it belongs to none or that is disabled.
+    /// All shortcuts that there are, each once, in English names ("Ctrl+Enter").
+    static std::vector<std::string> scorciatoie();
+    /// Runs the menu entry of a shortcut ("Ctrl+Shift+S"), or the button of the window at hand that has it ("F5"), or
+    /// goes between tree and window; false if it belongs to none or that is disabled.
     bool scorciatoia(std::string_view tasti);
     /// Stores the project's state and sets the flags that follow it.
     void gestioneToolbar(StatoProgetto stato);
@@ -154,6 +156,8 @@ private:
     struct Comando;
     static const std::vector<Comando>& comandi();
     bool scorciatoiaFinestra(std::string_view tasti);
+    /// Tells in the status bar the keys that are of use with this window at hand; null for none.
+    void aggiornaSuggerimenti(Finestra* finestra);
     void costruisciMenu(bool perTipo);
     void aggiungiVociProprie();
     void aggiornaRecenti();

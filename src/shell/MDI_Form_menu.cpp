@@ -102,51 +102,6 @@ void MDI_Form::Toolbar_Click(const std::string& chiave) {
     aggiornaSegno();
 }
 
-bool MDI_Form::scorciatoia(std::string_view tasti) {
-    std::string_view chiave;
-    for (const ScorciatoiaAggiunta& aggiunta : scorciatoieAggiunte) {
-        if (aggiunta.tasti == tasti) {
-            chiave = aggiunta.chiave;
-        }
-    }
-    for (const MenuChiavi::Voce& voce : ctlMenu.voci()) {
-        const bool sua = chiave.empty() ? voce.scorciatoia == tasti : voce.chiave == chiave;
-        if (!sua || tasti.empty()) {
-            continue;
-        }
-        if (!voce.abilitata) {
-            return false;
-        }
-        const std::string scelta = voce.chiave;
-        ctlMenu.premi(scelta);
-        return true;
-    }
-    if (tasti == "F1") {
-        ctlToolbar.premi("Help");  // before any project the menu has no guide
-        return true;
-    }
-    return scorciatoiaFinestra(tasti);
-}
-
-bool MDI_Form::scorciatoiaFinestra(std::string_view tasti) {
-    BarraStrumenti* barra = gestione.corrente() == nullptr ? nullptr : gestione.corrente()->barra();
-    if (barra == nullptr) {
-        return false;
-    }
-    for (const ScorciatoiaFinestra& s : scorciatoieFinestra) {
-        const auto& bottoni = barra->tasti();
-        const bool suo = s.tasti == tasti && std::any_of(bottoni.begin(), bottoni.end(), [&](const auto& bottone) {
-                             return bottone.chiave == s.tasto && bottone.abilitato;
-                         });
-        if (suo) {
-            barra->premi(s.tasto);
-            aggiornaSegno();
-            return true;
-        }
-    }
-    return false;
-}
-
 void MDI_Form::Handle_Menu() {
     gestisci(app_, "MDI_Form:Handle_Menu()", [&] {
         app_.comune.LeggiOpzExplorer();
@@ -235,6 +190,7 @@ void MDI_Form::gestioneToolbar(StatoProgetto stato) {
     gestisci(app_, "MDI_Form:GestioneToolbar()", [&] {
         stato_.statoProgetto = stato;
         riapplica();
+        aggiornaSuggerimenti(gestione.corrente());
     });
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/guasto.h"
+#include "shell/menuPrincipale.h"
 
 namespace kelvo {
 
@@ -15,7 +16,9 @@ std::vector<BarraStrumenti::Tasto> tastiBarraPrincipale() {
                          .testo = std::string{riga.descrizione},
                          .suggerimento = std::string{riga.suggerimento},
                          .icona = std::string{riga.icona},
-                         .abilitato = true});
+                         .abilitato = true,
+                         .scorciatoia = std::string{scorciatoiaDiVoce(riga.argomento)},
+                         .separatoreDopo = riga.separatoreDopo});
     }
     return tasti;
 }

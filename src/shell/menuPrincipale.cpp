@@ -161,6 +161,17 @@ std::span<const RigaMenu> righeCoda() {
     return tavolaCoda;
 }
 
+std::string_view scorciatoiaDiVoce(std::string_view chiave) {
+    for (const std::span<const RigaMenu> righe : {righeFile(), righePerTipo(), righePerRamo(), righeCoda()}) {
+        for (const RigaMenu& riga : righe) {
+            if (!chiave.empty() && riga.chiave == chiave) {
+                return riga.scorciatoia;
+            }
+        }
+    }
+    return {};
+}
+
 void aggiungiMenuPrincipali(MenuChiavi& menu) {
     for (const MenuPrincipale& m : menuPrincipali) {
         menu.aggiungiMenu(std::string{m.chiave}, std::string{m.testo});

@@ -59,19 +59,20 @@ struct ScorciatoiaAggiunta {
 };
 inline constexpr std::array scorciatoieAggiunte{ScorciatoiaAggiunta{"Ctrl+Shift+S", "mnuSalva"}};
 
-/// A shortcut of a button in the tool bar of the window at hand.
-struct ScorciatoiaFinestra {
+/// Goes from the tree to the window at hand and back.
+inline constexpr std::string_view tastoAlbero = "F6";
+/// Opens the guide, before any project too.
+inline constexpr std::string_view tastoGuida = "F1";
+
+/// A key that the status bar tells beside those of the window at hand.
+struct SuggerimentoFisso {
     std::string_view tasti;
-    std::string_view tasto;
+    std::string_view parola;
 };
-inline constexpr std::array scorciatoieFinestra{
-    ScorciatoiaFinestra{"F5", "Refresh"},
-    ScorciatoiaFinestra{"F9", "keyCalcola"},
-    ScorciatoiaFinestra{"Ctrl+Enter", "AggiornaDati"},
-    ScorciatoiaFinestra{"Ctrl+I", "Archivio"},
-    ScorciatoiaFinestra{"Ctrl+P", "keyAnteprima"},
-    ScorciatoiaFinestra{"Ctrl+R", "keyRelazione"},
-};
+inline constexpr std::array suggerimentiSenzaProgetto{SuggerimentoFisso{"Ctrl+N", "Nuovo"},
+                                                      SuggerimentoFisso{"Ctrl+O", "Apri"}};
+inline constexpr SuggerimentoFisso suggerimentoAlbero{tastoAlbero, "Albero"};
+inline constexpr SuggerimentoFisso suggerimentoGuida{tastoGuida, "Guida"};
 
 /// Rows of the file menu, alike in both builds.
 std::span<const RigaMenu> righeFile();
@@ -81,6 +82,9 @@ std::span<const RigaMenu> righePerTipo();
 std::span<const RigaMenu> righePerRamo();
 /// Tools and the tail of the other menus, alike in both builds.
 std::span<const RigaMenu> righeCoda();
+
+/// Shortcut of an entry in the tables; empty for none.
+std::string_view scorciatoiaDiVoce(std::string_view chiave);
 
 /// Adds the top-level menus, empty.
 void aggiungiMenuPrincipali(MenuChiavi& menu);

@@ -20,6 +20,8 @@ public:
     virtual void mostraCornice() = 0;
     virtual void mostraAlbero(bool visibile) = 0;
     virtual void collocaAlbero(const Rettangolo& posto) = 0;
+    /// Moves the keyboard from the tree to the window at hand, or back.
+    virtual void scambiaFuoco() = 0;
     virtual MetricheCornice metriche() const = 0;
     /// Size of the screen in twips.
     virtual Misura schermo() const = 0;

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "ui/RiquadroAiuto.h"
+#include "ui/SegnoDati.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/stile.h"
@@ -253,6 +254,7 @@ QWidget* VistaFinestra::fascia() {
     legame->mostra(
         [this, titolo] { titolo->mostra(q(finestra_.pannello.testo()), finestra_.pannello.aspetto().sfondo); });
     riga->addWidget(titolo, 1);
+    new SegnoDati(finestra_, *titolo);
     if (BarraStrumenti* barra = finestra_.barra()) {
         QWidget* strumenti = collega(*barra, banda, misura::icona, true);
         strumenti->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);

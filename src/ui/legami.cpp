@@ -383,23 +383,23 @@ QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTe
     strumenti->setToolButtonStyle(conTesto ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     auto* legame = new Legame(barra, *strumenti);
     for (const BarraStrumenti::Tasto& tasto : barra.tasti()) {
-        if (tasto.chiave.empty()) {
-            strumenti->addSeparator();
-            continue;
-        }
         QAction* azione = strumenti->addAction(icona(tasto.icona, true), q(tasto.testo));
         azione->setObjectName(q(tasto.chiave));
-        azione->setToolTip(q(tasto.suggerimento));
         QObject::connect(azione, &QAction::triggered, legame, [&barra, chiave = tasto.chiave] { barra.premi(chiave); });
         if (QWidget* bottone = strumenti->widgetForAction(azione)) {
             bottone->setFocusPolicy(Qt::TabFocus);
             bottone->setFont(dati(punti::barra));
+            bottone->setAccessibleName(q(tasto.testo.empty() ? tasto.suggerimento : tasto.testo));
+        }
+        if (tasto.separatoreDopo) {
+            strumenti->addSeparator();
         }
     }
     legame->mostra([&barra, strumenti] {
         for (const BarraStrumenti::Tasto& tasto : barra.tasti()) {
             if (auto* azione = strumenti->findChild<QAction*>(q(tasto.chiave))) {
                 azione->setEnabled(tasto.abilitato);
+                azione->setToolTip(q(barra.spiegazione(tasto.chiave)));
             }
         }
     });

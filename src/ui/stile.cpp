@@ -132,6 +132,7 @@ QScrollBar::handle:hover, QScrollBar::handle:pressed { background: {bordoCampo};
 QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; border: none; background: none; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 QAbstractScrollArea::corner { background: {barra}; border: none; }
+QLabel#tastoSuggerito { border: 1px solid {bordoCampo}; border-radius: 2px; background: white; padding: 0px 4px; }
 QStatusBar { background: {barra}; } QStatusBar::item { border: none; }
 QProgressBar { border: 1px solid {bordoCampo}; border-radius: 2px; background: white; max-height: 14px; }
 QProgressBar::chunk { background: {principale}; }

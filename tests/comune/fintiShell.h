@@ -58,6 +58,7 @@ public:
     void mostraCornice() override { passi.emplace_back("mostraCornice"); }
     void mostraAlbero(bool visibile) override { alberoVisibile = visibile; }
     void collocaAlbero(const Rettangolo& dove) override { posto = dove; }
+    void scambiaFuoco() override { passi.emplace_back("scambiaFuoco"); }
     MetricheCornice metriche() const override { return altezze; }
     Misura schermo() const override { return misuraSchermo; }
     void mostraModale(Finestra& finestra) override {

@@ -46,23 +46,19 @@ std::vector<std::string> Albero::chiavi() const {
 }
 
 void Albero::testo(std::string_view chiave, const std::string& valore) {
-    trova(chiave).testo = valore;
-    segna();
+    muta(trova(chiave).testo, valore);
 }
 
 void Albero::colore(std::string_view chiave, Colore valore) {
-    trova(chiave).ForeColor = valore;
-    segna();
+    muta(trova(chiave).ForeColor, valore);
 }
 
 void Albero::annota(std::string_view chiave, const std::string& nota) {
-    trova(chiave).nota = nota;
-    segna();
+    muta(trova(chiave).nota, nota);
 }
 
 void Albero::espandi(std::string_view chiave, bool valore) {
-    trova(chiave).espanso = valore;
-    segna();
+    muta(trova(chiave).espanso, valore);
 }
 
 void Albero::seleziona(std::string_view chiave) {

@@ -58,6 +58,14 @@ private:
         ++versione_;
         cambiato().emit();
     }
+    /// Writes a property of a node; only a change counts.
+    template <class T>
+    void muta(T& campo, const T& valore) {
+        if (!(campo == valore)) {
+            campo = valore;
+            segna();
+        }
+    }
 
     std::map<std::string, Nodo, std::less<>> nodi_;
     std::vector<std::string> radici_;

@@ -8,9 +8,9 @@ namespace kelvo {
 namespace {
 
 std::vector<BarraStrumenti::Tasto> tastiDati() {
-    return {{"Archivio", "Archivio", "Importa da un altro progetto (Ctrl+I)", "Archivio", true},
-            {"AggiornaDati", "Aggiorna dati", "Scrive i dati nel progetto (Ctrl+Invio)", "AggiornaDati", true},
-            {"Refresh", "Refresh", "Rilegge i dati del progetto (F5)", "Refresh", true}};
+    return {{"Archivio", "Archivio", "Importa da un altro progetto", "Archivio", true},
+            {"AggiornaDati", "Aggiorna dati", "Scrive i dati nel progetto", "AggiornaDati", true},
+            {"Refresh", "Refresh", "Rilegge i dati del progetto", "Refresh", true}};
 }
 
 }  // namespace
@@ -19,7 +19,9 @@ Finestra::Finestra(Contorno contorno, std::string nome, std::string didascalia)
     : pannello("pannello", didascalia),
       contorno_(contorno),
       nome_(std::move(nome)),
-      didascalia_(std::move(didascalia)) {}
+      didascalia_(std::move(didascalia)) {
+    segno.visibile(false);
+}
 
 void Finestra::ordina(const std::vector<Controllo*>& controlli) {
     ordine_ = controlli;
@@ -112,10 +114,8 @@ FinestraDati::FinestraDati(Contorno contorno, std::string nome, std::string dida
 }
 
 void FinestraDati::DatiAllineati(bool valore) {
-    if (datiAllineati_ != valore) {
-        datiAllineati_ = valore;
-        pannello.cambiato().emit();
-    }
+    datiAllineati_ = valore;
+    segno.visibile(!valore);
 }
 
 void FinestraDati::premuto(const std::string& chiave) {

@@ -33,6 +33,8 @@ public:
     const std::vector<Controllo*>& ordine() const { return ordine_; }
     /// The caption panel.
     Etichetta pannello;
+    /// Stands beside the caption while the window's data are not those of the project; its text says so.
+    Etichetta segno{"segnoDati", "Dati non ancora registrati"};
     /// The tool bar, if the window has one.
     virtual BarraStrumenti* barra() { return nullptr; }
 
@@ -111,7 +113,7 @@ public:
     BarraStrumenti* barra() override { return &ctlToolbar; }
 
     /// True after ReadData and SaveData, false once a field that was left differs from the project.
-    /// The caption panel signals its change.
+    /// The mark beside the caption follows it.
     bool DatiAllineati() const { return datiAllineati_; }
 
     BarraStrumenti ctlToolbar;

@@ -4,6 +4,7 @@
 
 #include "base/guasto.h"
 #include "shell/servizi/CustodeCampi.h"
+#include "shell/servizi/scorciatoie.h"
 
 namespace kelvo {
 
@@ -44,7 +45,25 @@ std::vector<BarraStrumenti::Tasto>::iterator BarraStrumenti::cerca(std::string_v
 }
 
 bool BarraStrumenti::abilitato(std::string_view chiave) const {
-    return const_cast<BarraStrumenti*>(this)->cerca(chiave)->abilitato;
+    return tasto(chiave).abilitato;
+}
+
+std::string BarraStrumenti::scorciatoia(std::string_view chiave) const {
+    const Tasto& trovato = tasto(chiave);
+    return trovato.scorciatoia.empty() ? std::string{scorciatoiaDiTasto(chiave)} : trovato.scorciatoia;
+}
+
+std::string BarraStrumenti::spiegazione(std::string_view chiave) const {
+    const Tasto& trovato = tasto(chiave);
+    std::string testo = trovato.suggerimento;
+    const std::string tasti = scorciatoia(chiave);
+    if (!testo.empty() && !tasti.empty()) {
+        testo += " (" + nomeTasti(tasti) + ")";
+    }
+    if (!trovato.nota.empty()) {
+        testo += (testo.empty() ? "" : "\n") + trovato.nota;
+    }
+    return testo;
 }
 
 void BarraStrumenti::abilita(std::string_view chiave, bool valore) {
@@ -57,8 +76,14 @@ void BarraStrumenti::annota(std::string_view chiave, const std::string& nota) {
 
 void BarraStrumenti::premi(std::string_view chiave) {
     const auto tasto = cerca(chiave);
-    if (raggiungibile() && tasto->abilitato && allaPressione) {
-        allaPressione(tasto->chiave);
+    if (!raggiungibile() || !tasto->abilitato || !allaPressione) {
+        return;
+    }
+    // What the button does may end the window that the bar stands in.
+    const auto dopo = dopoPressione;
+    allaPressione(std::string{chiave});
+    if (dopo) {
+        dopo();
     }
 }
 

@@ -201,7 +201,9 @@ public:
         std::string suggerimento;
         std::string icona;
         bool abilitato = true;
-        std::string nota = {};  ///< why the button is closed; empty where there is nothing to tell
+        std::string nota = {};         ///< why the button is closed; empty where there is nothing to tell
+        std::string scorciatoia = {};  ///< where it is not the one that the button's key has in every window
+        bool separatoreDopo = false;   ///< a line follows
         friend bool operator==(const Tasto&, const Tasto&) = default;
     };
     BarraStrumenti(std::string nome, std::vector<Tasto> tasti) : Controllo(std::move(nome)), tasti_(std::move(tasti)) {}
@@ -214,14 +216,28 @@ public:
     /// Tells why a button is closed. Fault 9 for a key that is not there.
     void annota(std::string_view chiave, const std::string& nota);
     using Controllo::abilitato;
+    /// What the mouse is told over a button: its tooltip, its shortcut in brackets, why it is closed. Fault 9 as above.
+    std::string spiegazione(std::string_view chiave) const;
+    /// Shortcut of a button; empty for none. Fault 9 as above.
+    std::string scorciatoia(std::string_view chiave) const;
     std::function<void(const std::string&)> allaPressione;
+    /// Told after each press, when all is done; may be empty.
+    std::function<void()> dopoPressione;
 
     /// The user presses a button; nothing happens on a disabled one. Fault 9 for a key that is not there.
     void premi(std::string_view chiave);
 
 private:
     std::vector<Tasto>::iterator cerca(std::string_view chiave);
+    const Tasto& tasto(std::string_view chiave) const { return *const_cast<BarraStrumenti*>(this)->cerca(chiave); }
     std::vector<Tasto> tasti_;
+};
+
+/// A key of the keyboard that the status bar tells, and what it does.
+struct SuggerimentoTasto {
+    std::string tasto;
+    std::string parola;
+    friend bool operator==(const SuggerimentoTasto&, const SuggerimentoTasto&) = default;
 };
 
 /// One line at the foot of the main window.
@@ -233,10 +249,15 @@ public:
     /// What was last told to the user, beside the text; empty for nothing.
     const std::string& avviso() const { return avviso_; }
     void avviso(const std::string& valore) { cambia(avviso_, valore); }
+    /// Keys that are of use at this moment, four at most.
+    static constexpr std::size_t suggerimentiMassimi = 4;
+    const std::vector<SuggerimentoTasto>& suggerimenti() const { return suggerimenti_; }
+    void suggerimenti(const std::vector<SuggerimentoTasto>& valore) { cambia(suggerimenti_, valore); }
 
 private:
     std::string testo_;
     std::string avviso_;
+    std::vector<SuggerimentoTasto> suggerimenti_;
 };
 
 }  // namespace kelvo

@@ -50,7 +50,18 @@ VistaAlbero::VistaAlbero(frmTreeView& logica, QWidget* genitore) : QTreeWidget(g
     setUniformRowHeights(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     legame_ = logica_.ctlTree.cambiato().connect([this] { prenota(); });
+    QObject::connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* nodo) { aperto(nodo, true); });
+    QObject::connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* nodo) { aperto(nodo, false); });
     aggiorna();
+}
+
+void VistaAlbero::aperto(QTreeWidgetItem* nodo, bool valore) {
+    // The logic keeps what the user opened, so that a rebuild of what is seen finds it again.
+    const bool pari = versione_ == logica_.ctlTree.versione();
+    logica_.ctlTree.espandi(chiaveDi(nodo), valore);
+    if (pari) {
+        versione_ = logica_.ctlTree.versione();
+    }
 }
 
 void VistaAlbero::prenota() {
@@ -147,25 +158,46 @@ void VistaAlbero::scegli(QTreeWidgetItem* nodo) {
 }
 
 void VistaAlbero::mousePressEvent(QMouseEvent* evento) {
-    if (evento->button() == Qt::LeftButton && logica_.mousePremuto(chiaveA(evento->pos()))) {
-        evento->accept();
-        return;
+    if (evento->button() == Qt::LeftButton) {
+        premuto_.clear();
+        const std::string chiave = chiaveA(evento->pos());
+        if (logica_.mousePremuto(chiave)) {
+            evento->accept();
+            return;
+        }
+        premuto_ = chiave;
     }
     QTreeWidget::mousePressEvent(evento);
 }
 
 void VistaAlbero::mouseReleaseEvent(QMouseEvent* evento) {
     const std::string chiave = chiaveA(evento->pos());
-    if (evento->button() == Qt::LeftButton && logica_.mouseRilasciato(chiave)) {
+    if (evento->button() != Qt::LeftButton) {
+        QTreeWidget::mouseReleaseEvent(evento);
+        return;
+    }
+    const std::string premuto = std::exchange(premuto_, {});
+    if (logica_.mouseRilasciato(chiave)) {
+        aggiorna();
         evento->accept();
         return;
     }
     QTreeWidget::mouseReleaseEvent(evento);
-    const QRect riga = visualItemRect(itemAt(evento->pos()));
     // The arrow in front of a folder opens it and nothing else.
-    if (evento->button() == Qt::LeftButton && riga.contains(evento->pos())) {
+    const bool sulNodo = visualItemRect(itemAt(evento->pos())).contains(evento->pos());
+    if (sulNodo && chiave == premuto) {
         scegli(itemAt(evento->pos()));
+    } else {
+        aggiorna();
     }
+}
+
+void VistaAlbero::mouseDoubleClickEvent(QMouseEvent* evento) {
+    if (evento->button() == Qt::LeftButton && logica_.nodiDisabilitati.filtra(chiaveA(evento->pos()))) {
+        evento->accept();
+        return;
+    }
+    QTreeWidget::mouseDoubleClickEvent(evento);
 }
 
 void VistaAlbero::keyPressEvent(QKeyEvent* evento) {

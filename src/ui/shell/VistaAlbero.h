@@ -27,6 +27,7 @@ protected:
     void drawRow(QPainter* pennello, const QStyleOptionViewItem& opzione, const QModelIndex& indice) const override;
     void mousePressEvent(QMouseEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void startDrag(Qt::DropActions azioni) override;
     void dragEnterEvent(QDragEnterEvent* evento) override;
@@ -38,10 +39,12 @@ private:
     void aggiorna();
     void aggiungi(const std::string& chiave, QTreeWidgetItem* padre);
     void scegli(QTreeWidgetItem* nodo);
+    void aperto(QTreeWidgetItem* nodo, bool valore);
     std::string chiaveA(QPoint posto) const;
 
     frmTreeView& logica_;
     sigc::connection legame_;
+    std::string premuto_;  ///< key of the node that the left button went down on
     unsigned versione_ = 0;
     bool inCostruzione_ = false;
     bool prenotato_ = false;

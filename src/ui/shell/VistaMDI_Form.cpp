@@ -37,17 +37,15 @@ constexpr double twip = 15.0;  ///< to a logical pixel
 constexpr int larghezzaMinimaAlbero = 240;
 constexpr double quotaAlbero = 0.22;
 
-/// Keys of the tool bars of windows, where the window at hand has such a button.
-struct ScorciatoiaFinestra {
-    const char* tasti;
-    const char* chiave;
-};
-constexpr std::array scorciatoieFinestra{
-    ScorciatoiaFinestra{"F5", "Refresh"},          ScorciatoiaFinestra{"Ctrl+Return", "AggiornaDati"},
-    ScorciatoiaFinestra{"Ctrl+I", "Archivio"},     ScorciatoiaFinestra{"F9", "keyCalcola"},
-    ScorciatoiaFinestra{"Ctrl+P", "keyAnteprima"}, ScorciatoiaFinestra{"Ctrl+R", "keyRelazione"},
-    ScorciatoiaFinestra{"Ctrl+E", "keyExcel"},
-};
+/// The keys of the toolkit for a shortcut: both its Enter keys for one.
+QList<QKeySequence> sequenze(const std::string& tasti) {
+    const QString nome = q(tasti);
+    QList<QKeySequence> tutte{QKeySequence::fromString(nome)};
+    if (nome.contains(QStringLiteral("Enter"))) {
+        tutte << QKeySequence::fromString(QString(nome).replace(QStringLiteral("Enter"), QStringLiteral("Return")));
+    }
+    return tutte;
+}
 
 }  // namespace
 
@@ -79,7 +77,7 @@ void VistaMDI_Form::collegaA(MDI_Form& logica) {
     menuBar()->setFont(leggero(10.0));
     collega(logica.ctlMenu, *menuBar());
     QToolBar* barra = collega(logica.ctlToolbar, this, misura::iconaPrincipale, false);
-    barra->setMinimumHeight(misura::barraPrincipale);
+    barra->setFixedHeight(misura::barraPrincipale);
     addToolBar(barra);
 
     albero_ = new VistaAlbero(logica.albero, divisore_);
@@ -104,15 +102,14 @@ void VistaMDI_Form::creaBarraStato() {
     statusBar()->setSizeGripEnabled(false);
     auto* testo = new QLabel(statusBar());
     auto* avviso = new QLabel(statusBar());
-    auto* tasti = new QLabel(QStringLiteral("F6 Albero    F1 Guida"), statusBar());
-    for (QLabel* label : {testo, avviso, tasti}) {
+    for (QLabel* label : {testo, avviso}) {
         label->setFont(dati(9.0));
         label->setContentsMargins(8, 0, 8, 0);
     }
     avviso->setObjectName(QStringLiteral("avviso"));
     statusBar()->addWidget(testo);
     statusBar()->addWidget(avviso, 1);
-    statusBar()->addPermanentWidget(tasti);
+    statusBar()->addPermanentWidget(creaSuggerimenti());
     auto* legame = new Legame(logica_->ctlStatusBar, *testo);
     legame->mostra([this, testo, avviso] {
         testo->setText(q(logica_->ctlStatusBar.testo()));
@@ -121,31 +118,52 @@ void VistaMDI_Form::creaBarraStato() {
     });
 }
 
-void VistaMDI_Form::creaScorciatoie() {
-    for (const ScorciatoiaFinestra& scorciatoia : scorciatoieFinestra) {
-        auto* tasto = new QShortcut(QKeySequence::fromString(QString::fromLatin1(scorciatoia.tasti)), this);
-        QObject::connect(tasto, &QShortcut::activated, this, [this, chiave = scorciatoia.chiave] {
-            Finestra* corrente = logica_->gestione.corrente();
-            BarraStrumenti* barra = corrente == nullptr ? nullptr : corrente->barra();
-            if (barra == nullptr) {
-                return;
-            }
-            const auto& tasti = barra->tasti();
-            const bool presente =
-                std::any_of(tasti.begin(), tasti.end(), [&](const auto& t) { return t.chiave == chiave; });
-            if (presente) {
-                barra->premi(chiave);
-            }
-        });
+QWidget* VistaMDI_Form::creaSuggerimenti() {
+    auto* tutti = new QWidget(statusBar());
+    tutti->setObjectName(QStringLiteral("suggerimenti"));
+    auto* riga = new QHBoxLayout(tutti);
+    riga->setContentsMargins(8, 0, 8, 0);
+    riga->setSpacing(6);
+    std::array<std::pair<QLabel*, QLabel*>, BarraStato::suggerimentiMassimi> coppie{};
+    for (auto& [tasto, parola] : coppie) {
+        tasto = new QLabel(tutti);
+        tasto->setObjectName(QStringLiteral("tastoSuggerito"));
+        parola = new QLabel(tutti);
+        parola->setContentsMargins(0, 0, 10, 0);
+        for (QLabel* label : {tasto, parola}) {
+            label->setFont(dati(9.0));
+            riga->addWidget(label);
+        }
     }
-    auto* cambia = new QShortcut(QKeySequence(Qt::Key_F6), this);
-    QObject::connect(cambia, &QShortcut::activated, this, [this] {
-        if (albero_->hasFocus() && vistaCorrente() != nullptr) {
-            vistaCorrente()->fuocoIniziale();
-        } else if (albero_->isVisible()) {
-            albero_->setFocus(Qt::ShortcutFocusReason);
+    auto* legame = new Legame(logica_->ctlStatusBar, *tutti);
+    tutti->setObjectName(QStringLiteral("suggerimenti"));
+    legame->mostra([this, coppie] {
+        const auto& suggerimenti = logica_->ctlStatusBar.suggerimenti();
+        for (std::size_t i = 0; i < coppie.size(); ++i) {
+            const bool presente = i < suggerimenti.size();
+            coppie.at(i).first->setText(presente ? q(suggerimenti[i].tasto) : QString{});
+            coppie.at(i).second->setText(presente ? q(suggerimenti[i].parola) : QString{});
+            coppie.at(i).first->setVisible(presente);
+            coppie.at(i).second->setVisible(presente);
         }
     });
+    return tutti;
+}
+
+void VistaMDI_Form::creaScorciatoie() {
+    for (const std::string& tasti : MDI_Form::scorciatoie()) {
+        auto* scorciatoia = new QShortcut(this);
+        scorciatoia->setKeys(sequenze(tasti));
+        QObject::connect(scorciatoia, &QShortcut::activated, this, [this, tasti] { logica_->scorciatoia(tasti); });
+    }
+}
+
+void VistaMDI_Form::scambiaFuoco() {
+    if (albero_->hasFocus() && vistaCorrente() != nullptr) {
+        vistaCorrente()->fuocoIniziale();
+    } else if (albero_->isVisible()) {
+        albero_->setFocus(Qt::ShortcutFocusReason);
+    }
 }
 
 QWidget* VistaMDI_Form::paginaVuota() {

@@ -40,6 +40,7 @@ public:
     void mostraCornice() override;
     void mostraAlbero(bool visibile) override;
     void collocaAlbero(const Rettangolo& posto) override;
+    void scambiaFuoco() override;
     MetricheCornice metriche() const override;
     Misura schermo() const override;
     void mostraModale(Finestra& finestra) override;
@@ -58,6 +59,7 @@ protected:
 private:
     VistaFinestra* vista(Finestra& finestra);
     void creaBarraStato();
+    QWidget* creaSuggerimenti();
     void creaScorciatoie();
     QWidget* paginaVuota();
 

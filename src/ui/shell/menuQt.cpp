@@ -6,6 +6,7 @@
 #include <QtWidgets/QMenuBar>
 
 #include "shell/icone.h"
+#include "shell/servizi/scorciatoie.h"
 #include "ui/icone.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
@@ -34,13 +35,15 @@ QIcon iconaVoce(const MenuChiavi::Voce& voce) {
 void riempi(MenuChiavi& menu, const std::string& padre, QMenu& tendina, QObject& contesto);
 
 void aggiungi(MenuChiavi& menu, const MenuChiavi::Voce& voce, QMenu& tendina, QObject& contesto) {
-    QAction* azione = tendina.addAction(iconaVoce(voce), conMnemonico(voce));
+    // The shortcut is shown only: the main window binds all of them in one place.
+    const QString tasti = voce.scorciatoia.empty() ? QString{} : QLatin1Char('\t') + q(nomeTasti(voce.scorciatoia));
+    QAction* azione = tendina.addAction(iconaVoce(voce), conMnemonico(voce) + tasti);
     azione->setObjectName(q(voce.chiave));
     azione->setEnabled(voce.abilitata);
     azione->setCheckable(voce.spuntata);
     azione->setChecked(voce.spuntata);
-    azione->setToolTip(q(voce.nota));
-    azione->setShortcut(QKeySequence::fromString(q(voce.scorciatoia)));
+    // Without words of its own an entry would show its caption once more.
+    azione->setToolTip(voce.nota.empty() ? QStringLiteral(" ") : q(voce.nota));
     // Queued: what the entry does may rebuild the menu that it stands in.
     QObject::connect(
         azione, &QAction::triggered, &contesto, [&menu, chiave = voce.chiave] { menu.premi(chiave); },
