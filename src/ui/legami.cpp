@@ -81,7 +81,9 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     preparaCampo(*elenco);
     elenco->setEditable(campo.digitabile);
     elenco->setInsertPolicy(QComboBox::NoInsert);
-    elenco->setCompleter(nullptr);
+    if (campo.digitabile) {
+        elenco->setCompleter(nullptr);  // what is typed stands as it is typed
+    }
     auto* legame = new Legame(campo, *elenco);
     legame->allEscape = [&campo] { campo.annulla(); };
     legame->mostra([&campo, elenco] {
@@ -89,6 +91,9 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
         QStringList voci;
         for (const std::string& voce : campo.voci()) {
             voci << q(voce);
+        }
+        if (campo.scelta() < 0 && !elenco->isEditable() && !campo.testo().empty()) {
+            voci << q(campo.testo());  // what the program put there shows although the list does not hold it
         }
         QStringList presenti;
         for (int i = 0; i < elenco->count(); ++i) {
@@ -98,7 +103,7 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
             elenco->clear();
             elenco->addItems(voci);
         }
-        elenco->setCurrentIndex(campo.scelta());
+        elenco->setCurrentIndex(static_cast<int>(voci.indexOf(q(campo.testo()))));
         if (elenco->isEditable() && elenco->currentText() != q(campo.testo())) {
             elenco->setEditText(q(campo.testo()));
         }
