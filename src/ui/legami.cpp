@@ -114,9 +114,20 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     return elenco;
 }
 
+/// A picker that the Tab key leaves at once: the arrows go through its parts.
+template <class Campo>
+class Selettore final : public Campo {
+public:
+    using Campo::Campo;
+
+protected:
+    bool focusNextPrevChild(bool avanti) override { return QWidget::focusNextPrevChild(avanti); }
+};
+
 /// A picker of a time of day, or of a day.
 QWidget* collegaOra(tBox& campo, QWidget* genitore) {
-    QDateTimeEdit* ora = campo.giorno ? new QDateEdit(genitore) : static_cast<QDateTimeEdit*>(new QTimeEdit(genitore));
+    QDateTimeEdit* ora = campo.giorno ? static_cast<QDateTimeEdit*>(new Selettore<QDateEdit>(genitore))
+                                      : new Selettore<QTimeEdit>(genitore);
     const QString formato = campo.giorno ? formatoGiorno : formatoOra;
     preparaCampo(*ora);
     ora->setDisplayFormat(formato);
