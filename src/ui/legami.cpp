@@ -210,7 +210,7 @@ QAbstractButton* collega(Bottone& bottone, QWidget* genitore) {
     auto* pulsante = new QPushButton(genitore);
     pulsante->setFont(dati(corpo));
     pulsante->setMinimumHeight(misura::bottone);
-    pulsante->setAutoDefault(false);
+    pulsante->setAutoDefault(true);  // Enter presses the button that has the keyboard
     auto* legame = new Legame(bottone, *pulsante);
     legame->mostra([&bottone, pulsante] { pulsante->setText(q(bottone.testo())); });
     QObject::connect(pulsante, &QPushButton::clicked, legame, [&bottone] { bottone.premi(); });
