@@ -93,8 +93,11 @@ QIcon icona(const std::string& chiave, bool suBlu) {
 
 QPixmap immagine(const std::string& risorsa, QSize misura, double rapporto) {
     const QString file = disegno(QStringLiteral("figure"), nomeFigura(risorsa));
+    if (file.isEmpty() || misura.isEmpty()) {
+        return {};
+    }
     QSvgRenderer disegnatore(file);
-    if (file.isEmpty() || !disegnatore.isValid() || misura.isEmpty()) {
+    if (!disegnatore.isValid()) {
         return {};
     }
     disegnatore.setAspectRatioMode(Qt::KeepAspectRatio);

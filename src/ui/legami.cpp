@@ -105,6 +105,9 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
         for (const std::string& voce : campo.voci()) {
             voci << q(voce);
         }
+        if (campo.scelta() < 0 && !elenco->isEditable() && !campo.testo().empty()) {
+            voci << q(campo.testo());  // what the program put there shows although the list does not hold it
+        }
         QStringList presenti;
         for (int i = 0; i < elenco->count(); ++i) {
             presenti << elenco->itemText(i);
@@ -113,7 +116,7 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
             elenco->clear();
             elenco->addItems(voci);
         }
-        elenco->setCurrentIndex(campo.scelta());
+        elenco->setCurrentIndex(static_cast<int>(voci.indexOf(q(campo.testo()))));
         if (elenco->isEditable() && elenco->currentText() != q(campo.testo())) {
             elenco->setEditText(q(campo.testo()));
         }
@@ -124,9 +127,20 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     return elenco;
 }
 
+/// A picker that the Tab key leaves at once: the arrows go through its parts.
+template <class Campo>
+class Selettore final : public Campo {
+public:
+    using Campo::Campo;
+
+protected:
+    bool focusNextPrevChild(bool avanti) override { return QWidget::focusNextPrevChild(avanti); }
+};
+
 /// A picker of a time of day, or of a day.
 QWidget* collegaOra(tBox& campo, QWidget* genitore) {
-    QDateTimeEdit* ora = campo.giorno ? new QDateEdit(genitore) : static_cast<QDateTimeEdit*>(new QTimeEdit(genitore));
+    QDateTimeEdit* ora = campo.giorno ? static_cast<QDateTimeEdit*>(new Selettore<QDateEdit>(genitore))
+                                      : new Selettore<QTimeEdit>(genitore);
     const QString formato = campo.giorno ? formatoGiorno : formatoOra;
     preparaCampo(*ora);
     ora->setDisplayFormat(formato);
@@ -224,7 +238,7 @@ QAbstractButton* collega(Bottone& bottone, QWidget* genitore) {
     auto* pulsante = new QPushButton(genitore);
     pulsante->setFont(dati(corpo));
     pulsante->setFixedHeight(misura::bottone);
-    pulsante->setAutoDefault(false);
+    pulsante->setAutoDefault(true);  // Enter presses the button that has the keyboard
     auto* legame = new Legame(bottone, *pulsante);
     legame->mostra([&bottone, pulsante] { pulsante->setText(q(bottone.testo())); });
     QObject::connect(pulsante, &QPushButton::clicked, legame, [&bottone] { bottone.premi(); });

@@ -41,6 +41,8 @@ std::string disegnoDi(const std::string& immagine) {
 VistaAlbero::VistaAlbero(frmTreeView& logica, QWidget* genitore) : QTreeWidget(genitore), logica_(logica) {
     setObjectName(q(logica.ctlTree.nome()));
     header()->hide();
+    // A click is a command: it asks the field in focus itself, once, and leaves the keyboard there if that refuses.
+    setFocusPolicy(Qt::TabFocus);
     setIndentation(misura::rientroAlbero);
     setIconSize({misura::icona, misura::icona});
     setFont(leggero(punti::corpo));

@@ -81,6 +81,11 @@ private:
     void aggiorna() {
         prenotato_ = false;
         versione_ = menu_.versione();
+        for (QAction* azione : barra_.actions()) {
+            if (QMenu* tendina = azione->menu()) {
+                tendina->deleteLater();  // the bar only drops its entry
+            }
+        }
         barra_.clear();
         for (const MenuChiavi::Voce* voce : menu_.figli({})) {
             QMenu* tendina = barra_.addMenu(conMnemonico(*voce));
