@@ -10,6 +10,7 @@
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 
+#include "ui/DisposizioneProporzionale.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/stile.h"
@@ -22,7 +23,6 @@ constexpr double puntiTitoloPannello = 13.0;
 constexpr double puntiGruppo = 10.5;
 constexpr double puntiCorpo = 10.0;
 constexpr double puntiLimiti = 9.0;
-constexpr int larghezzaColonna = 432;
 
 }  // namespace
 
@@ -32,31 +32,35 @@ Pannello::Pannello(const QString& titolo, QWidget* genitore) : QWidget(genitore)
     auto* fuori = new QVBoxLayout(this);
     fuori->setContentsMargins(0, 0, 0, 0);
     fuori->addWidget(cornice);
-    auto* dentro = new QVBoxLayout(cornice);
-    dentro->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
+    dentro_ = new QVBoxLayout(cornice);
+    dentro_->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
     if (!titolo.isEmpty()) {
         auto* testata = new QLabel(titolo, cornice);
         testata->setObjectName(QStringLiteral("titoloPannello"));
         testata->setFont(forte(puntiGruppo));
-        dentro->addWidget(testata);
+        dentro_->addWidget(testata);
         auto* linea = new QFrame(cornice);
         linea->setObjectName(QStringLiteral("rigaPannello"));
-        dentro->addWidget(linea);
+        dentro_->addWidget(linea);
     }
     griglia_ = new QGridLayout;
     griglia_->setHorizontalSpacing(8);
     griglia_->setVerticalSpacing(6);
     griglia_->setColumnStretch(1, 1);
-    dentro->addLayout(griglia_);
+    dentro_->addLayout(griglia_);
+    dentro_->addStretch(0);  // rows keep their height, lines of text take what is left
 }
 
-void Pannello::riga(const std::string& etichetta, QWidget* campo, const QString& unita, const QString& limiti) {
-    auto* testo = new QLabel(q(etichetta), this);
-    testo->setFont(leggero(puntiCorpo));
+void Pannello::riga(Etichetta& etichetta, QWidget* campo, const QString& unita, const QString& limiti) {
+    QLabel* testo = collega(etichetta, this);
     testo->setBuddy(campo);
     testo->setMinimumHeight(misura::campo);
-    griglia_->addWidget(testo, righe_, 0);
+    const bool alto = (campo->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
+    griglia_->addWidget(testo, righe_, 0, alto ? Qt::AlignTop : Qt::Alignment{});
     griglia_->addWidget(campo, righe_, 1);
+    if (alto) {
+        dentro_->setStretchFactor(griglia_, 1);
+    }
     if (!unita.isEmpty()) {
         auto* misuraCampo = new QLabel(unita, this);
         misuraCampo->setObjectName(QStringLiteral("unita"));
@@ -77,7 +81,8 @@ void Pannello::larga(QWidget* oggetto) {
     ++righe_;
 }
 
-VistaFinestra::VistaFinestra(Finestra& finestra, QWidget* genitore) : QWidget(genitore), finestra_(finestra) {
+VistaFinestra::VistaFinestra(Finestra& finestra, QWidget* genitore, Misura disegno)
+    : QWidget(genitore), finestra_(finestra) {
     setObjectName(q(finestra.nome()));
     auto* tutto = new QVBoxLayout(this);
     tutto->setContentsMargins(0, 0, 0, 0);
@@ -93,19 +98,35 @@ VistaFinestra::VistaFinestra(Finestra& finestra, QWidget* genitore) : QWidget(ge
     scorrevole->setWidget(corpo_);
     tutto->addWidget(scorrevole, 1);
 
-    auto* piano = new QHBoxLayout(corpo_);
-    piano->setContentsMargins(misura::margine, misura::margine, misura::margine, misura::margine);
-    piano->setSpacing(misura::margine);
-    auto* sinistra = new QWidget(corpo_);
-    sinistra->setMinimumWidth(larghezzaColonna);
-    sinistra->setMaximumWidth(larghezzaColonna * 2);
-    colonna_ = new QVBoxLayout(sinistra);
-    colonna_->setContentsMargins(0, 0, 0, 0);
-    colonna_->setSpacing(misura::margine);
-    piano->addWidget(sinistra, 1);
-    destra_ = new QVBoxLayout;
-    destra_->setSpacing(misura::margine);
-    piano->addLayout(destra_, 1);
+    piano_ = new DisposizioneProporzionale(disegno, corpo_);
+    piano_->setContentsMargins(misura::margine, misura::margine, misura::margine, misura::margine);
+    legameFuoco_ = finestra_.fuocoMutato().connect([this] {
+        if (finestra_.fuoco() != nullptr) {
+            porta(*finestra_.fuoco());
+        }
+    });
+}
+
+VistaFinestra::~VistaFinestra() {
+    legameFuoco_.disconnect();
+}
+
+void VistaFinestra::colloca(QWidget* pannello, const Rettangolo& posto) {
+    piano_->aggiungi(pannello, posto);
+}
+
+QVBoxLayout* VistaFinestra::colonna(const Rettangolo& posto) {
+    auto* dentro = new QWidget(corpo_);
+    auto* colonna = new QVBoxLayout(dentro);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(misura::margine);
+    colloca(dentro, posto);
+    return colonna;
+}
+
+void VistaFinestra::ridimensiona() {
+    piano_->invalidate();
+    piano_->activate();
 }
 
 QWidget* VistaFinestra::fascia() {
@@ -132,11 +153,14 @@ QWidget* VistaFinestra::fascia() {
     return banda;
 }
 
+QWidget* VistaFinestra::widgetDi(const Controllo& controllo) const {
+    return corpo_->findChild<QWidget*>(q(controllo.nome()));
+}
+
 void VistaFinestra::chiudiDisposizione() {
-    colonna_->addStretch(1);
     QWidget* prima = nullptr;
     for (const Controllo* controllo : finestra_.ordine()) {
-        auto* widget = corpo_->findChild<QWidget*>(q(controllo->nome()));
+        QWidget* widget = widgetDi(*controllo);
         if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0) {
             continue;
         }
@@ -147,11 +171,21 @@ void VistaFinestra::chiudiDisposizione() {
     }
 }
 
+void VistaFinestra::porta(const Controllo& controllo) {
+    QWidget* widget = widgetDi(controllo);
+    if (widget != nullptr && !widget->hasFocus()) {
+        widget->setFocus(Qt::TabFocusReason);
+    }
+}
+
 void VistaFinestra::fuocoIniziale() {
+    if (finestra_.fuoco() != nullptr && finestra_.fuoco()->prendeFuoco()) {
+        porta(*finestra_.fuoco());
+        return;
+    }
     for (const Controllo* controllo : finestra_.ordine()) {
-        auto* widget = corpo_->findChild<QWidget*>(q(controllo->nome()));
-        if (widget != nullptr && controllo->prendeFuoco()) {
-            widget->setFocus(Qt::OtherFocusReason);
+        if (controllo->prendeFuoco() && widgetDi(*controllo) != nullptr) {
+            porta(*controllo);
             return;
         }
     }

@@ -6,10 +6,15 @@
 
 #include "shell/servizi/Controllo.h"
 
+class QKeyEvent;
+
 namespace kelvo::ui {
 
 /// Ties a widget to its control for as long as the widget lives: name, visible and enabled flags, focus, and a
 /// function that shows the control's content.
+///
+/// A field that refuses to be left gets the keyboard back. Until it has it, no other widget that is bound is entered or
+/// left, and the click that tried to leave does nothing.
 class Legame : public QObject {
     Q_OBJECT
 public:
@@ -20,21 +25,25 @@ public:
 
     /// What the widget shows of the control; runs at once and after each change.
     void mostra(std::function<void()> funzione);
-    /// Keys of a field: Enter goes to the next one, Escape puts back what stood there.
-    std::function<void()> allEscape;
+    /// Makes the widget a field of one line: Enter goes to the next one, Escape runs `funzione`, which puts back what
+    /// stood there and tells if it did anything; the wheel turns nothing that has not the keyboard.
+    void diRiga(std::function<bool()> funzione);
 
 protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
 private:
     void aggiorna();
-    bool fuocoPerso();
+    void fuocoAvuto();
+    void fuocoPerso(Qt::FocusReason motivo);
+    bool tasto(const QKeyEvent& evento);
+    void vaiAlProssimo();
 
     Controllo& controllo_;
     QWidget& widget_;
     std::function<void()> funzione_;
+    std::function<bool()> allEscape_;
     sigc::connection legame_;
-    bool inUscita_ = false;
 };
 
 }  // namespace kelvo::ui

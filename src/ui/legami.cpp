@@ -1,8 +1,11 @@
 #include "ui/legami.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QAction>
+#include <QtGui/QStandardItemModel>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateEdit>
@@ -19,6 +22,7 @@
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 
+#include "ui/SegnoErrore.h"
 #include "ui/icone.h"
 #include "ui/legame.h"
 #include "ui/stile.h"
@@ -37,6 +41,10 @@ void mostraFallito(QWidget& widget, bool fallito) {
         widget.setProperty("fallito", fallito);
         widget.style()->unpolish(&widget);
         widget.style()->polish(&widget);
+        QEvent mutato(QEvent::StyleChange);
+        QApplication::sendEvent(&widget, &mutato);  // pickers and lists give their text its new place
+        auto* segno = widget.findChild<SegnoErrore*>();
+        (segno == nullptr ? new SegnoErrore(widget) : segno)->setVisible(fallito);
     }
 }
 
@@ -53,7 +61,7 @@ QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
         riga->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     auto* legame = new Legame(campo, *riga);
-    legame->allEscape = [&campo] { campo.annulla(); };
+    legame->diRiga([&campo] { return campo.annulla(); });
     legame->mostra([&campo, riga] {
         if (riga->text() != q(campo.testo())) {
             const int cursore = riga->cursorPosition();
@@ -76,41 +84,61 @@ QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
     return riga;
 }
 
+/// The rows of a list as they are shown. A text that is none of them, where none may be typed, stands behind them: it
+/// is shown and cannot be picked.
+QStringList vociMostrate(const tBox& campo) {
+    QStringList voci;
+    for (const std::string& voce : campo.voci()) {
+        voci << q(voce);
+    }
+    if (!campo.digitabile && campo.scelta() < 0 && !campo.testo().empty()) {
+        voci << q(campo.testo());
+    }
+    return voci;
+}
+
+void mostraElenco(const tBox& campo, QComboBox& elenco) {
+    const QSignalBlocker zitto(&elenco);
+    const QStringList voci = vociMostrate(campo);
+    QStringList presenti;
+    for (int i = 0; i < elenco.count(); ++i) {
+        presenti << elenco.itemText(i);
+    }
+    if (voci != presenti) {
+        elenco.clear();
+        elenco.addItems(voci);
+        auto* righe = qobject_cast<QStandardItemModel*>(elenco.model());
+        for (int i = static_cast<int>(campo.voci().size()); righe != nullptr && i < elenco.count(); ++i) {
+            righe->item(i)->setEnabled(false);
+        }
+    }
+    const auto indice = static_cast<int>(voci.indexOf(q(campo.testo())));
+    if (elenco.currentIndex() != indice) {
+        elenco.setCurrentIndex(indice);
+    }
+    if (elenco.isEditable() && elenco.currentText() != q(campo.testo())) {
+        elenco.setEditText(q(campo.testo()));
+    }
+    mostraFallito(elenco, campo.fallito());
+}
+
 QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     auto* elenco = new QComboBox(genitore);
     preparaCampo(*elenco);
     elenco->setEditable(campo.digitabile);
     elenco->setInsertPolicy(QComboBox::NoInsert);
     if (campo.digitabile) {
-        elenco->setCompleter(nullptr);  // what is typed stands as it is typed
+        elenco->setCompleter(nullptr);
     }
     auto* legame = new Legame(campo, *elenco);
-    legame->allEscape = [&campo] { campo.annulla(); };
-    legame->mostra([&campo, elenco] {
-        const QSignalBlocker zitto(elenco);
-        QStringList voci;
-        for (const std::string& voce : campo.voci()) {
-            voci << q(voce);
+    legame->diRiga([&campo] { return campo.annulla(); });
+    legame->mostra([&campo, elenco] { mostraElenco(campo, *elenco); });
+    QObject::connect(elenco, &QComboBox::currentTextChanged, legame, [&campo, elenco](const QString& testo) {
+        campo.scrivi(s(testo));
+        if (elenco->currentText() != q(campo.testo())) {
+            mostraElenco(campo, *elenco);  // what the field does not take falls out
         }
-        if (campo.scelta() < 0 && !elenco->isEditable() && !campo.testo().empty()) {
-            voci << q(campo.testo());  // what the program put there shows although the list does not hold it
-        }
-        QStringList presenti;
-        for (int i = 0; i < elenco->count(); ++i) {
-            presenti << elenco->itemText(i);
-        }
-        if (voci != presenti) {
-            elenco->clear();
-            elenco->addItems(voci);
-        }
-        elenco->setCurrentIndex(static_cast<int>(voci.indexOf(q(campo.testo()))));
-        if (elenco->isEditable() && elenco->currentText() != q(campo.testo())) {
-            elenco->setEditText(q(campo.testo()));
-        }
-        mostraFallito(*elenco, campo.fallito());
     });
-    QObject::connect(elenco, &QComboBox::currentTextChanged, legame,
-                     [&campo](const QString& testo) { campo.scrivi(s(testo)); });
     return elenco;
 }
 
@@ -133,7 +161,7 @@ QWidget* collegaOra(tBox& campo, QWidget* genitore) {
     ora->setDisplayFormat(formato);
     ora->setCalendarPopup(campo.giorno);
     auto* legame = new Legame(campo, *ora);
-    legame->allEscape = [&campo] { campo.annulla(); };
+    legame->diRiga([&campo] { return campo.annulla(); });
     legame->mostra([&campo, ora, formato] {
         const QSignalBlocker zitto(ora);
         if (ora->text() != q(campo.testo())) {
@@ -199,9 +227,14 @@ QLabel* collega(Etichetta& etichetta, QWidget* genitore) {
         label->setText(q(etichetta.testo()));
         const Colore colore = etichetta.aspetto().inchiostro;
         const bool proprio = colore != colori::nero;
-        label->setStyleSheet(
+        const QString foglio =
             proprio ? QStringLiteral("color: %1").arg(qcolore(inchiostroLeggibile(colore, colori::bianco)).name())
-                    : QString{});
+                    : QString{};
+        if (label->styleSheet() != foglio) {
+            const QFont carattere = label->font();
+            label->setStyleSheet(foglio);
+            label->setFont(carattere);  // a new sheet undoes the font that a view gave the label
+        }
     });
     return label;
 }

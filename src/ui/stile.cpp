@@ -53,21 +53,27 @@ QString nomeColore(Colore c) {
     return qcolore(c).name();
 }
 
-/// The style sheet; names in braces are colours.
-QString foglio() {
+/// The style sheet; names in braces are colours, and the folder of the arrows of lists and numbers.
+QString foglio(const QString& frecce) {
     QString testo = QStringLiteral(R"(
 * { color: {inchiostro}; }
-QWidget#lavoro, QWidget#lavoro QWidget { background: white; }
-QLineEdit, QPlainTextEdit, QComboBox, QTimeEdit, QSpinBox {
+QWidget#lavoro { background: white; }
+QLineEdit, QPlainTextEdit, QComboBox, QDateTimeEdit, QSpinBox {
   border: 1px solid {bordoCampo}; border-radius: 2px; padding: 1px 6px; background: white;
   selection-background-color: {principale}; selection-color: white; }
-QLineEdit:hover, QPlainTextEdit:hover, QComboBox:hover, QTimeEdit:hover, QSpinBox:hover { border-color: {principale}; }
-QLineEdit:focus, QPlainTextEdit:focus, QComboBox:focus, QTimeEdit:focus, QSpinBox:focus {
+QLineEdit:hover, QPlainTextEdit:hover, QComboBox:hover, QDateTimeEdit:hover, QSpinBox:hover { border-color: {principale}; }
+QLineEdit:focus, QPlainTextEdit:focus, QComboBox:focus, QDateTimeEdit:focus, QSpinBox:focus {
   border: 2px solid {principale}; padding: 0px 5px; }
-QLineEdit[fallito="true"], QComboBox[fallito="true"], QTimeEdit[fallito="true"] {
-  border: 2px solid {errore}; background: {fondoErrore}; padding: 0px 5px; }
+QLineEdit[fallito="true"], QComboBox[fallito="true"], QDateTimeEdit[fallito="true"] {
+  border: 2px solid {errore}; background: {fondoErrore}; padding: 0px 5px 0px 22px; }
+QComboBox[fallito="true"] QLineEdit, QDateTimeEdit[fallito="true"] QLineEdit { background: {fondoErrore}; }
+QComboBox::drop-down { border: none; width: 22px; }
+QAbstractSpinBox::up-button, QAbstractSpinBox::down-button { border: none; width: 20px; background: transparent; }
+QDateTimeEdit::drop-down { border: none; width: 22px; }
+QComboBox::down-arrow, QAbstractSpinBox::down-arrow { image: url('{frecce}/giu.svg'); width: 9px; height: 6px; }
+QAbstractSpinBox::up-arrow { image: url('{frecce}/su.svg'); width: 9px; height: 6px; }
 QLineEdit:read-only { background: {barra}; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QTimeEdit:disabled, QSpinBox:disabled {
+QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QDateTimeEdit:disabled, QSpinBox:disabled {
   color: {spento}; background: {barra}; border-color: {bordoSpento}; }
 QPushButton { border: 1px solid {bordoCampo}; border-radius: 2px; background: {fondo}; padding: 0px 16px; min-height: 26px; min-width: 62px; }
 QPushButton:hover { background: {sfiorato}; border-color: {principale}; }
@@ -127,6 +133,7 @@ QToolTip { color: {inchiostro}; background: white; border: 1px solid {bordoCampo
     for (const auto& [nome, colore] : nomi) {
         testo.replace(QString::fromLatin1(nome), nomeColore(colore));
     }
+    testo.replace(QStringLiteral("{frecce}"), frecce);
     return testo;
 }
 
@@ -181,7 +188,8 @@ void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri) 
     }
     constexpr double corpo = 10.0;
     applicazione.setFont(leggero(corpo));
-    applicazione.setStyleSheet(foglio());
+    applicazione.setStyleSheet(
+        foglio(QDir::cleanPath(cartella.absoluteFilePath(QStringLiteral("../Immagini/frecce")))));
 }
 
 }  // namespace kelvo::ui

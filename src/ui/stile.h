@@ -48,6 +48,8 @@ inline constexpr int canale = 4;
 inline constexpr int iconaPrincipale = 28;
 inline constexpr int icona = 20;
 inline constexpr int figura = 240;
+inline constexpr int segnoErrore = 14;
+inline constexpr int bordoSegno = 6;  ///< from the left edge of a refused field to its triangle
 }  // namespace misura
 
 QColor qcolore(Colore colore);
@@ -65,7 +67,8 @@ double contrasto(Colore a, Colore b);
 /// Black or white, whichever contrasts more.
 Colore neroOBianco(Colore sfondo);
 
-/// Loads the faces from the program's folder or the system and dresses the application.
+/// Loads the faces from the folder or the system and dresses the application. The arrows of lists and numbers stand in
+/// Immagini/frecce beside that folder.
 void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri);
 
 }  // namespace kelvo::ui

@@ -11,12 +11,12 @@ namespace {
 class Vista final : public VistaFinestra {
 public:
     Vista(frmTempoModellazione& f, QWidget* genitore) : VistaFinestra(f, genitore) {
-        auto* tempi = new Pannello(QStringLiteral("Finestra di modellazione"), corpo());
-        tempi->riga(f.lblTempoIniziale.testo(), collega(f.txtTempoIniziale, tempi), QStringLiteral("[ora]"));
-        tempi->riga(f.lblSegmentoTempo.testo(), collega(f.txtSegmentoTempo, tempi), QStringLiteral("[min]"),
-                    QStringLiteral("5 ÷ 30"));
-        tempi->riga(f.lblTempoFinale.testo(), collega(f.txtTempoFinale, tempi), QStringLiteral("[ora]"));
-        colonna()->addWidget(tempi);
+        auto* tempi = new Pannello(q(f.frTempo.titolo()), corpo());
+        tempi->riga(f.lblTempoIniziale, collega(f.txtTempoIniziale, tempi), QStringLiteral("[ora]"));
+        tempi->riga(f.lblSegmentoTempo, collega(f.txtSegmentoTempo, tempi), QStringLiteral("[min]"),
+                    q(f.limitiSegmento()));
+        tempi->riga(f.lblTempoFinale, collega(f.txtTempoFinale, tempi), QStringLiteral("[ora]"));
+        colloca(tempi, {0, 0, 468, 168});
         chiudiDisposizione();
     }
 };

@@ -13,21 +13,20 @@ class Vista final : public VistaFinestra {
 public:
     Vista(frmAnagraficaRotonda& f, QWidget* genitore) : VistaFinestra(f, genitore) {
         auto* progetto = new Pannello(QStringLiteral("Dati progetto"), corpo());
-        progetto->riga(f.lblNomeFile.testo(), collega(f.txtNomeFile, progetto));
-        progetto->riga(f.lblData.testo(), collega(f.txtData, progetto));
-        progetto->riga(f.lblStatoAvanzamento.testo(), collega(f.txtStatoAvanzamento, progetto));
-        progetto->riga(f.lblNumeroRami.testo(), collega(f.txtNumeroRami, progetto));
-        colonna()->addWidget(progetto);
+        progetto->riga(f.lblNomeFile, collega(f.txtNomeFile, progetto));
+        progetto->riga(f.lblData, collega(f.txtData, progetto));
+        progetto->riga(f.lblStatoAvanzamento, collega(f.txtStatoAvanzamento, progetto));
+        progetto->riga(f.lblNumeroRami, collega(f.txtNumeroRami, progetto));
+        colloca(progetto, {0, 0, 468, 200});
         auto* luogo = new Pannello(QStringLiteral("Localizzazione"), corpo());
-        luogo->riga(f.lblLocalita.testo(), collega(f.txtLocalita, luogo));
-        luogo->riga(f.lblComune.testo(), collega(f.txtComune, luogo));
-        luogo->riga(f.lblProvincia.testo(), collega(f.txtProvincia, luogo));
-        colonna()->addWidget(luogo);
+        luogo->riga(f.lblLocalita, collega(f.txtLocalita, luogo));
+        luogo->riga(f.lblComune, collega(f.txtComune, luogo));
+        luogo->riga(f.lblProvincia, collega(f.txtProvincia, luogo));
+        colloca(luogo, {0, 216, 468, 168});
         auto* testi = new Pannello(QStringLiteral("Descrizione"), corpo());
-        testi->riga(f.lblTitolo.testo(), collega(f.txtTitolo, testi));
-        testi->riga(f.lblNote.testo(), collega(f.txtNote, testi));
-        destra()->addWidget(testi);
-        destra()->addStretch(1);
+        testi->riga(f.lblTitolo, collega(f.txtTitolo, testi));
+        testi->riga(f.lblNote, collega(f.txtNote, testi));
+        colloca(testi, {484, 0, 468, 384});
         chiudiDisposizione();
     }
 };

@@ -12,26 +12,23 @@ class Vista final : public VistaFinestra {
 public:
     Vista(frmCommittenteProfessionista& f, QWidget* genitore) : VistaFinestra(f, genitore) {
         auto* professionista = new Pannello(q(f.frProfessionista.titolo()), corpo());
-        professionista->riga(f.lblNomeProfessionista.testo(), collega(f.txtNomeProfessionista, professionista));
-        professionista->riga(f.lblIndirizzoProfessionista.testo(),
-                             collega(f.txtIndirizzoProfessionista, professionista));
-        professionista->riga(f.lblCAPProfessionista.testo(), collega(f.txtCAPProfessionista, professionista));
-        professionista->riga(f.lblCittaProfessionista.testo(), collega(f.txtCittaProfessionista, professionista));
-        professionista->riga(f.lblProvinciaProfessionista.testo(),
-                             collega(f.txtProvinciaProfessionista, professionista));
-        professionista->riga(f.lblTelefonoProfessionista.testo(), collega(f.txtTelefonoProfessionista, professionista));
-        professionista->riga(f.lblEMailProfessionista.testo(), collega(f.txtEMailProfessionista, professionista));
-        colonna()->addWidget(professionista);
+        professionista->riga(f.lblNomeProfessionista, collega(f.txtNomeProfessionista, professionista));
+        professionista->riga(f.lblIndirizzoProfessionista, collega(f.txtIndirizzoProfessionista, professionista));
+        professionista->riga(f.lblCAPProfessionista, collega(f.txtCAPProfessionista, professionista));
+        professionista->riga(f.lblCittaProfessionista, collega(f.txtCittaProfessionista, professionista));
+        professionista->riga(f.lblProvinciaProfessionista, collega(f.txtProvinciaProfessionista, professionista));
+        professionista->riga(f.lblTelefonoProfessionista, collega(f.txtTelefonoProfessionista, professionista));
+        professionista->riga(f.lblEMailProfessionista, collega(f.txtEMailProfessionista, professionista));
+        colloca(professionista, {0, 0, 468, 304});
         auto* committente = new Pannello(q(f.frCommittente.titolo()), corpo());
-        committente->riga(f.lblNomeCommittente.testo(), collega(f.txtNomeCommittente, committente));
-        committente->riga(f.lblIndirizzoCommittente.testo(), collega(f.txtIndirizzoCommittente, committente));
-        committente->riga(f.lblCAPCommittente.testo(), collega(f.txtCAPCommittente, committente));
-        committente->riga(f.lblCittaCommittente.testo(), collega(f.txtCittaCommittente, committente));
-        committente->riga(f.lblProvinciaCommittente.testo(), collega(f.txtProvinciaCommittente, committente));
-        committente->riga(f.lblTelefonoCommittente.testo(), collega(f.txtTelefonoCommittente, committente));
-        committente->riga(f.lblEMailCommittente.testo(), collega(f.txtEMailCommittente, committente));
-        destra()->addWidget(committente);
-        destra()->addStretch(1);
+        committente->riga(f.lblNomeCommittente, collega(f.txtNomeCommittente, committente));
+        committente->riga(f.lblIndirizzoCommittente, collega(f.txtIndirizzoCommittente, committente));
+        committente->riga(f.lblCAPCommittente, collega(f.txtCAPCommittente, committente));
+        committente->riga(f.lblCittaCommittente, collega(f.txtCittaCommittente, committente));
+        committente->riga(f.lblProvinciaCommittente, collega(f.txtProvinciaCommittente, committente));
+        committente->riga(f.lblTelefonoCommittente, collega(f.txtTelefonoCommittente, committente));
+        committente->riga(f.lblEMailCommittente, collega(f.txtEMailCommittente, committente));
+        colloca(committente, {484, 0, 468, 304});
         chiudiDisposizione();
     }
 };

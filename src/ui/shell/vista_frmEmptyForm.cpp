@@ -14,15 +14,17 @@ namespace {
 class Vista final : public VistaFinestra {
 public:
     Vista(frmEmptyForm& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+        auto* sinistra = colonna({0, 0, 336, 616});
         auto* titolo = collega(f.lblTitolo, corpo());
-        titolo->setFont(leggero(18.0));
+        sinistra->addWidget(titolo);
+        titolo->setFont(leggero(18.0));  // a new parent would undo it
         titolo->setWordWrap(true);
-        colonna()->addWidget(titolo);
         auto* guida = collega(f.lblGuida, corpo());
         guida->setWordWrap(true);
-        colonna()->addWidget(guida);
-        colonna()->addWidget(collega(f.ctlPicture, corpo()));
-        destra()->addWidget(collega(f.ctlContenuto, corpo()), 1);
+        sinistra->addWidget(guida);
+        sinistra->addWidget(collega(f.ctlPicture, corpo()));
+        sinistra->addStretch(1);
+        colloca(collega(f.ctlContenuto, corpo()), {352, 0, 600, 616});
         chiudiDisposizione();
     }
 };

@@ -11,15 +11,19 @@ namespace kelvo::ui {
 
 namespace {
 
+constexpr Misura misuraVista{432, 180};
+
 class Vista final : public VistaFinestra {
 public:
-    Vista(frmINFO& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+    Vista(frmINFO& f, QWidget* genitore) : VistaFinestra(f, genitore, misuraVista) {
+        auto* tutto = colonna({0, 0, misuraVista.W, misuraVista.H});
         auto* programma = collega(f.lblProgramma, corpo());
-        programma->setFont(leggero(18.0));
-        colonna()->addWidget(programma);
-        colonna()->addWidget(collega(f.lblVersione, corpo()));
-        colonna()->addWidget(collega(f.lblProduttore, corpo()));
-        colonna()->addWidget(collega(f.cmdOk, corpo()), 0, Qt::AlignRight);
+        tutto->addWidget(programma);
+        programma->setFont(leggero(18.0));  // a new parent would undo it
+        tutto->addWidget(collega(f.lblVersione, corpo()));
+        tutto->addWidget(collega(f.lblProduttore, corpo()));
+        tutto->addWidget(collega(f.cmdOk, corpo()), 0, Qt::AlignRight);
+        tutto->addStretch(1);
         chiudiDisposizione();
         f.allaChiusura = [this] { window()->close(); };
     }

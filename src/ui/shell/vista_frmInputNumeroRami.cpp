@@ -14,26 +14,30 @@ namespace kelvo::ui {
 
 namespace {
 
+constexpr Misura misuraVista{432, 420};
+
 class Vista final : public VistaFinestra {
 public:
-    Vista(frmInputNumeroRami& f, QWidget* genitore) : VistaFinestra(f, genitore) {
+    Vista(frmInputNumeroRami& f, QWidget* genitore) : VistaFinestra(f, genitore, misuraVista) {
+        auto* tutto = colonna({0, 0, misuraVista.W, misuraVista.H});
         auto* dati = new Pannello({}, corpo());
-        dati->riga(f.lblNumeroRami.testo(), collega(f.txtNumeroRami, dati));
+        dati->riga(f.lblNumeroRami, collega(f.txtNumeroRami, dati));
         dati->larga(collega(f.ctlPicture, dati));
         auto* attenzione = collega(f.lblAttenzione, dati);
-        attenzione->setFont(forte(10.5));
         dati->larga(attenzione);
+        attenzione->setFont(forte(10.5));  // a new parent would undo it
         auto* avvertenza = collega(f.lblAvvertenza, dati);
         avvertenza->setWordWrap(true);
         dati->larga(avvertenza);
-        colonna()->addWidget(dati);
+        tutto->addWidget(dati);
         auto* pulsanti = new QHBoxLayout;
         pulsanti->addStretch(1);
         auto* ok = qobject_cast<QPushButton*>(collega(f.cmdOk, corpo()));
         ok->setDefault(true);
         pulsanti->addWidget(ok);
         pulsanti->addWidget(collega(f.cmdCancel, corpo()));
-        colonna()->addLayout(pulsanti);
+        tutto->addLayout(pulsanti);
+        tutto->addStretch(1);
         chiudiDisposizione();
         chiusura_ = f.chiusura().connect([this] { window()->close(); });
     }

@@ -10,11 +10,15 @@ namespace kelvo::ui {
 
 namespace {
 
+constexpr Misura misuraVista{432, 80};
+
 class Vista final : public VistaFinestra {
 public:
-    Vista(frmSplash& f, QWidget* genitore) : VistaFinestra(f, genitore) {
-        colonna()->addWidget(collega(f.lblTesto, corpo()));
-        colonna()->addWidget(collega(f.ctlProgresso, corpo()));
+    Vista(frmSplash& f, QWidget* genitore) : VistaFinestra(f, genitore, misuraVista) {
+        auto* tutto = colonna({0, 0, misuraVista.W, misuraVista.H});
+        tutto->addWidget(collega(f.lblTesto, corpo()));
+        tutto->addWidget(collega(f.ctlProgresso, corpo()));
+        tutto->addStretch(1);
         chiudiDisposizione();
     }
 };
