@@ -14,13 +14,14 @@ namespace {
 
 namespace testi {
 constexpr const char* didascalia = "Tempi di modellazione";
+constexpr const char* gruppo = "Tempo di modellazione";
 constexpr const char* tempoIniziale = "Tempo iniziale";
 constexpr const char* segmentoTempo = "Segmento di tempo";
 constexpr const char* tempoFinale = "Tempo finale";
 constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
 constexpr const char* incompleto = "Completare tutti i campi visualizzati";
-constexpr const char* limitiSegmento = "Sono consentiti valori compresi tra <5> e <30> minuti";
+constexpr const char* fuoriLimiti = "Sono consentiti valori compresi tra <5> e <30> minuti";
 constexpr const char* modificati =
     "Attenzione, i parametri di modellazione sono stati modificati.\nI dati di traffico dovranno essere nuovamente "
     "inseriti";
@@ -79,7 +80,8 @@ frmTempoModellazione::frmTempoModellazione(const Contorno& contorno)
     : FinestraDati(contorno, "frmTempoModellazione", testi::didascalia),
       lblTempoIniziale("lblTempoIniziale", testi::tempoIniziale),
       lblSegmentoTempo("lblSegmentoTempo", testi::segmentoTempo),
-      lblTempoFinale("lblTempoFinale", testi::tempoFinale) {
+      lblTempoFinale("lblTempoFinale", testi::tempoFinale),
+      frTempo("frTempo", testi::gruppo, {&txtTempoIniziale, &txtSegmentoTempo, &txtTempoFinale}) {
     ordina(
         {&lblTempoIniziale, &txtTempoIniziale, &lblSegmentoTempo, &txtSegmentoTempo, &lblTempoFinale, &txtTempoFinale});
     txtTempoIniziale.paginaAiuto = "TempoIniziale.htm";
@@ -93,6 +95,10 @@ frmTempoModellazione::frmTempoModellazione(const Contorno& contorno)
     txtTempoIniziale.dopoUscita = [this] { dopoTempoIniziale(); };
     txtSegmentoTempo.dopoUscita = [this] { dopoSegmento(); };
     txtTempoFinale.dopoUscita = [this] { confronta(); };
+}
+
+std::string frmTempoModellazione::limitiSegmento() {
+    return fmt::format("{} ÷ {}", segmentoMinimo, segmentoMassimo);
 }
 
 void frmTempoModellazione::ReadData() {
@@ -128,7 +134,7 @@ EsitoUscita frmTempoModellazione::controllaSegmento() const {
     }
     const int minuti = minutiScritti(txtSegmentoTempo.testo());
     if (minuti < segmentoMinimo || minuti > segmentoMassimo) {
-        return EsitoUscita::rifiuto(MessaggioCampo{testi::limitiSegmento, testi::informazione, Icona::informazione});
+        return EsitoUscita::rifiuto(MessaggioCampo{testi::fuoriLimiti, testi::informazione, Icona::informazione});
     }
     return EsitoUscita::bene();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "shell/servizi/Finestra.h"
 #include "shell/servizi/tBox.h"
@@ -18,6 +19,11 @@ public:
     tBox txtSegmentoTempo{"txtSegmentoTempo", tBox::combobox};  ///< whole minutes, 5 to 30, may be typed
     Etichetta lblTempoFinale;
     tBox txtTempoFinale{"txtTempoFinale", tBox::combobox};  ///< "HH:NN", filled by FillTempoFinale
+
+    Riquadro frTempo;
+
+    /// The segment lengths that are taken, as they are shown beside the field.
+    static std::string limitiSegmento();
 
     /// Copies the times of the project to the fields. Fault 9 where the end is none of the list; it is shown all the
     /// same.

@@ -49,6 +49,10 @@ void MDI_Form::Area::vestiBarra(Finestra& finestra) {
     cornice_.aggiornaSuggerimenti(&finestra);
 }
 
+void MDI_Form::Area::ridimensiona(Finestra& finestra) {
+    cornice_.superficie().ridimensiona(finestra);
+}
+
 MDI_Form::MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servizi)
     : ctlToolbar("ctlToolbar", tastiBarraPrincipale()),
       app_(app),

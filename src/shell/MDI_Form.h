@@ -58,6 +58,7 @@ private:
         void colloca(Finestra& finestra, const Rettangolo& posto) override;
         void nascondi(Finestra& finestra) override;
         void vestiBarra(Finestra& finestra) override;
+        void ridimensiona(Finestra& finestra) override;
 
     private:
         MDI_Form& cornice_;

@@ -11,6 +11,7 @@
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 
+#include "ui/DisposizioneProporzionale.h"
 #include "ui/RiquadroAiuto.h"
 #include "ui/SegnoDati.h"
 #include "ui/legame.h"
@@ -168,23 +169,28 @@ VistaFinestra::VistaFinestra(Finestra& finestra, QWidget* genitore, Forma forma)
     setObjectName(q(finestra.nome()));
     corpo_ = new QWidget(this);
     corpo_->setObjectName(QStringLiteral("lavoro"));
-    auto* piano = new QHBoxLayout(corpo_);
-    piano->setSpacing(misura::margine);
     sinistra_ = new QWidget(corpo_);
     colonna_ = new QVBoxLayout(sinistra_);
     colonna_->setContentsMargins(0, 0, 0, 0);
     colonna_->setSpacing(misura::margine);
-    // The column takes its width first, the rest goes to what stands at its right.
-    constexpr int precedenza = 100;
-    piano->addWidget(sinistra_, precedenza);
-    destra_ = new QVBoxLayout;
+    lato_ = new QWidget(corpo_);
+    destra_ = new QVBoxLayout(lato_);
+    destra_->setContentsMargins(0, 0, 0, 0);
     destra_->setSpacing(misura::margine);
-    piano->addLayout(destra_, 1);
     if (forma == Forma::dialogo) {
         disponiDialogo();
     } else {
         disponiFinestra();
     }
+    legameFuoco_ = finestra_.fuocoMutato().connect([this] {
+        if (finestra_.fuoco() != nullptr) {
+            porta(*finestra_.fuoco());
+        }
+    });
+}
+
+VistaFinestra::~VistaFinestra() {
+    legameFuoco_.disconnect();
 }
 
 void VistaFinestra::disponiFinestra() {
@@ -199,7 +205,10 @@ void VistaFinestra::disponiFinestra() {
     scorrevole->setWidget(corpo_);
     tutto->addWidget(scorrevole, 1);
     constexpr int m = misura::margine;
-    corpo_->layout()->setContentsMargins(m, m, m, m);
+    piano_ = new DisposizioneProporzionale(disegnoFinestra, corpo_);
+    piano_->setContentsMargins(m, m, m, m);
+    colloca(sinistra_, {});
+    colloca(lato_, {});
     larghezzaColonna(misura::colonna);
 }
 
@@ -208,13 +217,37 @@ void VistaFinestra::disponiDialogo() {
     tutto->setContentsMargins(0, 0, 0, 0);
     tutto->setSpacing(0);
     tutto->addWidget(corpo_, 1);
+    auto* piano = new QHBoxLayout(corpo_);
+    piano->setSpacing(misura::margine);
     constexpr int m = misura::margineDialogo;
-    corpo_->layout()->setContentsMargins(m, m, m, m);
+    piano->setContentsMargins(m, m, m, m);
+    // The column takes its width first, the rest goes to what stands at its right.
+    constexpr int precedenza = 100;
+    piano->addWidget(sinistra_, precedenza);
+    piano->addWidget(lato_, 1);
 }
 
 void VistaFinestra::larghezzaColonna(int larghezza) {
     sinistra_->setMinimumWidth(std::min(larghezza, misura::colonnaMinima));
-    sinistra_->setMaximumWidth(larghezza);
+    if (piano_ == nullptr) {
+        sinistra_->setMaximumWidth(larghezza);
+        return;
+    }
+    const double altezza = disegnoFinestra.H;
+    const double resto = larghezza + misura::margine;
+    piano_->sposta(sinistra_, {0.0, 0.0, static_cast<double>(larghezza), altezza});
+    piano_->sposta(lato_, {resto, 0.0, disegnoFinestra.W - resto, altezza});
+}
+
+void VistaFinestra::colloca(QWidget* pannello, const Rettangolo& posto) {
+    piano_->aggiungi(pannello, posto);
+}
+
+void VistaFinestra::ridimensiona() {
+    if (piano_ != nullptr) {
+        piano_->invalidate();
+        piano_->activate();
+    }
 }
 
 void VistaFinestra::alPiede(QWidget* bottone) {
@@ -265,13 +298,17 @@ QWidget* VistaFinestra::fascia() {
     return banda;
 }
 
+QWidget* VistaFinestra::widgetDi(const Controllo& controllo) const {
+    return findChild<QWidget*>(q(controllo.nome()));
+}
+
 void VistaFinestra::chiudiDisposizione() {
     colonna_->addStretch(1);
     allineaEtichette();
     assegnaMnemonici();
     QWidget* prima = nullptr;
     for (const Controllo* controllo : finestra_.ordine()) {
-        auto* widget = findChild<QWidget*>(q(controllo->nome()));
+        QWidget* widget = widgetDi(*controllo);
         if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0) {
             continue;
         }
@@ -308,11 +345,21 @@ void VistaFinestra::assegnaMnemonici() {
     }
 }
 
+void VistaFinestra::porta(const Controllo& controllo) {
+    QWidget* widget = widgetDi(controllo);
+    if (widget != nullptr && !widget->hasFocus()) {
+        widget->setFocus(Qt::TabFocusReason);
+    }
+}
+
 void VistaFinestra::fuocoIniziale() {
+    if (finestra_.fuoco() != nullptr && finestra_.fuoco()->prendeFuoco()) {
+        porta(*finestra_.fuoco());
+        return;
+    }
     for (const Controllo* controllo : finestra_.ordine()) {
-        auto* widget = findChild<QWidget*>(q(controllo->nome()));
-        if (widget != nullptr && controllo->prendeFuoco()) {
-            widget->setFocus(Qt::TabFocusReason);
+        if (controllo->prendeFuoco() && widgetDi(*controllo) != nullptr) {
+            porta(*controllo);
             return;
         }
     }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "shell/servizi/Finestra.h"
+#include "shell/servizi/clsResize.h"
 
 class QGridLayout;
 class QHBoxLayout;
@@ -14,6 +15,7 @@ class QVBoxLayout;
 
 namespace kelvo::ui {
 
+class DisposizioneProporzionale;
 class RiquadroAiuto;
 
 /// A titled panel with one row a field: label, field, unit, allowed range.
@@ -45,24 +47,35 @@ private:
 };
 
 /// View of a window: its caption panel and tool bar in one band, its body below; or the content of a dialogue, with the
-/// buttons in a footer.
+/// buttons in a footer. The keyboard follows the focus of the window.
 class VistaFinestra : public QWidget {
     Q_OBJECT
 public:
     enum class Forma { finestra, dialogo };
     VistaFinestra(Finestra& finestra, QWidget* genitore, Forma forma = Forma::finestra);
+    ~VistaFinestra() override;
+    VistaFinestra(const VistaFinestra&) = delete;
+    VistaFinestra& operator=(const VistaFinestra&) = delete;
 
     Finestra& finestra() { return finestra_; }
     Forma forma() const { return forma_; }
     /// The dialogue has no frame of the system.
     virtual bool senzaCornice() const { return false; }
-    /// Puts the keyboard on the first control of the tab order.
+    /// Puts the keyboard on the control that has the focus of the window, else on the first one of the tab order.
     void fuocoIniziale();
+    /// Puts the keyboard on a control, all its text selected.
+    void porta(const Controllo& controllo);
+    /// Places the panels anew, in proportion to the size of the view.
+    void ridimensiona();
 
 protected:
+    /// Inside of a window of the work area of a frame of 1280 x 800, margins left out: what the places of the panels
+    /// are told for.
+    static constexpr Misura disegnoFinestra{952.0, 616.0};
+
     /// Column of panels of a data window, at the left of the body.
     QVBoxLayout* colonna() { return colonna_; }
-    /// Largest width of the column; the rest is for what stands at its right.
+    /// Width of the column in the design (of a dialogue: its largest); the rest is for what stands at its right.
     void larghezzaColonna(int larghezza);
     QWidget* corpo() { return corpo_; }
     /// Room at the right of the column.
@@ -75,8 +88,12 @@ protected:
     /// view's constructor.
     void chiudiDisposizione();
 
+    /// Places a panel of a window in the body, by its rectangle in the design.
+    void colloca(QWidget* pannello, const Rettangolo& posto);
+
 private:
     QWidget* fascia();
+    QWidget* widgetDi(const Controllo& controllo) const;
     void disponiFinestra();
     void disponiDialogo();
     void allineaEtichette();
@@ -88,7 +105,10 @@ private:
     QWidget* sinistra_ = nullptr;
     QVBoxLayout* colonna_ = nullptr;
     QVBoxLayout* destra_ = nullptr;
+    QWidget* lato_ = nullptr;
     QHBoxLayout* piede_ = nullptr;
+    DisposizioneProporzionale* piano_ = nullptr;
+    sigc::connection legameFuoco_;
 };
 
 /// The view of a window, by the window's name; null for a window that has none.

@@ -4,6 +4,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QPalette>
 #include <QtGui/QShortcut>
+#include <QtGui/QStandardItemModel>
 #include <QtGui/QTextCharFormat>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QCalendarWidget>
@@ -64,7 +65,7 @@ QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
         riga->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     auto* legame = new Legame(campo, *riga);
-    legame->allEscape = [&campo] { campo.annulla(); };
+    legame->diRiga([&campo] { return campo.annulla(); });
     legame->mostra([&campo, riga] {
         if (riga->text() != q(campo.testo())) {
             const int cursore = riga->cursorPosition();
@@ -87,6 +88,44 @@ QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
     return riga;
 }
 
+/// The rows of a list as they are shown. A text that is none of them, where none may be typed, stands behind them: it
+/// is shown and cannot be picked.
+QStringList vociMostrate(const tBox& campo) {
+    QStringList voci;
+    for (const std::string& voce : campo.voci()) {
+        voci << q(voce);
+    }
+    if (!campo.digitabile && campo.scelta() < 0 && !campo.testo().empty()) {
+        voci << q(campo.testo());
+    }
+    return voci;
+}
+
+void mostraElenco(const tBox& campo, QComboBox& elenco) {
+    const QSignalBlocker zitto(&elenco);
+    const QStringList voci = vociMostrate(campo);
+    QStringList presenti;
+    for (int i = 0; i < elenco.count(); ++i) {
+        presenti << elenco.itemText(i);
+    }
+    if (voci != presenti) {
+        elenco.clear();
+        elenco.addItems(voci);
+        auto* righe = qobject_cast<QStandardItemModel*>(elenco.model());
+        for (int i = static_cast<int>(campo.voci().size()); righe != nullptr && i < elenco.count(); ++i) {
+            righe->item(i)->setEnabled(false);
+        }
+    }
+    const auto indice = static_cast<int>(voci.indexOf(q(campo.testo())));
+    if (elenco.currentIndex() != indice) {
+        elenco.setCurrentIndex(indice);
+    }
+    if (elenco.isEditable() && elenco.currentText() != q(campo.testo())) {
+        elenco.setEditText(q(campo.testo()));
+    }
+    mostraFallito(elenco, campo.fallito());
+}
+
 QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     auto* elenco = new QComboBox(genitore);
     preparaCampo(*elenco);
@@ -98,32 +137,14 @@ QWidget* collegaElenco(tBox& campo, QWidget* genitore) {
     }
     elenco->setInsertPolicy(QComboBox::NoInsert);
     auto* legame = new Legame(campo, *elenco);
-    legame->allEscape = [&campo] { campo.annulla(); };
-    legame->mostra([&campo, elenco] {
-        const QSignalBlocker zitto(elenco);
-        QStringList voci;
-        for (const std::string& voce : campo.voci()) {
-            voci << q(voce);
+    legame->diRiga([&campo] { return campo.annulla(); });
+    legame->mostra([&campo, elenco] { mostraElenco(campo, *elenco); });
+    QObject::connect(elenco, &QComboBox::currentTextChanged, legame, [&campo, elenco](const QString& testo) {
+        campo.scrivi(s(testo));
+        if (elenco->currentText() != q(campo.testo())) {
+            mostraElenco(campo, *elenco);  // what the field does not take falls out
         }
-        if (campo.scelta() < 0 && !elenco->isEditable() && !campo.testo().empty()) {
-            voci << q(campo.testo());  // what the program put there shows although the list does not hold it
-        }
-        QStringList presenti;
-        for (int i = 0; i < elenco->count(); ++i) {
-            presenti << elenco->itemText(i);
-        }
-        if (voci != presenti) {
-            elenco->clear();
-            elenco->addItems(voci);
-        }
-        elenco->setCurrentIndex(static_cast<int>(voci.indexOf(q(campo.testo()))));
-        if (elenco->isEditable() && elenco->currentText() != q(campo.testo())) {
-            elenco->setEditText(q(campo.testo()));
-        }
-        mostraFallito(*elenco, campo.fallito());
     });
-    QObject::connect(elenco, &QComboBox::currentTextChanged, legame,
-                     [&campo](const QString& testo) { campo.scrivi(s(testo)); });
     return elenco;
 }
 
@@ -154,7 +175,7 @@ QWidget* collegaOra(tBox& campo, QWidget* genitore) {
         calendario->setFont(dati(corpo));
     }
     auto* legame = new Legame(campo, *ora);
-    legame->allEscape = [&campo] { campo.annulla(); };
+    legame->diRiga([&campo] { return campo.annulla(); });
     legame->mostra([&campo, ora, formato] {
         const QSignalBlocker zitto(ora);
         if (ora->text() != q(campo.testo())) {

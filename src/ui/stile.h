@@ -44,6 +44,7 @@ inline constexpr int margineDialogo = 24;
 inline constexpr int piedeVerticale = 12;
 inline constexpr int segno = 32;        ///< sign of a message
 inline constexpr int segnoErrore = 14;  ///< sign in a field
+inline constexpr int bordoSegno = 6;    ///< from the left edge of a refused field to its triangle
 inline constexpr int testoMessaggio = 460;
 inline constexpr int riquadroVuoto = 360;
 inline constexpr int spazio = 8;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,10 +24,14 @@ public:
     };
     Risposta mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) override {
         mostrati.push_back({testo, titolo, icona, pulsanti});
+        if (alMostrare) {
+            alMostrare();
+        }
         return risposta;
     }
     std::vector<Messaggio> mostrati;
     Risposta risposta = Risposta::ok;
+    std::function<void()> alMostrare;  ///< looks at how things stand while a box is open
 };
 
 /// A clock that stands still: 21 November 2026, 10:30:05.

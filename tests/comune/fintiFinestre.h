@@ -57,6 +57,7 @@ public:
     }
     void nascondi(Finestra& finestra) override { passi.push_back("nascondi " + finestra.nome()); }
     void vestiBarra(Finestra& finestra) override { passi.push_back("vestiBarra " + finestra.nome()); }
+    void ridimensiona(Finestra& finestra) override { passi.push_back("ridimensiona " + finestra.nome()); }
 
     Rettangolo postoAlbero{10, 60, 300, 700};
     double larghezza = 1500;

@@ -55,6 +55,7 @@ public:
     }
     void nascondi(Finestra& finestra) override { nascoste.push_back(finestra.nome()); }
     void vestiBarra(Finestra& /*finestra*/) override { ++vestite; }
+    void ridimensiona(Finestra& /*finestra*/) override { ++ridimensionate; }
     void mostraCornice() override { passi.emplace_back("mostraCornice"); }
     void mostraAlbero(bool visibile) override { alberoVisibile = visibile; }
     void collocaAlbero(const Rettangolo& dove) override { posto = dove; }
@@ -83,6 +84,7 @@ public:
     std::vector<std::string> passi;
     std::function<void(Finestra&)> alModale;
     int vestite = 0;
+    int ridimensionate = 0;
     bool alberoVisibile = false;
     bool terminata = false;
 };

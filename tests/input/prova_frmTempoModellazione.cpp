@@ -61,6 +61,8 @@ TEST_F(ProveTempo, LabelsAreInTheWordsOfTheField) {
     EXPECT_EQ(finestra.didascalia(), "Tempi di modellazione");
     EXPECT_EQ(finestra.lblTempoIniziale.testo(), "Tempo iniziale");
     EXPECT_EQ(finestra.lblSegmentoTempo.testo(), "Segmento di tempo");
+    EXPECT_EQ(finestra.frTempo.titolo(), "Tempo di modellazione");
+    EXPECT_EQ(frmTempoModellazione::limitiSegmento(), "5 ÷ 30");
     EXPECT_EQ(finestra.lblTempoFinale.testo(), "Tempo finale");
 }
 
@@ -292,6 +294,24 @@ TEST_F(ProveTempo, AnEndThatIsNoWholeNumberOfSegmentsIsMovedAndTold) {
         "omogenei");
     EXPECT_EQ(messaggi.mostrati[0].icona, Icona::informazione);
     EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014 - Informazione");
+}
+
+TEST_F(ProveTempo, TheMessagesComeAfterTheTimesAreWrittenAndBeforeTheTrafficIsTouched) {
+    dati(1).FlussoTempo2(7.0F);
+    scrivi("08:00", "7", "09:00");
+    std::vector<std::string> visti;
+    messaggi.alMostrare = [&] {
+        EXPECT_EQ(rotonda().SegmentoTempo(), oraDelGiorno(0, 7));
+        EXPECT_EQ(rotonda().TempoFinale(), oraDelGiorno(9, 3));
+        EXPECT_EQ(dati(1).NumSegmentiTempo(), 4);
+        EXPECT_EQ(dati(1).FlussoTempo2(), 7.0F);
+        EXPECT_TRUE(backup().curve.empty());
+        EXPECT_FALSE(backup().BackupComposizioneDisponibile);
+        visti.push_back(fine.testo());
+    };
+    finestra.SaveData();
+    EXPECT_EQ(visti, (Voci{"09:03", "09:03"}));
+    EXPECT_EQ(dati(1).FlussoTempo2(), 0.0F);
 }
 
 TEST_F(ProveTempo, TheNumberOfSegmentsComesFromTheLengthBeforeTheCorrection) {

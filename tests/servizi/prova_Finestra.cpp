@@ -50,6 +50,30 @@ TEST_F(ProveFinestra, ACommandAsksTheFieldInFocusEachTime) {
     EXPECT_EQ(uscite, 1);
 }
 
+TEST_F(ProveFinestra, ARefusedFieldIsCalledBackTo) {
+    int chiamate = 0;
+    finestra.fuocoSu(finestra.txtUno);
+    finestra.fuocoMutato().connect([&] { ++chiamate; });
+    finestra.txtUno.scrivi("77");
+    EXPECT_FALSE(finestra.lasciaFuoco());
+    EXPECT_EQ(chiamate, 1);
+    EXPECT_FALSE(finestra.convalida());  // the focus stood there already: told all the same
+    EXPECT_EQ(chiamate, 2);
+    EXPECT_EQ(finestra.fuoco(), &finestra.txtUno);
+    finestra.txtUno.scrivi("7");
+    EXPECT_TRUE(finestra.lasciaFuoco());
+    EXPECT_TRUE(finestra.convalida());
+    EXPECT_EQ(chiamate, 2);
+}
+
+TEST_F(ProveFinestra, AControlKnowsIfTheFocusOfItsWindowStandsThere) {
+    finestra.fuocoSu(finestra.txtDue);
+    EXPECT_TRUE(finestra.txtDue.haFuoco());
+    EXPECT_FALSE(finestra.txtUno.haFuoco());
+    const tBox sola("txtSola", tBox::textbox);
+    EXPECT_TRUE(sola.haFuoco());
+}
+
 TEST_F(ProveFinestra, AFieldThatWasClosedOrHiddenIsLeftUnasked) {
     finestra.fuocoSu(finestra.txtUno);
     finestra.txtUno.scrivi("77");
@@ -72,7 +96,7 @@ TEST_F(ProveFinestra, TheCheckOfAllFieldsMarksTheFirstRefusedOneAndKeepsItsReaso
     EXPECT_TRUE(finestra.txtUno.fallito());
     EXPECT_TRUE(finestra.txtDue.fallito());
     EXPECT_FALSE(finestra.txtTre.fallito());
-    EXPECT_EQ(cornice.avvisato, "Il valore non è ammesso in questo campo.");
+    EXPECT_EQ(cornice.avvisato, "Il valore massimo ammesso è 10.");
     finestra.txtUno.testo("5");
     finestra.txtDue.controllo = nullptr;
     EXPECT_TRUE(finestra.convalida());
@@ -147,8 +171,9 @@ TEST_F(ProveGestione, TheStepsComeInTheirOrder) {
     prima.allaScrittura = [&] { area.passi.emplace_back("SaveData"); };
     seconda.allaLettura = [&] { area.passi.emplace_back("ReadData"); };
     EXPECT_TRUE(gestione.ShowForm(&seconda));
-    EXPECT_EQ(area.passi, (std::vector<std::string>{"SaveData", "nascondi frmPrima", "mostra frmSeconda",
-                                                    "colloca frmSeconda", "vestiBarra frmSeconda", "ReadData"}));
+    EXPECT_EQ(area.passi,
+              (std::vector<std::string>{"SaveData", "nascondi frmPrima", "mostra frmSeconda", "colloca frmSeconda",
+                                        "vestiBarra frmSeconda", "ridimensiona frmSeconda", "ReadData"}));
     EXPECT_EQ(gestione.corrente(), &seconda);
     EXPECT_EQ(prima.nascoste, 1);
     EXPECT_EQ(prima.fuoco(), nullptr);
@@ -210,6 +235,31 @@ TEST_F(ProveGestione, ChangedOptionsAreToldOnceAfterTheOldWindowWasHidden) {
     EXPECT_FALSE(stato.opzioniModificate);
 }
 
+TEST_F(ProveGestione, ChangedOptionsAreToldBetweenTheTwoWindows) {
+    stato.opzioniModificate = true;
+    messaggi.alMostrare = [&] { area.passi.emplace_back("messaggio"); };
+    gestione.ShowForm(&seconda);
+    ASSERT_GE(area.passi.size(), 3U);
+    EXPECT_EQ(area.passi[0], "nascondi frmPrima");
+    EXPECT_EQ(area.passi[1], "messaggio");
+    EXPECT_EQ(area.passi[2], "mostra frmSeconda");
+}
+
+TEST_F(ProveGestione, ARefusedFieldIsMarkedBeforeItsMessageComesUp) {
+    prima.txtDue.controllo = [] {
+        return EsitoUscita::rifiuto(MessaggioCampo{"parole", "titolo", Icona::informazione});
+    };
+    const Controllo* fuoco = nullptr;
+    bool fallito = false;
+    messaggi.alMostrare = [&] {
+        fuoco = prima.fuoco();
+        fallito = prima.txtDue.fallito();
+    };
+    EXPECT_FALSE(gestione.ShowForm(&seconda));
+    EXPECT_EQ(fuoco, &prima.txtDue);
+    EXPECT_TRUE(fallito);
+}
+
 TEST_F(ProveGestione, AWindowStandsRightOfTheTree) {
     area.postoAlbero = {10, 60, 300, 700};
     area.larghezza = 1500;
@@ -221,8 +271,8 @@ TEST_F(ProveGestione, TheLegendIsShownWhereItStands) {
     FinestraProva legenda(contorno(), "frmLEGENDA");
     EXPECT_TRUE(gestione.ShowForm(&legenda));
     EXPECT_EQ(area.posti.count("frmLEGENDA"), 0U);
-    EXPECT_EQ(area.passi,
-              (std::vector<std::string>{"nascondi frmPrima", "mostra frmLEGENDA", "vestiBarra frmLEGENDA"}));
+    EXPECT_EQ(area.passi, (std::vector<std::string>{"nascondi frmPrima", "mostra frmLEGENDA", "vestiBarra frmLEGENDA",
+                                                    "ridimensiona frmLEGENDA"}));
     gestione.chiudiCorrente();
 }
 

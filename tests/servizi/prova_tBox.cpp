@@ -21,6 +21,13 @@ TEST(NumeroIniziale, ReadsTheNumberThatATextBeginsWithAtThePoint) {
     }
 }
 
+TEST(NumeroIniziale, ANumberBeyondADoubleLiesBeyondEveryLimit) {
+    const std::string lungo(400, '9');
+    EXPECT_FALSE(RegoleCampo::daTag("ValueMax:300").ammette(lungo));
+    EXPECT_TRUE(RegoleCampo::daTag("ValueMin:300").ammette(lungo));
+    EXPECT_FALSE(RegoleCampo::daTag("ValueMin:-300").ammette("-" + lungo));
+}
+
 TEST(RegoleCampo, ATagIsPairsBetweenSemicolons) {
     const auto regole = RegoleCampo::daTag("Type:Numeric;ValueMin:-2.5;ValueMax:300");
     EXPECT_TRUE(regole.numerico);
@@ -41,6 +48,29 @@ TEST(RegoleCampo, UnknownKeysAndTypesAndAnEmptyTagAreNoRule) {
         EXPECT_FALSE(regole.numerico || regole.minimo || regole.massimo) << tag;
         EXPECT_TRUE(regole.ammette("qualunque")) << tag;
     }
+}
+
+TEST(RegoleCampo, APartWithoutAColonIsNoPairAndALimitWithoutANumberIsZero) {
+    const auto senza = RegoleCampo::daTag("ValueMin;ValueMax;Type");
+    EXPECT_FALSE(senza.numerico || senza.minimo || senza.massimo);
+    EXPECT_EQ(RegoleCampo::daTag("ValueMin:").minimo, 0.0);
+    EXPECT_EQ(RegoleCampo::daTag("ValueMax:x").massimo, 0.0);
+}
+
+TEST(RegoleCampo, OfAKeyThatComesTwiceBothRulesHold) {
+    const auto regole =
+        RegoleCampo::daTag("ValueMin:5;ValueMin:1;ValueMax:7;ValueMax:9;ValueMax:8;Type:Numeric;Type:Text");
+    EXPECT_EQ(regole.minimo, 5.0);
+    EXPECT_EQ(regole.massimo, 7.0);
+    EXPECT_TRUE(regole.numerico);
+}
+
+TEST(RegoleCampo, TheReasonIsThatOfTheTypeThenOfTheUpperThenOfTheLowerLimit) {
+    const auto regole = RegoleCampo::daTag("ValueMin:3,9;ValueMax:-2.5;Type:Numeric");  // no number keeps both limits
+    EXPECT_EQ(regole.motivo("x"), "Scrivere un numero.");
+    EXPECT_EQ(regole.motivo("0"), "Il valore massimo ammesso è -2,5.");
+    EXPECT_EQ(regole.motivo("-3"), "Il valore minimo ammesso è 3.");
+    EXPECT_EQ(RegoleCampo::daTag("ValueMin:1").motivo("1"), "");
 }
 
 TEST(RegoleCampo, APartIsCutAtItsFirstColon) {
@@ -119,9 +149,12 @@ TEST_F(ProveCampo, EscapePutsBackWhatStoodThereWhenTheFocusCame) {
     uno.scrivi("99");
     EXPECT_FALSE(uno.lascia());
     uno.entra();  // the focus is given back to the refused field
-    uno.annulla();
+    EXPECT_NE(cornice.avvisato, "");
+    EXPECT_TRUE(uno.annulla());
     EXPECT_EQ(uno.testo(), "4");
     EXPECT_FALSE(uno.fallito());
+    EXPECT_EQ(cornice.avvisato, "");  // the reason goes with the text
+    EXPECT_FALSE(uno.annulla());      // nothing more to put back: the key is the window's
     EXPECT_FALSE(uno.modificato());
     EXPECT_EQ(tasti, 2);  // whoever follows the text is told of both changes
 }

@@ -10,4 +10,8 @@ void Controllo::entra() {
     }
 }
 
+bool Controllo::haFuoco() const {
+    return custode_ == nullptr || custode_->haFuoco(*this);
+}
+
 }  // namespace kelvo

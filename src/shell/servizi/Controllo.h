@@ -50,6 +50,8 @@ public:
     virtual bool convalida() { return true; }
     /// The control takes the focus of the keyboard.
     virtual bool prendeFuoco() const { return false; }
+    /// The focus of its window stands here; always true for a control that stands in none.
+    bool haFuoco() const;
 
     /// Something to be shown has changed.
     sigc::signal<void()>& cambiato() { return cambiato_; }

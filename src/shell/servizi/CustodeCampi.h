@@ -44,6 +44,8 @@ public:
 
     /// The focus came to a field.
     virtual void entrato(Controllo& campo) = 0;
+    /// The focus of the window stands in a field.
+    virtual bool haFuoco(const Controllo& campo) const = 0;
     /// A check spoke: shows its message or reason and raises the flag of failed checks if it says so.
     virtual void giudicato(Controllo& campo, const EsitoUscita& esito) = 0;
     /// The help pane of the window; null where it has none.

@@ -65,7 +65,11 @@ bool Finestra::fuocoSu(Controllo& controllo) {
 }
 
 bool Finestra::lasciaFuoco() {
-    return fuoco_ == nullptr || !fuoco_->prendeFuoco() || fuoco_->lascia();
+    if (fuoco_ == nullptr || !fuoco_->prendeFuoco() || fuoco_->lascia()) {
+        return true;
+    }
+    fuocoMutato_.emit();
+    return false;
 }
 
 Controllo* Finestra::successivo(bool avanti) const {
@@ -97,7 +101,8 @@ void Finestra::giudicato(Controllo& campo, const EsitoUscita& esito) {
     const bool trattenuto = !esito.accettato || esito.bandiera;
     if (inConvalida_ && trattenuto && rifiutato_ == nullptr) {
         rifiutato_ = &campo;
-        spostaFuoco(&campo);  // the place is marked before the message comes up
+        fuoco_ = &campo;
+        fuocoMutato_.emit();  // the place is marked before the message comes up
     }
     if (esito.messaggio) {
         messaggio(esito.messaggio->testo, esito.messaggio->titolo, esito.messaggio->icona);

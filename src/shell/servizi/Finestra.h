@@ -50,7 +50,7 @@ public:
 
     /// The control that has the focus; null for none.
     Controllo* fuoco() const { return fuoco_; }
-    /// The control that has the focus is another one.
+    /// The control that has the focus is another one, or is called back to because it was refused.
     sigc::signal<void()>& fuocoMutato() { return fuocoMutato_; }
     /// Moves the focus: leaves the control that has it first; false if that one refused, or if `controllo` takes none.
     bool fuocoSu(Controllo& controllo);
@@ -64,6 +64,7 @@ public:
 
     // CustodeCampi
     void entrato(Controllo& campo) override;
+    bool haFuoco(const Controllo& campo) const override { return fuoco_ == &campo; }
     void giudicato(Controllo& campo, const EsitoUscita& esito) override;
     Appunti* appunti() override { return contorno_.app.appunti; }
 

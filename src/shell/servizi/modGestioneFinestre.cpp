@@ -60,6 +60,7 @@ bool modGestioneFinestre::ShowForm(Finestra* finestra) {
         }
         vesti(*finestra, app_.configurazione.LayoutPannello);
         area_.vestiBarra(*finestra);
+        area_.ridimensiona(*finestra);
         scambiata = true;
         finestra->attivata();
         return true;

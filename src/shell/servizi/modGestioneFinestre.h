@@ -28,6 +28,8 @@ public:
     virtual void nascondi(Finestra& finestra) = 0;
     /// Dresses the tool bar of a window in the main colour.
     virtual void vestiBarra(Finestra& finestra) = 0;
+    /// Makes a resizer for a window and lets it place the panels in proportion to the window's size.
+    virtual void ridimensiona(Finestra& finestra) = 0;
 };
 
 /// Place of a window in the work area: right of the tree, as high as it, as wide as what is left less 140.

@@ -1,6 +1,9 @@
 #include "shell/servizi/tBox.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <limits>
 
 #include "base/date.h"
 #include "base/guasto.h"
@@ -11,6 +14,10 @@
 namespace kelvo {
 
 namespace {
+
+constexpr const char* motivoNumero = "Scrivere un numero.";
+constexpr const char* motivoMassimo = "Il valore massimo ammesso è {}.";
+constexpr const char* motivoMinimo = "Il valore minimo ammesso è {}.";
 
 /// Cuts the part in front of the first `separatore` off `resto`.
 std::string_view taglia(std::string_view& resto, char separatore) {
@@ -38,32 +45,48 @@ double numeroIniziale(std::string_view testo) {
         punto = punto || testo[fine] == '.';
         ++fine;
     }
-    return leggiNumero(testo.substr(0, fine), Separatore::virgolaOPunto).value_or(0.0);
+    testo = testo.substr(0, fine);
+    const auto letto = leggiNumero(testo, Separatore::virgolaOPunto);
+    if (!letto && testo.find_first_of("0123456789") != std::string_view::npos) {
+        // More digits than a double holds: no limit lies beyond it.
+        constexpr double estremo = std::numeric_limits<double>::max();
+        return testo.starts_with('-') ? -estremo : estremo;
+    }
+    return letto.value_or(0.0);
 }
 
 RegoleCampo RegoleCampo::daTag(std::string_view tag) {
     RegoleCampo regole;
     while (!tag.empty()) {
         std::string_view parte = taglia(tag, ';');
+        if (parte.find(':') == std::string_view::npos) {
+            continue;  // no pair
+        }
         const std::string_view chiave = rifila(taglia(parte, ':'));
         const std::string_view valore = rifila(parte);
         if (chiave == "Type") {
-            regole.numerico = valore == "Numeric";
+            regole.numerico = regole.numerico || valore == "Numeric";
         } else if (chiave == "ValueMin") {
-            regole.minimo = numeroIniziale(valore);
+            regole.minimo = std::max(regole.minimo.value_or(numeroIniziale(valore)), numeroIniziale(valore));
         } else if (chiave == "ValueMax") {
-            regole.massimo = numeroIniziale(valore);
+            regole.massimo = std::min(regole.massimo.value_or(numeroIniziale(valore)), numeroIniziale(valore));
         }
     }
     return regole;
 }
 
-bool RegoleCampo::ammette(std::string_view testo) const {
+std::string RegoleCampo::motivo(std::string_view testo) const {
     if (numerico && !testo.empty() && !leggiNumero(testo, Separatore::virgolaOPunto)) {
-        return false;
+        return motivoNumero;
     }
     const double valore = numeroIniziale(testo);
-    return !(massimo && valore > *massimo) && !(minimo && valore < *minimo);
+    if (massimo && valore > *massimo) {
+        return fmt::format(motivoMassimo, testoNumero(*massimo));
+    }
+    if (minimo && valore < *minimo) {
+        return fmt::format(motivoMinimo, testoNumero(*minimo));
+    }
+    return {};
 }
 
 tBox::tBox(std::string nome, Faccia faccia, std::string tag)
@@ -169,8 +192,8 @@ void tBox::scegli(int indice) {
 }
 
 EsitoUscita tBox::esamina() {
-    if (!regole_.ammette(testo_)) {
-        return EsitoUscita::rifiuto(std::string{"Il valore non è ammesso in questo campo."});
+    if (std::string motivo = regole_.motivo(testo_); !motivo.empty()) {
+        return EsitoUscita::rifiuto(std::move(motivo));
     }
     return controllo ? controllo() : EsitoUscita::bene();
 }
@@ -204,15 +227,20 @@ bool tBox::lascia() {
     return true;
 }
 
-void tBox::annulla() {
-    if (!raggiungibile()) {
-        return;
-    }
+bool tBox::annulla() {
     const bool mutato = testo_ != allEntrata_;
+    const bool rifiutato = fallito_;
+    if (!raggiungibile() || (!mutato && !rifiutato)) {
+        return false;
+    }
     metti(allEntrata_);
+    if (rifiutato && custode() != nullptr) {
+        custode()->giudicato(*this, EsitoUscita::bene());  // the reason goes with the refused text
+    }
     if (mutato && dopoTasto) {
         dopoTasto();
     }
+    return true;
 }
 
 }  // namespace kelvo

@@ -17,10 +17,14 @@ struct RegoleCampo {
     std::optional<double> minimo;   ///< ValueMin
     std::optional<double> massimo;  ///< ValueMax
 
-    /// Reads a tag; unknown keys and types count for nothing, an empty tag is no rule.
+    /// Reads a tag; unknown keys and types count for nothing, an empty tag is no rule. Of a key that comes twice both
+    /// rules hold.
     static RegoleCampo daTag(std::string_view tag);
+    /// Why a text breaks the rules, in words for the user: the type is asked first, then the upper limit, then the
+    /// lower one. Empty if it keeps them.
+    std::string motivo(std::string_view testo) const;
     /// True if a text keeps the rules.
-    bool ammette(std::string_view testo) const;
+    bool ammette(std::string_view testo) const { return motivo(testo).empty(); }
 };
 
 /// The number that a text begins with, read with the point as decimal separator; 0 if there is none. A comma ends it:
@@ -88,8 +92,8 @@ public:
     bool lascia() override;
     /// combobox: picks a row, from 0; nothing happens outside the list.
     void scegli(int indice);
-    /// Escape: puts back what stood there when the focus came.
-    void annulla();
+    /// Escape: puts back what stood there when the focus came; false if there was nothing to put back.
+    bool annulla();
     bool convalida() override;
     bool prendeFuoco() const override { return raggiungibile(); }
 

@@ -242,6 +242,12 @@ void VistaMDI_Form::nascondi(Finestra& finestra) {
 
 void VistaMDI_Form::vestiBarra(Finestra& /*finestra*/) {}
 
+void VistaMDI_Form::ridimensiona(Finestra& finestra) {
+    if (VistaFinestra* mostrata = vista(finestra)) {
+        mostrata->ridimensiona();
+    }
+}
+
 void VistaMDI_Form::mostraCornice() {
     show();
     vuota_->setFocus(Qt::OtherFocusReason);

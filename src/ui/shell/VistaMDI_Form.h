@@ -37,6 +37,7 @@ public:
     void colloca(Finestra& finestra, const Rettangolo& posto) override;
     void nascondi(Finestra& finestra) override;
     void vestiBarra(Finestra& finestra) override;
+    void ridimensiona(Finestra& finestra) override;
     void mostraCornice() override;
     void mostraAlbero(bool visibile) override;
     void collocaAlbero(const Rettangolo& posto) override;

@@ -18,7 +18,6 @@ public:
         auto* titolo = collega(f.lblTitolo, corpo());
         titolo->setFont(leggero(punti::titolo));
         titolo->setWordWrap(true);
-        colonna()->addWidget(titolo);
         auto* guida = collega(f.lblGuida, corpo());
         guida->setFont(dati(punti::corpo));
         guida->setWordWrap(true);

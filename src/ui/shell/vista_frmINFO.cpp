@@ -11,6 +11,8 @@ namespace kelvo::ui {
 
 namespace {
 
+constexpr Misura misuraVista{432, 180};
+
 class Vista final : public VistaFinestra {
 public:
     Vista(frmINFO& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {

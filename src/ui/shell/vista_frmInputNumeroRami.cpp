@@ -13,6 +13,8 @@ namespace kelvo::ui {
 
 namespace {
 
+constexpr Misura misuraVista{432, 420};
+
 class Vista final : public VistaFinestra {
 public:
     Vista(frmInputNumeroRami& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {
@@ -25,6 +27,7 @@ public:
         auto* attenzione = collega(f.lblAttenzione, dati);
         attenzione->setFont(forte(punti::gruppo));
         dati->larga(attenzione);
+        attenzione->setFont(forte(10.5));  // a new parent would undo it
         auto* avvertenza = collega(f.lblAvvertenza, dati);
         avvertenza->setWordWrap(true);
         dati->larga(avvertenza);

@@ -11,6 +11,8 @@ namespace kelvo::ui {
 
 namespace {
 
+constexpr Misura misuraVista{432, 80};
+
 class Vista final : public VistaFinestra {
 public:
     Vista(frmSplash& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {
