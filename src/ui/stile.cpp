@@ -196,7 +196,6 @@ QToolTip { color: {inchiostro}; background: white; border: 1px solid {bordoCampo
     for (const auto& [nome, colore] : nomi) {
         testo.replace(QString::fromLatin1(nome), nomeColore(colore));
     }
-    testo.replace(QStringLiteral("{frecce}"), frecce);
     return testo;
 }
 
