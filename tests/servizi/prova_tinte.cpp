@@ -13,7 +13,7 @@ TEST(Tinte, TheContrastOfTheColoursIsThatOfTheLook) {
     struct Caso {
         Colore testo;
         Colore sfondo;
-        double atteso;
+        double atteso = 0.0;
     };
     const std::array casi{
         Caso{colori::bianco, tinta::principale, 4.97},

@@ -279,12 +279,12 @@ TEST_F(ProveVistaGriglia, ColumnsShareTheRoomInTheirProportions) {
     const int totale = vista->width();
     EXPECT_EQ(vista->viewport()->width() + vista->verticalHeader()->width(), totale);
     EXPECT_EQ(vista->verticalHeader()->width() + vista->horizontalHeader()->length(), totale);
-    EXPECT_NEAR(vista->verticalHeader()->width(), totale / 5, 1);
-    EXPECT_NEAR(vista->columnWidth(0), totale / 5, 1);
-    EXPECT_NEAR(vista->columnWidth(2), totale * 2 / 5, 3);  // what rounding leaves over is here
+    EXPECT_NEAR(vista->verticalHeader()->width(), totale * 0.2, 1);
+    EXPECT_NEAR(vista->columnWidth(0), totale * 0.2, 1);
+    EXPECT_NEAR(vista->columnWidth(2), totale * 0.4, 3);  // what rounding leaves over is here
     griglia.colonna(2, {.nascosta = true});
     EXPECT_TRUE(vista->isColumnHidden(1));
-    EXPECT_NEAR(vista->columnWidth(2), totale / 2, 1);
+    EXPECT_NEAR(vista->columnWidth(2), totale * 0.5, 1);
 }
 
 TEST_F(ProveVistaGriglia, NoColumnIsNarrowerThanItsText) {

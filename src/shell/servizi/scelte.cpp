@@ -123,6 +123,7 @@ void Elenco::scegli(int indice) {
 
 void ElencoSpunte::voci(const std::vector<std::string>& testi) {
     std::vector<Voce> nuove;
+    nuove.reserve(testi.size());
     for (const std::string& testo : testi) {
         nuove.push_back({.testo = testo, .spuntata = false});
     }
