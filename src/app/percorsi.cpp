@@ -10,24 +10,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path percorsoDi(std::string_view testo) {
-    return fs::path(std::u8string(testo.begin(), testo.end()));
-}
-
-std::string testoDi(const fs::path& percorso) {
-    const std::u8string u8 = percorso.u8string();
-    return {u8.begin(), u8.end()};
-}
-
 /// The entry of a folder that has this name but for the case of its letters; else the name itself.
 fs::path cercaSenzaMaiuscole(const fs::path& cartella, const std::string& nome) {
     std::error_code errore;
-    fs::path esatto = cartella / percorsoDi(nome);
+    fs::path esatto = cartella / percorsoDaTesto(nome);
     if (fs::exists(esatto, errore)) {
         return esatto;
     }
     for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine; voce.increment(errore)) {
-        if (maiuscoleAscii(testoDi(voce->path().filename())) == maiuscoleAscii(nome)) {
+        if (maiuscoleAscii(testoDaPercorso(voce->path().filename())) == maiuscoleAscii(nome)) {
             return voce->path();
         }
     }
@@ -37,7 +28,7 @@ fs::path cercaSenzaMaiuscole(const fs::path& cartella, const std::string& nome) 
 }  // namespace
 
 std::string percorsoInstallazione(const clsAmbiente& ambiente, std::string_view daProgramma) {
-    fs::path percorso = percorsoDi(ambiente.CartellaProgramma());
+    fs::path percorso = percorsoDaTesto(ambiente.CartellaProgramma());
     while (!daProgramma.empty()) {
         const std::size_t fine = daProgramma.find('\\');
         const std::string_view nome = daProgramma.substr(0, fine);
@@ -46,7 +37,7 @@ std::string percorsoInstallazione(const clsAmbiente& ambiente, std::string_view 
         }
         daProgramma.remove_prefix(fine == std::string_view::npos ? daProgramma.size() : fine + 1);
     }
-    return testoDi(percorso);
+    return testoDaPercorso(percorso);
 }
 
 std::string cartellaProgetti(const clsAmbiente& ambiente) {
@@ -57,7 +48,7 @@ std::string cartellaProgetti(const clsAmbiente& ambiente) {
 
 std::string nomeProgetto(const std::string& percorso) {
     constexpr std::size_t caratteriEstensione = 4;
-    const std::string nome = testoDi(percorsoDi(percorso).filename());
+    const std::string nome = testoDaPercorso(percorsoDaTesto(percorso).filename());
     const bool klv = maiuscoleAscii(ultimiCaratteri(nome, caratteriEstensione)) == ".KLV";
     return klv ? senzaUltimi(nome, caratteriEstensione) : nome;
 }
