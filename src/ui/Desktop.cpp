@@ -31,7 +31,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication qt(argc, argv);
     // The toolkit sets the system's locale: numbers in files would carry its comma.
-    std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe): one thread
     QApplication::setApplicationName(QStringLiteral("Kelvo"));
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     QTranslator traduttore;
