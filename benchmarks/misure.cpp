@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <random>
 #include <stdexcept>
@@ -17,7 +18,7 @@
 #include <vector>
 
 #include "calc/modCalcolo.h"
-#include "platform/linux/SistemaFileLinux.h"
+#include "platform/Piattaforma.h"
 #include "progetti.h"
 
 namespace {
@@ -41,7 +42,8 @@ struct Banco {
     }
     MessaggiMuti messaggi;
     OrologioSistema orologio;
-    SistemaFileLinux sistema;
+    std::unique_ptr<Piattaforma> piattaforma = creaPiattaforma();
+    SistemaFile& sistema = piattaforma->file();
     Applicazione app;
     modCalcolo motore;
     Nucleo nucleo;

@@ -81,11 +81,12 @@ prove_release() {
     suite release env "LOCPATH=$LINGUE"
 }
 
+# prove_asan <preset>: the suite under the sanitizers, windows on the platform that needs no display.
 prove_asan() {
     export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
     export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
     prepara_lingua
-    suite asan env "LOCPATH=$LINGUE"
+    suite "$1" env "LOCPATH=$LINGUE" QT_QPA_PLATFORM=offscreen
 }
 
 # fuzz <seconds>: every fuzzer for so long, on a copy of its seeds.

@@ -9,8 +9,7 @@
 #include "base/file.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
-#include "platform/linux/SistemaFileLinux.h"
-#include "platform/linux/cartelle.h"
+#include "platform/Piattaforma.h"
 
 namespace kelvo::cli {
 
@@ -19,9 +18,9 @@ namespace {
 constexpr int fileNonTrovato = 53;
 constexpr int formatoNonValido = 321;
 
-SistemaFile& sistemaFile() {
-    static SistemaFileLinux sistema;
-    return sistema;
+Piattaforma& piattaforma() {
+    static const auto sistema = creaPiattaforma();
+    return *sistema;
 }
 
 }  // namespace
@@ -34,7 +33,9 @@ void stampa(const std::string& testo) {
     std::fwrite(testo.data(), 1, testo.size(), stdout);
 }
 
-Contesto::Contesto() : app_(cartellaEseguibile(), cartellaTemporanea(), {*this, orologio_, sistemaFile()}) {
+Contesto::Contesto()
+    : app_(piattaforma().cartellaProgramma(), piattaforma().cartellaTemporanea(),
+           {*this, orologio_, piattaforma().file()}) {
     app_.comune.alErrore = [this](const ErroreRegistrato& errore) {
         errori_.push_back(errore);
         avvisa(fmt::format("{}: {} [{}, errore {}]", nomeFile(), errore.descrizione, errore.metodo, errore.numero));
@@ -86,7 +87,7 @@ bool Contesto::carica(const std::string& file) {
     app_.caricaRotonda(file, messaggio, esito);
     if (!esito) {
         std::error_code ignorato;
-        const bool manca = !std::filesystem::exists(file, ignorato);
+        const bool manca = !std::filesystem::exists(percorsoDaTesto(file), ignorato);
         segnala(manca ? fileNonTrovato : formatoNonValido, "Load", messaggio);
     }
     caricato_ = esito;

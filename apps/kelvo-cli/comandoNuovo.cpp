@@ -5,6 +5,7 @@
 #include "Comando.h"
 #include "app/nuovoProgetto.h"
 #include "argomenti.h"
+#include "base/file.h"
 #include "errori.h"
 
 namespace kelvo::cli {
@@ -30,7 +31,7 @@ public:
 
     int esegui() override {
         namespace fs = std::filesystem;
-        const std::string nome = nome_.empty() ? fs::path(file_).stem().string() : nome_;
+        const std::string nome = nome_.empty() ? testoDaPercorso(percorsoDaTesto(file_).stem()) : nome_;
         if (nome.find_first_of(caratteriVietati) != std::string::npos) {
             return usoErrato(*app_,
                              fmt::format("nome {}: non sono permessi i caratteri {}", citato(nome), caratteriVietati));
@@ -40,7 +41,8 @@ public:
             return uscitaUsoErrato;
         }
         std::error_code errore;
-        if (!sovrascrivi_ && !fs::is_directory(file_, errore) && fs::exists(fs::symlink_status(file_, errore))) {
+        const fs::path posto = percorsoDaTesto(file_);
+        if (!sovrascrivi_ && !fs::is_directory(posto, errore) && fs::exists(fs::symlink_status(posto, errore))) {
             avvisa(fmt::format("{}: esiste già; con --sovrascrivi viene sostituito", file_));
             return uscitaFallito;
         }

@@ -1,15 +1,19 @@
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <memory>
 #include <new>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "Comando.h"
 #include "base/versione.h"
 #include "errori.h"
+#include "platform/Piattaforma.h"
 
 namespace {
 
@@ -23,7 +27,7 @@ constexpr const char* piede =
     "\n"
     "Codice di uscita: 0 fatto; 1 il calcolo o un file non è riuscito; 2 uso errato o configurazione inutilizzabile";
 
-int esegui(int argc, char** argv) {
+int esegui(std::vector<std::string> argomenti) {
     CLI::App radice{"Kelvo: progetto e verifica di rotatorie", "kelvo-cli"};
     italiano(radice);
     radice.set_version_flag("--version", fmt::format("Kelvo {}", kelvo::versione()), "Mostra la versione");
@@ -35,7 +39,9 @@ int esegui(int argc, char** argv) {
         comandi.push_back(crea(radice));
     }
     try {
-        radice.parse(argc, argv);
+        // The library takes them from the last to the first.
+        std::reverse(argomenti.begin(), argomenti.end());
+        radice.parse(std::move(argomenti));
     } catch (const CLI::ParseError& errore) {
         return chiudi(radice, errore);
     }
@@ -61,7 +67,9 @@ int conRisultatoScritto(int uscita) {
 
 int main(int argc, char** argv) {
     try {
-        return conRisultatoScritto(esegui(argc, argv));
+        const auto sistema = kelvo::creaPiattaforma();
+        sistema->preparaUscite();
+        return conRisultatoScritto(esegui(sistema->argomenti(argc, argv)));
     } catch (const std::bad_alloc&) {
         std::fputs("kelvo-cli: memoria insufficiente\n", stderr);
         return uscitaFallito;

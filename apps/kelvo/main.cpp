@@ -1,18 +1,15 @@
-#include "platform/linux/ServiziLinux.h"
-#include "platform/linux/SistemaFileLinux.h"
-#include "platform/linux/cartelle.h"
+#include "platform/Piattaforma.h"
 #include "ui/Desktop.h"
 
 int main(int argc, char** argv) {
-    kelvo::SistemaFileLinux file;
-    const std::string lavoro = kelvo::cartellaTemporanea();
-    kelvo::IstanzaLinux istanza(lavoro);
-    kelvo::LocaleLinux locale;
+    const auto sistema = kelvo::creaPiattaforma();
     return kelvo::ui::avviaDesktop(argc, argv,
-                                   {.file = file,
-                                    .istanza = istanza,
-                                    .locale = locale,
-                                    .cartellaProgramma = kelvo::cartellaEseguibile(),
-                                    .cartellaLavoro = lavoro,
-                                    .cartellaRecupero = kelvo::cartellaDatiUtente() + "/Recupero"});
+                                   {.file = sistema->file(),
+                                    .istanza = sistema->istanza(),
+                                    .locale = sistema->locale(),
+                                    .documenti = sistema->documenti(),
+                                    .impostazioni = sistema->impostazioni(),
+                                    .cartellaProgramma = sistema->cartellaProgramma(),
+                                    .cartellaLavoro = sistema->cartellaTemporanea(),
+                                    .cartellaRecupero = sistema->cartellaDati() + "/Recupero"});
 }

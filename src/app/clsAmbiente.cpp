@@ -24,8 +24,7 @@ std::string conSeparatore(std::string cartella) {
 
 bool manca(const std::string& percorso) {
     std::error_code errore;
-    const fs::path file(std::u8string(percorso.begin(), percorso.end()));
-    return fs::status(file, errore).type() == fs::file_type::not_found;
+    return fs::status(percorsoDaTesto(percorso), errore).type() == fs::file_type::not_found;
 }
 
 }  // namespace

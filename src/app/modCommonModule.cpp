@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "base/file.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
@@ -20,10 +21,6 @@ const std::string sezioneAlbero = "OPZ_EXPLORER";
 const std::string chiaveAlbero = "Rami";
 const std::string sezioneMenu = "OPZ_MENU";
 const std::string chiaveMenu = "Attivo";
-
-fs::path percorsoDi(const std::string& testo) {
-    return fs::path(std::u8string(testo.begin(), testo.end()));
-}
 
 void rendiScrivibile(const fs::path& file) {
     std::error_code errore;
@@ -140,7 +137,7 @@ void modCommonModule::traceLog(const std::string& testo) {
         return;
     }
     try {
-        const fs::path file = percorsoDi(percorsoLog());
+        const fs::path file = percorsoDaTesto(percorsoLog());
         std::error_code ignorato;
         if (!fs::is_regular_file(file, ignorato)) {
             throw Guasto(NumeroGuasto::fileNonTrovato);
@@ -171,7 +168,7 @@ void modCommonModule::erroreLog(int numero, const std::string& metodo, const std
     // The module stands inside the method; its own field stays empty.
     const std::string riga = fmt::format("Errore nel modulo:  - Metodo: {} - Descrizione: {}", metodo, descrizione);
     const PartiData p = partiDi(orologio_.adesso());
-    const fs::path file = percorsoDi(percorsoLog());
+    const fs::path file = percorsoDaTesto(percorsoLog());
     std::error_code ignorato;
     if (fs::exists(file, ignorato) && !fs::is_regular_file(file, ignorato)) {
         return;  // opening a pipe would wait for its reader

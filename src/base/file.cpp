@@ -8,6 +8,7 @@
 #include <fstream>
 #include <random>
 #include <system_error>
+#include <type_traits>
 
 #include "base/testo.h"
 
@@ -16,15 +17,6 @@ namespace kelvo {
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path percorsoDi(const std::string& testo) {
-    return fs::path(std::u8string(testo.begin(), testo.end()));
-}
-
-std::string testoDi(const fs::path& percorso) {
-    const std::u8string testo = percorso.u8string();
-    return {testo.begin(), testo.end()};
-}
 
 std::string erroreCorrente() {
     // A stream that fails for a reason of its own leaves no number.
@@ -69,7 +61,7 @@ private:
 class SistemaFileStandard final : public SistemaFile {
 public:
     std::unique_ptr<FileInScrittura> crea(const std::string& percorso, std::string& errore) override {
-        const fs::path posto = percorsoDi(percorso);
+        const fs::path posto = percorsoDaTesto(percorso);
         std::error_code ignorato;
         if (fs::exists(fs::symlink_status(posto, ignorato))) {
             errore = paroleErrore(std::make_error_code(std::errc::file_exists));
@@ -85,22 +77,22 @@ public:
     }
     std::int64_t dimensione(const std::string& percorso) override {
         std::error_code errore;
-        const auto byte = fs::file_size(percorsoDi(percorso), errore);
+        const auto byte = fs::file_size(percorsoDaTesto(percorso), errore);
         return errore ? -1 : static_cast<std::int64_t>(byte);
     }
     std::string rinomina(const std::string& da, const std::string& a) override {
         std::error_code errore;
-        fs::rename(percorsoDi(da), percorsoDi(a), errore);
+        fs::rename(percorsoDaTesto(da), percorsoDaTesto(a), errore);
         return errore ? paroleErrore(errore) : std::string{};
     }
-    void elimina(const std::string& percorso) override { togliFile(percorsoDi(percorso)); }
+    void elimina(const std::string& percorso) override { togliFile(percorsoDaTesto(percorso)); }
     void sincronizzaCartella(const std::string& /*percorso*/) override {}
 };
 
 /// The file that a link leads to, also where it does not stand yet, or the path itself.
 fs::path bersaglio(const std::string& percorso) {
     constexpr int massimiPassi = 40;
-    fs::path vero = percorsoDi(percorso);
+    fs::path vero = percorsoDaTesto(percorso);
     std::error_code errore;
     for (int passo = 0; passo < massimiPassi && fs::is_symlink(vero, errore); ++passo) {
         vero = vero.parent_path() / fs::read_symlink(vero, errore);
@@ -142,6 +134,17 @@ std::string riempi(SistemaFile& sistema, FileInScrittura& file, const std::strin
 }
 
 }  // namespace
+
+fs::path percorsoDaTesto(std::string_view testo) {
+    constexpr bool diCaratteri = !std::is_same_v<fs::path::value_type, char>;
+    const std::string valido = diCaratteri ? utf8Valido(testo) : std::string(testo);
+    return {std::u8string(valido.begin(), valido.end())};
+}
+
+std::string testoDaPercorso(const fs::path& percorso) {
+    const std::u8string testo = percorso.u8string();
+    return {testo.begin(), testo.end()};
+}
 
 std::string paroleErrore(const std::error_code& errore) {
     if (errore == std::errc::no_space_on_device) {
@@ -190,14 +193,14 @@ std::string nomeTemporaneo(const std::string& percorso) {
 /// The name under which `nome` stands in the folder, or `nome` itself.
 std::string componente(const fs::path& cartella, const std::string& nome) {
     std::error_code errore;
-    if (fs::exists(fs::symlink_status(cartella / percorsoDi(nome), errore))) {
+    if (fs::exists(fs::symlink_status(cartella / percorsoDaTesto(nome), errore))) {
         return nome;
     }
     const std::string cercato = maiuscoleAscii(nome);
     std::string trovato;
     for (auto voce = fs::directory_iterator(cartella, errore); !errore && voce != fs::directory_iterator();
          voce.increment(errore)) {
-        const std::string altro = testoDi(voce->path().filename());
+        const std::string altro = testoDaPercorso(voce->path().filename());
         if (maiuscoleAscii(altro) == cercato && (trovato.empty() || altro < trovato)) {
             trovato = altro;
         }
@@ -214,7 +217,7 @@ SistemaFile& sistemaFileStandard() {
 
 std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, std::string_view dati) {
     const fs::path vero = bersaglio(percorso);
-    const std::string testoVero = testoDi(vero);
+    const std::string testoVero = testoDaPercorso(vero);
     const std::string temporaneo = nomeTemporaneo(testoVero);
     std::error_code causa;
     const fs::file_status stato = fs::status(vero, causa);
@@ -228,7 +231,7 @@ std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, 
     }
     if (fs::exists(stato)) {
         // Before the content: what was closed to others stays so at every instant.
-        fs::permissions(percorsoDi(temporaneo), stato.permissions(), causa);
+        fs::permissions(percorsoDaTesto(temporaneo), stato.permissions(), causa);
     }
     errore = riempi(sistema, *file, temporaneo, dati);
     if (errore.empty()) {
@@ -243,20 +246,20 @@ std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, 
 }
 
 std::string percorsoSenzaMaiuscole(const std::string& cartella, std::string_view nome) {
-    fs::path trovato = percorsoDi(cartella);
+    fs::path trovato = percorsoDaTesto(cartella);
     while (!nome.empty()) {
         const std::size_t lungo = std::min(nome.find_first_of("/\\"), nome.size());
         if (lungo > 0) {
-            trovato /= percorsoDi(componente(trovato, std::string(nome.substr(0, lungo))));
+            trovato /= percorsoDaTesto(componente(trovato, std::string(nome.substr(0, lungo))));
         }
         nome.remove_prefix(std::min(lungo + 1, nome.size()));
     }
-    return testoDi(trovato);
+    return testoDaPercorso(trovato);
 }
 
 std::string leggiFile(const std::string& percorso, std::uint64_t massimo, std::string& dati) {
     std::error_code errore;
-    const fs::path vero = percorsoDi(percorso);
+    const fs::path vero = percorsoDaTesto(percorso);
     const fs::file_status stato = fs::status(vero, errore);
     if (stato.type() == fs::file_type::not_found) {
         return "il file non esiste";

@@ -1,12 +1,18 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <system_error>
 
 namespace kelvo {
+
+/// The path of a text in UTF-8, and its text. A system whose paths are bytes keeps any bytes; on one whose paths are
+/// characters, what is no UTF-8 becomes U+FFFD.
+std::filesystem::path percorsoDaTesto(std::string_view testo);
+std::string testoDaPercorso(const std::filesystem::path& percorso);
 
 /// Why an operation of the system failed, in Italian.
 std::string paroleErrore(const std::error_code& errore);

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "app/percorsi.h"
+#include "base/file.h"
 #include "base/testo.h"
 #include "shell/MDI_Form.h"
 #include "shell/gestore.h"
@@ -33,29 +34,20 @@ RichiestaFile richiestaProgetto(const Applicazione& app) {
     return richiesta;
 }
 
-fs::path percorsoDi(const std::string& testo) {
-    return fs::path(std::u8string(testo.begin(), testo.end()));
-}
-
-std::string testoDi(const fs::path& percorso) {
-    const std::u8string u8 = percorso.u8string();
-    return {u8.begin(), u8.end()};
-}
-
 /// File title of a path less its last four characters.
 std::string titoloSenzaEstensione(const std::string& percorso) {
-    return senzaUltimi(testoDi(percorsoDi(percorso).filename()), caratteriEstensione);
+    return senzaUltimi(testoDaPercorso(percorsoDaTesto(percorso).filename()), caratteriEstensione);
 }
 
 /// The path from the root on, without the components "." and ".." where that leads to the same file.
 std::string percorsoIntero(const std::string& percorso) {
     std::error_code errore;
-    const fs::path intero = fs::absolute(percorsoDi(percorso), errore);
+    const fs::path intero = fs::absolute(percorsoDaTesto(percorso), errore);
     if (errore) {
         return percorso;
     }
     const fs::path breve = intero.lexically_normal();
-    return testoDi(fs::equivalent(intero, breve, errore) ? breve : intero);
+    return testoDaPercorso(fs::equivalent(intero, breve, errore) ? breve : intero);
 }
 
 }  // namespace
@@ -228,7 +220,7 @@ std::optional<std::string> MDI_Form::chiediPercorso() {
         } else if (recupero.appartiene(*percorso)) {
             // A save removes what stands there.
             avviso("Questa cartella è riservata alle copie di recupero: sceglierne un'altra.");
-            richiesta.nome = testoDi(percorsoDi(*percorso).filename());
+            richiesta.nome = testoDaPercorso(percorsoDaTesto(*percorso).filename());
         } else {
             break;
         }

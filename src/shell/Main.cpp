@@ -4,6 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "base/file.h"
 #include "base/guasto.h"
 #include "shell/frmSplash.h"
 #include "shell/gestore.h"
@@ -17,19 +18,15 @@ namespace {
 constexpr const char* metodoAvvio = "modCommonModule:InitEnvironment()";
 constexpr std::int16_t ramiAllAvvio = 4;
 
-fs::path percorsoDi(const std::string& testo) {
-    return fs::path(std::u8string(testo.begin(), testo.end()));
-}
-
 /// Clears the read-only attribute. Fault 53 if the file is not there, fault 75 if the system refuses.
 void rendiScrivibile(const std::string& percorso) {
     std::error_code errore;
-    const fs::file_status stato = fs::status(percorsoDi(percorso), errore);
+    const fs::file_status stato = fs::status(percorsoDaTesto(percorso), errore);
     if (stato.type() == fs::file_type::not_found) {
         throw Guasto(NumeroGuasto::fileNonTrovato, percorso);
     }
     if ((stato.permissions() & fs::perms::owner_write) == fs::perms::none) {
-        fs::permissions(percorsoDi(percorso), fs::perms::owner_write, fs::perm_options::add, errore);
+        fs::permissions(percorsoDaTesto(percorso), fs::perms::owner_write, fs::perm_options::add, errore);
     }
     if (errore) {
         throw Guasto(NumeroGuasto::accessoPercorso, percorso);
@@ -116,7 +113,7 @@ bool modMain::leggiConfigurazione() {
 
 void modMain::cancellaLog() {
     // The name as it stands, from the working folder; who writes the log joins it to the program's folder.
-    const fs::path log = percorsoDi(app_.configurazione.PathErrore);
+    const fs::path log = percorsoDaTesto(app_.configurazione.PathErrore);
     std::error_code errore;
     if (fs::is_regular_file(log, errore)) {
         fs::permissions(log, fs::perms::owner_write, fs::perm_options::add, errore);

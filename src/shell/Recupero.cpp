@@ -15,20 +15,11 @@ namespace {
 
 constexpr const char* vietati = "\\/:*?\"<>|";
 
-fs::path percorsoDi(const std::string& testo) {
-    return fs::path(std::u8string(testo.begin(), testo.end()));
-}
-
-std::string testoDi(const fs::path& percorso) {
-    const std::u8string u8 = percorso.u8string();
-    return {u8.begin(), u8.end()};
-}
-
 /// The copies in a folder.
 std::vector<fs::path> copie(const std::string& cartella) {
     std::vector<fs::path> trovate;
     std::error_code errore;
-    for (fs::directory_iterator voce(percorsoDi(cartella), errore), fine; !errore && voce != fine;
+    for (fs::directory_iterator voce(percorsoDaTesto(cartella), errore), fine; !errore && voce != fine;
          voce.increment(errore)) {
         std::error_code ignorato;
         if (voce->path().extension() == ".klv" && voce->is_regular_file(ignorato)) {
@@ -58,7 +49,8 @@ std::string nomeAmmesso(std::string nome) {
 }  // namespace
 
 std::string Recupero::percorso() const {
-    return testoDi(percorsoDi(cartella_) / percorsoDi(nomeAmmesso(app_.theRotonda().NomeFile()) + ".klv"));
+    return testoDaPercorso(percorsoDaTesto(cartella_) /
+                           percorsoDaTesto(nomeAmmesso(app_.theRotonda().NomeFile()) + ".klv"));
 }
 
 std::string Recupero::scrivi() {
@@ -68,7 +60,7 @@ std::string Recupero::scrivi() {
     }
     try {
         std::error_code errore;
-        fs::create_directories(percorsoDi(cartella_), errore);
+        fs::create_directories(percorsoDaTesto(cartella_), errore);
         const std::string meta = percorso();
         std::string esito = scriviFileSicuro(app_.file, meta, app_.theRotonda().TestoFile());
         if (esito.empty()) {
@@ -83,8 +75,8 @@ std::string Recupero::scrivi() {
 
 void Recupero::eliminaAltre(const std::string& tenuta) {
     for (const fs::path& copia : copie(cartella_)) {
-        if (testoDi(copia) != tenuta) {
-            app_.file.elimina(testoDi(copia));
+        if (testoDaPercorso(copia) != tenuta) {
+            app_.file.elimina(testoDaPercorso(copia));
         }
     }
 }
@@ -101,7 +93,7 @@ std::optional<std::string> Recupero::trovata() const {
         std::error_code errore;
         const fs::file_time_type scritta = fs::last_write_time(copia, errore);
         if (!errore && (!ultima || scritta > quando)) {
-            ultima = testoDi(copia);
+            ultima = testoDaPercorso(copia);
             quando = scritta;
         }
     }
@@ -110,7 +102,7 @@ std::optional<std::string> Recupero::trovata() const {
 
 bool Recupero::appartiene(const std::string& percorso) const {
     std::error_code errore;
-    return fs::equivalent(percorsoDi(percorso).parent_path(), percorsoDi(cartella_), errore);
+    return fs::equivalent(percorsoDaTesto(percorso).parent_path(), percorsoDaTesto(cartella_), errore);
 }
 
 }  // namespace kelvo

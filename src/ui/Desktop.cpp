@@ -21,13 +21,9 @@ namespace kelvo::ui {
 
 namespace {
 
-/// The words of the command line as one text.
-std::string rigaComando(int argc, char** argv) {
-    std::string riga;
-    for (int i = 1; i < argc; ++i) {
-        riga += (riga.empty() ? "" : " ") + std::string{argv[i]};
-    }
-    return riga;
+/// The words of the command line as one text, less what the toolkit took for itself.
+std::string rigaComando() {
+    return s(QApplication::arguments().mid(1).join(QLatin1Char(' ')));
 }
 
 }  // namespace
@@ -54,8 +50,10 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     MessaggiQt messaggi;
     OrologioSistema orologio;
     DialogoFileQt dialogo;
-    ApriDocumentiQt documenti;
-    ImpostazioniQt impostazioni;
+    ApriDocumentiQt documentiQt;
+    ImpostazioniQt impostazioniQt;
+    ApriDocumenti& documenti = piattaforma.documenti != nullptr ? *piattaforma.documenti : documentiQt;
+    ImpostazioniUtente& impostazioni = piattaforma.impostazioni != nullptr ? *piattaforma.impostazioni : impostazioniQt;
     CronometroQt cronometro;
     AttesaQt attesa;
     Applicazione app(piattaforma.cartellaProgramma, piattaforma.cartellaLavoro, {messaggi, orologio, piattaforma.file});
@@ -67,7 +65,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     registraFinestre(cornice.finestre);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});
-    if (!avvio.Main(rigaComando(argc, argv))) {
+    if (!avvio.Main(rigaComando())) {
         return 1;
     }
     return cornice.scaricata() ? 0 : QApplication::exec();

@@ -12,9 +12,11 @@ struct Piattaforma {
     SistemaFile& file;
     IstanzaUnica& istanza;
     LocaleUtente& locale;
-    std::string cartellaProgramma;  ///< without a separator at its end
-    std::string cartellaLavoro;     ///< temporary files of the user's own
-    std::string cartellaRecupero;   ///< recovery copies of the user's own
+    ApriDocumenti* documenti = nullptr;          ///< null: by the toolkit's means
+    ImpostazioniUtente* impostazioni = nullptr;  ///< null: by the toolkit's means
+    std::string cartellaProgramma;               ///< without a separator at its end
+    std::string cartellaLavoro;                  ///< temporary files of the user's own
+    std::string cartellaRecupero;                ///< recovery copies of the user's own
 };
 
 /// Language, faces, look and drawings of the program for the application object that was just made.

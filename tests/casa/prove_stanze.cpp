@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,26 @@ TEST(Stanze, NoFileIncludesAStranger) {
     EXPECT_GT(letti, 30);
 }
 
+/// True for a line that asks which system or compiler it is built for.
+bool chiedeIlSistema(const std::string& testo) {
+    static const std::regex domanda(
+        "(^|\\n)[ \\t]*#[ \\t]*(if|elif)[^\\n]*(_WIN32|_WIN64|__linux|__unix|__APPLE__|__MINGW|__CYGWIN__|_MSC_VER)");
+    return std::regex_search(testo, domanda);
+}
+
+TEST(Stanze, OnlyTheRoomsOfTheSystemsKnowWhichOneItIs) {
+    EXPECT_TRUE(chiedeIlSistema("#pragma once\n#ifdef _WIN32\n"));
+    EXPECT_TRUE(chiedeIlSistema("# if defined(__linux__)\n"));
+    EXPECT_FALSE(chiedeIlSistema("// _WIN32\nint x;\n#if 0\n"));
+    for (const std::string& percorso : fileDelDeposito()) {
+        const bool nostro =
+            inCartella(percorso, "src") || inCartella(percorso, "apps") || inCartella(percorso, "tests");
+        if (sorgente(percorso) && nostro && !inCartella(percorso, "src/platform")) {
+            EXPECT_FALSE(chiedeIlSistema(testoDelDeposito(percorso))) << percorso;
+        }
+    }
+}
+
 TEST(Stanze, TheBuildLinksWhatTheTableAllows) {
     const std::string testo = testoDelDeposito("src/CMakeLists.txt");
     ASSERT_NE(testo.find("kelvo_stanza(base"), std::string::npos);
@@ -80,6 +101,13 @@ TEST(Stanze, APlantedStrangerIsFound) {
         {"src/shell/servizi/tBox.h", "#include \"shell/Main.h\""},
         {"src/ignota/cosa.h", "#include <string>"},
         {"src/cosa.h", "#include <string>"},
+        {"src/shell/Main.cpp", "#include <windows.h>"},
+        {"src/shell/Main.cpp", "#include \"platform/Piattaforma.h\""},
+        {"src/platform/Piattaforma.h", "#include <windows.h>"},
+        {"src/platform/windows/cartelle.cpp", "#include \"platform/linux/cartelle.h\""},
+        {"src/platform/linux/cartelle.cpp", "#include \"platform/windows/testi.h\""},
+        {"apps/kelvo/main.cpp", "#include \"platform/linux/cartelle.h\""},
+        {"apps/kelvo-cli/main.cpp", "#include \"platform/windows/cartelle.h\""},
         {"apps/kelvo-cli/main.cpp", "#include \"ui/vista.h\""},
         {"apps/kelvo-cli/main.cpp", "#include \"Manca.h\""},
         {"apps/kelvo-cli/main.cpp", "#include <QtCore/QString>"},
@@ -104,6 +132,9 @@ TEST(Stanze, AFileMayIncludeWhatTheTableAllows) {
         {"src/results/livello.h", "#include \"calc/modCalcolo.h\""},
         {"src/platform/linux/file.cpp", "#include <fcntl.h>"},
         {"src/platform/linux/file.cpp", "#include <sys/stat.h>"},
+        {"src/platform/windows/file.cpp", "#include <windows.h>"},
+        {"src/platform/windows/file.cpp", "#include \"platform/Piattaforma.h\""},
+        {"apps/kelvo/main.cpp", "#include \"platform/Piattaforma.h\""},
         {"src/disegno/grafico.cpp", "#include <QtGui/QPainter>"},
         {"src/ui/vista.cpp", "#include <QtWidgets/QWidget>"},
         {"src/shell/Main.cpp", "#include \"shell/servizi/tBox.h\""},

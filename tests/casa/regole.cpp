@@ -27,15 +27,15 @@ constexpr std::array stanze{
     Stanza{"reports", "results calc pianta app model shell/servizi", "pugixml zip xlsxwriter", ""},
     Stanza{"cad", "pianta app model shell/servizi", "", ""},
     Stanza{"shell", "cad reports checkup results input calc pianta app model shell/servizi", "", ""},
-    Stanza{"platform/linux", "app", "sistema", ""},
-    Stanza{"platform/windows", "app", "sistema", ""},
+    Stanza{"platform", "app", "", ""},
+    Stanza{"platform/linux", "platform app", "sistema", ""},
+    Stanza{"platform/windows", "platform app", "sistema", ""},
     Stanza{"disegno", "pianta shell/servizi", "qtgui", ""},
     Stanza{"ui", "disegno shell cad reports checkup results input calc pianta app model shell/servizi",
            "qtgui qtwidgets", ""},
-    Stanza{"apps/kelvo", "ui platform/linux platform/windows", "qtgui qtwidgets", ""},
+    Stanza{"apps/kelvo", "ui platform", "qtgui qtwidgets", ""},
     Stanza{"apps/kelvo-cli",
-           "disegno shell cad reports checkup results input calc pianta app model shell/servizi platform/linux "
-           "platform/windows",
+           "disegno shell cad reports checkup results input calc pianta app model shell/servizi platform",
            "cli11 nlohmann", ""},
 };
 

@@ -13,8 +13,8 @@
 #include <string>
 
 #include "comune/fileDifettosi.h"
+#include "model/testiKlv.h"
 #include "platform/linux/SistemaFileLinux.h"
-#include "testiKlv.h"
 
 namespace kelvo::prove {
 namespace {

@@ -8,7 +8,7 @@
 #include <random>
 #include <string>
 
-#include "testiKlv.h"
+#include "model/testiKlv.h"
 
 /// Files that are too large, cut, damaged or made to hurt.
 namespace kelvo::prove {

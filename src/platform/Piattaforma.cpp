@@ -1,0 +1,7 @@
+#include "platform/Piattaforma.h"
+
+namespace kelvo {
+
+Piattaforma::~Piattaforma() = default;
+
+}  // namespace kelvo

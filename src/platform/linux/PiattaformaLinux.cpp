@@ -1,0 +1,41 @@
+#include "platform/Piattaforma.h"
+#include "platform/linux/ServiziLinux.h"
+#include "platform/linux/SistemaFileLinux.h"
+#include "platform/linux/cartelle.h"
+
+namespace kelvo {
+
+namespace {
+
+class PiattaformaLinux final : public Piattaforma {
+public:
+    SistemaFile& file() override { return file_; }
+    IstanzaUnica& istanza() override { return istanza_; }
+    LocaleUtente& locale() override { return locale_; }
+    ImpostazioniUtente* impostazioni() override { return nullptr; }
+    ApriDocumenti* documenti() override { return nullptr; }
+
+    std::string cartellaProgramma() const override { return cartellaEseguibile(); }
+    std::string cartellaTemporanea() const override { return lavoro_; }
+    std::string cartellaDati() const override { return cartellaDatiUtente(); }
+
+    std::vector<std::string> argomenti(int argc, char** argv) const override {
+        return argc > 1 ? std::vector<std::string>(argv + 1, argv + argc) : std::vector<std::string>{};
+    }
+    /// Bytes pass as they are.
+    void preparaUscite() const override {}
+
+private:
+    std::string lavoro_ = kelvo::cartellaTemporanea();
+    SistemaFileLinux file_;
+    IstanzaLinux istanza_{lavoro_};
+    LocaleLinux locale_;
+};
+
+}  // namespace
+
+std::unique_ptr<Piattaforma> creaPiattaforma() {
+    return std::make_unique<PiattaformaLinux>();
+}
+
+}  // namespace kelvo

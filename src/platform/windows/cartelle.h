@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace kelvo {
+
+/// Folder of the running program as it was started, without a separator at its end.
+std::string cartellaEseguibile();
+
+/// "Kelvo" in the folder of the user's temporary files, made where it is missing; that folder itself if it cannot be
+/// made, "." if there is none. Without a separator at its end.
+std::string cartellaTemporanea();
+
+/// "Kelvo" in the folder of the user's own data on this machine, made where it is missing; "." if there is none.
+std::string cartellaDatiUtente();
+
+}  // namespace kelvo

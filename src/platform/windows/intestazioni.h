@@ -1,0 +1,7 @@
+#pragma once
+
+#include <windows.h>
+
+// These two want the first one before them.
+#include <shellapi.h>
+#include <shlobj.h>
