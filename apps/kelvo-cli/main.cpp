@@ -5,6 +5,7 @@
 #include <exception>
 #include <memory>
 #include <new>
+#include <utility>
 #include <vector>
 
 #include "Comando.h"
@@ -33,6 +34,9 @@ int esegui(int argc, char** argv) {
     std::vector<std::unique_ptr<Comando>> comandi;
     for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica}) {
         comandi.push_back(crea(radice));
+    }
+    for (auto& comando : comandiDisegno(radice)) {
+        comandi.push_back(std::move(comando));
     }
     try {
         radice.parse(argc, argv);

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+
+#include "base/Tabella.h"
+
+/// The look of what is painted: colours, pens and faces of the type, without any toolkit.
+namespace kelvo::tinta {
+
+inline constexpr Colore principale{0, 114, 198};
+inline constexpr Colore principaleScuro{0, 90, 158};
+inline constexpr Colore principalePremuto{0, 69, 122};
+inline constexpr Colore titolo{0, 86, 143};
+inline constexpr Colore inchiostro{32, 32, 32};
+inline constexpr Colore secondario{90, 96, 104};
+inline constexpr Colore spento{110, 117, 124};
+inline constexpr Colore grafite{64, 72, 80};
+inline constexpr Colore bordoCampo{124, 133, 141};
+inline constexpr Colore bordo{195, 200, 205};
+inline constexpr Colore bordoSpento{211, 215, 218};
+inline constexpr Colore fondo{246, 248, 250};
+inline constexpr Colore barra{240, 242, 244};
+inline constexpr Colore scelto{204, 227, 243};
+inline constexpr Colore sfiorato{229, 241, 250};
+inline constexpr Colore errore{176, 0, 32};
+inline constexpr Colore fondoErrore{255, 240, 240};
+inline constexpr Colore rigaPannello{225, 228, 231};
+
+// Plan of the roundabout.
+inline constexpr Colore asfalto{217, 222, 227};
+inline constexpr Colore isola{220, 232, 168};
+inline constexpr Colore corona{238, 240, 228};  ///< apron and splitter islands
+inline constexpr Colore ingressoCorrente{191, 224, 246};
+
+}  // namespace kelvo::tinta
+
+/// Widths of the pens, logical pixels at 100 %.
+namespace kelvo::tratto {
+
+inline constexpr double cordolo = 1.5;
+inline constexpr double isola = 1.0;
+inline constexpr double quota = 1.5;
+inline constexpr double quotaSecondaria = 1.0;
+inline constexpr double asse = 1.5;
+inline constexpr double percorso = 3.5;
+inline constexpr double disco = 1.5;
+
+}  // namespace kelvo::tratto
+
+/// Families of the faces, the first that a system has.
+namespace kelvo::famiglia {
+
+inline constexpr std::array<const char*, 2> dati{"Segoe UI Semilight", "Open Sans"};
+inline constexpr std::array<const char*, 4> forte{"Segoe UI Semibold", "Open Sans Semibold", "Open Sans SemiBold",
+                                                  "Open Sans"};
+
+}  // namespace kelvo::famiglia
