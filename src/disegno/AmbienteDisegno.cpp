@@ -29,7 +29,7 @@ struct AmbienteDisegno::Interno {
 
 AmbienteDisegno::AmbienteDisegno(const std::string& cartellaCaratteri) : interno_(std::make_unique<Interno>()) {
     // The toolkit sets the system's locale: numbers in files would carry its comma.
-    std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe): nothing else runs yet
     caricaCaratteri(QString::fromStdString(cartellaCaratteri));
 }
 
