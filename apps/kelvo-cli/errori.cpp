@@ -42,7 +42,8 @@ std::string descriviMancante(const CLI::App& comando) {
     }
     for (const CLI::Option* opzione : comando.get_options()) {
         if (opzione->get_required() && opzione->count() == 0) {
-            return opzione->get_positional() ? "manca il nome del file di progetto"
+            return opzione->get_positional() ? opzione->get_name() == "USCITA" ? "manca il nome del file da scrivere"
+                                                                               : "manca il nome del file di progetto"
                                              : fmt::format("manca l'opzione {}", opzione->get_name());
         }
     }

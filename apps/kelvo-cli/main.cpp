@@ -38,6 +38,9 @@ int esegui(std::vector<std::string> argomenti) {
     for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica}) {
         comandi.push_back(crea(radice));
     }
+    for (auto& comando : comandiDisegno(radice)) {
+        comandi.push_back(std::move(comando));
+    }
     try {
         // The library takes them from the last to the first.
         std::reverse(argomenti.begin(), argomenti.end());

@@ -105,7 +105,7 @@ TEST(MoltiFile, MemoryOfAThousandIsThatOfAHundred) {
         const long prima = picco(cento, cartella.percorso());
         const long dopo = picco(mille, cartella.percorso());
         EXPECT_LE(dopo, prima + 1024) << comando.front() << ": " << prima << " KiB, then " << dopo;
-        EXPECT_LE(dopo, 15 * 1024) << comando.front();
+        EXPECT_LE(dopo, KELVO_PICCO_MIB * 1024) << comando.front();
     }
 }
 

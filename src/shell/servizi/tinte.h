@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 #include "base/Tabella.h"
@@ -28,7 +29,31 @@ inline constexpr Colore fondoErrore{255, 240, 240};
 inline constexpr Colore rigaPannello{225, 228, 231};
 inline constexpr Colore spentoSuBlu{97, 168, 220};
 inline constexpr Colore verde{0, 98, 0};
+
+// Plan of the roundabout.
+inline constexpr Colore asfalto{217, 222, 227};
+inline constexpr Colore isola{220, 232, 168};
+inline constexpr Colore corona{238, 240, 228};  ///< apron and splitter islands
+inline constexpr Colore ingressoCorrente{191, 224, 246};
 }  // namespace tinta
+
+/// Widths of the pens, logical pixels at 100 %.
+namespace tratto {
+inline constexpr double cordolo = 1.5;
+inline constexpr double isola = 1.0;
+inline constexpr double quota = 1.5;
+inline constexpr double quotaSecondaria = 1.0;
+inline constexpr double asse = 1.5;
+inline constexpr double percorso = 3.5;
+inline constexpr double disco = 1.5;
+}  // namespace tratto
+
+/// Families of the faces, the first that a system has.
+namespace famiglia {
+inline constexpr std::array<const char*, 2> dati{"Segoe UI Semilight", "Open Sans"};
+inline constexpr std::array<const char*, 4> forte{"Segoe UI Semibold", "Open Sans Semibold", "Open Sans SemiBold",
+                                                  "Open Sans"};
+}  // namespace famiglia
 
 /// Contrast ratio of two colours, 1 to 21 (WCAG 2.1, relative luminance).
 double contrasto(Colore a, Colore b);

@@ -1,0 +1,138 @@
+#include <fmt/format.h>
+
+#include <array>
+#include <optional>
+
+#include "Comando.h"
+#include "argomenti.h"
+#include "base/file.h"
+#include "base/guasto.h"
+#include "disegno/AmbienteDisegno.h"
+#include "disegno/DisegnatoreQt.h"
+#include "errori.h"
+#include "pianta/Pianta.h"
+
+namespace kelvo::cli {
+
+namespace {
+
+/// "A" to "G", in capitals or not; nothing for any other text.
+std::optional<int> leggiRamo(const std::string& testo) {
+    if (testo.size() != 1) {
+        return std::nullopt;
+    }
+    const char grande = testo[0] >= 'a' && testo[0] <= 'z' ? static_cast<char>(testo[0] - 'a' + 'A') : testo[0];
+    const int ramo = grande - 'A' + 1;
+    return ramo >= 1 && ramo <= massimoRami ? std::optional(ramo) : std::nullopt;
+}
+
+std::string nomiMisure() {
+    std::string nomi;
+    for (const pianta::VoceMisura& voce : pianta::vociMisure) {
+        nomi += (nomi.empty() ? "" : ", ") + std::string(voce.argomento);
+    }
+    return nomi;
+}
+
+std::optional<pianta::Misura> leggiMisura(const std::string& testo) {
+    for (std::size_t m = 0; m < pianta::vociMisure.size(); ++m) {
+        if (pianta::vociMisure[m].argomento == testo) {
+            return static_cast<pianta::Misura>(m);
+        }
+    }
+    return std::nullopt;
+}
+
+class ComandoPianta final : public Comando {
+public:
+    explicit ComandoPianta(CLI::App& radice)
+        : Comando(radice, "pianta", "Disegna la pianta della rotatoria in un file PNG, SVG o PDF",
+                  "  kelvo-cli pianta Rotatoria.klv Rotatoria.pdf\n"
+                  "  kelvo-cli pianta Rotatoria.klv RamoB.png --ramo B --misura larghezza --larghezza 1600") {
+        app_->add_option_function<std::string>(
+                "--ramo",
+                [this](const std::string& testo) {
+                    const auto letto = leggiRamo(testo);
+                    if (!letto) {
+                        throw CLI::ValidationError(
+                            "--ramo", fmt::format("serve la lettera di un ramo, da A a G, non {}", citato(testo)));
+                    }
+                    opzioni_.ramo = *letto;
+                    opzioni_.vista = pianta::Vista::primoPiano;
+                },
+                "primo piano di un ramo, da A a G (se manca: tutta la rotatoria)")
+            ->type_name("LETTERA");
+        app_->add_option_function<std::string>(
+                "--misura",
+                [this](const std::string& testo) {
+                    opzioni_.misura = leggiMisura(testo);
+                    if (!opzioni_.misura) {
+                        throw CLI::ValidationError("--misura",
+                                                   fmt::format("serve una di {}, non {}", nomiMisure(), citato(testo)));
+                    }
+                },
+                "misura da quotare in evidenza, con --ramo: " + nomiMisure())
+            ->type_name("NOME");
+        constexpr Estremi larghezza{.minimo = MisuraDisegno::minimaLarghezza,
+                                    .massimo = MisuraDisegno::massimaLarghezza};
+        aggiungiIntero(*app_, "--larghezza", larghezza_, larghezza,
+                       fmt::format("larghezza del disegno in pixel, da {} a {} (se manca: 1200)", larghezza.minimo,
+                                   larghezza.massimo));
+        aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
+        aggiungiTesto(*app_, "USCITA", uscita_, "file da scrivere, .png, .svg o .pdf; se esiste viene sostituito")
+            ->required()
+            ->type_name("");
+    }
+
+    int esegui() override {
+        const auto formato = formatoDiFile(uscita_);
+        if (!formato) {
+            return usoErrato(*app_,
+                             fmt::format("{}: serve un nome che finisce con .png, .svg o .pdf", citato(uscita_)));
+        }
+        if (opzioni_.misura && opzioni_.ramo == 0) {
+            return usoErrato(*app_, "l'opzione --misura va data con --ramo");
+        }
+        Contesto contesto;
+        if (!contesto.carica(file_)) {
+            return uscitaFallito;
+        }
+        const Rotonda& rotonda = contesto.app().theRotonda();
+        if (opzioni_.ramo > rotonda.NumeroRami()) {
+            avvisa(fmt::format("{}: il ramo {} non esiste, i rami sono {}", file_, pianta::lettera(opzioni_.ramo),
+                               rotonda.NumeroRami()));
+            return uscitaFallito;
+        }
+        const std::string errore = disegna(contesto, *formato);
+        if (!errore.empty()) {
+            avvisa(fmt::format("Impossibile scrivere il disegno: {} ({})", errore, uscita_));
+            return uscitaFallito;
+        }
+        return uscitaFatto;
+    }
+
+private:
+    std::string disegna(Contesto& contesto, FormatoDisegno formato) const {
+        const clsAmbiente& ambiente = contesto.app().theAmbiente;
+        const disegno::AmbienteDisegno qt(ambiente.PercorsoProgramma("Caratteri"));
+        disegno::DisegnatoreQt disegnatore;
+        const EsitoDisegno esito = disegnatore.pianta(pianta::datiPianta(contesto.app().theRotonda()), opzioni_,
+                                                      formato, {.larghezza = larghezza_});
+        return esito.errore.empty() ? scriviFileSicuro(contesto.app().file, uscita_, esito.dati) : esito.errore;
+    }
+
+    pianta::OpzioniPianta opzioni_;
+    std::int16_t larghezza_ = 1200;
+    std::string file_;
+    std::string uscita_;
+};
+
+}  // namespace
+
+std::vector<std::unique_ptr<Comando>> comandiDisegno(CLI::App& radice) {
+    std::vector<std::unique_ptr<Comando>> comandi;
+    comandi.push_back(std::make_unique<ComandoPianta>(radice));
+    return comandi;
+}
+
+}  // namespace kelvo::cli

@@ -1,0 +1,134 @@
+#include "disegno/DisegnatoreQt.h"
+
+#include <QtCore/QBuffer>
+#include <QtGui/QImage>
+#include <QtGui/QPageSize>
+#include <QtGui/QPainter>
+#include <QtGui/QPdfWriter>
+#include <QtSvg/QSvgGenerator>
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+#include "disegno/pittorePianta.h"
+#include "pianta/Pianta.h"
+
+namespace kelvo::disegno {
+
+namespace {
+
+constexpr int puntiPollice = 96;
+/// Width at which the pens are as wide as on a screen; larger pictures have wider pens.
+constexpr double larghezzaUsuale = 900.0;
+
+/// What is painted, in logical pixels.
+struct Foglio {
+    QSizeF misura;
+    QString titolo;
+    std::function<void(QPainter&)> dipingi;
+};
+
+EsitoDisegno nonRiuscito(const char* motivo) {
+    return {.dati = {}, .errore = motivo};
+}
+
+EsitoDisegno finito(const QByteArray& byte) {
+    return {.dati = byte.toStdString(), .errore = {}};
+}
+
+EsitoDisegno png(const Foglio& foglio, double scala) {
+    const QSize pixel = (foglio.misura * scala).toSize();
+    QImage immagine(pixel, QImage::Format_ARGB32_Premultiplied);
+    if (immagine.isNull()) {
+        return nonRiuscito("l'immagine è troppo grande");
+    }
+    immagine.setDotsPerMeterX(static_cast<int>(std::lround(puntiPollice * scala / 0.0254)));
+    immagine.setDotsPerMeterY(immagine.dotsPerMeterX());
+    immagine.fill(Qt::white);
+    QPainter pennello(&immagine);
+    pennello.scale(scala, scala);
+    foglio.dipingi(pennello);
+    pennello.end();
+    QByteArray byte;
+    QBuffer memoria(&byte);
+    memoria.open(QIODevice::WriteOnly);
+    return immagine.save(&memoria, "PNG") ? finito(byte) : nonRiuscito("l'immagine non si lascia scrivere");
+}
+
+EsitoDisegno svg(const Foglio& foglio) {
+    QByteArray byte;
+    QBuffer memoria(&byte);
+    memoria.open(QIODevice::WriteOnly);
+    QSvgGenerator generatore;
+    generatore.setOutputDevice(&memoria);
+    generatore.setSize(foglio.misura.toSize());
+    generatore.setViewBox(QRectF(QPointF(0, 0), foglio.misura));
+    generatore.setResolution(puntiPollice);
+    generatore.setTitle(foglio.titolo);
+    generatore.setDescription(QStringLiteral("Kelvo"));
+    QPainter pennello;
+    if (!pennello.begin(&generatore)) {
+        return nonRiuscito("l'immagine non si lascia scrivere");
+    }
+    pennello.fillRect(QRectF(QPointF(0, 0), foglio.misura), Qt::white);
+    foglio.dipingi(pennello);
+    pennello.end();
+    return finito(byte);
+}
+
+EsitoDisegno pdf(const Foglio& foglio) {
+    QByteArray byte;
+    QBuffer memoria(&byte);
+    memoria.open(QIODevice::WriteOnly);
+    QPdfWriter scrittore(&memoria);
+    constexpr double pollice = 72.0;
+    const QSizeF punti = foglio.misura * (pollice / puntiPollice);
+    scrittore.setPageSize(QPageSize(punti, QPageSize::Point, {}, QPageSize::ExactMatch));
+    scrittore.setPageMargins(QMarginsF(0, 0, 0, 0));
+    constexpr int fine = 1200;
+    scrittore.setResolution(fine);
+    scrittore.setTitle(foglio.titolo);
+    scrittore.setCreator(QStringLiteral("Kelvo"));
+    QPainter pennello;
+    if (!pennello.begin(&scrittore)) {
+        return nonRiuscito("l'immagine non si lascia scrivere");
+    }
+    const double scala = static_cast<double>(fine) / puntiPollice;
+    pennello.scale(scala, scala);
+    foglio.dipingi(pennello);
+    pennello.end();
+    return finito(byte);
+}
+
+EsitoDisegno scrivi(const Foglio& foglio, FormatoDisegno formato, double scala) {
+    switch (formato) {
+        case FormatoDisegno::svg:
+            return svg(foglio);
+        case FormatoDisegno::pdf:
+            return pdf(foglio);
+        case FormatoDisegno::png:
+            break;
+    }
+    return png(foglio, scala);
+}
+
+}  // namespace
+
+EsitoDisegno DisegnatoreQt::pianta(const pianta::DatiPianta& dati, const pianta::OpzioniPianta& opzioni,
+                                   FormatoDisegno formato, const MisuraDisegno& misura) {
+    const pianta::Pianta disegno = pianta::costruisci(dati, opzioni);
+    const int larga = std::clamp(misura.larghezza, MisuraDisegno::minimaLarghezza, MisuraDisegno::massimaLarghezza);
+    const double propria = larga * disegno.vista.altezza() / disegno.vista.larghezza();
+    const int alta = std::clamp(misura.altezza > 0 ? misura.altezza : static_cast<int>(std::lround(propria)), 1,
+                                MisuraDisegno::massimaLarghezza);
+    const StilePianta stile{.tratto = std::max(1.0, larga / larghezzaUsuale)};
+    const Foglio foglio{
+        .misura = QSizeF(larga, alta),
+        .titolo = QString::fromStdString(disegno.nomeAccessibile),
+        .dipingi = [&](QPainter& pennello) { dipingiPianta(pennello, disegno, QRectF(0, 0, larga, alta), stile); }};
+    constexpr double minima = 0.5;
+    constexpr double massima = 8.0;
+    return scrivi(foglio, formato, std::clamp(misura.scala, minima, massima));
+}
+
+}  // namespace kelvo::disegno
