@@ -1,0 +1,207 @@
+#include <gtest/gtest.h>
+
+#include <QtCore/QEvent>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <filesystem>
+
+#include "comune/cartella.h"
+#include "ui/gesti.h"
+#include "ui/serviziQt.h"
+
+namespace kelvo::prove {
+namespace {
+
+using gesti::AlModale;
+using gesti::attendi;
+using gesti::tasto;
+
+struct CasoBox {
+    const char* nome;
+    Pulsanti pulsanti;
+    Icona icona;
+    QMessageBox::Icon mostrata;
+    QMessageBox::StandardButtons bottoni;
+    Risposta allInvio;
+    Risposta allEsc;
+};
+
+class Box : public testing::TestWithParam<CasoBox> {};
+
+TEST_P(Box, ShowsWordsIconAndButtonsAndAnswersEnterAndEscape) {
+    const CasoBox& caso = GetParam();
+    for (const bool invio : {true, false}) {
+        QString testo;
+        QString titolo;
+        auto icona = QMessageBox::NoIcon;
+        QMessageBox::StandardButtons bottoni;
+        AlModale risponde("messaggio", [&](QWidget& finestra) {
+            auto& box = dynamic_cast<QMessageBox&>(finestra);
+            testo = box.text();
+            titolo = box.windowTitle();
+            icona = box.icon();
+            bottoni = box.standardButtons();
+            QTest::keyClick(&box, invio ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        ui::MessaggiQt messaggi;
+        const Risposta data =
+            messaggi.mostra("Prima <riga>\r\nseconda & ultima", "KELVO 2014 - Attenzione", caso.icona, caso.pulsanti);
+        EXPECT_EQ(data, invio ? caso.allInvio : caso.allEsc) << invio;
+        EXPECT_TRUE(risponde.avvenuto());
+        EXPECT_FALSE(risponde.rimasto());
+        EXPECT_EQ(testo, QStringLiteral("Prima <riga>\nseconda & ultima"));
+        EXPECT_EQ(titolo, QStringLiteral("KELVO 2014 - Attenzione"));
+        EXPECT_EQ(icona, caso.mostrata);
+        EXPECT_EQ(bottoni, caso.bottoni);
+    }
+}
+
+TEST_P(Box, EachButtonAnswersForItself) {
+    const std::vector<std::pair<QMessageBox::StandardButton, Risposta>> tutti{{QMessageBox::Ok, Risposta::ok},
+                                                                              {QMessageBox::Cancel, Risposta::annulla},
+                                                                              {QMessageBox::Yes, Risposta::si},
+                                                                              {QMessageBox::No, Risposta::no}};
+    for (const auto& [bottone, attesa] : tutti) {
+        if (!GetParam().bottoni.testFlag(bottone)) {
+            continue;
+        }
+        AlModale risponde("messaggio", [&, quale = bottone](QWidget& finestra) {
+            gesti::clic(*dynamic_cast<QMessageBox&>(finestra).button(quale));
+        });
+        ui::MessaggiQt messaggi;
+        EXPECT_EQ(messaggi.mostra("?", "KELVO 2014", GetParam().icona, GetParam().pulsanti), attesa);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pulsanti, Box,
+    testing::Values(CasoBox{"Ok", Pulsanti::ok, Icona::critica, QMessageBox::Critical, QMessageBox::Ok, Risposta::ok,
+                            Risposta::ok},
+                    CasoBox{"OkAnnulla", Pulsanti::okAnnulla, Icona::domanda, QMessageBox::Question,
+                            QMessageBox::Ok | QMessageBox::Cancel, Risposta::ok, Risposta::annulla},
+                    CasoBox{"SiNo", Pulsanti::siNo, Icona::esclamazione, QMessageBox::Warning,
+                            QMessageBox::Yes | QMessageBox::No, Risposta::si, Risposta::no},
+                    CasoBox{"SiNoAnnulla", Pulsanti::siNoAnnulla, Icona::informazione, QMessageBox::Information,
+                            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, Risposta::si, Risposta::annulla}),
+    [](const auto& p) { return p.param.nome; });
+
+class Dialogo : public testing::Test {
+protected:
+    RichiestaFile richiesta(const std::string& nome = {}) {
+        return {.estensione = "klv",
+                .filtro = "File definizione rotonda (*.klv)|*.klv|Tutti i files(*.*)|*.*",
+                .cartella = cartella.percorso(),
+                .nome = nome};
+    }
+    /// Types a name into the file dialogue and presses Enter.
+    static void scrivi(QWidget& finestra, const std::string& nome) {
+        auto* riga = finestra.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        riga->setText(QString::fromStdString(nome));
+        QTest::keyClick(riga, Qt::Key_Return);
+    }
+    CartellaTemporanea cartella;
+    ui::DialogoFileQt dialogo;
+};
+
+TEST_F(Dialogo, SavesUnderTheNameTypedWithTheDefaultExtension) {
+    QString proposto;
+    QStringList filtri;
+    AlModale risponde("dialogoFile", [&](QWidget& finestra) {
+        proposto = finestra.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+        filtri = dynamic_cast<QFileDialog&>(finestra).nameFilters();
+        scrivi(finestra, "nuovo");
+    });
+    EXPECT_EQ(dialogo.salva(richiesta("Rotatoria_001")), cartella.file("nuovo.klv"));
+    EXPECT_EQ(proposto, QStringLiteral("Rotatoria_001"));
+    EXPECT_EQ(filtri,
+              (QStringList{QStringLiteral("File definizione rotonda (*.klv)"), QStringLiteral("Tutti i files (*)")}));
+}
+
+TEST_F(Dialogo, AsksBeforeItOverwrites) {
+    scriviContenuto(cartella.file("vecchio.klv"), "x");
+    bool chiesto = false;
+    AlModale domanda("", [&](QWidget& finestra) {
+        chiesto = qobject_cast<QMessageBox*>(&finestra) != nullptr;
+        // The dialogue stands again when its question is gone: no other name is wanted.
+        QTimer::singleShot(0, finestra.parentWidget(),
+                           [dialogo_ = finestra.parentWidget()] { QTest::keyClick(dialogo_, Qt::Key_Escape); });
+        dynamic_cast<QMessageBox&>(finestra).button(QMessageBox::No)->click();
+    });
+    AlModale risponde("dialogoFile", [](QWidget& finestra) { scrivi(finestra, "vecchio"); });
+    EXPECT_EQ(dialogo.salva(richiesta()), std::nullopt);
+    EXPECT_TRUE(chiesto);
+    EXPECT_EQ(contenuto(cartella.file("vecchio.klv")), "x");
+}
+
+TEST_F(Dialogo, CancelAnswersNothing) {
+    AlModale primo("dialogoFile", [](QWidget& finestra) { QTest::keyClick(&finestra, Qt::Key_Escape); });
+    EXPECT_EQ(dialogo.salva(richiesta()), std::nullopt);
+    AlModale secondo("dialogoFile", [](QWidget& finestra) { QTest::keyClick(&finestra, Qt::Key_Escape); });
+    EXPECT_EQ(dialogo.apri(richiesta(), {}), std::nullopt);
+    EXPECT_TRUE(primo.avvenuto());
+    EXPECT_TRUE(secondo.avvenuto());
+}
+
+TEST_F(Dialogo, OpensAFileThatStandsThereAndTellsEachSelection) {
+    scriviContenuto(cartella.file("rotonda.klv"), "x");
+    std::vector<std::string> scelte;
+    AlModale risponde("dialogoFile", [&](QWidget& finestra) {
+        auto* lista = finestra.findChild<QListView*>(QStringLiteral("listView"));
+        attendi([&] { return lista->model()->rowCount(lista->rootIndex()) == 1; });
+        lista->setCurrentIndex(lista->model()->index(0, 0, lista->rootIndex()));
+        scrivi(finestra, "rotonda.klv");
+    });
+    EXPECT_EQ(dialogo.apri(richiesta(), [&](const std::string& percorso) { scelte.push_back(percorso); }),
+              cartella.file("rotonda.klv"));
+    ASSERT_FALSE(scelte.empty());
+    EXPECT_EQ(scelte.back(), cartella.file("rotonda.klv"));
+}
+
+TEST(AttesaQt, APauseThatNobodyEndsRunsOutAndLetsEventsRun) {
+    ui::AttesaQt attesa;
+    bool girato = false;
+    QTimer::singleShot(0, qApp, [&] { girato = true; });
+    EXPECT_FALSE(attesa.pausa(20));
+    EXPECT_TRUE(girato);
+}
+
+TEST(AttesaQt, AKeyOrAClickEndsAPauseLongBeforeItsTime) {
+    ui::AttesaQt attesa;
+    QWidget finestra;
+    finestra.show();
+    ASSERT_TRUE(attendi([&] { return finestra.isVisible(); }));
+    constexpr int unOra = 3'600'000;
+    QTimer::singleShot(0, &finestra, [&] { QTest::keyClick(&finestra, Qt::Key_A); });
+    EXPECT_TRUE(attesa.pausa(unOra));
+    QTimer::singleShot(0, &finestra, [&] { QTest::mouseClick(&finestra, Qt::LeftButton); });
+    EXPECT_TRUE(attesa.pausa(unOra));
+}
+
+TEST(CronometroQt, CallsBackUntilItIsStopped) {
+    ui::CronometroQt cronometro;
+    int rintocchi = 0;
+    cronometro.ogni(1, [&] { ++rintocchi; });
+    EXPECT_TRUE(attendi([&] { return rintocchi >= 3; }));
+    cronometro.ferma();
+    const int fermo = rintocchi;
+    bool dopo = false;
+    QTimer::singleShot(50, qApp, [&] { dopo = true; });
+    EXPECT_TRUE(attendi([&] { return dopo; }));
+    EXPECT_EQ(rintocchi, fermo);
+}
+
+TEST(ImpostazioniQt, WhatIsWrittenIsReadAgainAndAMissingKeyIsEmpty) {
+    ui::ImpostazioniQt impostazioni;
+    impostazioni.scrivi("Prova", "Sezione", "Chiave", "città = 1");
+    EXPECT_EQ(ui::ImpostazioniQt{}.leggi("Prova", "Sezione", "Chiave"), "città = 1");
+    EXPECT_EQ(impostazioni.leggi("Prova", "Sezione", "Altra"), "");
+}
+
+}  // namespace
+}  // namespace kelvo::prove
