@@ -14,12 +14,14 @@ namespace kelvo::prove {
 /// The window of a grid: its clipboard, and what the checks said.
 class CustodeGriglia final : public CustodeCampi {
 public:
-    void entrato(Controllo& /*campo*/) override {}
+    void entrato(Controllo& campo) override { fuoco = &campo; }
+    bool haFuoco(const Controllo& campo) const override { return fuoco == &campo; }
     void giudicato(Controllo& /*campo*/, const EsitoUscita& esito) override { esiti.push_back(esito); }
     Appunti* appunti() override { return &blocco; }
 
     AppuntiFinti blocco;
     std::vector<EsitoUscita> esiti;
+    const Controllo* fuoco = nullptr;
 };
 
 /// A table of 3 x 3 numbers, "11" to "33" by row and column, under a heading row and beside a heading column. All of

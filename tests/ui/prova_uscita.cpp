@@ -91,6 +91,9 @@ protected:
     Banco banco;
 };
 
+/// The ways out that ask whether to save first.
+class UscitaSalvando : public Uscita {};
+
 TEST_P(Uscita, NoAndOkEndTheProgram) {
     std::vector<std::string> attese{uscire};
     if (chiedeDiSalvare()) {
@@ -119,10 +122,7 @@ TEST_P(Uscita, CancelStays) {
     resta(banco);
 }
 
-TEST_P(Uscita, YesSavesFirst) {
-    if (!chiedeDiSalvare()) {
-        GTEST_SKIP() << "nothing is asked here";
-    }
+TEST_P(UscitaSalvando, YesSavesFirst) {
     const std::string percorso = banco.cartella.file("salvato.klv");
     banco.dialogo.scelte.push_back(percorso);
     banco.messaggi.risposte = {Risposta::si, Risposta::ok};
@@ -137,10 +137,7 @@ TEST_P(Uscita, YesSavesFirst) {
     EXPECT_EQ(salvata.NomeFile(), "salvato");
 }
 
-TEST_P(Uscita, ACancelledSaveStays) {
-    if (!chiedeDiSalvare()) {
-        GTEST_SKIP() << "nothing is asked here";
-    }
+TEST_P(UscitaSalvando, ACancelledSaveStays) {
     banco.messaggi.risposte = {Risposta::si};
     esci(banco);
     EXPECT_EQ(banco.messaggi.testi(), (std::vector<std::string>{salvare, annullata}));
@@ -148,10 +145,7 @@ TEST_P(Uscita, ACancelledSaveStays) {
     resta(banco);
 }
 
-TEST_P(Uscita, AFailedSaveTellsWhyAndStays) {
-    if (!chiedeDiSalvare()) {
-        GTEST_SKIP() << "nothing is asked here";
-    }
+TEST_P(UscitaSalvando, AFailedSaveTellsWhyAndStays) {
     FileDifettosi rotto(sistemaFileStandard(), PassoFile::rinomina, Incidente::errore);
     Banco b(0, rotto);
     prepara(b);
@@ -177,6 +171,16 @@ std::vector<Caso> casi() {
     return tutti;
 }
 
+std::vector<Caso> casiConDomanda() {
+    std::vector<Caso> tutti = casi();
+    std::erase_if(tutti, [](const Caso& caso) {
+        return caso.modo == Modo::sistema ||
+               (caso.stato != StatoProgetto::ProgettoNuovo && caso.stato != StatoProgetto::ProgettoCaricato);
+    });
+    return tutti;
+}
+
+INSTANTIATE_TEST_SUITE_P(PerOgniStato, UscitaSalvando, testing::ValuesIn(casiConDomanda()), nomeCaso);
 INSTANTIATE_TEST_SUITE_P(PerOgniStato, Uscita, testing::ValuesIn(casi()), nomeCaso);
 
 }  // namespace
