@@ -61,7 +61,7 @@ constexpr std::array parole{
 
 DialogoMessaggio::DialogoMessaggio(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti,
                                    QWidget* genitore)
-    : QDialog(genitore) {
+    : QDialog(genitore), icona_(icona), soloPulsanti_(pulsanti == Pulsanti::siNo) {
     setObjectName(QStringLiteral("messaggio"));
     setWindowTitle(q(titolo));
     auto* piano = new QVBoxLayout(this);
@@ -70,6 +70,15 @@ DialogoMessaggio::DialogoMessaggio(const std::string& testo, const std::string& 
     piano->setSizeConstraint(QLayout::SetFixedSize);
     piano->addWidget(corpo(testo, icona));
     piano->addWidget(piede(pulsanti));
+    // A title tells where a fault came from: there is room for it, with the system's buttons beside it.
+    const QFontMetrics metrica(forte(punti::corpo));
+    piano->addSpacerItem(new QSpacerItem(metrica.horizontalAdvance(windowTitle() + QStringLiteral("MMMMMMMM")), 0));
+}
+
+void DialogoMessaggio::reject() {
+    if (!soloPulsanti_) {
+        QDialog::reject();
+    }
 }
 
 QWidget* DialogoMessaggio::corpo(const std::string& testo, Icona icona) {

@@ -228,8 +228,8 @@ void VistaFinestra::disponiDialogo() {
 }
 
 void VistaFinestra::larghezzaColonna(int larghezza) {
-    sinistra_->setMinimumWidth(std::min(larghezza, misura::colonnaMinima));
     if (piano_ == nullptr) {
+        sinistra_->setMinimumWidth(std::min(larghezza, misura::colonnaMinima));
         sinistra_->setMaximumWidth(larghezza);
         return;
     }

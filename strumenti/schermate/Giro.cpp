@@ -210,7 +210,7 @@ void Giro::messaggi() {
         QTimer::singleShot(0, &vista_, [this, &m] {
             if (auto* aperto = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
                 fotografo_.scatta(*aperto, m.nome);
-                aperto->reject();
+                aperto->done(QDialog::Rejected);
             }
         });
         veri.mostra(m.testo, m.titolo, m.icona, m.pulsanti);

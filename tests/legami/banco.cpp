@@ -8,6 +8,7 @@
 #include <clocale>
 #include <stdexcept>
 
+#include "ui/icone.h"
 #include "ui/stile.h"
 
 namespace kelvo::prove {
@@ -24,6 +25,7 @@ void avviaQt() {
     if (!vestita) {
         vestita = true;
         std::setlocale(LC_NUMERIC, "C");
+        ui::cartellaImmagini(KELVO_CARTELLA "/Immagini");
         ui::applicaStile(*qApp, QStringLiteral(KELVO_CARTELLA "/Caratteri"));
     }
 }
@@ -35,7 +37,8 @@ void smaltisci() {
 }
 
 VistaProva::VistaProva(FinestraProva& f) : VistaFinestra((avviaQt(), f), nullptr) {
-    auto* tutto = colonna({0, 0, disegnoFinestra.W, disegnoFinestra.H});
+    auto* tutto = colonna();
+    larghezzaColonna(static_cast<int>(disegnoFinestra.W));
     for (Controllo* c : f.ordine()) {
         if (auto* campo = dynamic_cast<tBox*>(c)) {
             tutto->addWidget(ui::collega(*campo, corpo()));

@@ -113,8 +113,8 @@ TEST_F(ProveViste, PanelsOfEveryWindowStandBesideEachOtherAndHoldTheirContent) {
     stato.ProgettoAperto = true;
     FabbricaFinestre fabbrica;
     registraFinestre(fabbrica);
-    for (const char* nome : {"frmEmptyForm", "frmInputNumeroRami", "frmAnagraficaRotonda",
-                             "frmCommittenteProfessionista", "frmTempoModellazione"}) {
+    for (const char* nome :
+         {"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista", "frmTempoModellazione"}) {
         Finestra* finestra = &fabbrica.finestra(nome, contorno());
         const std::unique_ptr<ui::VistaFinestra> vista(ui::creaVista(*finestra, nullptr));
         ASSERT_NE(vista, nullptr) << finestra->nome();

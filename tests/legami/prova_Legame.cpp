@@ -217,7 +217,8 @@ TEST_F(ProveLegame, PickersAndListsShowThatTheyWereRefused) {
         const auto* testo = widget->findChild<QLineEdit*>();
         const auto* segno = widget->findChild<ui::SegnoErrore*>();
         ASSERT_TRUE(testo != nullptr && segno != nullptr);
-        EXPECT_GT(testo->x(), segno->geometry().right()) << campo->nome();  // the text does not run under it
+        // The text does not run under it.
+        EXPECT_GT(testo->x() + testo->textMargins().left(), segno->geometry().right()) << campo->nome();
         delete widget;
     }
 }
@@ -268,11 +269,11 @@ TEST_F(ProveLegame, AnHourThatIsNotTypedOutCountsWhenThePickerIsLeft) {
 TEST_F(ProveLegame, ALabelTakesTheColourOfItsTag) {
     auto& grigia = oggetto<QLabel>(finestra.lblUno);
     const Colore grigio{128, 128, 128};
-    EXPECT_EQ(grigia.styleSheet(), "");
+    EXPECT_EQ(grigia.palette().color(QPalette::WindowText), ui::qcolore(tinta::inchiostro));
     gestione.ShowForm(&finestra);
     // Grey is too faint on white: it is shown in ink.
     EXPECT_EQ(finestra.lblUno.aspetto().inchiostro, grigio);
-    EXPECT_TRUE(grigia.styleSheet().contains(ui::qcolore(ui::inchiostroLeggibile(grigio, colori::bianco)).name()));
+    EXPECT_EQ(grigia.palette().color(QPalette::WindowText), ui::qcolore(inchiostroLeggibile(grigio, colori::bianco)));
     gestione.chiudiCorrente();
 }
 

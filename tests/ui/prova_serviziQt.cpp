@@ -5,13 +5,18 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
+#include <algorithm>
 #include <filesystem>
+#include <map>
+#include <optional>
 
 #include "comune/cartella.h"
+#include "ui/DialogoMessaggio.h"
 #include "ui/gesti.h"
 #include "ui/serviziQt.h"
 
@@ -26,70 +31,89 @@ struct CasoBox {
     const char* nome;
     Pulsanti pulsanti;
     Icona icona;
-    QMessageBox::Icon mostrata;
-    QMessageBox::StandardButtons bottoni;
+    std::vector<const char*> bottoni;  ///< in their order
     Risposta allInvio;
-    Risposta allEsc;
+    std::optional<Risposta> allEsc;  ///< nothing: Escape does nothing
 };
 
 class Box : public testing::TestWithParam<CasoBox> {};
+
+/// Texts of the buttons of a box from left to right, by their names.
+std::vector<std::string> nomiBottoni(const QWidget& box) {
+    std::vector<QPushButton*> bottoni;
+    for (QPushButton* bottone : box.findChildren<QPushButton*>()) {
+        bottoni.push_back(bottone);
+    }
+    std::sort(bottoni.begin(), bottoni.end(), [](const auto* a, const auto* b) { return a->x() < b->x(); });
+    std::vector<std::string> nomi;
+    for (const QPushButton* bottone : bottoni) {
+        nomi.push_back(bottone->objectName().toStdString());
+    }
+    return nomi;
+}
 
 TEST_P(Box, ShowsWordsIconAndButtonsAndAnswersEnterAndEscape) {
     const CasoBox& caso = GetParam();
     for (const bool invio : {true, false}) {
         QString testo;
         QString titolo;
-        auto icona = QMessageBox::NoIcon;
-        QMessageBox::StandardButtons bottoni;
+        auto icona = Icona::nessuna;
+        std::vector<std::string> bottoni;
+        bool ancoraAperto = false;
         AlModale risponde("messaggio", [&](QWidget& finestra) {
-            auto& box = dynamic_cast<QMessageBox&>(finestra);
-            testo = box.text();
+            auto& box = dynamic_cast<ui::DialogoMessaggio&>(finestra);
+            testo = box.findChild<QLabel*>(QStringLiteral("testoMessaggio"))->text();
             titolo = box.windowTitle();
-            icona = box.icon();
-            bottoni = box.standardButtons();
+            icona = box.icona();
+            bottoni = nomiBottoni(box);
+            EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(titolo)) << "the title is cut";
             QTest::keyClick(&box, invio ? Qt::Key_Return : Qt::Key_Escape);
+            if (!invio && !caso.allEsc) {
+                box.close();
+                ancoraAperto = box.isVisible();
+                gesti::clic(*box.findChild<QPushButton*>(QStringLiteral("cmdSi")));
+            }
         });
         ui::MessaggiQt messaggi;
         const Risposta data =
             messaggi.mostra("Prima <riga>\r\nseconda & ultima", "KELVO 2014 - Attenzione", caso.icona, caso.pulsanti);
-        EXPECT_EQ(data, invio ? caso.allInvio : caso.allEsc) << invio;
+        EXPECT_EQ(data, invio ? caso.allInvio : caso.allEsc.value_or(Risposta::si)) << invio;
+        EXPECT_EQ(ancoraAperto, !invio && !caso.allEsc);
         EXPECT_TRUE(risponde.avvenuto());
         EXPECT_FALSE(risponde.rimasto());
         EXPECT_EQ(testo, QStringLiteral("Prima <riga>\nseconda & ultima"));
         EXPECT_EQ(titolo, QStringLiteral("KELVO 2014 - Attenzione"));
-        EXPECT_EQ(icona, caso.mostrata);
-        EXPECT_EQ(bottoni, caso.bottoni);
+        EXPECT_EQ(icona, caso.icona);
+        EXPECT_EQ(bottoni, std::vector<std::string>(caso.bottoni.begin(), caso.bottoni.end()));
     }
 }
 
 TEST_P(Box, EachButtonAnswersForItself) {
-    const std::vector<std::pair<QMessageBox::StandardButton, Risposta>> tutti{{QMessageBox::Ok, Risposta::ok},
-                                                                              {QMessageBox::Cancel, Risposta::annulla},
-                                                                              {QMessageBox::Yes, Risposta::si},
-                                                                              {QMessageBox::No, Risposta::no}};
-    for (const auto& [bottone, attesa] : tutti) {
-        if (!GetParam().bottoni.testFlag(bottone)) {
-            continue;
-        }
-        AlModale risponde("messaggio", [&, quale = bottone](QWidget& finestra) {
-            gesti::clic(*dynamic_cast<QMessageBox&>(finestra).button(quale));
+    const std::map<std::string, Risposta> tutti{
+        {"cmdOk", Risposta::ok}, {"cmdAnnulla", Risposta::annulla}, {"cmdSi", Risposta::si}, {"cmdNo", Risposta::no}};
+    for (const char* bottone : GetParam().bottoni) {
+        AlModale risponde("messaggio", [&](QWidget& finestra) {
+            gesti::clic(*finestra.findChild<QPushButton*>(QString::fromLatin1(bottone)));
         });
         ui::MessaggiQt messaggi;
-        EXPECT_EQ(messaggi.mostra("?", "KELVO 2014", GetParam().icona, GetParam().pulsanti), attesa);
+        EXPECT_EQ(messaggi.mostra("?", "KELVO 2014", GetParam().icona, GetParam().pulsanti), tutti.at(bottone));
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Pulsanti, Box,
-    testing::Values(CasoBox{"Ok", Pulsanti::ok, Icona::critica, QMessageBox::Critical, QMessageBox::Ok, Risposta::ok,
-                            Risposta::ok},
-                    CasoBox{"OkAnnulla", Pulsanti::okAnnulla, Icona::domanda, QMessageBox::Question,
-                            QMessageBox::Ok | QMessageBox::Cancel, Risposta::ok, Risposta::annulla},
-                    CasoBox{"SiNo", Pulsanti::siNo, Icona::esclamazione, QMessageBox::Warning,
-                            QMessageBox::Yes | QMessageBox::No, Risposta::si, Risposta::no},
-                    CasoBox{"SiNoAnnulla", Pulsanti::siNoAnnulla, Icona::informazione, QMessageBox::Information,
-                            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, Risposta::si, Risposta::annulla}),
-    [](const auto& p) { return p.param.nome; });
+    testing::Values(
+        CasoBox{"Ok", Pulsanti::ok, Icona::critica, {"cmdOk"}, Risposta::ok, Risposta::ok},
+        CasoBox{
+            "OkAnnulla", Pulsanti::okAnnulla, Icona::domanda, {"cmdOk", "cmdAnnulla"}, Risposta::ok, Risposta::annulla},
+        CasoBox{"SiNo", Pulsanti::siNo, Icona::esclamazione, {"cmdSi", "cmdNo"}, Risposta::si, {}},
+        CasoBox{"SiNoAnnulla",
+                Pulsanti::siNoAnnulla,
+                Icona::informazione,
+                {"cmdSi", "cmdNo", "cmdAnnulla"},
+                Risposta::si,
+                Risposta::annulla}),
+    [](const auto& p) { return std::string{p.param.nome}; });
 
 class Dialogo : public testing::Test {
 protected:

@@ -22,11 +22,16 @@ namespace kelvo::prove {
 /// A window that notes which control the focus came to and what the checks said.
 class CustodeLegami final : public CustodeCampi {
 public:
-    void entrato(Controllo& campo) override { entrati.push_back(campo.nome()); }
+    void entrato(Controllo& campo) override {
+        entrati.push_back(campo.nome());
+        fuoco = &campo;
+    }
+    bool haFuoco(const Controllo& campo) const override { return fuoco == &campo; }
     void giudicato(Controllo& /*campo*/, const EsitoUscita& esito) override { esiti.push_back(esito); }
     Appunti* appunti() override { return &blocco; }
 
     AppuntiFinti blocco;
+    const Controllo* fuoco = nullptr;
     std::vector<std::string> entrati;
     std::vector<EsitoUscita> esiti;
 };

@@ -16,8 +16,8 @@
 #include <QtGui/QKeySequence>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <functional>
 #include <iostream>
@@ -69,17 +69,17 @@ QLineEdit* campo(const std::string& nome) {
 }
 
 bool box(const std::string& bottone) {
-    auto* aperto = qobject_cast<QMessageBox*>(modale("messaggio"));
+    QWidget* aperto = modale("messaggio");
     if (aperto == nullptr) {
         return false;
     }
-    const std::map<std::string, QMessageBox::StandardButton> bottoni{
-        {"Ok", QMessageBox::Ok}, {"Cancel", QMessageBox::Cancel}, {"Yes", QMessageBox::Yes}, {"No", QMessageBox::No}};
-    QAbstractButton* pulsante = aperto->button(bottoni.at(bottone));
+    const std::map<std::string, const char*> bottoni{
+        {"Ok", "cmdOk"}, {"Cancel", "cmdAnnulla"}, {"Yes", "cmdSi"}, {"No", "cmdNo"}};
+    auto* pulsante = aperto->findChild<QPushButton*>(QString::fromLatin1(bottoni.at(bottone)));
     if (pulsante == nullptr) {
         return false;
     }
-    scrivi(aperto->text().toStdString());
+    scrivi(aperto->findChild<QLabel*>(QStringLiteral("testoMessaggio"))->text().toStdString());
     gesti::clic(*pulsante);
     return true;
 }
@@ -164,22 +164,23 @@ bool gioca(const std::string& passo) {
     return verbi.at(verbo)();
 }
 
+/// Plays the first step that is left, over and over. The next turn is asked for before the step is played: what the
+/// step does may run an event loop of its own, and the steps behind it are played there.
+void turno() {
+    if (passi.empty()) {
+        return;
+    }
+    QTimer::singleShot(2, QCoreApplication::instance(), turno);
+    const std::string passo = passi.front();
+    passi.erase(passi.begin());
+    if (!gioca(passo)) {
+        passi.insert(passi.begin(), passo);
+    }
+}
+
 /// Runs as soon as the application object stands, before anything is shown.
 void comincia() {
-    auto* orologio = new QTimer(QCoreApplication::instance());
-    QObject::connect(orologio, &QTimer::timeout, orologio, [inCorso = false]() mutable {
-        if (inCorso || passi.empty()) {
-            return;
-        }
-        inCorso = true;
-        // Taken first: what it does may run the event loop and come back here.
-        const std::string passo = passi.front();
-        if (gioca(passo)) {
-            passi.erase(passi.begin());
-        }
-        inCorso = false;
-    });
-    orologio->start(2);
+    QTimer::singleShot(0, QCoreApplication::instance(), turno);
 }
 
 }  // namespace
