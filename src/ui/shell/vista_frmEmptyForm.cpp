@@ -21,6 +21,7 @@ public:
         auto* guida = collega(f.lblGuida, corpo());
         guida->setFont(dati(punti::corpo));
         guida->setWordWrap(true);
+        colonna()->addWidget(titolo);
         colonna()->addWidget(guida);
         colonna()->addWidget(collega(f.ctlPicture, corpo()), 3);
         destra()->addWidget(collega(f.ctlContenuto, corpo()), 1);
