@@ -5,14 +5,13 @@
 
 #include "base/file.h"
 #include "base/guasto.h"
+#include "shell/servizi/nomiPermessi.h"
 
 namespace kelvo {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr const char* vietati = "\\/:*?\"<>|";
 
 fs::path percorsoDi(const std::string& testo) {
     return fs::path(std::u8string(testo.begin(), testo.end()));
@@ -38,7 +37,8 @@ std::vector<fs::path> copie(const std::string& cartella) {
 }
 
 std::string nomeAmmesso(std::string nome) {
-    for (std::size_t i = nome.find_first_of(vietati); i != std::string::npos; i = nome.find_first_of(vietati, i)) {
+    for (std::size_t i = nome.find_first_of(caratteriVietati); i != std::string::npos;
+         i = nome.find_first_of(caratteriVietati, i)) {
         nome[i] = '_';
     }
     if (!nome.empty() && nome.front() == '.') {

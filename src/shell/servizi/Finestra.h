@@ -33,6 +33,8 @@ public:
     const std::vector<Controllo*>& ordine() const { return ordine_; }
     /// The caption panel.
     Etichetta pannello;
+    /// What the window shows, beside its caption: the name of the leg; empty for nothing.
+    Etichetta sottotitolo;
     /// The tool bar, if the window has one.
     virtual BarraStrumenti* barra() { return nullptr; }
 

@@ -168,9 +168,22 @@ void tBox::scegli(int indice) {
     }
 }
 
-EsitoUscita tBox::esamina() {
-    if (!regole_.ammette(testo_)) {
+EsitoUscita tBox::rifiutato() const {
+    if (rifiuto.empty()) {
         return EsitoUscita::rifiuto(std::string{"Il valore non è ammesso in questo campo."});
+    }
+    EsitoUscita esito = EsitoUscita::rifiuto(MessaggioCampo{rifiuto, "KELVO 2014 - Attenzione", Icona::esclamazione});
+    esito.motivo = nomeCampo.empty() ? rifiuto : nomeCampo + ": " + rifiuto;
+    return esito;
+}
+
+EsitoUscita tBox::esamina() {
+    std::string numero = testo_;
+    if (virgola) {
+        std::replace(numero.begin(), numero.end(), ',', '.');
+    }
+    if (!regole_.ammette(numero)) {
+        return rifiutato();
     }
     return controllo ? controllo() : EsitoUscita::bene();
 }

@@ -63,6 +63,13 @@ public:
     std::string caratteriAmmessi;
     std::size_t lunghezzaMassima = 0;
 
+    /// The user types the decimal comma: the rules of the tag read it as the point.
+    bool virgola = false;
+    /// Words of the box that comes up when the rules of the tag refuse the text; empty for none.
+    std::string rifiuto;
+    /// What the field is called in the status bar when it refuses; empty for nothing.
+    std::string nomeCampo;
+
     /// The field shows its text and takes none.
     bool solaLettura() const { return solaLettura_; }
     void solaLettura(bool valore) { cambia(solaLettura_, valore); }
@@ -95,6 +102,7 @@ public:
 
 private:
     EsitoUscita esamina();
+    EsitoUscita rifiutato() const;
     bool prende(const std::string& testo) const;
     std::string filtrato(std::string_view testo) const;
     void digita(const std::string& testo);
