@@ -7,6 +7,7 @@
 #include "app/clsAmbiente.h"
 #include "app/modCommonModule.h"
 #include "app/servizi.h"
+#include "app/serviziSistema.h"
 #include "base/file.h"
 #include "model/Rotonda.h"
 
@@ -41,6 +42,8 @@ public:
     clsAmbiente theAmbiente;
     Configurazione configurazione;
     modCommonModule comune;
+    /// The clipboard; null where there is none (no desktop).
+    Appunti* appunti = nullptr;
 
     /// The project at hand; there always is one, empty before any project exists.
     Rotonda& theRotonda() { return *rotonda_; }

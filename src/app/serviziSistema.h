@@ -107,6 +107,19 @@ public:
     virtual void ferma() = 0;
 };
 
+/// The clipboard of the system, for texts.
+class Appunti {
+public:
+    Appunti() = default;
+    Appunti(const Appunti&) = delete;
+    Appunti& operator=(const Appunti&) = delete;
+    virtual ~Appunti() = default;
+
+    virtual void scrivi(const std::string& testo) = 0;
+    /// Empty where there is no text.
+    virtual std::string leggi() const = 0;
+};
+
 /// Waiting and the events that wait meanwhile.
 class Attesa {
 public:

@@ -5,16 +5,13 @@
 #include <QtCore/QStringList>
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QApplication>
-#include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace kelvo::ui {
 
 namespace {
 
-constexpr double contrastoMinimo = 4.5;
 constexpr const char* famigliaSistema = "Segoe UI Semilight";
 constexpr const char* famigliaForteSistema = "Segoe UI Semibold";
 
@@ -27,26 +24,6 @@ QFont famiglie(std::initializer_list<const char*> nomi, double punti) {
     carattere.setFamilies(elenco);
     carattere.setPointSizeF(punti);
     return carattere;
-}
-
-double canale(std::uint8_t valore) {
-    const double v = valore / 255.0;
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-}
-
-double luminanza(Colore c) {
-    return 0.2126 * canale(c.rosso) + 0.7152 * canale(c.verde) + 0.0722 * canale(c.blu);
-}
-
-bool grigio(Colore c) {
-    return c.rosso == c.verde && c.verde == c.blu;
-}
-
-Colore verso(Colore c, Colore meta, double quanto) {
-    const auto mescola = [quanto](std::uint8_t da, std::uint8_t a) {
-        return static_cast<std::uint8_t>(std::lround(da + (a - da) * quanto));
-    };
-    return {mescola(c.rosso, meta.rosso), mescola(c.verde, meta.verde), mescola(c.blu, meta.blu)};
 }
 
 QString nomeColore(Colore c) {
@@ -146,32 +123,6 @@ QFont dati(double punti) {
 
 QFont forte(double punti) {
     return famiglie({famigliaForteSistema, "Open Sans Semibold", "Open Sans SemiBold", "Open Sans"}, punti);
-}
-
-double contrasto(Colore a, Colore b) {
-    const double alta = std::max(luminanza(a), luminanza(b));
-    const double bassa = std::min(luminanza(a), luminanza(b));
-    return (alta + 0.05) / (bassa + 0.05);
-}
-
-Colore neroOBianco(Colore sfondo) {
-    return contrasto(colori::nero, sfondo) > contrasto(colori::bianco, sfondo) ? colori::nero : colori::bianco;
-}
-
-Colore inchiostroLeggibile(Colore testo, Colore sfondo) {
-    constexpr int passi = 20;
-    if (contrasto(testo, sfondo) >= contrastoMinimo) {
-        return testo;
-    }
-    const bool chiaro = neroOBianco(sfondo) == colori::nero;
-    if (grigio(testo) && chiaro) {
-        return tinta::inchiostro;
-    }
-    Colore provato = testo;
-    for (int i = 1; i <= passi && contrasto(provato, sfondo) < contrastoMinimo; ++i) {
-        provato = verso(testo, chiaro ? colori::nero : colori::bianco, i / static_cast<double>(passi));
-    }
-    return provato;
 }
 
 void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/servizi.h"
+#include "app/serviziSistema.h"
 
 namespace kelvo {
 
@@ -49,6 +50,8 @@ public:
     virtual void giudicato(Controllo& campo, const EsitoUscita& esito) = 0;
     /// The help pane of the window; null where it has none.
     virtual PannelloAiuto* aiuto() { return nullptr; }
+    /// The clipboard; null where there is none.
+    virtual Appunti* appunti() { return nullptr; }
 };
 
 }  // namespace kelvo

@@ -65,6 +65,7 @@ public:
     // CustodeCampi
     void entrato(Controllo& campo) override;
     void giudicato(Controllo& campo, const EsitoUscita& esito) override;
+    Appunti* appunti() override { return contorno_.app.appunti; }
 
 protected:
     /// Declares the controls, in tab order; called once, by the constructor of the window.

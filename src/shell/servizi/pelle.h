@@ -4,14 +4,14 @@
 #include <cstdint>
 #include <string_view>
 
-#include "base/Tabella.h"
+#include "shell/servizi/tinte.h"
 
 namespace kelvo {
 
 class Finestra;
 
 /// Main colour of the program.
-inline constexpr Colore colorePrincipale{0, 114, 198};
+inline constexpr Colore colorePrincipale = tinta::principale;
 
 /// A colour of the caption panels.
 struct ColorePannello {

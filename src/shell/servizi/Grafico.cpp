@@ -1,0 +1,124 @@
+#include "shell/servizi/Grafico.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/guasto.h"
+#include "base/numeri.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr char divisore = '*';
+
+void controllaSerie(const Grafico::Serie& serie, const std::string& nome) {
+    const std::size_t quanti = serie.valori.size();
+    const auto torna = [quanti](std::size_t altri) { return altri == 0 || altri == quanti; };
+    if (!torna(serie.testi.size()) || !torna(serie.ascisse.size()) || !torna(serie.colori.size())) {
+        throw Guasto(NumeroGuasto::chiamataNonValida, nome + ", serie '" + serie.nome + "'");
+    }
+    const auto finiti = [](const std::vector<double>& valori) {
+        return std::all_of(valori.begin(), valori.end(), [](double v) { return std::isfinite(v); });
+    };
+    if (!finiti(serie.valori) || !finiti(serie.ascisse)) {
+        throw Guasto(NumeroGuasto::overflow, nome + ", serie '" + serie.nome + "'");
+    }
+}
+
+void controllaAsse(const Grafico::Asse& asse, const std::string& nome) {
+    if (!std::isfinite(asse.minimo) || !std::isfinite(asse.massimo) || !std::isfinite(asse.passiPerEtichetta)) {
+        throw Guasto(NumeroGuasto::overflow, nome + ", asse '" + asse.titolo + "'");
+    }
+    if (asse.massimo < asse.minimo || asse.tacche < 0 || !(asse.passiPerEtichetta >= 0.0)) {
+        throw Guasto(NumeroGuasto::chiamataNonValida, nome + ", asse '" + asse.titolo + "'");
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> etichetteDaTesto(std::string_view testo) {
+    std::vector<std::string> parole;
+    while (!testo.empty()) {
+        const auto fine = testo.find(divisore);
+        parole.emplace_back(testo.substr(0, fine));
+        if (fine == std::string_view::npos) {
+            break;
+        }
+        testo.remove_prefix(fine + 1);
+        if (testo.empty()) {
+            parole.emplace_back();  // what stands behind the last mark
+        }
+    }
+    return parole;
+}
+
+std::vector<double> valoriDaTesto(std::string_view testo) {
+    std::vector<double> valori;
+    for (const std::string& parola : etichetteDaTesto(testo)) {
+        valori.push_back(leggiNumero(parola, Separatore::virgolaOPunto).value_or(0.0));
+    }
+    return valori;
+}
+
+void Grafico::contenuto(Contenuto nuovo) {
+    controllaAsse(nuovo.x, nome());
+    controllaAsse(nuovo.y, nome());
+    for (const Serie& serie : nuovo.serie) {
+        controllaSerie(serie, nome());
+    }
+    if (!(nuovo == contenuto_)) {
+        contenuto_ = std::move(nuovo);
+        cambiato().emit();
+    }
+}
+
+void Grafico::svuota() {
+    cambia(contenuto_.serie, std::vector<Serie>{});
+}
+
+void Grafico::mostraValori(bool valore) {
+    cambia(contenuto_.valori, valore);
+}
+
+void Grafico::forma(Forma valore) {
+    std::vector<Serie> nuove = contenuto_.serie;
+    for (Serie& serie : nuove) {
+        if (serie.forma != Forma::torta) {
+            serie.forma = valore;
+        }
+    }
+    cambia(contenuto_.serie, nuove);
+}
+
+bool Grafico::vuoto() const {
+    return std::all_of(contenuto_.serie.begin(), contenuto_.serie.end(),
+                       [](const Serie& serie) { return serie.valori.empty(); });
+}
+
+double Grafico::massimo() const {
+    double trovato = 0.0;
+    bool primo = true;
+    for (const Serie& serie : contenuto_.serie) {
+        for (const double valore : serie.valori) {
+            trovato = primo ? valore : std::max(trovato, valore);
+            primo = false;
+        }
+    }
+    return trovato;
+}
+
+double Grafico::minimo() const {
+    double trovato = 0.0;
+    bool primo = true;
+    for (const Serie& serie : contenuto_.serie) {
+        for (const double valore : serie.valori) {
+            trovato = primo ? valore : std::min(trovato, valore);
+            primo = false;
+        }
+    }
+    return trovato;
+}
+
+}  // namespace kelvo
