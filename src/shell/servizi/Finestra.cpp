@@ -137,7 +137,7 @@ void FinestraDati::premuto(const std::string& chiave) {
     }
     gestisci(metodo.c_str(), [&] {
         if (chiave == "AggiornaDati") {
-            SaveData();
+            aggiornaDati();
         } else if (chiave == "Archivio") {
             Archivio();
         } else {

@@ -203,6 +203,11 @@ public:
     };
     BarraStrumenti(std::string nome, std::vector<Tasto> tasti) : Controllo(std::move(nome)), tasti_(std::move(tasti)) {}
     const std::vector<Tasto>& tasti() const { return tasti_; }
+    /// Puts a button of the window's own in front.
+    void premetti(Tasto tasto) {
+        tasti_.insert(tasti_.begin(), std::move(tasto));
+        cambiato().emit();
+    }
     /// Appends a button of the window's own.
     void aggiungi(Tasto tasto) {
         tasti_.push_back(std::move(tasto));

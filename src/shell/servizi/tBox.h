@@ -70,6 +70,9 @@ public:
     /// What the field is called in the status bar when it refuses; empty for nothing.
     std::string nomeCampo;
 
+    /// What the tool tip of the field tells; empty for none.
+    std::string suggerimento;
+
     /// The field shows its text and takes none.
     bool solaLettura() const { return solaLettura_; }
     void solaLettura(bool valore) { cambia(solaLettura_, valore); }

@@ -52,6 +52,7 @@ private:
             QMenu* tendina = barra_.addMenu(conMnemonico(*voce));
             tendina->menuAction()->setObjectName(q(voce->chiave));
             tendina->setEnabled(voce->abilitata);
+            tendina->menuAction()->setVisible(voce->visibile);
             riempi(*tendina, voce->chiave);
         }
     }
