@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "app/FileIni.h"
 #include "base/file.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
@@ -47,7 +48,10 @@ bool Contesto::configura(const OpzioniComuni& opzioni) {
     app_.theAmbiente.PercentualeNotturna(opzioni.notte);
     const std::string ini = app_.theAmbiente.PercorsoIni();
     std::string testo;
-    const std::string motivo = leggiFile(ini, clsAmbiente::massimoIni, testo);
+    std::string motivo = leggiFile(ini, clsAmbiente::massimoIni, testo);
+    if (motivo.empty() && FileIni::codificaNonValida(testo)) {
+        motivo = "il testo non è in UTF-8 né in una codifica a un byte";
+    }
     if (!motivo.empty()) {
         avvisa(fmt::format("configurazione '{}': {}", ini, motivo));
         return false;
@@ -79,7 +83,7 @@ bool Contesto::carica(const std::string& file) {
     errori_.clear();
     std::string messaggio;
     bool esito = false;
-    app_.theRotonda().Load(file, messaggio, esito);
+    app_.caricaRotonda(file, messaggio, esito);
     if (!esito) {
         std::error_code ignorato;
         const bool manca = !std::filesystem::exists(file, ignorato);

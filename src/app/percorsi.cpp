@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path percorsoDi(std::string_view testo) {
+fs::path percorsoDi(const std::string& testo) {
     return fs::path(std::u8string(testo.begin(), testo.end()));
 }
 
@@ -19,35 +19,7 @@ std::string testoDi(const fs::path& percorso) {
     return {u8.begin(), u8.end()};
 }
 
-/// The entry of a folder that has this name but for the case of its letters; else the name itself.
-fs::path cercaSenzaMaiuscole(const fs::path& cartella, const std::string& nome) {
-    std::error_code errore;
-    fs::path esatto = cartella / percorsoDi(nome);
-    if (fs::exists(esatto, errore)) {
-        return esatto;
-    }
-    for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine; voce.increment(errore)) {
-        if (maiuscoleAscii(testoDi(voce->path().filename())) == maiuscoleAscii(nome)) {
-            return voce->path();
-        }
-    }
-    return esatto;
-}
-
 }  // namespace
-
-std::string percorsoInstallazione(const clsAmbiente& ambiente, std::string_view daProgramma) {
-    fs::path percorso = percorsoDi(ambiente.CartellaProgramma());
-    while (!daProgramma.empty()) {
-        const std::size_t fine = daProgramma.find('\\');
-        const std::string_view nome = daProgramma.substr(0, fine);
-        if (!nome.empty()) {
-            percorso = cercaSenzaMaiuscole(percorso, std::string{nome});
-        }
-        daProgramma.remove_prefix(fine == std::string_view::npos ? daProgramma.size() : fine + 1);
-    }
-    return testoDi(percorso);
-}
 
 std::string cartellaProgetti(const clsAmbiente& ambiente) {
     constexpr std::size_t caratteriTolti = 6;  // the separator and a folder name of five letters

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "app/percorsi.h"
 #include "base/guasto.h"
 #include "input/frmPreviewRami.h"
 #include "shell/servizi/nomiPermessi.h"
@@ -267,7 +266,7 @@ void frmParametriRamo::altroTasto(const std::string& chiave) {
 }
 
 void frmParametriRamo::apriDecreto() {
-    const std::string percorso = percorsoInstallazione(app().theAmbiente, percorsoDecreto);
+    const std::string percorso = app().theAmbiente.PercorsoProgramma(std::string{percorsoDecreto});
     if (!servizi_.documenti.apri("\"" + percorso + "\"")) {
         cornice().avviso(fmt::format(testi::nonAperto, percorso));
     }

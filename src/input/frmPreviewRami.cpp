@@ -1,5 +1,6 @@
 #include "input/frmPreviewRami.h"
 
+#include "app/percorsi.h"
 #include "base/guasto.h"
 #include "base/testo.h"
 #include "input/misureIngresso.h"
@@ -85,7 +86,7 @@ void frmPreviewRami::selezionato(const std::string& percorso) {
 
 void frmPreviewRami::FillTxt() {
     txtNumeroRami.testo(testoNumero(altra_->NumeroRami()));
-    txtNomeProgetto.testo(altra_->NomeFile());
+    txtNomeProgetto.testo(nomeProgetto(percorso_));
     txtTitolo.testo(altra_->Titolo());
     txtNote.testo(altra_->Note());
     lblAvviso.testo({});

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "app/percorsi.h"
 #include "shell/MDI_Form.h"
 #include "shell/barraPrincipale.h"
 #include "shell/finestrePerChiave.h"
@@ -225,16 +224,15 @@ void MDI_Form::apriRecente(const std::string& chiave) {
         return;
     }
     const std::string percorso = recenti.elenco()[posizione];
-    if (carica(percorso)) {
-        progettoCaricato(percorso);
-    } else {
+    LoadRotonda(percorso);
+    if (stato_.statoProgetto != StatoProgetto::ProgettoCaricato) {
         recenti.togli(percorso);
         aggiornaRecenti();
     }
 }
 
 void MDI_Form::apriDocumento(std::string_view daProgramma) {
-    const std::string percorso = percorsoInstallazione(app_.theAmbiente, daProgramma);
+    const std::string percorso = app_.theAmbiente.PercorsoProgramma(std::string{daProgramma});
     if (!servizi_.documenti.apri("\"" + percorso + "\"")) {
         avviso(fmt::format("Impossibile aprire {}", percorso));
     }

@@ -47,10 +47,15 @@ std::string titoloSenzaEstensione(const std::string& percorso) {
     return senzaUltimi(testoDi(percorsoDi(percorso).filename()), caratteriEstensione);
 }
 
-std::string percorsoAssoluto(const std::string& percorso) {
+/// The path from the root on, without the components "." and ".." where that leads to the same file.
+std::string percorsoIntero(const std::string& percorso) {
     std::error_code errore;
-    const fs::path assoluto = fs::absolute(percorsoDi(percorso), errore);
-    return errore ? percorso : testoDi(assoluto);
+    const fs::path intero = fs::absolute(percorsoDi(percorso), errore);
+    if (errore) {
+        return percorso;
+    }
+    const fs::path breve = intero.lexically_normal();
+    return testoDi(fs::equivalent(intero, breve, errore) ? breve : intero);
 }
 
 }  // namespace
@@ -135,7 +140,7 @@ void MDI_Form::LoadRotonda(const std::string& percorso) {
 
 void MDI_Form::progettoCaricato(const std::string& percorso) {
     fissaProgetto(true);
-    recenti.aggiungi(percorsoAssoluto(percorso));
+    recenti.aggiungi(percorsoIntero(percorso));
     aggiornaRecenti();
 }
 
@@ -145,7 +150,7 @@ bool MDI_Form::carica(const std::string& percorso) {
     InitGraphics();
     std::string messaggio;
     bool esito = false;
-    rotonda.Load(percorso, messaggio, esito);
+    app_.caricaRotonda(percorso, messaggio, esito);
     if (!esito) {
         mostra("Il file selezionato non è corretto!");
         rotonda.Clear();
@@ -178,7 +183,7 @@ bool MDI_Form::rilasciato(const std::string& percorso) {
         return false;
     }
     LoadRotonda(percorso);
-    return true;
+    return stato_.statoProgetto == StatoProgetto::ProgettoCaricato;
 }
 
 bool MDI_Form::offriRecupero() {
@@ -216,11 +221,19 @@ std::optional<std::string> MDI_Form::chiediPercorso() {
     RichiestaFile richiesta = richiestaProgetto(app_);
     richiesta.nome = NomeFileProposto();
     auto percorso = servizi_.dialogo.salva(richiesta);
-    while (percorso && titoloSenzaEstensione(*percorso).empty()) {
-        avviso("Il nome del file è vuoto: scriverne uno.");
-        richiesta.nome = nomeDaSolo;
-        percorso = servizi_.dialogo.salva(richiesta);
+    for (; percorso; percorso = servizi_.dialogo.salva(richiesta)) {
+        if (titoloSenzaEstensione(*percorso).empty()) {
+            avviso("Il nome del file è vuoto: scriverne uno.");
+            richiesta.nome = nomeDaSolo;
+        } else if (recupero.appartiene(*percorso)) {
+            // A save removes what stands there.
+            avviso("Questa cartella è riservata alle copie di recupero: sceglierne un'altra.");
+            richiesta.nome = testoDi(percorsoDi(*percorso).filename());
+        } else {
+            break;
+        }
     }
+    avviso({});
     return percorso;
 }
 
@@ -233,15 +246,8 @@ void MDI_Form::salvaFiglia() {
         return;
     }
     figlia->SaveData();
-    figlia->convalida();
+    figlia->convalida();  // gives the focus to the first field that refuses
     stato_.convalidaFallita = false;
-    for (Controllo* controllo : figlia->ordine()) {
-        const auto* campo = dynamic_cast<const tBox*>(controllo);
-        if (campo != nullptr && campo->fallito() && campo->visibile() && campo->abilitato()) {
-            figlia->fuocoSu(*controllo);
-            return;
-        }
-    }
 }
 
 void MDI_Form::scriviNomeFile(const std::string& nome) {

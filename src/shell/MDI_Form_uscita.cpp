@@ -45,10 +45,10 @@ void MDI_Form::Unload() {
         for (const std::string_view menu : menuCostruzione) {
             ctlMenu.svuota(menu);
         }
-        if (alloScarico) {
-            alloScarico();
-        }
     });
+    if (alloScarico) {
+        gestisci(app_, "MDI_Form:Unload()", alloScarico);
+    }
     scaricata_ = true;
     superficie().termina();
 }

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <filesystem>
 
-#include "app/percorsi.h"
 #include "base/guasto.h"
 #include "shell/frmSplash.h"
 #include "shell/gestore.h"
@@ -144,7 +143,7 @@ void modMain::avviaFilmato() {
         if (app_.configurazione.AvvioFilmato != 0) {
             return;
         }
-        const std::string filmato = percorsoInstallazione(app_.theAmbiente, "\\UserGuide\\KelvoSUITE2014_INTRO.exe");
+        const std::string filmato = app_.theAmbiente.PercorsoProgramma("\\UserGuide\\KelvoSUITE2014_INTRO.exe");
         if (!servizi_.documenti.avvia("\"" + filmato + "\"", {})) {
             cornice_.avviso("Impossibile avviare il filmato introduttivo");
         }
@@ -153,11 +152,11 @@ void modMain::avviaFilmato() {
 
 void modMain::apriProgetto(const std::string& rigaComando) {
     const bool recuperato = cornice_.offriRecupero();
-    std::string percorso = rigaComando;
-    std::erase(percorso, '"');
-    if (percorso.empty()) {
+    if (rigaComando.empty()) {
         return;
     }
+    std::string percorso = rigaComando;
+    std::erase(percorso, '"');
     if (recuperato) {
         cornice_.avviso("Aperto il progetto recuperato, non " + percorso);
         return;

@@ -5,6 +5,7 @@
 
 #include "base/file.h"
 #include "base/guasto.h"
+#include "base/testo.h"
 #include "shell/servizi/nomiPermessi.h"
 
 namespace kelvo {
@@ -36,7 +37,14 @@ std::vector<fs::path> copie(const std::string& cartella) {
     return trovate;
 }
 
+/// A file name of the system holds 255 bytes; the writer's temporary file has some behind the name.
+constexpr std::size_t massimoNome = 50;
+
 std::string nomeAmmesso(std::string nome) {
+    const std::size_t lungo = lunghezza(nome);
+    if (lungo > massimoNome) {
+        nome = senzaUltimi(nome, lungo - massimoNome);
+    }
     for (std::size_t i = nome.find_first_of(caratteriVietati); i != std::string::npos;
          i = nome.find_first_of(caratteriVietati, i)) {
         nome[i] = '_';

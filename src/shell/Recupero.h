@@ -30,6 +30,7 @@ public:
     std::optional<std::string> trovata() const;
     /// Path of the copy of the project at hand.
     std::string percorso() const;
+    /// True for a path in the folder of the copies.
     bool appartiene(const std::string& percorso) const;
 
 private:

@@ -62,7 +62,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     if (!avvio.Main(rigaComando(argc, argv))) {
         return 1;
     }
-    return QApplication::exec();
+    return cornice.scaricata() ? 0 : QApplication::exec();
 }
 
 }  // namespace kelvo::ui

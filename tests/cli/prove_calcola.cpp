@@ -255,6 +255,22 @@ INSTANTIATE_TEST_SUITE_P(
         IniGuasto{"NotANumber", "Camper=nan", "Tipo non corrispondente (Kelvo.ini, [VEICOLI EQUIVALENTI] Camper=nan)"}),
     [](const auto& caso) { return std::string(caso.param.nome); });
 
+TEST(ConfigurazioneIllegibile, AWideEncodingIsNamedAndEndsWithExitCode2) {
+    const CartellaTemporanea cartella;
+    std::string largo = "\xFF\xFE";
+    for (const char c : contenuto(KELVO_CARTELLA "/Kelvo.ini")) {
+        largo += c;
+        largo += '\0';
+    }
+    const std::string file = cartella.file("larga.ini");
+    scriviContenuto(file, largo);
+    const Esito esito = kelvoCli({"calcola", "--ini", file, esempio(mulini)});
+    EXPECT_EQ(esito.codice, 2);
+    EXPECT_EQ(esito.uscita, "");
+    EXPECT_EQ(esito.errori,
+              "kelvo-cli: configurazione '" + file + "': il testo non è in UTF-8 né in una codifica a un byte\n");
+}
+
 TEST(ConfigurazioneAssente, MissingFileEndsWithExitCode2) {
     const Esito esito = kelvoCli({"calcola", "--ini", "/manca/Kelvo.ini", esempio(mulini)});
     EXPECT_EQ(esito.codice, 2);

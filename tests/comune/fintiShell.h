@@ -98,10 +98,14 @@ public:
         return prossimo();
     }
     std::vector<RichiestaFile> richieste;
-    std::deque<std::string> scelte;  ///< none left: Cancel
+    std::deque<std::string> scelte;       ///< none left: Cancel
+    std::function<void()> allaRichiesta;  ///< while a dialogue stands; may be empty
 
 private:
     std::optional<std::string> prossimo() {
+        if (allaRichiesta) {
+            allaRichiesta();
+        }
         if (scelte.empty()) {
             return std::nullopt;
         }
@@ -254,7 +258,7 @@ public:
         for (int i = 1; i <= rami; ++i) {
             rotonda.AddRamo(std::to_string(i) + "Ramo");
         }
-        const std::string percorso = cartella.file(nome);
+        std::string percorso = cartella.file(nome);
         std::string messaggio;
         bool esito = false;
         rotonda.Save(percorso, messaggio, esito);

@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
-#include "app/percorsi.h"
 #include "comune/fintiShell.h"
 #include "shell/frmINFO.h"
+#include "shell/frmInputNumeroRami.h"
 #include "shell/frmSplash.h"
 
 namespace kelvo::prove::shell {
@@ -37,10 +37,14 @@ class AttesaFinta final : public Attesa {
 public:
     bool pausa(int millisecondi) override {
         pause.push_back(millisecondi);
+        if (allaPausa) {
+            allaPausa();
+        }
         return static_cast<int>(pause.size()) == finisce;
     }
     void eventi() override { ++eventiCorsi; }
     std::vector<int> pause;
+    std::function<void()> allaPausa;
     int finisce = 0;  ///< the pause at which the user goes on; 0 for none
     int eventiCorsi = 0;
 };
@@ -261,6 +265,162 @@ TEST_F(Avvio, ARecoveryThatIsRefusedLetsTheCommandLineOpen) {
     EXPECT_FALSE(fs::exists(f.cartella.file("Recupero/Perso.klv")));
 }
 
+TEST_F(Avvio, TheSettingOfTheFilmIsReadOnceMoreBehindTheSplash) {
+    attesa.allaPausa = [&] { ini("0", "Avvia=0"); };
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(f.documenti.avviati.size(), 1U);
+    attesa.allaPausa = [&] { ini("0", "Avvia=1"); };
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(f.documenti.avviati.size(), 1U);
+}
+
+/// Writes down what the program had done when it started a program.
+class DocumentiCheGuardano final : public ApriDocumenti {
+public:
+    explicit DocumentiCheGuardano(std::function<void()> guarda) : guarda_(std::move(guarda)) {}
+    bool apri(const std::string& /*percorso*/) override { return true; }
+    bool avvia(const std::string& /*programma*/, const std::string& /*argomento*/) override {
+        guarda_();
+        return false;
+    }
+
+private:
+    std::function<void()> guarda_;
+};
+
+TEST_F(Avvio, TheFilmStartsBehindTheSplashAndInFrontOfTheProject) {
+    ini("0", "Avvia=0");
+    int viste = 0;
+    DocumentiCheGuardano documenti([&] {
+        ++viste;
+        EXPECT_EQ(f.superficie.passi.back(), "chiudiSopra frmSplash");
+        EXPECT_EQ(attesa.eventiCorsi, 1);
+        EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::NessunProgetto);
+    });
+    modMain altro(f.app, f.stato, f.cornice, {locale, istanza, documenti, attesa});
+    EXPECT_TRUE(altro.Main(f.progettoSuDisco("a.klv", 3)));
+    EXPECT_EQ(viste, 1);
+    EXPECT_EQ(f.cornice.ctlStatusBar.avviso(), "Impossibile avviare il filmato introduttivo");
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoCaricato) << "a film that does not start stops nothing";
+}
+
+TEST_F(Avvio, TheFlagsAreSetBeforeAnythingIsShown) {
+    f.stato.ProgettoAperto = true;
+    f.stato.convalidaFallita = true;
+    f.stato.opzioniModificate = true;
+    f.stato.statoProgetto = StatoProgetto::ProgettoCaricato;
+    f.scriviIni("");  // the program ends right behind the first step
+    EXPECT_FALSE(programma.InitEnvironment());
+    EXPECT_FALSE(f.stato.ProgettoAperto);
+    EXPECT_FALSE(f.stato.convalidaFallita);
+    EXPECT_FALSE(f.stato.opzioniModificate);
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::NessunProgetto);
+    EXPECT_EQ(istanza.creati, (std::vector<std::string>{"Kelvo"}));
+    EXPECT_EQ(f.app.theRotonda().NumeroRami(), 4);
+}
+
+TEST_F(Avvio, TheNameOfTheLogIsAskedForBeforeTheOtherInstance) {
+    istanza.altra = true;
+    f.scriviIni("[FILE_LOG]\nPathError=\n");
+    EXPECT_FALSE(programma.Main(""));
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014 - Errore Irreversibile!");
+}
+
+TEST_F(Avvio, AConfigurationInAWideEncodingHasNoNameOfTheLog) {
+    f.scriviIni(std::string("\xFF\xFE[\0F\0", 6));
+    EXPECT_FALSE(programma.Main(""));
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014 - Errore Irreversibile!");
+}
+
+TEST_F(Avvio, WhateverStandsInPlaceOfAProjectIsToldOnceAndTheProgramGoesOn) {
+    const std::string buono = contenuto(f.progettoSuDisco("buono.klv", 3));
+    fs::create_directories(f.cartella.file("cartella.klv"));
+    scriviContenuto(f.cartella.file("vuoto.klv"), "");
+    scriviContenuto(f.cartella.file("binario.klv"), std::string("\x7F"
+                                                                "ELF\0\0\xFF",
+                                                                7));
+    scriviContenuto(f.cartella.file("tronco.klv"), buono.substr(0, buono.size() / 2));
+    scriviContenuto(f.cartella.file("grande.klv"), std::string(5UL * 1024 * 1024, ' '));
+    std::string nuovo = buono;
+    const std::string versione = "\"versione\": 1";
+    ASSERT_NE(nuovo.find(versione), std::string::npos);
+    scriviContenuto(f.cartella.file("nuovo.klv"),
+                    nuovo.replace(nuovo.find(versione), versione.size(), "\"versione\": 2"));
+    for (const char* nome : {"cartella.klv", "vuoto.klv", "binario.klv", "tronco.klv", "grande.klv", "nuovo.klv",
+                             "manca.klv", "manca/x.klv"}) {
+        f.messaggi.mostrati.clear();
+        EXPECT_TRUE(programma.Main(f.cartella.file(nome))) << nome;
+        EXPECT_EQ(f.messaggi.testi(), (std::vector<std::string>{"Il file selezionato non è corretto!"})) << nome;
+        EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::NessunProgetto) << nome;
+        EXPECT_FALSE(f.stato.ProgettoAperto) << nome;
+        EXPECT_FALSE(f.superficie.alberoVisibile) << nome;
+        EXPECT_EQ(f.cornice.titolo(), "KELVO 2014") << nome;
+        EXPECT_EQ(f.cornice.gestione.corrente(), nullptr) << nome;
+        EXPECT_TRUE(f.cornice.recenti.elenco().empty()) << nome;
+    }
+    EXPECT_TRUE(f.cornice.ctlMenu.voce("mnuApri").abilitata);
+    f.nuovo(4);
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoNuovo);
+}
+
+TEST_F(Avvio, QuotesAloneAreAPathThatIsNoProject) {
+    EXPECT_TRUE(programma.Main("\"\""));
+    EXPECT_EQ(f.messaggi.testi(), (std::vector<std::string>{"Il file selezionato non è corretto!"}));
+}
+
+TEST_F(Avvio, AProjectNamedFromTheWorkingFolderIsRememberedByItsWholePath) {
+    const CartellaCorrente qui(f.cartella.percorso());
+    const std::string percorso = f.progettoSuDisco("a.klv", 3);
+    EXPECT_TRUE(programma.Main("./a.klv"));
+    EXPECT_EQ(f.cornice.recenti.elenco(), (std::vector<std::string>{percorso}));
+    EXPECT_EQ(f.cornice.titolo(), "KELVO 2014 - [a.klv]");
+}
+
+TEST_F(Avvio, TheSeparatorsArePutBackAlsoWhereTheUnloadFails) {
+    locale.adesso.decimale = ".";
+    EXPECT_TRUE(programma.Main(""));
+    f.nuovo(3);
+    f.cornice.albero.UserClick("keyMatriceSvolte");
+    f.cornice.finestre.allaFine = [](Finestra&) { throw Guasto(NumeroGuasto::overflow); };
+    f.cornice.Unload();
+    EXPECT_EQ(locale.scritti.back(), "..");
+    EXPECT_TRUE(f.superficie.terminata);
+}
+
+TEST_F(Avvio, ALogThatCannotBeWrittenStopsNothing) {
+    f.scriviIni("[FILE_LOG]\nPathError=manca/LOG.TXT\n[LAY_OUT]\nCustomPanel=blu\n[10_MOTIVI]\nAvvia=1\n");
+    EXPECT_TRUE(programma.Main(f.progettoSuDisco("a.klv", 3)));
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014modCommonModule:InitEnvironment()");
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoCaricato);
+}
+
+TEST_F(Avvio, WithTheTraceOnTheFirstLineOfTheRunIsLostAndToldAndTheOthersFollow) {
+    f.scriviIni(
+        "[FILE_LOG]\nPathError=LOG.TXT\n[TRACE_ENABLED]\nTraceEnabled=TRUE\n[10_MOTIVI]\nAvvia=1\n"
+        "[OPZ_EXPLORER]\nRami=0\n");
+    const CartellaCorrente qui(f.cartella.percorso());
+    scriviContenuto(f.cartella.file("LOG.TXT"), "of the run before");
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_TRUE(f.messaggi.mostrati.empty());
+    f.cornice.finestre.registra("frmInputNumeroRami",
+                                [](const Contorno& c) { return std::make_unique<frmInputNumeroRami>(c); });
+    f.superficie.alModale = [](Finestra& finestra) { dynamic_cast<frmInputNumeroRami&>(finestra).cmdOk.premi(); };
+    f.cornice.ctlMenu.premi("mnuNuovo");
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014modCommonModule:traceLog()");
+    EXPECT_EQ(f.messaggi.mostrati[0].testo, "53 : File non trovato");
+    const std::string ora = "[21/11/2026 10:30:05] - ";
+    EXPECT_EQ(contenuto(f.cartella.file("LOG.TXT")),
+              "SCRITTURA FILELOGERROR.TXT: 21/11/2026 10.30.05\r\n\r\n53\r\n"
+              "Errore nel modulo:  - Metodo: modCommonModule:traceLog() - Descrizione: 53 : File non trovato\r\n"
+              "\r\n\r\n" +
+                  ora + "Entro in LoadTreeView()\r\n" + ora + "Esco da LoadTreeView()\r\n" + ora +
+                  "Esco da cmdOk_Click\r\n");
+}
+
 TEST(Informazioni, VersionAndMakerAreShown) {
     ShellFinta f;
     frmINFO info(f.cornice.contorno());
@@ -270,23 +430,6 @@ TEST(Informazioni, VersionAndMakerAreShown) {
     info.allaChiusura = [&] { ++chiusure; };
     info.cmdOk.premi();
     EXPECT_EQ(chiusure, 1);
-}
-
-TEST(Percorsi, TheInstallationIsSearchedWithoutRegardToCase) {
-    CartellaTemporanea cartella;
-    fs::create_directories(cartella.file("userguide"));
-    scriviContenuto(cartella.file("userguide/USERGUIDE.PDF"), "");
-    const clsAmbiente ambiente(cartella.percorso(), cartella.percorso(), sistemaFileStandard());
-    EXPECT_EQ(percorsoInstallazione(ambiente, "\\UserGuide\\UserGuide.pdf"), cartella.file("userguide/USERGUIDE.PDF"));
-    EXPECT_EQ(percorsoInstallazione(ambiente, "\\Support\\x y.htm"), cartella.file("Support/x y.htm"));
-}
-
-TEST(Percorsi, TheNameOfAProjectIsItsFileWithoutFolderAndExtension) {
-    EXPECT_EQ(nomeProgetto("/a/b/Nodo Est.klv"), "Nodo Est");
-    EXPECT_EQ(nomeProgetto("Nodo.KLV"), "Nodo");
-    EXPECT_EQ(nomeProgetto("/a/Nodo.v2.klv"), "Nodo.v2");
-    EXPECT_EQ(nomeProgetto("/a/Nodo.txt"), "Nodo.txt");
-    EXPECT_EQ(nomeProgetto("/a/.klv"), "");
 }
 
 }  // namespace

@@ -150,6 +150,39 @@ TEST_F(ProveAnagrafica, ASaveWritesEveryFieldAndTheCaption) {
     EXPECT_FALSE(finestra.txtNomeFile.modificato() || finestra.txtNote.modificato());
 }
 
+/// A main window that writes down what the project held when its caption was put.
+class CorniceCheGuarda final : public Cornice {
+public:
+    explicit CorniceCheGuarda(Rotonda& rotonda) : rotonda_(rotonda) {}
+    std::string titolo() const override { return {}; }
+    void titolo(const std::string& /*testo*/) override {
+        visti = {rotonda_.Note(),     rotonda_.Titolo(), rotonda_.NomeFile(), rotonda_.StatoAvanzamento(),
+                 rotonda_.Localita(), rotonda_.Comune(), rotonda_.Provincia()};
+    }
+    void testoNodi(const std::string& /*chiave*/, const std::string& /*testo*/) override {}
+    void SetUpOpzioni() override {}
+    void LoadTreeView() override {}
+    void avviso(const std::string& /*testo*/) override {}
+    std::vector<std::string> visti;
+
+private:
+    Rotonda& rotonda_;
+};
+
+TEST_F(ProveAnagrafica, TheCaptionIsPutBetweenTheNameAndTheStage) {
+    CorniceCheGuarda guarda(rotonda());
+    frmAnagraficaRotonda altra({app, stato, guarda, navigazione});
+    altra.ReadData();
+    for (tBox* campo : {&altra.txtNomeFile, &altra.txtStatoAvanzamento, &altra.txtLocalita, &altra.txtComune,
+                        &altra.txtProvincia, &altra.txtTitolo}) {
+        campo->scrivi("nuovo");
+    }
+    altra.txtNote.scrivi("nuovo");
+    altra.SaveData();
+    EXPECT_EQ(guarda.visti,
+              (std::vector<std::string>{"nuovo", "nuovo", "nuovo", "Progetto Definitivo", "Borgo", "Lucca", "LU"}));
+}
+
 TEST_F(ProveAnagrafica, LookingAtTheWindowChangesNothing) {
     rotonda().Data(giornoCalendario(2024, 3, 1) + 0.5);  // more than the field shows
     const auto prima = rotonda().revisione().tutto;

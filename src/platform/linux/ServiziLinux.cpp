@@ -4,6 +4,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 
@@ -23,8 +24,8 @@ void IstanzaLinux::creaMutex(const std::string& nome) {
     const std::string percorso = (fs::path(cartella_) / (nome + ".lock")).string();
     constexpr mode_t soloUtente = 0600;
     file_ = ::open(percorso.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, soloUtente);
-    // Where the file cannot be made nobody can hold it either.
-    altra_ = file_ >= 0 && ::flock(file_, LOCK_EX | LOCK_NB) != 0;
+    // Where the file cannot be made or locked nobody can hold it either.
+    altra_ = file_ >= 0 && ::flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 ImpostazioniInternazionali LocaleLinux::leggi() const {

@@ -257,6 +257,8 @@ void VistaMDI_Form::mostraModale(Finestra& finestra) {
     if (!dialogo.isNull()) {
         dialogo->exec();
     }
+    sopra_.erase(&finestra);
+    delete dialogo.data();  // the window that it shows may go now
 }
 
 void VistaMDI_Form::apriSopra(Finestra& finestra) {
