@@ -21,6 +21,7 @@ struct StatoFinestre {
     bool convalidaFallita = false;        ///< the check of a field or window failed
     bool opzioniModificate = false;       ///< an option was changed and not yet told
     std::int16_t NumSegmenti = 0;         ///< time segments of every entry
+    std::int16_t formaRelazione = 2;      ///< the report that is offered first: 0 input, 1 results, 2 both
 };
 
 /// What the lower rooms ask of the main window.
@@ -38,6 +39,8 @@ public:
     virtual void testoNodi(const std::string& chiaveRamo, const std::string& testo) = 0;
     virtual void SetUpOpzioni() = 0;
     virtual void LoadTreeView() = 0;
+    /// Shows or hides the seven menus, for the rest of the run; tool bar and shortcuts stay.
+    virtual void mostraMenu(bool visibili) = 0;
     /// Tells the user something in the status bar; an empty text takes it away.
     virtual void avviso(const std::string& testo) = 0;
 };

@@ -151,6 +151,7 @@ public:
     void titolo(const std::string& testo) override;
     void testoNodi(const std::string& chiaveRamo, const std::string& testo) override;
     void LoadTreeView() override { albero.LoadTreeView(); }
+    void mostraMenu(bool visibili) override;
     void avviso(const std::string& testo) override { ctlStatusBar.avviso(testo); }
 
 private:
@@ -162,6 +163,7 @@ private:
     void costruisciMenu(bool perTipo);
     void aggiungiVociProprie();
     void aggiornaRecenti();
+    void applicaMenuMostrati();
     void applicaStato();
     void applicaAlbero();
     void applicaMancanti();
@@ -187,6 +189,7 @@ private:
     std::int16_t tipoFlusso_ = 0;
     std::string_view finestraTraffico_;
     std::string_view finestraComposizione_ = "frmComposizioneTraffico";
+    bool menuMostrati_ = true;
     bool scaricata_ = false;
 };
 

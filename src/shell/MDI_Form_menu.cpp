@@ -130,7 +130,19 @@ void MDI_Form::costruisciMenu(bool perTipo) {
     aggiungiRighe(ctlMenu, perTipo ? righePerTipo() : righePerRamo(), rotonda);
     aggiungiRighe(ctlMenu, righeCoda(), rotonda);
     aggiungiVociProprie();
+    applicaMenuMostrati();
     riapplica();
+}
+
+void MDI_Form::mostraMenu(bool visibili) {
+    menuMostrati_ = visibili;
+    applicaMenuMostrati();
+}
+
+void MDI_Form::applicaMenuMostrati() {
+    for (const std::string_view menu : menuCostruzione) {
+        ctlMenu.mostra(menu, menuMostrati_);
+    }
 }
 
 void MDI_Form::aggiungiVociProprie() {

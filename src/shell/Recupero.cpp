@@ -6,14 +6,13 @@
 #include "base/file.h"
 #include "base/guasto.h"
 #include "base/testo.h"
+#include "shell/servizi/nomiPermessi.h"
 
 namespace kelvo {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr const char* vietati = "\\/:*?\"<>|";
 
 /// The copies in a folder.
 std::vector<fs::path> copie(const std::string& cartella) {
@@ -37,7 +36,8 @@ std::string nomeAmmesso(std::string nome) {
     if (lungo > massimoNome) {
         nome = senzaUltimi(nome, lungo - massimoNome);
     }
-    for (std::size_t i = nome.find_first_of(vietati); i != std::string::npos; i = nome.find_first_of(vietati, i)) {
+    for (std::size_t i = nome.find_first_of(caratteriVietati); i != std::string::npos;
+         i = nome.find_first_of(caratteriVietati, i)) {
         nome[i] = '_';
     }
     if (!nome.empty() && nome.front() == '.') {

@@ -6,6 +6,7 @@
 
 #include "base/date.h"
 #include "base/numeri.h"
+#include "shell/servizi/nomiPermessi.h"
 
 namespace kelvo {
 
@@ -22,16 +23,11 @@ constexpr const char* provincia = "Provincia";
 constexpr const char* titolo = "Titolo - Descrizione";
 constexpr const char* note = "Note";
 constexpr const char* numeroRami = "Numero rami";
-constexpr const char* errore = "KELVO 2014 - Errore";
-constexpr const char* caratteriVietati = "Attenzione, non sono permessi i caratteri: ";
 }  // namespace testi
 
 constexpr std::array stadi{"Progetto Preliminare",     "Progetto Definitivo",          "Progetto Esecutivo",
                            "Studio di prefattibilità", "Studio preliminare",           "Verifica prestazionale",
                            "Versione Finale",          "Analisi operativa (cantiere)!"};
-
-/// Characters that no file name may hold.
-constexpr std::string_view vietati = "\\/:*?\"<>|";
 
 /// A field and the text property of the project that it shows.
 struct Legame {
@@ -138,9 +134,8 @@ void frmAnagraficaRotonda::mostraTitolo(const std::string& nome) {
 }
 
 EsitoUscita frmAnagraficaRotonda::controllaNomeFile() const {
-    if (txtNomeFile.testo().find_first_of(vietati) != std::string::npos) {
-        return EsitoUscita::rifiuto(
-            MessaggioCampo{testi::caratteriVietati + std::string{vietati}, testi::errore, Icona::critica});
+    if (txtNomeFile.testo().find_first_of(caratteriVietati) != std::string::npos) {
+        return EsitoUscita::rifiuto(messaggioCaratteriVietati());
     }
     return EsitoUscita::bene();
 }

@@ -23,6 +23,7 @@ public:
     void testoNodi(const std::string& chiaveRamo, const std::string& testo) override { nodi[chiaveRamo] = testo; }
     void SetUpOpzioni() override { passi.emplace_back("SetUpOpzioni"); }
     void LoadTreeView() override { passi.emplace_back("LoadTreeView"); }
+    void mostraMenu(bool visibili) override { passi.emplace_back(visibili ? "menu mostrati" : "menu nascosti"); }
     void avviso(const std::string& testo) override { avvisato = testo; }
 
     std::string caption = "KELVO 2014";

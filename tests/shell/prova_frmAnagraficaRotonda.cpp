@@ -162,6 +162,7 @@ public:
     void testoNodi(const std::string& /*chiave*/, const std::string& /*testo*/) override {}
     void SetUpOpzioni() override {}
     void LoadTreeView() override {}
+    void mostraMenu(bool /*visibili*/) override {}
     void avviso(const std::string& /*testo*/) override {}
     std::vector<std::string> visti;
 

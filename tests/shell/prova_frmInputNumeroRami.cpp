@@ -86,6 +86,7 @@ public:
     void testoNodi(const std::string& /*chiave*/, const std::string& /*testo*/) override {}
     void SetUpOpzioni() override {}
     void LoadTreeView() override { throw Guasto(NumeroGuasto::chiamataNonValida); }
+    void mostraMenu(bool /*visibili*/) override {}
     void avviso(const std::string& /*testo*/) override {}
 };
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/servizi.h"
 #include "app/serviziSistema.h"
@@ -24,6 +25,7 @@ struct EsitoUscita {
     bool bandiera = false;                    ///< raises the flag of failed checks
     std::optional<MessaggioCampo> messaggio;  ///< shown in a box
     std::string motivo;                       ///< for the status bar, where there is no box
+    std::vector<MessaggioCampo> altri = {};   ///< further boxes, one after the other
 
     static EsitoUscita bene() { return {}; }
     static EsitoUscita rifiuto(std::string motivo) {

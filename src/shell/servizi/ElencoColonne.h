@@ -34,6 +34,21 @@ public:
     }
     std::function<void(const std::string&)> allAttivazione;
 
+    /// Key of the row that is marked; empty for none.
+    const std::string& selezionata() const { return selezionata_; }
+    /// Marks a row, or none; nothing happens for a key that is not there.
+    void seleziona(const std::string& chiave) {
+        if (chiave.empty() || riga(chiave) != nullptr) {
+            cambia(selezionata_, chiave);
+        }
+    }
+    /// The user marks a row.
+    void clicca(const std::string& chiave) {
+        if (raggiungibile()) {
+            seleziona(chiave);
+        }
+    }
+
     /// The user opens a row; nothing happens for a key that is not there.
     void attiva(std::string_view chiave) {
         const Riga* scelta = riga(chiave);
@@ -47,6 +62,7 @@ public:
 private:
     std::vector<std::string> intestazioni_;
     std::vector<Riga> righe_;
+    std::string selezionata_;
 };
 
 }  // namespace kelvo

@@ -17,6 +17,7 @@ std::vector<BarraStrumenti::Tasto> tastiDati() {
 
 Finestra::Finestra(Contorno contorno, std::string nome, std::string didascalia)
     : pannello("pannello", didascalia),
+      sottotitolo("sottotitolo"),
       contorno_(contorno),
       nome_(std::move(nome)),
       didascalia_(std::move(didascalia)) {
@@ -107,6 +108,9 @@ void Finestra::giudicato(Controllo& campo, const EsitoUscita& esito) {
     if (esito.messaggio) {
         messaggio(esito.messaggio->testo, esito.messaggio->titolo, esito.messaggio->icona);
     }
+    for (const MessaggioCampo& altro : esito.altri) {
+        messaggio(altro.testo, altro.titolo, altro.icona);
+    }
 }
 
 void Finestra::messaggio(const std::string& testo, const std::string& titolo, Icona icona) {
@@ -138,7 +142,7 @@ void FinestraDati::premuto(const std::string& chiave) {
     }
     gestisci(metodo.c_str(), [&] {
         if (chiave == "AggiornaDati") {
-            SaveData();
+            aggiornaDati();
         } else if (chiave == "Archivio") {
             Archivio();
         } else {

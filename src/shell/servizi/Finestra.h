@@ -35,6 +35,8 @@ public:
     Etichetta pannello;
     /// Stands beside the caption while the window's data are not those of the project; its text says so.
     Etichetta segno{"segnoDati", "Dati non ancora registrati"};
+    /// What the window shows, beside its caption: the name of the leg; empty for nothing.
+    Etichetta sottotitolo;
     /// The tool bar, if the window has one.
     virtual BarraStrumenti* barra() { return nullptr; }
 
@@ -125,6 +127,8 @@ protected:
     void DatiAllineati(bool valore);
     /// Import into the window; nothing where there is none.
     virtual void Archivio() {}
+    /// The confirmation of the tool bar.
+    virtual void aggiornaDati() { SaveData(); }
     /// A tool bar key that the given three do not cover.
     virtual void altroTasto(const std::string& /*chiave*/) {}
 

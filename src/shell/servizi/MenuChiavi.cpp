@@ -69,6 +69,15 @@ void MenuChiavi::abilita(std::string_view chiave, bool valore) {
     }
 }
 
+void MenuChiavi::mostra(std::string_view chiave, bool valore) {
+    voce(chiave);  // a key that is not there is a fault
+    const auto trovata = std::find_if(voci_.begin(), voci_.end(), [&](const Voce& v) { return v.chiave == chiave; });
+    if (trovata->visibile != valore) {
+        trovata->visibile = valore;
+        segna();
+    }
+}
+
 void MenuChiavi::annota(std::string_view chiave, const std::string& nota) {
     const auto trovata = std::find_if(voci_.begin(), voci_.end(), [&](const Voce& v) { return v.chiave == chiave; });
     if (trovata != voci_.end() && trovata->nota != nota) {

@@ -24,6 +24,7 @@ public:
         std::string scorciatoia{};
         std::string mnemonico{};  ///< the letter of the caption that is underlined; empty for none
         std::string nota{};       ///< why the entry is closed; empty where there is nothing to tell
+        bool visibile = true;
         friend bool operator==(const Voce&, const Voce&) = default;
     };
     explicit MenuChiavi(std::string nome) : Controllo(std::move(nome)) {}
@@ -38,6 +39,9 @@ public:
     std::string aggiungi(Voce voce);
     /// Sets the enabled flag; a key that is not there is passed over, as entries come and go with the layout.
     void abilita(std::string_view chiave, bool valore);
+    /// Shows or hides an entry; what it leads to can be reached otherwise all the same. Fault 9 for a key that is not
+    /// there.
+    void mostra(std::string_view chiave, bool valore);
     /// Tells why an entry is closed; a key that is not there is passed over.
     void annota(std::string_view chiave, const std::string& nota);
     bool contiene(std::string_view chiave) const { return trova(chiave) != nullptr; }

@@ -208,6 +208,16 @@ public:
     };
     BarraStrumenti(std::string nome, std::vector<Tasto> tasti) : Controllo(std::move(nome)), tasti_(std::move(tasti)) {}
     const std::vector<Tasto>& tasti() const { return tasti_; }
+    /// Puts a button of the window's own in front.
+    void premetti(Tasto tasto) {
+        tasti_.insert(tasti_.begin(), std::move(tasto));
+        cambiato().emit();
+    }
+    /// Appends a button of the window's own.
+    void aggiungi(Tasto tasto) {
+        tasti_.push_back(std::move(tasto));
+        cambiato().emit();
+    }
     /// Fault 9 for a key that is not there.
     bool abilitato(std::string_view chiave) const;
     /// The same: a literal would otherwise be taken for a flag.

@@ -191,9 +191,22 @@ void tBox::scegli(int indice) {
     }
 }
 
-EsitoUscita tBox::esamina() {
-    if (std::string motivo = regole_.motivo(testo_); !motivo.empty()) {
+EsitoUscita tBox::rifiutato(std::string motivo) const {
+    if (rifiuto.empty()) {
         return EsitoUscita::rifiuto(std::move(motivo));
+    }
+    EsitoUscita esito = EsitoUscita::rifiuto(MessaggioCampo{rifiuto, "KELVO 2014 - Attenzione", Icona::esclamazione});
+    esito.motivo = nomeCampo.empty() ? rifiuto : nomeCampo + ": " + rifiuto;
+    return esito;
+}
+
+EsitoUscita tBox::esamina() {
+    std::string numero = testo_;
+    if (virgola) {
+        std::replace(numero.begin(), numero.end(), ',', '.');
+    }
+    if (std::string motivo = regole_.motivo(numero); !motivo.empty()) {
+        return rifiutato(std::move(motivo));
     }
     return controllo ? controllo() : EsitoUscita::bene();
 }

@@ -67,6 +67,16 @@ public:
     std::string caratteriAmmessi;
     std::size_t lunghezzaMassima = 0;
 
+    /// The user types the decimal comma: the rules of the tag read it as the point.
+    bool virgola = false;
+    /// Words of the box that comes up when the rules of the tag refuse the text; empty for none.
+    std::string rifiuto;
+    /// What the field is called in the status bar when it refuses; empty for nothing.
+    std::string nomeCampo;
+
+    /// What the tool tip of the field tells; empty for none.
+    std::string suggerimento;
+
     /// The field shows its text and takes none.
     bool solaLettura() const { return solaLettura_; }
     void solaLettura(bool valore) { cambia(solaLettura_, valore); }
@@ -99,6 +109,7 @@ public:
 
 private:
     EsitoUscita esamina();
+    EsitoUscita rifiutato(std::string motivo) const;
     bool prende(const std::string& testo) const;
     std::string filtrato(std::string_view testo) const;
     void digita(const std::string& testo);

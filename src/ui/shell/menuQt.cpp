@@ -91,6 +91,7 @@ private:
             QMenu* tendina = barra_.addMenu(conMnemonico(*voce));
             tendina->menuAction()->setObjectName(q(voce->chiave));
             tendina->setEnabled(voce->abilitata);
+            tendina->menuAction()->setVisible(voce->visibile);
             riempi(menu_, voce->chiave, *tendina, *this);
         }
     }

@@ -1,0 +1,293 @@
+#include "input/frmParametriRamo.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "base/guasto.h"
+#include "input/frmPreviewRami.h"
+#include "shell/servizi/nomiPermessi.h"
+
+namespace kelvo {
+
+namespace {
+
+namespace testi {
+constexpr const char* didascalia = "Geometria";
+constexpr const char* pedonale = "Attraversamento pedonale";
+constexpr const char* decreto = "D.M. 19.04.06";
+constexpr const char* attenzione = "KELVO 2014 - Attenzione";
+constexpr const char* ingressoMinore =
+    "Il valore del campo 'Larghezza ingresso' deve essere sempre maggiore del campo 'Semilarghezza accesso'";
+constexpr const char* accessoMaggiore =
+    "Il valore del campo 'Semilarghezza accesso' deve essere sempre minore del campo 'Larghezza ingresso'";
+constexpr const char* nonAperto = "Impossibile aprire {}";
+constexpr const char* senzaValore = "-";
+}  // namespace testi
+
+constexpr std::string_view percorsoDecreto = "\\UserGuide\\DM19-04-06.pdf";
+constexpr std::array<std::string_view, 6> nomiNote{"lblNotaLarghezzaIngresso", "lblNotaSemiLarghezza",
+                                                   "lblNotaLungSvasatura",     "lblNotaAngoloConflitto",
+                                                   "lblNotaRaggioCurvatura",   "lblNotaDiametroInscritto"};
+
+const MisuraIngresso& misura(MisuraGeometrica quale) {
+    return misureIngresso[static_cast<std::size_t>(quale)];
+}
+
+std::string tagMisura(MisuraGeometrica quale) {
+    return tagNumerico(misura(quale).campo);
+}
+
+/// The capacity of the line for a circulating flow, veic/h; above 0 for all measures that the fields take.
+double capacita(const Ramo& ramo, double circolante) {
+    return ramo.F() - ramo.Fc() * circolante;
+}
+
+}  // namespace
+
+frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& servizi)
+    : FinestraRamo(contorno, "frmParametriRamo", testi::didascalia),
+      lblDescrizioneRamo("lblDescrizioneRamo"),
+      txtLarghezzaIngresso("txtLarghezzaIngresso", tBox::maskedit, tagMisura(MisuraGeometrica::larghezzaIngresso)),
+      txtSemiLarghezza("txtSemiLarghezza", tBox::maskedit, tagMisura(MisuraGeometrica::semiLarghezza)),
+      txtLungSvasatura("txtLungSvasatura", tBox::maskedit, tagMisura(MisuraGeometrica::lunghezzaSvasatura)),
+      txtAngoloConflitto("txtAngoloConflitto", tBox::maskedit, tagMisura(MisuraGeometrica::angoloConflitto)),
+      txtRaggioCurvatura("txtRaggioCurvatura", tBox::maskedit, tagMisura(MisuraGeometrica::raggioIngresso)),
+      txtDiametroInscritto("txtDiametroInscritto", tBox::maskedit, tagMisura(MisuraGeometrica::diametro)),
+      chkAttraversamentoPedonale("chkAttraversamentoPedonale", testi::pedonale),
+      cmdDM("cmdDM", testi::decreto),
+      ctlPicture("ctlPicture", std::string{figuraVuota}),
+      lblNote{Etichetta{std::string{nomiNote[0]}}, Etichetta{std::string{nomiNote[1]}},
+              Etichetta{std::string{nomiNote[2]}}, Etichetta{std::string{nomiNote[3]}},
+              Etichetta{std::string{nomiNote[4]}}, Etichetta{std::string{nomiNote[5]}}},
+      valori{{{"k", Etichetta{"lblK"}},
+              {"tD", Etichetta{"lblTd"}},
+              {"S", Etichetta{"lblS"}},
+              {"x2 [m]", Etichetta{"lblX2"}},
+              {"Intercetta [veic/h]", Etichetta{"lblF"}},
+              {"Pendenza", Etichetta{"lblFc"}},
+              {"Capacità con Qc = 0 [veic/h]", Etichetta{"lblQ0"}},
+              {"Capacità con Qc = 500 [veic/h]", Etichetta{"lblQ500"}},
+              {"Capacità con Qc = 1000 [veic/h]", Etichetta{"lblQ1000"}}}},
+      servizi_(servizi) {
+    ordina({&lblDescrizioneRamo, &txtDescrizioneRamo, &txtLarghezzaIngresso, &txtSemiLarghezza, &txtLungSvasatura,
+            &txtAngoloConflitto, &txtRaggioCurvatura, &txtDiametroInscritto, &chkAttraversamentoPedonale, &cmdDM});
+    const auto caselle = campi();
+    for (std::size_t i = 0; i < caselle.size(); ++i) {
+        preparaNumerico(*caselle[i], misureIngresso[i].campo);
+        caselle[i]->paginaAiuto = misureIngresso[i].paginaAiuto;
+        caselle[i]->dopoTasto = [this] { aggiorna(); };
+        caselle[i]->dopoUscita = [this, i] { dopoUscita(i); };
+    }
+    txtLarghezzaIngresso.controllo = [this] { return controllaCoppia(txtLarghezzaIngresso); };
+    txtSemiLarghezza.controllo = [this] { return controllaCoppia(txtSemiLarghezza); };
+    txtDescrizioneRamo.controllo = [this] { return controllaNomeRamo(txtDescrizioneRamo.testo()); };
+    txtDescrizioneRamo.dopoUscita = [this] { confronta(); };
+    chkAttraversamentoPedonale.alClic = [this] {
+        confronta();
+        geometriaMutata_.emit();
+    };
+    cmdDM.allaPressione = [this] { apriDecreto(); };
+    ctlToolbar.aggiungi({"DM", "D.M.", "Apre il D.M. 19.04.06", "DM", true});
+    fuocoMutato().connect([this] { fuocoSpostato(); });
+}
+
+std::array<tBox*, 6> frmParametriRamo::campi() {
+    return {&txtLarghezzaIngresso, &txtSemiLarghezza,   &txtLungSvasatura,
+            &txtAngoloConflitto,   &txtRaggioCurvatura, &txtDiametroInscritto};
+}
+
+std::array<const tBox*, 6> frmParametriRamo::campi() const {
+    return {&txtLarghezzaIngresso, &txtSemiLarghezza,   &txtLungSvasatura,
+            &txtAngoloConflitto,   &txtRaggioCurvatura, &txtDiametroInscritto};
+}
+
+void frmParametriRamo::legata() {
+    lblDescrizioneRamo.testo(fmt::format("Ingresso {}:", static_cast<char>('A' + indiceRamo() - 1)));
+}
+
+void frmParametriRamo::ReadData() {
+    txtDescrizioneRamo.testo(ramo().Descrizione());
+    const auto caselle = campi();
+    for (std::size_t i = 0; i < caselle.size(); ++i) {
+        mostraNumero(*caselle[i], (ramo().*misureIngresso[i].leggi)(), misureIngresso[i].campo.formato);
+    }
+    chkAttraversamentoPedonale.spuntata(ramo().AttraversamentoPedonale());
+    DatiAllineati(true);
+    aggiorna();
+}
+
+void frmParametriRamo::SaveData() {
+    gestisci("frmParametriRamo:SaveData", [this] {
+        app().comune.LeggiOpzExplorer();
+        if (!convalida()) {
+            return;
+        }
+        if (txtDescrizioneRamo.modificato()) {
+            ramo().Descrizione(txtDescrizioneRamo.testo());
+            txtDescrizioneRamo.salvato();
+        }
+        const auto caselle = campi();
+        for (std::size_t i = 0; i < caselle.size(); ++i) {
+            if (caselle[i]->modificato()) {
+                (ramo().*misureIngresso[i].scrivi)(singoloDi(*caselle[i]));
+                caselle[i]->salvato();
+            }
+        }
+        ramo().AttraversamentoPedonale(chkAttraversamentoPedonale.spuntata());
+        DatiAllineati(true);
+        mostraNome();
+        cornice().testoNodi(ramo().Key(), ramo().Descrizione());
+    });
+}
+
+bool frmParametriRamo::valido(std::size_t misura) const {
+    const tBox& campo = *campi()[misura];
+    std::string numero = campo.testo();
+    std::replace(numero.begin(), numero.end(), ',', '.');
+    return campo.regole().ammette(numero) && leggiSingolo(campo.testo()).has_value();
+}
+
+float frmParametriRamo::valoreMostrato(std::size_t misura) const {
+    const tBox& campo = *campi()[misura];
+    const bool scritto = campo.modificato() && valido(misura);
+    return scritto ? singoloDi(campo) : (ramo().*misureIngresso[misura].leggi)();
+}
+
+Geometria frmParametriRamo::geometriaMostrata() const {
+    Geometria g{.e = valoreMostrato(0),
+                .v = valoreMostrato(1),
+                .l = valoreMostrato(2),
+                .phi = valoreMostrato(3),
+                .r = valoreMostrato(4),
+                .D = valoreMostrato(5)};
+    if (g.v >= g.e) {
+        // Half typed: a pair that the fields will refuse is not shown.
+        g.e = ramo().LarghezzaIngresso();
+        g.v = ramo().SemiLarghezza();
+    }
+    return g;
+}
+
+std::optional<MisuraGeometrica> frmParametriRamo::misuraInUso() const {
+    const auto caselle = campi();
+    const auto trovata = std::find(caselle.begin(), caselle.end(), fuoco());
+    if (trovata == caselle.end()) {
+        return std::nullopt;
+    }
+    return static_cast<MisuraGeometrica>(trovata - caselle.begin());
+}
+
+EsitoUscita frmParametriRamo::controllaCoppia(const tBox& campo) const {
+    if (mascheraVuota(campo)) {
+        return EsitoUscita::bene();
+    }
+    // What was not typed counts as the project holds it, which may be more than the two decimals that are shown.
+    const auto numero = [this](std::size_t i) {
+        const tBox& casella = *campi()[i];
+        return casella.modificato() ? singoloDi(casella) : (ramo().*misureIngresso[i].leggi)();
+    };
+    if (numero(1) < numero(0)) {
+        return EsitoUscita::bene();
+    }
+    const char* testo = &campo == &txtLarghezzaIngresso ? testi::ingressoMinore : testi::accessoMaggiore;
+    return EsitoUscita::rifiuto(MessaggioCampo{testo, testi::attenzione, Icona::esclamazione});
+}
+
+void frmParametriRamo::dopoUscita(std::size_t misura) {
+    tBox& campo = *campi()[misura];
+    if (mascheraVuota(campo)) {
+        campo.modifica(formatta(0.0, misureIngresso[misura].campo.formato));  // what an empty mask counts as
+    }
+    confronta();
+}
+
+void frmParametriRamo::confronta() {
+    bool uguali = txtDescrizioneRamo.testo() == ramo().Descrizione() &&
+                  chkAttraversamentoPedonale.spuntata() == ramo().AttraversamentoPedonale();
+    const auto caselle = campi();
+    for (std::size_t i = 0; i < caselle.size(); ++i) {
+        uguali = uguali && (!caselle[i]->modificato() ||
+                            (valido(i) && singoloDi(*caselle[i]) == (ramo().*misureIngresso[i].leggi)()));
+    }
+    if (!uguali) {
+        DatiAllineati(false);
+    }
+}
+
+void frmParametriRamo::aggiorna() {
+    const Geometria g = geometriaMostrata();
+    for (std::size_t i = 0; i < misureIngresso.size(); ++i) {
+        lblNote[i].testo(notaConsigliato(misureIngresso[i], valoreMostrato(i)));
+    }
+    mostraValori(g);
+    geometriaMutata_.emit();
+}
+
+void frmParametriRamo::mostraValori(const Geometria& g) {
+    Revisione scarto;
+    Ramo prova(scarto, ramo().Key(), ramo().Descrizione());
+    try {
+        parametriCapacita(prova, g);
+    } catch (const Guasto&) {
+        // Measures that the relation cannot take have no figures; the calculation will say why.
+        for (Valore& valore : valori) {
+            valore.etichetta.testo(testi::senzaValore);
+        }
+        return;
+    }
+    const std::array<std::string, 9> figure{formatta(prova.K(), "0.0000"),
+                                            formatta(prova.Td(), "0.0000"),
+                                            formatta(prova.S(), "#0.000"),
+                                            formatta(prova.X2(), "#0.00"),
+                                            formatta(prova.F(), "#0"),
+                                            formatta(prova.Fc(), "0.0000"),
+                                            formatta(capacita(prova, 0.0), "#0"),
+                                            formatta(capacita(prova, 500.0), "#0"),
+                                            formatta(capacita(prova, 1000.0), "#0")};
+    for (std::size_t i = 0; i < figure.size(); ++i) {
+        valori[i].etichetta.testo(figure[i]);
+    }
+}
+
+void frmParametriRamo::fuocoSpostato() {
+    const auto uso = misuraInUso();
+    ctlPicture.risorsa(std::string{uso ? misura(*uso).figura : figuraVuota});
+    if (!uso) {
+        ctlHelp.pagina(std::string{paginaAiutoVuota});
+    }
+    geometriaMutata_.emit();
+}
+
+void frmParametriRamo::altroTasto(const std::string& chiave) {
+    if (chiave == "DM") {
+        apriDecreto();
+    }
+}
+
+void frmParametriRamo::apriDecreto() {
+    const std::string percorso = app().theAmbiente.PercorsoProgramma(std::string{percorsoDecreto});
+    if (!servizi_.documenti.apri("\"" + percorso + "\"")) {
+        cornice().avviso(fmt::format(testi::nonAperto, percorso));
+    }
+}
+
+void frmParametriRamo::Archivio() {
+    gestisci("frmParametroRamo:Archivo", [this] {
+        frmPreviewRami anteprima(contorno());
+        if (!servizi_.dialogo.apri(anteprima.richiesta(), anteprima)) {
+            return;
+        }
+        const auto caselle = campi();
+        for (std::size_t i = 0; i < caselle.size(); ++i) {
+            const float valore = anteprima.scelti()[i];
+            // Taken as it is even where the field shows the same two decimals.
+            caselle[i]->testo({});
+            caselle[i]->modifica(testoNumero(valore));
+        }
+        confronta();
+        aggiorna();
+    });
+}
+
+}  // namespace kelvo

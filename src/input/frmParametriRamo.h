@@ -1,0 +1,81 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "app/serviziSistema.h"
+#include "calc/Geometria.h"
+#include "input/misureIngresso.h"
+#include "shell/servizi/DialogoAnteprima.h"
+#include "shell/servizi/FinestraRamo.h"
+#include "shell/servizi/tBox.h"
+
+namespace kelvo {
+
+/// Geometry of one entry: its name, its six measures and its crossing, with what the capacity relation makes of them.
+class frmParametriRamo final : public FinestraRamo {
+public:
+    /// What the window asks of the system.
+    struct Servizi {
+        ApriDocumenti& documenti;
+        DialogoAnteprima& dialogo;
+    };
+    frmParametriRamo(const Contorno& contorno, const Servizi& servizi);
+
+    Etichetta lblDescrizioneRamo;  ///< "Ingresso A:"
+    tBox txtDescrizioneRamo{"txtDescrizioneRamo", tBox::textbox};
+    tBox txtLarghezzaIngresso;
+    tBox txtSemiLarghezza;
+    tBox txtLungSvasatura;
+    tBox txtAngoloConflitto;
+    tBox txtRaggioCurvatura;
+    tBox txtDiametroInscritto;
+    Casella chkAttraversamentoPedonale;
+    Bottone cmdDM;
+    Immagine ctlPicture;  ///< picture of the measure in use
+
+    /// Beside each measure: a word where it lies outside the recommended range.
+    std::array<Etichetta, 6> lblNote;
+    /// What the capacity relation makes of the measures shown: name and figure of each.
+    struct Valore {
+        std::string_view nome;
+        Etichetta etichetta;
+    };
+    std::array<Valore, 9> valori;
+
+    /// Reads the leg that the window is bound to.
+    void ReadData() override;
+    /// Writes name, measures and crossing where they were changed, and gives the nodes of the leg its name.
+    void SaveData() override;
+
+    /// The fields of the six measures, in their order.
+    std::array<tBox*, 6> campi();
+    std::array<const tBox*, 6> campi() const;
+    /// The measures that are shown: what was typed where it can be read, else what the project holds.
+    Geometria geometriaMostrata() const;
+    /// The measure whose field has the focus.
+    std::optional<MisuraGeometrica> misuraInUso() const;
+    /// The measures shown, or the one in use, are others.
+    sigc::signal<void()>& geometriaMutata() { return geometriaMutata_; }
+
+protected:
+    void legata() override;
+    void Archivio() override;
+    void altroTasto(const std::string& chiave) override;
+
+private:
+    EsitoUscita controllaCoppia(const tBox& campo) const;
+    bool valido(std::size_t misura) const;
+    float valoreMostrato(std::size_t misura) const;
+    void dopoUscita(std::size_t misura);
+    void confronta();
+    void aggiorna();
+    void mostraValori(const Geometria& g);
+    void fuocoSpostato();
+    void apriDecreto();
+
+    Servizi servizi_;
+    sigc::signal<void()> geometriaMutata_;
+};
+
+}  // namespace kelvo

@@ -1,0 +1,535 @@
+#include "input/frmParametriRamo.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "app/nuovoProgetto.h"
+#include "comune/fintiFinestre.h"
+#include "input/frmPreviewRami.h"
+
+namespace kelvo::prove {
+namespace {
+
+/// Plays the user of the file dialogue: selects the files, marks a row, confirms; then Cancel.
+class AnteprimaFinta final : public DialogoAnteprima {
+public:
+    bool apri(const RichiestaFile& richiesta, FinestraAnteprima& anteprima) override {
+        richieste.push_back(richiesta);
+        for (const std::string& file : selezioni) {
+            anteprima.selezionato(file);
+        }
+        auto& vista = dynamic_cast<frmPreviewRami&>(anteprima);
+        vista.lstRami.clicca(riga);
+        accettato = anteprima.conferma(selezioni.empty() ? std::string{} : selezioni.back());
+        return accettato;
+    }
+    std::vector<RichiestaFile> richieste;
+    std::vector<std::string> selezioni;
+    std::string riga;
+    bool accettato = false;
+};
+
+/// A project of three legs with the window at the first of them.
+struct ProveParametri : testing::Test, ScenaFinestre {
+    DocumentiFinti documenti;
+    AnteprimaFinta dialogo;
+    frmParametriRamo finestra{contorno(), {documenti, dialogo}};
+
+    ProveParametri() {
+        creaProgetto(app, 3);
+        apri("keyRamo1");
+    }
+    void apri(const std::string& chiave) {
+        navigazione.corrente = chiave;
+        ASSERT_TRUE(gestione.ShowForm(&finestra));
+    }
+    Ramo& ramo(std::int16_t i) { return app.theRotonda().Ramo(i); }
+    /// Types into a field as a person does; true if it could be left.
+    bool scrivi(tBox& campo, const std::string& testo) {
+        finestra.fuocoSu(campo);
+        campo.scrivi(testo);
+        const bool lasciato = finestra.lasciaFuoco();
+        finestra.scordaFuoco();
+        return lasciato;
+    }
+    std::string salva(const std::string& nome) {
+        const std::string percorso = cartella.percorso() + "/" + nome;
+        std::string messaggio;
+        bool esito = true;
+        app.theRotonda().Save(percorso, messaggio, esito);
+        EXPECT_TRUE(esito) << messaggio;
+        std::ifstream file(percorso, std::ios::binary);
+        std::ostringstream testo;
+        testo << file.rdbuf();
+        return testo.str();
+    }
+    std::string valore(std::string_view nome) {
+        for (const auto& v : finestra.valori) {
+            if (v.nome == nome) {
+                return v.etichetta.testo();
+            }
+        }
+        return "manca " + std::string{nome};
+    }
+};
+
+TEST_F(ProveParametri, FieldsShowTheDefaultsOfANewEntryWithTwoDecimals) {
+    EXPECT_EQ(finestra.didascalia(), "Geometria");
+    EXPECT_EQ(finestra.sottotitolo.testo(), "Ramo A");
+    EXPECT_EQ(finestra.lblDescrizioneRamo.testo(), "Ingresso A:");
+    EXPECT_EQ(finestra.txtDescrizioneRamo.testo(), "Ramo A");
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "5,00");
+    EXPECT_EQ(finestra.txtSemiLarghezza.testo(), "3,75");
+    EXPECT_EQ(finestra.txtLungSvasatura.testo(), "20,00");
+    EXPECT_EQ(finestra.txtAngoloConflitto.testo(), "5,00");
+    EXPECT_EQ(finestra.txtRaggioCurvatura.testo(), "25,00");
+    EXPECT_EQ(finestra.txtDiametroInscritto.testo(), "65,00");
+    EXPECT_FALSE(finestra.chkAttraversamentoPedonale.spuntata());
+    EXPECT_EQ(finestra.chkAttraversamentoPedonale.testo(), "Attraversamento pedonale");
+    EXPECT_EQ(finestra.cmdDM.testo(), "D.M. 19.04.06");
+    EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveParametri, TabOrderFollowsTheReadingOrder) {
+    std::vector<std::string> nomi;
+    for (const Controllo* c : finestra.ordine()) {
+        if (c->prendeFuoco()) {
+            nomi.push_back(c->nome());
+        }
+    }
+    EXPECT_EQ(nomi, (std::vector<std::string>{"txtDescrizioneRamo", "txtLarghezzaIngresso", "txtSemiLarghezza",
+                                              "txtLungSvasatura", "txtAngoloConflitto", "txtRaggioCurvatura",
+                                              "txtDiametroInscritto", "chkAttraversamentoPedonale", "cmdDM"}));
+}
+
+struct CasoLimite {
+    tBox frmParametriRamo::*campo;
+    const char* testo;
+    bool passa;
+    const char* rifiuto;
+};
+
+TEST_F(ProveParametri, EachFieldHoldsItsLimitsAndSaysThem) {
+    using F = frmParametriRamo;
+    const char* e = "Il valore deve essere compreso tra 3,60 e 16,30 m";
+    const char* v = "Il valore deve essere compreso tra 1,90 e 12,50 m";
+    const char* l = "Il valore deve essere almeno 1,00 m";
+    const char* phi = "Il valore deve essere compreso tra 0,00 e 77,00 gradi";
+    const char* r = "Il valore deve essere almeno 3,40 m";
+    const char* D = "Il valore deve essere compreso tra 13,50 e 176,00 m";
+    ramo(1).SemiLarghezza(2.0F);
+    finestra.ReadData();
+    const std::vector<CasoLimite> casi{
+        {&F::txtLarghezzaIngresso, "3,60", true, e},   {&F::txtLarghezzaIngresso, "3,59", false, e},
+        {&F::txtLarghezzaIngresso, "16,31", false, e}, {&F::txtLarghezzaIngresso, "", false, e},
+        {&F::txtLarghezzaIngresso, "16,30", true, e},  {&F::txtSemiLarghezza, "1,89", false, v},
+        {&F::txtSemiLarghezza, "1,90", true, v},       {&F::txtSemiLarghezza, "12,51", false, v},
+        {&F::txtSemiLarghezza, "12,50", true, v},      {&F::txtLungSvasatura, "0,99", false, l},
+        {&F::txtLungSvasatura, "1,00", true, l},       {&F::txtLungSvasatura, "99999999", true, l},
+        {&F::txtAngoloConflitto, "0", true, phi},      {&F::txtAngoloConflitto, "77", true, phi},
+        {&F::txtAngoloConflitto, "77,01", false, phi}, {&F::txtRaggioCurvatura, "3,39", false, r},
+        {&F::txtRaggioCurvatura, "3,40", true, r},     {&F::txtRaggioCurvatura, "99999999", true, r},
+        {&F::txtDiametroInscritto, "13,49", false, D}, {&F::txtDiametroInscritto, "13,50", true, D},
+        {&F::txtDiametroInscritto, "176", true, D},    {&F::txtDiametroInscritto, "176,01", false, D},
+    };
+    for (const CasoLimite& caso : casi) {
+        messaggi.mostrati.clear();
+        tBox& campo = finestra.*caso.campo;
+        EXPECT_EQ(scrivi(campo, caso.testo), caso.passa) << campo.nome() << " " << caso.testo;
+        EXPECT_EQ(campo.fallito(), !caso.passa) << campo.nome() << " " << caso.testo;
+        if (caso.passa) {
+            EXPECT_TRUE(messaggi.mostrati.empty()) << campo.nome() << " " << caso.testo;
+            continue;
+        }
+        ASSERT_EQ(messaggi.mostrati.size(), 1U) << campo.nome() << " " << caso.testo;
+        EXPECT_EQ(messaggi.mostrati[0].testo, caso.rifiuto);
+        EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
+        EXPECT_EQ(messaggi.mostrati[0].icona, Icona::esclamazione);
+        EXPECT_TRUE(stato.convalidaFallita);
+        EXPECT_NE(cornice.avvisato.find(caso.rifiuto), std::string::npos);
+    }
+    EXPECT_EQ(cornice.avvisato.substr(0, 18), "Diametro inscritto");
+}
+
+TEST_F(ProveParametri, ATypedPointBecomesTheComma) {
+    EXPECT_TRUE(scrivi(finestra.txtLarghezzaIngresso, "6.25"));
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "6,25");
+    EXPECT_TRUE(scrivi(finestra.txtLungSvasatura, "12a-3"));
+    EXPECT_EQ(finestra.txtLungSvasatura.testo(), "123");
+}
+
+TEST_F(ProveParametri, EqualWidthsAreRefusedFromBothFields) {
+    EXPECT_FALSE(scrivi(finestra.txtSemiLarghezza, "5,00"));
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo,
+              "Il valore del campo 'Semilarghezza accesso' deve essere sempre minore del campo 'Larghezza ingresso'");
+    EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
+    EXPECT_TRUE(stato.convalidaFallita);
+    finestra.ReadData();
+    EXPECT_FALSE(scrivi(finestra.txtLarghezzaIngresso, "3,75"));
+    ASSERT_EQ(messaggi.mostrati.size(), 2U);
+    EXPECT_EQ(messaggi.mostrati[1].testo,
+              "Il valore del campo 'Larghezza ingresso' deve essere sempre maggiore del campo 'Semilarghezza accesso'");
+    EXPECT_TRUE(scrivi(finestra.txtLarghezzaIngresso, "3,76"));
+}
+
+TEST_F(ProveParametri, AnEmptyMaskLeavesThePairCheckOut) {
+    // Empty counts as 0 for the limits: one message, and it is that of the limits.
+    for (const char* vuoto : {",", ""}) {
+        messaggi.mostrati.clear();
+        EXPECT_FALSE(scrivi(finestra.txtSemiLarghezza, vuoto));
+        ASSERT_EQ(messaggi.mostrati.size(), 1U);
+        EXPECT_EQ(messaggi.mostrati[0].testo, "Il valore deve essere compreso tra 1,90 e 12,50 m");
+    }
+}
+
+TEST_F(ProveParametri, AnEmptyAngleCountsAsZeroAndShowsIt) {
+    EXPECT_TRUE(scrivi(finestra.txtAngoloConflitto, ""));
+    EXPECT_EQ(finestra.txtAngoloConflitto.testo(), "0,00");
+    finestra.SaveData();
+    EXPECT_EQ(ramo(1).AngoloConflitto(), 0.0F);
+}
+
+TEST_F(ProveParametri, ADifferingFieldClearsTheMarkAndSavingSetsIt) {
+    scrivi(finestra.txtLarghezzaIngresso, "5");
+    EXPECT_TRUE(finestra.DatiAllineati()) << "the same number in other digits";
+    scrivi(finestra.txtLarghezzaIngresso, "6,5");
+    EXPECT_FALSE(finestra.DatiAllineati());
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_TRUE(finestra.DatiAllineati());
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 6.5F);
+    finestra.chkAttraversamentoPedonale.clicca();
+    EXPECT_FALSE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveParametri, AggiornaDatiWritesAllAndTheTreeShowsTheNewName) {
+    scrivi(finestra.txtDescrizioneRamo, "Via Roma");
+    scrivi(finestra.txtLarghezzaIngresso, "7");
+    scrivi(finestra.txtSemiLarghezza, "3,5");
+    scrivi(finestra.txtLungSvasatura, "25");
+    scrivi(finestra.txtAngoloConflitto, "30");
+    scrivi(finestra.txtRaggioCurvatura, "20");
+    scrivi(finestra.txtDiametroInscritto, "40,5");
+    finestra.chkAttraversamentoPedonale.clicca();
+    EXPECT_EQ(ramo(1).Descrizione(), "Ramo A") << "nothing before the key is pressed";
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_EQ(ramo(1).Descrizione(), "Via Roma");
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 7.0F);
+    EXPECT_EQ(ramo(1).SemiLarghezza(), 3.5F);
+    EXPECT_EQ(ramo(1).LunghezzaSvasatura(), 25.0F);
+    EXPECT_EQ(ramo(1).AngoloConflitto(), 30.0F);
+    EXPECT_EQ(ramo(1).RaggioIngresso(), 20.0F);
+    EXPECT_EQ(ramo(1).DiametroInscritto(), 40.5F);
+    EXPECT_TRUE(ramo(1).AttraversamentoPedonale());
+    EXPECT_EQ(cornice.nodi["1Ramo"], "Via Roma");
+    EXPECT_EQ(finestra.sottotitolo.testo(), "Via Roma");
+    EXPECT_EQ(ramo(2).LarghezzaIngresso(), 5.0F);
+}
+
+TEST_F(ProveParametri, AggiornaDatiReadsTheTreeLayoutFromTheConfiguration) {
+    app.theAmbiente.ScriviIni(app.theAmbiente.PercorsoIni(), "OPZ_EXPLORER", "Rami", "1");
+    app.configurazione.OpzExplorer = 0;
+    std::ofstream(app.theAmbiente.PercorsoIni()) << "[OPZ_EXPLORER]\nRami=1\n";
+    finestra.SaveData();
+    EXPECT_EQ(app.configurazione.OpzExplorer, 1);
+}
+
+TEST_F(ProveParametri, RefreshDiscardsWhatWasTyped) {
+    scrivi(finestra.txtLarghezzaIngresso, "9");
+    finestra.ctlToolbar.premi("Refresh");
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "5,00");
+    EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveParametri, AnEditOfOneLegStaysWithItWhenTheNextIsChosen) {
+    finestra.fuocoSu(finestra.txtLarghezzaIngresso);
+    finestra.txtLarghezzaIngresso.scrivi("8");
+    finestra.lasciaFuoco();
+    apri("keyRamo2");
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 8.0F);
+    EXPECT_EQ(ramo(2).LarghezzaIngresso(), 5.0F);
+    EXPECT_EQ(finestra.indiceRamo(), 2);
+    EXPECT_EQ(finestra.txtDescrizioneRamo.testo(), "Ramo B");
+    EXPECT_EQ(finestra.lblDescrizioneRamo.testo(), "Ingresso B:");
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "5,00");
+    EXPECT_EQ(app.theRamoCorrente, &ramo(2));
+}
+
+TEST_F(ProveParametri, ARefusedFieldKeepsTheWindowAtItsLeg) {
+    finestra.fuocoSu(finestra.txtLarghezzaIngresso);
+    finestra.txtLarghezzaIngresso.scrivi("2");
+    navigazione.corrente = "keyRamo2";
+    EXPECT_FALSE(gestione.ShowForm(&finestra));
+    EXPECT_EQ(finestra.indiceRamo(), 1);
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 5.0F);
+}
+
+TEST_F(ProveParametri, OddDecimalsAreNotTouchedByLooking) {
+    ramo(1).LarghezzaIngresso(5.1234567F);
+    ramo(1).SemiLarghezza(5.1234560F);  // equal to two decimals, yet smaller
+    ramo(1).LunghezzaSvasatura(20.005F);
+    ramo(1).AngoloConflitto(0.004F);
+    ramo(1).RaggioIngresso(33.333333F);
+    ramo(1).DiametroInscritto(41.999F);
+    const std::string prima = salva("prima.klv");
+    apri("keyRamo1");
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    for (tBox* campo : finestra.campi()) {
+        EXPECT_TRUE(finestra.fuocoSu(*campo)) << campo->nome();
+    }
+    EXPECT_TRUE(finestra.lasciaFuoco());
+    apri("keyRamo2");
+    EXPECT_EQ(salva("dopo.klv"), prima);
+}
+
+TEST_F(ProveParametri, TheFieldInUseShowsItsPictureAndPage) {
+    EXPECT_EQ(finestra.ctlPicture.risorsa(), "VUOTA");
+    const std::vector<std::pair<const char*, const char*>> attesi{
+        {"LARGHEZZA_INGRESSO", "Input1.htm"},  {"LARGHEZZA_APPROCCIO", "Input2.htm"},
+        {"LUNGHEZZA_SVASATURA", "Input3.htm"}, {"ANGOLO_CONFLITTO", "Input4.htm"},
+        {"RAGGIO_INGRESSO", "Input5.htm"},     {"DIAMETRO_INSCRITTO", "Input6.htm"}};
+    const auto campi = finestra.campi();
+    for (std::size_t i = 0; i < campi.size(); ++i) {
+        finestra.fuocoSu(*campi[i]);
+        EXPECT_EQ(finestra.ctlPicture.risorsa(), attesi[i].first);
+        EXPECT_EQ(finestra.ctlHelp.pagina(), attesi[i].second);
+        EXPECT_EQ(finestra.misuraInUso(), static_cast<MisuraGeometrica>(i));
+    }
+    finestra.fuocoSu(finestra.txtDescrizioneRamo);
+    EXPECT_EQ(finestra.ctlPicture.risorsa(), "VUOTA");
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "EmptyHelp.htm");
+    EXPECT_FALSE(finestra.misuraInUso().has_value());
+}
+
+TEST_F(ProveParametri, TheDecreeOpensFromKeyAndButton) {
+    finestra.ctlToolbar.premi("DM");
+    finestra.cmdDM.premi();
+    ASSERT_EQ(documenti.aperti.size(), 2U);
+    for (const std::string& percorso : documenti.aperti) {
+        EXPECT_EQ(percorso, "\"" + cartella.percorso() + "/UserGuide/DM19-04-06.pdf\"");
+    }
+    documenti.riesce = false;
+    finestra.cmdDM.premi();
+    EXPECT_NE(cornice.avvisato.find("Impossibile aprire"), std::string::npos);
+}
+
+TEST_F(ProveParametri, FiguresOfTheRelationFollowEachKey) {
+    // Worked line: e 7, v 3.5, l' 25, phi 25, r 30, D 40.
+    finestra.txtLarghezzaIngresso.scrivi("7");
+    finestra.txtSemiLarghezza.scrivi("3,5");
+    finestra.txtLungSvasatura.scrivi("25");
+    finestra.txtAngoloConflitto.scrivi("25");
+    finestra.txtRaggioCurvatura.scrivi("30");
+    finestra.txtDiametroInscritto.scrivi("40");
+    EXPECT_EQ(valore("k"), "1,0337");
+    EXPECT_EQ(valore("tD"), "1,4404");
+    EXPECT_EQ(valore("S"), "0,224");
+    EXPECT_EQ(valore("x2 [m]"), "5,92");
+    EXPECT_EQ(valore("Intercetta [veic/h]"), "1853");
+    EXPECT_EQ(valore("Pendenza"), "0,6827");
+    EXPECT_EQ(valore("Capacità con Qc = 0 [veic/h]"), "1853");
+    EXPECT_EQ(valore("Capacità con Qc = 500 [veic/h]"), "1512");
+    EXPECT_EQ(valore("Capacità con Qc = 1000 [veic/h]"), "1171");
+    EXPECT_EQ(ramo(1).F(), 0.0) << "the leg keeps the results of its last calculation";
+}
+
+TEST_F(ProveParametri, TheSmallestEntryStillHasCapacityAtAThousandVehicles) {
+    finestra.txtSemiLarghezza.scrivi("1,90");
+    finestra.txtLarghezzaIngresso.scrivi("3,60");
+    finestra.txtLungSvasatura.scrivi("1");
+    finestra.txtAngoloConflitto.scrivi("77");
+    finestra.txtRaggioCurvatura.scrivi("3,40");
+    finestra.txtDiametroInscritto.scrivi("13,50");
+    // k = 1 - 0.16309 - 0.238747 = 0.598163; S = 2.72; x2 = 1.9 + 1.7/6.44 = 2.163975; F = 392.2;
+    // tD = 1.495264; fc = 0.21 x 1.495264 x 1.432795 x k = 0.269117: at 1000 there are 123 left.
+    EXPECT_EQ(valore("Capacità con Qc = 0 [veic/h]"), "392");
+    EXPECT_EQ(valore("Capacità con Qc = 1000 [veic/h]"), "123");
+}
+
+TEST_F(ProveParametri, HalfTypedMeasuresKeepTheLastGoodPicture) {
+    finestra.txtLarghezzaIngresso.scrivi("1");
+    EXPECT_EQ(finestra.geometriaMostrata().e, 5.0F);
+    finestra.txtLarghezzaIngresso.scrivi("");
+    EXPECT_EQ(finestra.geometriaMostrata().e, 5.0F);
+    finestra.txtLarghezzaIngresso.scrivi("12");
+    EXPECT_EQ(finestra.geometriaMostrata().e, 12.0F);
+    finestra.txtSemiLarghezza.scrivi("12,2");
+    EXPECT_EQ(finestra.geometriaMostrata().e, 5.0F);
+    EXPECT_EQ(finestra.geometriaMostrata().v, 3.75F);
+}
+
+TEST_F(ProveParametri, AMeasureOutsideTheRecommendedRangeIsNoted) {
+    // The default angle of 5 degrees lies below the recommended 10.
+    EXPECT_EQ(finestra.lblNote[3].testo(), "fuori dal campo consigliato 10,00 ÷ 60,00");
+    for (const std::size_t i : {0U, 1U, 2U, 4U, 5U}) {
+        EXPECT_EQ(finestra.lblNote[i].testo(), "") << i;
+    }
+    finestra.txtLarghezzaIngresso.scrivi("15,01");
+    EXPECT_EQ(finestra.lblNote[0].testo(), "fuori dal campo consigliato 4,00 ÷ 15,00");
+    finestra.txtLarghezzaIngresso.scrivi("15");
+    EXPECT_EQ(finestra.lblNote[0].testo(), "");
+    finestra.txtSemiLarghezza.scrivi("7,31");
+    EXPECT_EQ(finestra.lblNote[1].testo(), "fuori dal campo consigliato 2,00 ÷ 7,30");
+    finestra.txtLungSvasatura.scrivi("100,5");
+    EXPECT_EQ(finestra.lblNote[2].testo(), "fuori dal campo consigliato 1,00 ÷ 100,00");
+    finestra.txtRaggioCurvatura.scrivi("5,9");
+    EXPECT_EQ(finestra.lblNote[4].testo(), "fuori dal campo consigliato 6,00 ÷ 100,00");
+    finestra.txtDiametroInscritto.scrivi("14,9");
+    EXPECT_EQ(finestra.lblNote[5].testo(), "fuori dal campo consigliato 15,00 ÷ 100,00");
+}
+
+TEST_F(ProveParametri, AnEmptyOrForbiddenNameIsRefused) {
+    EXPECT_FALSE(scrivi(finestra.txtDescrizioneRamo, ""));
+    EXPECT_EQ(messaggi.mostrati.back().testo, "Attenzione, indicare un nome per il ramo");
+    EXPECT_FALSE(scrivi(finestra.txtDescrizioneRamo, "A/B"));
+    EXPECT_EQ(messaggi.mostrati.back().testo, "Attenzione, non sono permessi i caratteri: \\/:*?\"<>|");
+}
+
+TEST_F(ProveParametri, AWindowWithoutALegIsAFault) {
+    for (const char* chiave : {"keyRamo4", "keyRamo", "", "keyRamo0"}) {
+        navigazione.corrente = chiave;
+        EXPECT_THROW(finestra.attivata(), Guasto) << chiave;
+    }
+}
+
+/// A file beside the project, of five legs with measures of its own.
+struct ProveImporta : ProveParametri {
+    std::string altro = cartella.percorso() + "/Altro.KLV";
+    ProveImporta() {
+        Rotonda sorgente;
+        CartellaTemporanea altraCartella;
+        AppFinta altraApp;
+        creaProgetto(altraApp.app, 5);
+        Ramo& quinto = altraApp.app.theRotonda().Ramo(5);
+        quinto.Descrizione("Viale Est");
+        quinto.LarghezzaIngresso(7.125F);
+        quinto.SemiLarghezza(3.5F);
+        quinto.LunghezzaSvasatura(12.5F);
+        quinto.AngoloConflitto(33.0F);
+        quinto.RaggioIngresso(18.0F);
+        quinto.DiametroInscritto(44.0F);
+        quinto.AttraversamentoPedonale(true);
+        altraApp.app.theRotonda().Titolo("Nodo est");
+        altraApp.app.theRotonda().Note("rilievo 2026");
+        std::string messaggio;
+        bool esito = true;
+        altraApp.app.theRotonda().Save(altro, messaggio, esito);
+        EXPECT_TRUE(esito) << messaggio;
+    }
+};
+
+TEST_F(ProveImporta, ASelectedFileIsShownBeforeAnyConfirmation) {
+    frmPreviewRami vista(contorno());
+    EXPECT_EQ(
+        vista.lstRami.intestazioni(),
+        (std::vector<std::string>{"Toponomastica", "Larghezza ingresso", "Semilarghezza accesso", "Lunghezza svasatura",
+                                  "Angolo conflitto", "Raggio curvatura ingresso", "Diametro inscritto"}));
+    EXPECT_EQ(vista.frDatiProgetto.titolo(), "Dati progetto");
+    EXPECT_EQ(vista.frGeometria.titolo(), "Geometria rami");
+    EXPECT_EQ(vista.lblNumeroRami.testo(), "Numero rami:");
+    EXPECT_EQ(vista.lblNomeProgetto.testo(), "Nome progetto:");
+    EXPECT_EQ(vista.lblTitolo.testo(), "Titolo:");
+    EXPECT_EQ(vista.lblNote.testo(), "Note:");
+    vista.selezionato(altro);
+    EXPECT_EQ(vista.txtNumeroRami.testo(), "5");
+    EXPECT_EQ(vista.txtNomeProgetto.testo(), "Altro");
+    EXPECT_EQ(vista.txtTitolo.testo(), "Nodo est");
+    EXPECT_EQ(vista.txtNote.testo(), "rilievo 2026");
+    ASSERT_EQ(vista.lstRami.righe().size(), 5U);
+    EXPECT_EQ(vista.lstRami.righe()[4].celle,
+              (std::vector<std::string>{"Viale Est", "7,13", "3,50", "12,50", "33,00", "18,00", "44,00"}));
+    EXPECT_EQ(app.theRotonda().NumeroRami(), 3) << "the project in use is not touched";
+}
+
+TEST_F(ProveImporta, FilesOfAnotherKindAndBrokenOnesEmptyTheView) {
+    frmPreviewRami vista(contorno());
+    vista.selezionato(altro);
+    std::ofstream(cartella.percorso() + "/nota.txt") << "x";
+    vista.selezionato(cartella.percorso() + "/nota.txt");
+    EXPECT_TRUE(vista.lstRami.righe().empty());
+    EXPECT_EQ(vista.txtTitolo.testo(), "");
+    std::ofstream(cartella.percorso() + "/rotto.klv") << "{";
+    vista.selezionato(cartella.percorso() + "/rotto.klv");
+    EXPECT_TRUE(vista.lstRami.righe().empty());
+    EXPECT_FALSE(vista.lblAvviso.testo().empty());
+    EXPECT_FALSE(vista.conferma(cartella.percorso() + "/rotto.klv"));
+    EXPECT_TRUE(messaggi.mostrati.empty());
+}
+
+TEST_F(ProveImporta, AConfirmedRowGoesIntoTheFieldsAndNoFurther) {
+    dialogo.selezioni = {altro};
+    dialogo.riga = "5";
+    messaggi.risposta = Risposta::si;
+    finestra.ctlToolbar.premi("Archivio");
+    ASSERT_EQ(dialogo.richieste.size(), 1U);
+    EXPECT_EQ(dialogo.richieste[0].filtro, "File di definizione Kelvo (*.KLV)|*.KLV|All Files (*.*)|*.*");
+    EXPECT_EQ(dialogo.richieste[0].estensione, "KLV");
+    EXPECT_EQ(dialogo.richieste[0].cartella, cartella.percorso());
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo, "Importo i dati del ramo Viale Est?");
+    EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
+    EXPECT_EQ(messaggi.mostrati[0].pulsanti, Pulsanti::siNo);
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "7,125");
+    EXPECT_EQ(finestra.txtDiametroInscritto.testo(), "44");
+    EXPECT_EQ(finestra.txtDescrizioneRamo.testo(), "Ramo A");
+    EXPECT_FALSE(finestra.chkAttraversamentoPedonale.spuntata());
+    EXPECT_FALSE(finestra.DatiAllineati());
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 5.0F);
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 7.125F);
+    EXPECT_EQ(ramo(1).SemiLarghezza(), 3.5F);
+    EXPECT_EQ(ramo(1).LunghezzaSvasatura(), 12.5F);
+    EXPECT_EQ(ramo(1).AngoloConflitto(), 33.0F);
+    EXPECT_EQ(ramo(1).RaggioIngresso(), 18.0F);
+    EXPECT_EQ(ramo(1).DiametroInscritto(), 44.0F);
+}
+
+TEST_F(ProveImporta, AnImportedNumberCountsEvenWhereTheFieldShowedTheSameText) {
+    ramo(1).DiametroInscritto(44.004F);
+    ramo(1).RaggioIngresso(18.0F);
+    finestra.ReadData();
+    EXPECT_EQ(finestra.txtDiametroInscritto.testo(), "44,00");
+    dialogo.selezioni = {altro};
+    dialogo.riga = "5";
+    messaggi.risposta = Risposta::si;
+    finestra.ctlToolbar.premi("Archivio");
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_EQ(ramo(1).DiametroInscritto(), 44.0F);
+}
+
+TEST_F(ProveImporta, NoRowOrNoAnswerLeavesTheFieldsAlone) {
+    dialogo.selezioni = {altro};
+    finestra.ctlToolbar.premi("Archivio");
+    EXPECT_FALSE(dialogo.accettato);
+    EXPECT_TRUE(messaggi.mostrati.empty()) << "nothing is asked without a row";
+    dialogo.riga = "2";
+    messaggi.risposta = Risposta::no;
+    finestra.ctlToolbar.premi("Archivio");
+    EXPECT_FALSE(dialogo.accettato);
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "5,00");
+    EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveImporta, MeasuresOutsideTheLimitsAreNotWritten) {
+    {
+        AppFinta altraApp;
+        creaProgetto(altraApp.app, 3);
+        altraApp.app.theRotonda().Ramo(1).LarghezzaIngresso(20.0F);
+        std::string messaggio;
+        bool esito = true;
+        altraApp.app.theRotonda().Save(altro, messaggio, esito);
+    }
+    dialogo.selezioni = {altro};
+    dialogo.riga = "1";
+    messaggi.risposta = Risposta::si;
+    finestra.ctlToolbar.premi("Archivio");
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 5.0F);
+    EXPECT_EQ(messaggi.mostrati.back().testo, "Il valore deve essere compreso tra 3,60 e 16,30 m");
+}
+
+}  // namespace
+}  // namespace kelvo::prove
