@@ -47,6 +47,23 @@ TEST_P(Costruzioni, ARebuildLeavesEachMenuWithItsRowsOnce) {
     EXPECT_EQ(f.cornice.ctlMenu.voci().size(), voci);
 }
 
+TEST_P(Costruzioni, HiddenMenusStayHiddenThroughEveryBuildOfTheRun) {
+    const std::vector<std::string> menu{"mnuFile",      "mnuDati", "mnuOpzioni", "mnuRisultati",
+                                        "mnuStrumenti", "mnuHelp", "mnuKelvoCAD"};
+    f.nuovo(3);
+    f.cornice.mostraMenu(false);
+    f.cornice.Handle_Menu();
+    f.cornice.LoadTreeView();
+    for (const std::string& chiave : menu) {
+        EXPECT_FALSE(f.cornice.ctlMenu.voce(chiave).visibile) << chiave;
+    }
+    EXPECT_TRUE(f.cornice.ctlToolbar.abilitato("Salva")) << "tool bar and shortcuts stay";
+    f.cornice.mostraMenu(true);
+    for (const std::string& chiave : menu) {
+        EXPECT_TRUE(f.cornice.ctlMenu.voce(chiave).visibile) << chiave;
+    }
+}
+
 TEST_P(Costruzioni, AGreyNodeClosesItsEntryAfterARebuildOfTheMenu) {
     f.nuovo(3);
     f.cornice.albero.DisableNode(f.cornice.albero.ctlTree, "keyMatriceSvolte");
