@@ -11,14 +11,16 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTimeEdit>
 
-#include "legami/banco.h"
 #include "ui/SegnoErrore.h"
+#include "ui/scenaVista.h"
 #include "ui/stile.h"
 
 namespace kelvo::prove {
 namespace {
 
-struct ProveLegame : testing::Test, BancoVista {
+using gesti::smaltisci;
+
+struct ProveLegame : testing::Test, ScenaVista {
     QLineEdit& uno = oggetto<QLineEdit>(finestra.txtUno);
     QLineEdit& due = oggetto<QLineEdit>(finestra.txtDue);
     QAbstractButton& fine = oggetto<QAbstractButton>(finestra.cmdFine);

@@ -7,19 +7,16 @@
 #include <vector>
 
 #include "app/nuovoProgetto.h"
-#include "legami/banco.h"
 #include "shell/registroFinestre.h"
+#include "ui/scenaVista.h"
 
 namespace kelvo::prove {
 namespace {
 
+using gesti::smaltisci;
 using ui::DisposizioneProporzionale;
 
-struct ProveDisposizione : testing::Test {
-    ProveDisposizione() { avviaQt(); }
-};
-
-TEST_F(ProveDisposizione, PanelsFollowTheRatioOfTheRoomToTheDesign) {
+TEST(ProveDisposizione, PanelsFollowTheRatioOfTheRoomToTheDesign) {
     QWidget finestra;
     auto* piano = new DisposizioneProporzionale({200, 100}, &finestra);
     auto* sinistra = new QWidget(&finestra);
@@ -38,7 +35,7 @@ TEST_F(ProveDisposizione, PanelsFollowTheRatioOfTheRoomToTheDesign) {
     EXPECT_EQ(sinistra->geometry(), QRect(26, 28, 80, 40));
 }
 
-TEST_F(ProveDisposizione, NeighboursMeetAtEverySizeAndNeverOverlap) {
+TEST(ProveDisposizione, NeighboursMeetAtEverySizeAndNeverOverlap) {
     QWidget finestra;
     auto* piano = new DisposizioneProporzionale({3, 1}, &finestra);
     piano->setContentsMargins(0, 0, 0, 0);
@@ -56,7 +53,7 @@ TEST_F(ProveDisposizione, NeighboursMeetAtEverySizeAndNeverOverlap) {
     }
 }
 
-TEST_F(ProveDisposizione, TheRoomIsNeverTooSmallForAPanel) {
+TEST(ProveDisposizione, TheRoomIsNeverTooSmallForAPanel) {
     QWidget finestra;
     auto* piano = new DisposizioneProporzionale({200, 100}, &finestra);
     piano->setContentsMargins(5, 5, 5, 5);
@@ -69,7 +66,7 @@ TEST_F(ProveDisposizione, TheRoomIsNeverTooSmallForAPanel) {
     EXPECT_EQ(pannello->size(), QSize(120, 30));
 }
 
-TEST_F(ProveDisposizione, WrappedTextAsksForItsHeight) {
+TEST(ProveDisposizione, WrappedTextAsksForItsHeight) {
     QWidget finestra;
     auto* piano = new DisposizioneProporzionale({200, 100}, &finestra);
     piano->setContentsMargins(0, 0, 0, 0);
@@ -81,7 +78,7 @@ TEST_F(ProveDisposizione, WrappedTextAsksForItsHeight) {
     EXPECT_GT(piano->heightForWidth(200), piano->heightForWidth(400));
 }
 
-TEST_F(ProveDisposizione, WhatIsTakenOutIsPlacedNoMore) {
+TEST(ProveDisposizione, WhatIsTakenOutIsPlacedNoMore) {
     QWidget finestra;
     auto* piano = new DisposizioneProporzionale({200, 100}, &finestra);
     piano->aggiungi(new QWidget(&finestra), {0, 0, 100, 50});
@@ -94,8 +91,6 @@ TEST_F(ProveDisposizione, WhatIsTakenOutIsPlacedNoMore) {
 
 /// All windows that stand in the work area, each with its view.
 struct ProveViste : testing::Test, ScenaFinestre {
-    ProveViste() { avviaQt(); }
-
     /// The boxes that the proportional layout placed.
     static std::vector<QRect> pannelli(const QWidget& vista) {
         std::vector<QRect> posti;

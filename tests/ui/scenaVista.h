@@ -6,14 +6,10 @@
 
 #include "servizi/finestraProva.h"
 #include "ui/VistaFinestra.h"
+#include "ui/gesti.h"
 #include "ui/legami.h"
 
 namespace kelvo::prove {
-
-/// Makes the toolkit's application once, in the program's look and without a display.
-void avviaQt();
-/// Runs what waits in the event loop.
-void smaltisci();
 
 /// View of a window of three fields and a button, one below the other.
 class VistaProva final : public ui::VistaFinestra {
@@ -22,11 +18,11 @@ public:
 };
 
 /// A window on a display that is not there, in front and with the keyboard.
-struct BancoVista : ScenaFinestre {
+struct ScenaVista : ScenaFinestre {
     FinestraProva finestra{contorno()};
     VistaProva vista{finestra};
 
-    BancoVista();
+    ScenaVista();
     template <class W>
     W& oggetto(const Controllo& controllo) {
         auto* trovato = vista.findChild<W*>(ui::q(controllo.nome()));

@@ -1,42 +1,14 @@
-#include "legami/banco.h"
+#include "ui/scenaVista.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
-#include <array>
-#include <clocale>
 #include <stdexcept>
-
-#include "ui/icone.h"
-#include "ui/stile.h"
 
 namespace kelvo::prove {
 
-void avviaQt() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    static int parole = 1;
-    static std::string nome = "prove_legami";
-    static std::array<char*, 2> argomenti{nome.data(), nullptr};
-    static const QApplication qt(parole, argomenti.data());
-    static bool vestita = false;
-    if (!vestita) {
-        vestita = true;
-        std::setlocale(LC_NUMERIC, "C");
-        ui::cartellaImmagini(KELVO_CARTELLA "/Immagini");
-        ui::applicaStile(*qApp, QStringLiteral(KELVO_CARTELLA "/Caratteri"));
-    }
-}
-
-void smaltisci() {
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::processEvents();
-    }
-}
-
-VistaProva::VistaProva(FinestraProva& f) : VistaFinestra((avviaQt(), f), nullptr) {
+VistaProva::VistaProva(FinestraProva& f) : VistaFinestra(f, nullptr) {
     auto* tutto = colonna();
     larghezzaColonna(static_cast<int>(disegnoFinestra.W));
     for (Controllo* c : f.ordine()) {
@@ -49,7 +21,7 @@ VistaProva::VistaProva(FinestraProva& f) : VistaFinestra((avviaQt(), f), nullptr
     chiudiDisposizione();
 }
 
-BancoVista::BancoVista() {
+ScenaVista::ScenaVista() {
     finestra.txtUno.testo("5");
     vista.resize(900, 600);
     vista.show();
@@ -58,10 +30,10 @@ BancoVista::BancoVista() {
         throw std::runtime_error("the window does not come to the front");
     }
     vista.fuocoIniziale();
-    smaltisci();
+    gesti::smaltisci();
 }
 
-std::string BancoVista::tastiera() const {
+std::string ScenaVista::tastiera() const {
     const QWidget* widget = QApplication::focusWidget();
     return widget == nullptr ? std::string{} : ui::s(widget->objectName());
 }
