@@ -39,6 +39,7 @@ void preparaApplicazione(const std::string& cartellaProgramma) {
     }
     cartellaImmagini(cartellaProgramma + "/Immagini");
     cartellaAiuto(cartellaProgramma + "/Support");
+    QApplication::setWindowIcon(segno("Kelvo"));
     applicaStile(*qApp, q(cartellaProgramma + "/Caratteri"));
 }
 

@@ -7,6 +7,7 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
@@ -347,8 +348,12 @@ void VistaFinestra::assegnaMnemonici() {
 
 void VistaFinestra::porta(const Controllo& controllo) {
     QWidget* widget = widgetDi(controllo);
-    if (widget != nullptr && !widget->hasFocus()) {
-        widget->setFocus(Qt::TabFocusReason);
+    if (widget == nullptr || widget->hasFocus()) {
+        return;
+    }
+    widget->setFocus(Qt::TabFocusReason);
+    if (auto* numero = qobject_cast<QSpinBox*>(widget)) {
+        numero->selectAll();
     }
 }
 

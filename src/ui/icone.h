@@ -16,7 +16,8 @@ QString cartellaSegni();
 /// Icon of a key, with its disabled drawing; `suBlu` for bars in the main colour. Empty for a key without drawing.
 QIcon icona(const std::string& chiave, bool suBlu);
 
-/// A sign of the levels ("Red", "Yellow", "Green"), or a small sign ("errore"). Empty for a name without drawing.
+/// A sign of the levels ("Red", "Yellow", "Green"), a small sign ("errore"), or the sign of the program ("Kelvo").
+/// Empty for a name without drawing.
 QIcon segno(const std::string& nome);
 
 /// True if there is a picture of this resource name.

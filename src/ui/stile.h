@@ -12,6 +12,8 @@ namespace kelvo::ui {
 
 /// Logical pixels at 100 %.
 namespace misura {
+inline constexpr int larghezzaMinima = 960;  ///< of the main window
+inline constexpr int altezzaMinima = 600;
 inline constexpr int margine = 16;
 inline constexpr int margineVerticale = 14;
 inline constexpr int rigaCampo = 32;

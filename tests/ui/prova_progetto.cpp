@@ -108,6 +108,20 @@ TEST_F(Progetto, CancellingTheNumberOfLegsMakesNothing) {
     EXPECT_EQ(banco.vista.windowTitle(), QStringLiteral("KELVO 2014"));
 }
 
+TEST_F(Progetto, TheNumberOfLegsIsSelectedToBeTypedOver) {
+    banco.chiudi();
+    gesti::AlModale finestra("frmInputNumeroRami", [](QWidget& dialogo) {
+        auto* numero = dialogo.findChild<QLineEdit*>();
+        ASSERT_TRUE(attendi([&] { return numero->hasFocus() || numero->parentWidget()->hasFocus(); }));
+        EXPECT_EQ(numero->selectedText(), numero->text());
+        gesti::digita("6");
+        tasto(Qt::Key_Return);
+    });
+    tasto(Qt::Key_N, Qt::ControlModifier);
+    ASSERT_TRUE(attendi([&] { return finestra.avvenuto() && banco.stato.ProgettoAperto; }));
+    EXPECT_EQ(rotonda().NumeroRami(), 6);
+}
+
 TEST_F(Progetto, TheProjectsRegistryTakesWhatIsTyped) {
     scriviAnagrafica();
     EXPECT_EQ(banco.vista.windowTitle(), QStringLiteral("KELVO 2014 - [Porta Nuova.klv]"));
