@@ -17,7 +17,6 @@ namespace {
 using Segno = OrnamentoCella::Segno;
 
 constexpr double puntiCella = 10.0;
-constexpr double puntiTestata = 9.5;
 constexpr int altezzaMinima = 20;
 constexpr int aria = 6;  ///< above and below the text together
 constexpr int margine = 12;
@@ -63,7 +62,11 @@ void frecceAngolo(QPainter& pittore, const QRectF& posto) {
 }  // namespace
 
 PittoreCelle::PittoreCelle(const Griglia& griglia)
-    : griglia_(griglia), normale_(dati(puntiCella)), forte_(forte(puntiCella)), testata_(forte(puntiTestata)) {}
+    : griglia_(griglia), normale_(dati(puntiCella)), forte_(forte(puntiCella)), testata_(forte(punti::barra)) {}
+
+void PittoreCelle::testate(bool strette) {
+    testata_ = Faccia(forte(strette ? punti::nota : punti::barra));
+}
 
 OrnamentoCella PittoreCelle::ornamento(Posto cella) const {
     return griglia_.ornamento ? griglia_.ornamento(cella) : OrnamentoCella{};

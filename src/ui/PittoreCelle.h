@@ -17,6 +17,8 @@ class PittoreCelle {
 public:
     explicit PittoreCelle(const Griglia& griglia);
 
+    /// Face of the headings: they are smaller in a narrow window.
+    void testate(bool strette);
     /// Paints a cell in its place, in logical pixels. The cell of the cursor is marked while the grid has the focus.
     void dipingi(QPainter& pittore, const QRect& posto, Posto cella, bool conFuoco = false) const;
     /// Face of a cell's text.

@@ -17,6 +17,8 @@ public:
     void spessori(const std::vector<int>& valori);
     const std::vector<int>& spessori() const { return spessori_; }
     int spessore() const;
+    /// Smaller type, for a narrow window.
+    void stretta(bool si) { pittore_.testate(si); }
     QSize sizeHint() const override;
 
 protected:

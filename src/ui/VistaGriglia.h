@@ -45,6 +45,7 @@ private:
     void collegaGesti();
     int spazio() const;
     void disponi();
+    void stringi(bool stretta);
     void disponiLarghezze();
     void disponiAltezze();
     void disponiTestate();
@@ -76,6 +77,7 @@ private:
     unsigned versione_ = 0;
     bool letta_ = false;
     bool inDisposizione_ = false;
+    bool stretta_ = false;
     Posto corrente_;
     Posto estremo_;
     int rigaAlta_ = -1;

@@ -7,6 +7,7 @@
 #include "ui/ModelloGriglia.h"
 #include "ui/TestataGriglia.h"
 #include "ui/VistaGriglia.h"
+#include "ui/stile.h"
 
 namespace kelvo::ui {
 
@@ -164,8 +165,21 @@ int VistaGriglia::altezzaIntera() const {
     return static_cast<TestataGriglia*>(horizontalHeader())->spessore() + verticalHeader()->length() + 2 * frameWidth();
 }
 
+void VistaGriglia::stringi(bool stretta) {
+    if (stretta_ == stretta) {
+        return;
+    }
+    stretta_ = stretta;
+    pittore_.testate(stretta);
+    static_cast<TestataGriglia*>(horizontalHeader())->stretta(stretta);
+    static_cast<TestataGriglia*>(verticalHeader())->stretta(stretta);
+    misurate_.clear();
+    minime_.clear();
+}
+
 void VistaGriglia::resizeEvent(QResizeEvent* evento) {
     QTableView::resizeEvent(evento);
+    stringi(window()->width() < misura::finestraStretta);
     disponi();
     mostraRigaAlta();
     scrollContentsBy(0, 0);

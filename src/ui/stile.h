@@ -14,6 +14,7 @@ namespace kelvo::ui {
 namespace misura {
 inline constexpr int larghezzaMinima = 960;  ///< of the main window
 inline constexpr int altezzaMinima = 600;
+inline constexpr int finestraStretta = 1400;  ///< a window below this has headings in smaller type
 inline constexpr int margine = 16;
 inline constexpr int margineVerticale = 14;
 inline constexpr int rigaCampo = 32;

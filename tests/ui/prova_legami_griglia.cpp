@@ -310,6 +310,22 @@ TEST_F(ProveVistaGriglia, HeadingsAreBrokenBetweenWordsAndNotInAUnit) {
     EXPECT_GT(vista->horizontalHeader()->height(), una);
 }
 
+TEST_F(ProveVistaGriglia, HeadingsOfANarrowWindowAreSmaller) {
+    Tabella lunga = numeri(4);
+    lunga.larghezze = {1000, 1, 1000, 1000};
+    lunga.cella(0, 1).testo = "parola parola parola parola parola parola parola parola parola parola";
+    griglia.tabella(lunga);
+    finestra.resize(1400, 480);
+    QApplication::processEvents();
+    const int larga = vista->horizontalHeader()->height();
+    finestra.resize(1399, 480);
+    QApplication::processEvents();
+    EXPECT_LE(vista->horizontalHeader()->height(), larga - 10);
+    finestra.resize(1400, 480);
+    QApplication::processEvents();
+    EXPECT_EQ(vista->horizontalHeader()->height(), larga);
+}
+
 TEST_F(ProveVistaGriglia, LongTextsGoOnInLinesBelow) {
     const int bassa = vista->rowHeight(0);
     ColonnaGriglia colonna;
