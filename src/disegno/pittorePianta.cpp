@@ -27,9 +27,9 @@ using pianta::Tracciato;
 
 /// How an area is filled and bordered.
 struct Vernice {
-    Ruolo ruolo;
-    Colore fondo;
-    double bordo;  ///< width of its border in graphite; 0: none
+    Ruolo ruolo = Ruolo::carreggiata;
+    Colore fondo{};
+    double bordo = 0.0;  ///< width of its border in graphite; 0: none
 };
 
 /// In the order of painting, from the ground up.

@@ -275,7 +275,7 @@ void frmParametriRamo::apriDecreto() {
 void frmParametriRamo::Archivio() {
     gestisci("frmParametroRamo:Archivo", [this] {
         frmPreviewRami anteprima(contorno());
-        if (!servizi_.dialogo.apri(anteprima.richiesta(), anteprima)) {
+        if (!servizi_.dialogo.apri(AnteprimaProgetto::richiesta(app().theAmbiente.CartellaProgramma()), anteprima)) {
             return;
         }
         const auto caselle = campi();

@@ -1,8 +1,5 @@
 #include "input/frmPreviewRami.h"
 
-#include "app/percorsi.h"
-#include "base/guasto.h"
-#include "base/testo.h"
 #include "input/misureIngresso.h"
 
 namespace kelvo {
@@ -11,13 +8,10 @@ namespace {
 
 namespace testi {
 constexpr const char* didascalia = "Importa la geometria di un ramo";
-constexpr const char* datiProgetto = "Dati progetto";
 constexpr const char* geometria = "Geometria rami";
 constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* scegli = "Selezionare un progetto per vederne i rami.";
 }  // namespace testi
-
-constexpr std::size_t lettereEstensione = 3;
 
 std::vector<std::string> intestazioni() {
     std::vector<std::string> trovate{"Toponomastica"};
@@ -27,72 +21,29 @@ std::vector<std::string> intestazioni() {
     return trovate;
 }
 
-bool nomeDiProgetto(const std::string& percorso) {
-    return maiuscoleAscii(ultimiCaratteri(percorso, lettereEstensione)) == "KLV";
-}
-
 }  // namespace
 
 frmPreviewRami::frmPreviewRami(const Contorno& contorno)
-    : FinestraAnteprima(contorno, "frmPreviewRami", testi::didascalia),
-      frDatiProgetto("frDatiProgetto", testi::datiProgetto, {}),
-      lblNumeroRami("lblNumeroRami", "Numero rami:"),
-      lblNomeProgetto("lblNomeProgetto", "Nome progetto:"),
-      lblTitolo("lblTitolo", "Titolo:"),
-      lblNote("lblNote", "Note:"),
+    : AnteprimaProgetto(contorno, "frmPreviewRami", testi::didascalia, testi::scegli),
       frGeometria("frGeometria", testi::geometria, {}),
       lstRami("lstRami", intestazioni()) {
-    ordina({&frDatiProgetto, &lblNumeroRami, &txtNumeroRami, &lblNomeProgetto, &txtNomeProgetto, &lblTitolo, &txtTitolo,
-            &lblNote, &txtNote, &frGeometria, &lstRami, &lblAvviso});
-    vuota(testi::scegli);
-}
-
-RichiestaFile frmPreviewRami::richiesta() const {
-    return {.estensione = "KLV",
-            .filtro = "File di definizione Kelvo (*.KLV)|*.KLV|All Files (*.*)|*.*",
-            .cartella = app().theAmbiente.CartellaProgramma(),
-            .nome = {}};
-}
-
-void frmPreviewRami::vuota(const std::string& motivo) {
-    altra_.reset();
-    for (Etichetta* e : {&txtNumeroRami, &txtNomeProgetto, &txtTitolo, &txtNote}) {
-        e->testo({});
+    std::vector<Controllo*> controlli = datiProgetto();
+    for (Controllo* c : std::initializer_list<Controllo*>{&frGeometria, &lstRami, &lblAvviso}) {
+        controlli.push_back(c);
     }
+    ordina(controlli);
+    vuota(invito());
+}
+
+void frmPreviewRami::svuota() {
     lstRami.righe({});
     lstRami.seleziona({});
-    lblAvviso.testo(motivo);
 }
 
-void frmPreviewRami::selezionato(const std::string& percorso) {
-    percorso_ = percorso;
-    vuota(testi::scegli);
-    if (!nomeDiProgetto(percorso)) {
-        return;
-    }
-    gestisci("frmPreviewRami:FillTxt", [&] {
-        auto altra = std::make_unique<Rotonda>(app().file);
-        std::string messaggio;
-        bool esito = false;
-        altra->Load(percorso, messaggio, esito);
-        if (esito) {
-            altra_ = std::move(altra);
-            FillTxt();
-        } else {
-            vuota(messaggio);
-        }
-    });
-}
-
-void frmPreviewRami::FillTxt() {
-    txtNumeroRami.testo(testoNumero(altra_->NumeroRami()));
-    txtNomeProgetto.testo(nomeProgetto(percorso_));
-    txtTitolo.testo(altra_->Titolo());
-    txtNote.testo(altra_->Note());
-    lblAvviso.testo({});
+void frmPreviewRami::mostra(const Rotonda& altra) {
     std::vector<ElencoColonne::Riga> righe;
-    for (std::int16_t i = 1; i <= altra_->NumeroRami(); ++i) {
-        const Ramo& ramo = altra_->Ramo(i);
+    for (std::int16_t i = 1; i <= altra.NumeroRami(); ++i) {
+        const Ramo& ramo = altra.Ramo(i);
         ElencoColonne::Riga riga{.chiave = testoNumero(static_cast<int>(i)), .celle = {ramo.Descrizione()}};
         for (const MisuraIngresso& m : misureIngresso) {
             riga.celle.push_back(formatta((ramo.*m.leggi)(), m.campo.formato));
@@ -103,11 +54,9 @@ void frmPreviewRami::FillTxt() {
 }
 
 bool frmPreviewRami::conferma(const std::string& percorso) {
-    if (percorso != percorso_) {
-        selezionato(percorso);  // the name was typed, not clicked
-    }
+    const Rotonda* altra = this->altra(percorso);
     const ElencoColonne::Riga* riga = lstRami.riga(lstRami.selezionata());
-    if (!altra_ || riga == nullptr) {
+    if (altra == nullptr || riga == nullptr) {
         return false;
     }
     const Risposta risposta = app().messaggi.mostra("Importo i dati del ramo " + riga->celle[0] + "?",
@@ -117,7 +66,7 @@ bool frmPreviewRami::conferma(const std::string& percorso) {
     }
     const auto indice = static_cast<std::int16_t>(riga->chiave[0] - '0');
     for (std::size_t i = 0; i < scelti_.size(); ++i) {
-        scelti_[i] = (altra_->Ramo(indice).*misureIngresso[i].leggi)();
+        scelti_[i] = (altra->Ramo(indice).*misureIngresso[i].leggi)();
     }
     return true;
 }

@@ -76,7 +76,8 @@ protected:
     /// Makes a project, types a municipality, goes on to the next window and is killed there.
     void muoreDopoIlComune(const std::string& comune) {
         const auto primo = avvia({"splash", "tasti=Ctrl+N", "modale=frmInputNumeroRami", "nodo=keyAnagraficaRotonda",
-                                  "campo=txtComune:" + comune, "nodo=keyTempoModellazione", "pronto"});
+                                  "campo=txtComune:" + comune, "nodo=keyTempoModellazione",
+                                  "finestra=frmTempoModellazione", "pronto"});
         ASSERT_TRUE(dice(*primo, "pronto")) << primo->readAllStandardError().toStdString();
         EXPECT_TRUE(fs::exists(copia()));
         uccidi(*primo);
@@ -110,7 +111,7 @@ TEST_F(Processo, AnOfferThatIsRefusedRemovesTheCopy) {
 TEST_F(Processo, ARecoveredProjectThatIsKilledAgainIsOfferedAgain) {
     muoreDopoIlComune("Cervia");
     const auto secondo = avvia({"splash", "box=Yes", "nodo=keyAnagraficaRotonda", "campo=txtComune:Ravenna",
-                                "nodo=keyTempoModellazione", "pronto"});
+                                "nodo=keyTempoModellazione", "finestra=frmTempoModellazione", "pronto"});
     ASSERT_TRUE(dice(*secondo, "pronto"));
     uccidi(*secondo);
     const auto terzo = avvia(

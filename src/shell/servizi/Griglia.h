@@ -57,6 +57,8 @@ public:
     explicit Griglia(std::string nome, int righeFisse = 1, int colonneFisse = 1)
         : Controllo(std::move(nome)), righeFisse_(righeFisse), colonneFisse_(colonneFisse) {}
 
+    using Controllo::visibile;
+
     // What the program puts there.
     const Tabella& tabella() const { return tabella_; }
     /// Puts a table there: its texts count as unmodified, the editor closes without a word, what could be undone is
@@ -170,7 +172,6 @@ private:
     bool buona(Posto posto, Meta meta) const;
     bool fermata(Posto posto) const { return buona(posto, Meta::cursore); }
     bool visibile(int colonna) const { return !this->colonna(colonna).nascosta; }
-    using Controllo::visibile;
     void segna();
     void vai(Posto posto);
     void seleziona(Posto da, Posto a);

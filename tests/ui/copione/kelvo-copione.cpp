@@ -6,6 +6,7 @@
 //   modale=NAME     presses Enter in a modal window
 //   tasti=KEYS      presses a shortcut in the main window
 //   nodo=KEY        clicks on a node of the tree
+//   finestra=NAME   waits until that window is at hand
 //   campo=NAME:TEXT types over a field
 //   mostra=NAME     prints the text of a field
 //   titolo          prints the caption of the main window
@@ -30,6 +31,7 @@
 #include "platform/linux/cartelle.h"
 #include "ui/Desktop.h"
 #include "ui/gesti.h"
+#include "ui/shell/VistaMDI_Form.h"
 
 namespace {
 
@@ -113,6 +115,11 @@ bool nodo(const std::string& chiave) {
     return true;
 }
 
+bool finestra(const std::string& nome) {
+    const auto* vista = dynamic_cast<kelvo::ui::VistaMDI_Form*>(principale());
+    return vista != nullptr && vista->vistaCorrente() != nullptr && vista->vistaCorrente()->finestra().nome() == nome;
+}
+
 bool scriviCampo(const std::string& nomeETesto) {
     const auto punti = nomeETesto.find(':');
     QLineEdit* riga = principale() == nullptr ? nullptr : campo(nomeETesto.substr(0, punti));
@@ -145,6 +152,7 @@ bool gioca(const std::string& passo) {
         {"modale", [&] { return modaleInvio(argomento); }},
         {"tasti", [&] { return tasti(argomento); }},
         {"nodo", [&] { return nodo(argomento); }},
+        {"finestra", [&] { return finestra(argomento); }},
         {"campo", [&] { return scriviCampo(argomento); }},
         {"mostra", [&] { return mostra(argomento); }},
         {"titolo",
