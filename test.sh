@@ -29,7 +29,7 @@ passo "Compilazione Release" costruisci release
 passo "Prove in italiano" prove_italiane
 passo "Compilazione sanitizer" costruisci "$sanitizer"
 passo "Prove con sanitizer" prove_asan "$sanitizer"
-passo "Compilazione fuzz" costruisci fuzz
+passo "Compilazione fuzz" costruisci fuzz fuzz/all
 passo "Fuzz" fuzz "$secondi_fuzz"
 if $lungo; then
     passo "clang-tidy" tidy
