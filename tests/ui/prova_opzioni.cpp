@@ -252,12 +252,14 @@ TEST_F(Opzioni, ItFitsASmallScreenWithBothHints) {
     rotonda().ValorePercentile(95.0F);
     rotonda().CondizioniNotturne(true);
     tasto(Qt::Key_F5);
-    banco.vista.resize(1366, 768);
-    smaltisci();
     auto* area = banco.vista.vistaCorrente()->findChild<QScrollArea*>();
-    ASSERT_TRUE(attendi([&] { return banco.oggetto<QWidget>("lblPercentile").isVisible(); }));
-    EXPECT_TRUE(attendi([&] { return area->verticalScrollBar()->maximum() == 0; }));
-    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+    for (const QSize misura : {QSize(1366, 768), QSize(1280, 800), QSize(1440, 900)}) {
+        banco.vista.resize(misura);
+        smaltisci();
+        ASSERT_TRUE(attendi([&] { return banco.oggetto<QWidget>("lblPercentile").isVisible(); }));
+        EXPECT_TRUE(attendi([&] { return area->verticalScrollBar()->maximum() == 0; })) << misura.width();
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << misura.width();
+    }
 }
 
 TEST_F(Opzioni, AConfigurationThatCannotBeWrittenIsToldOnce) {

@@ -16,9 +16,9 @@ namespace kelvo::ui {
 namespace {
 
 /// Widths of the three columns of panels in the design; what is left of it goes between them.
-constexpr int colonnaProgetto = 352;
-constexpr int colonnaVeicoli = 304;
-constexpr int colonnaProgramma = 264;
+constexpr int colonnaProgetto = 388;
+constexpr int colonnaVeicoli = 288;
+constexpr int colonnaProgramma = 244;
 /// Below this height the short option groups stand in one line.
 constexpr int altezzaBassa = 720;
 
