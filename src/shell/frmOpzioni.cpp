@@ -93,6 +93,7 @@ frmOpzioni::frmOpzioni(const Contorno& contorno)
     }
     ordina(controlli);
     std::vector<std::string> colori;
+    colori.reserve(coloriPannello.size());
     for (const ColorePannello& colore : coloriPannello) {
         colori.emplace_back(colore.nome);
     }

@@ -153,6 +153,17 @@ TEST_F(AnalisiMarginaleVista, AnExternalConditionThatCountsWithoutItsTickSaysSo)
     EXPECT_FALSE(analisi(1).UsaCondizioniEsterne());
 }
 
+TEST_F(AnalisiMarginaleVista, TheMnemonicOfACheckBoxTicksIt) {
+    abilita();
+    auto& spunta = banco.oggetto<QAbstractButton>("chkLarghezzaIngresso");
+    EXPECT_EQ(spunta.text(), QStringLiteral("&Larghezza ingresso"));
+    EXPECT_FALSE(spunta.isChecked());
+    tasto(Qt::Key_L, Qt::AltModifier);
+    EXPECT_TRUE(attendi([&] { return spunta.isChecked(); }));
+    banco.vai("keyAnalisiMarginale2");
+    EXPECT_TRUE(analisi(1).UsaLarghezzaIngresso());
+}
+
 TEST_F(AnalisiMarginaleVista, TheHelpPaneFollowsTheKeyboard) {
     abilita();
     EXPECT_EQ(banco.cornice.gestione.corrente()->aiuto()->pagina(), "PassoLarghezzaIngresso.htm");

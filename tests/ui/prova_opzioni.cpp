@@ -1,6 +1,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QFrame>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
@@ -123,6 +124,28 @@ TEST_F(Opzioni, SaturationAloneHidesTheComposition) {
     EXPECT_FALSE(banco.oggetto<QWidget>("frComposizioneTraffico").isVisible());
     premi("optSegmentiTempo");
     EXPECT_TRUE(banco.oggetto<QWidget>("frComposizioneTraffico").isVisible());
+}
+
+TEST_F(Opzioni, NoTwoControlsShareAMnemonicAndNoneTakesOneOfTheMenus) {
+    QString lettere;
+    const auto raccogli = [&lettere](const QString& testo) {
+        const auto posto = testo.indexOf(QLatin1Char('&'));
+        if (posto >= 0) {
+            lettere += testo.at(posto + 1).toUpper();
+        }
+    };
+    const auto* vista = banco.vista.vistaCorrente();
+    for (const auto* bottone : vista->findChildren<QAbstractButton*>()) {
+        raccogli(bottone->text());
+    }
+    for (const auto* etichetta : vista->findChildren<QLabel*>()) {
+        raccogli(etichetta->buddy() == nullptr ? QString{} : etichetta->text());
+    }
+    EXPECT_GE(lettere.size(), 10);
+    for (const QChar lettera : lettere) {
+        EXPECT_EQ(lettere.count(lettera), 1) << lettere.toStdString();
+        EXPECT_FALSE(QStringLiteral("FDORSKH").contains(lettera)) << lettere.toStdString();
+    }
 }
 
 TEST_F(Opzioni, TheFactoryValuesReadOneAndNotOneComma) {
