@@ -42,7 +42,7 @@ std::string clsAmbiente::PercorsoProgramma(const std::string& nome) const {
 std::string clsAmbiente::ScriviIni(const std::string& percorsoFile, const std::string& sezione,
                                    const std::string& chiave, const std::string& valore) {
     std::string testo;
-    const std::string illeggibile = leggiFile(percorsoFile, massimoIni, testo);
+    std::string illeggibile = leggiFile(percorsoFile, massimoIni, testo);
     if (!illeggibile.empty() && !manca(percorsoFile)) {
         return illeggibile;  // it may be there and cannot be read: never overwrite what was not seen
     }
