@@ -39,18 +39,19 @@ std::string clsAmbiente::PercorsoProgramma(const std::string& nome) const {
     return percorsoSenzaMaiuscole(conSeparatore(cartellaProgramma_), nome);
 }
 
-void clsAmbiente::ScriviIni(const std::string& percorsoFile, const std::string& sezione, const std::string& chiave,
-                            const std::string& valore) {
+std::string clsAmbiente::ScriviIni(const std::string& percorsoFile, const std::string& sezione,
+                                   const std::string& chiave, const std::string& valore) {
     std::string testo;
-    if (!leggiFile(percorsoFile, massimoIni, testo).empty() && !manca(percorsoFile)) {
-        return;  // it may be there and cannot be read: never overwrite what was not seen
+    std::string illeggibile = leggiFile(percorsoFile, massimoIni, testo);
+    if (!illeggibile.empty() && !manca(percorsoFile)) {
+        return illeggibile;  // it may be there and cannot be read: never overwrite what was not seen
     }
     if (FileIni::codificaNonValida(testo)) {
-        return;  // its lines cannot be told apart
+        return "il file non è di testo UTF-8";  // its lines cannot be told apart
     }
     FileIni ini(testo);
     ini.scrivi(sezione, chiave, valore);
-    scriviFileSicuro(sistema_, percorsoFile, ini.testo());
+    return ini.testo() == testo ? std::string{} : scriviFileSicuro(sistema_, percorsoFile, ini.testo());
 }
 
 std::string clsAmbiente::LeggiIni(const std::string& sezione, const std::string& chiave,

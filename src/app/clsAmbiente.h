@@ -19,10 +19,11 @@ public:
 
     /// Folder for the temporary files of the exports; ends in a path separator.
     const std::string& CartellaLavoro() const { return cartellaLavoro_; }
-    /// Writes a key of a configuration file, whole path. A file that cannot be read or written stays as it is, in
-    /// silence: whoever needs to know reads back. Fault 5 for a section or key that could not be found again.
-    void ScriviIni(const std::string& percorsoFile, const std::string& sezione, const std::string& chiave,
-                   const std::string& valore);
+    /// Writes a key of a configuration file, whole path; a file that holds that value already is not touched. A file
+    /// that cannot be read or written stays as it is: the answer tells why, and is empty where all went well. Fault 5
+    /// for a section or key that could not be found again.
+    std::string ScriviIni(const std::string& percorsoFile, const std::string& sezione, const std::string& chiave,
+                          const std::string& valore);
     /// Reads a key of a configuration file, whole path; empty text for a missing key or file.
     std::string LeggiIni(const std::string& sezione, const std::string& chiave, const std::string& percorsoFile) const;
 

@@ -58,9 +58,11 @@ std::int16_t modCommonModule::leggiIntero(const std::string& sezione, const std:
                      [&] { return fmt::format("Kelvo.ini, [{}] {}", sezione, chiave); });
 }
 
-std::int16_t modCommonModule::scriviIntero(const std::string& sezione, const std::string& chiave, std::int16_t valore) {
-    ambiente_.ScriviIni(ambiente_.PercorsoIni(), sezione, chiave, testoNumero(valore));
-    return leggiIntero(sezione, chiave);
+std::string modCommonModule::scriviIntero(const std::string& sezione, const std::string& chiave, std::int16_t valore,
+                                          std::int16_t& globale) {
+    const std::string errore = ambiente_.ScriviIni(ambiente_.PercorsoIni(), sezione, chiave, testoNumero(valore));
+    globale = leggiIntero(sezione, chiave);
+    return errore;
 }
 
 CoefficientiVeicoli modCommonModule::leggiCoefficienti() const {
@@ -104,28 +106,31 @@ std::int16_t modCommonModule::LeggiOpzMenu() {
     return configurazione_.OpzMenu;
 }
 
-void modCommonModule::ScriviCustomPanel(std::int16_t valore) {
-    configurazione_.LayoutPannello = scriviIntero("LAY_OUT", "CustomPanel", valore);
+std::string modCommonModule::ScriviCustomPanel(std::int16_t valore) {
+    return scriviIntero("LAY_OUT", "CustomPanel", valore, configurazione_.LayoutPannello);
 }
 
-void modCommonModule::ScriviAvvioFilmato(std::int16_t valore) {
-    configurazione_.AvvioFilmato = scriviIntero("10_MOTIVI", "Avvia", valore);
+std::string modCommonModule::ScriviAvvioFilmato(std::int16_t valore) {
+    return scriviIntero("10_MOTIVI", "Avvia", valore, configurazione_.AvvioFilmato);
 }
 
-void modCommonModule::ScriviOpzExplorer(std::int16_t valore) {
-    configurazione_.OpzExplorer = scriviIntero(sezioneAlbero, chiaveAlbero, valore);
+std::string modCommonModule::ScriviOpzExplorer(std::int16_t valore) {
+    return scriviIntero(sezioneAlbero, chiaveAlbero, valore, configurazione_.OpzExplorer);
 }
 
-void modCommonModule::ScriviOpzMenu(std::int16_t valore) {
-    configurazione_.OpzMenu = scriviIntero(sezioneMenu, chiaveMenu, valore);
+std::string modCommonModule::ScriviOpzMenu(std::int16_t valore) {
+    return scriviIntero(sezioneMenu, chiaveMenu, valore, configurazione_.OpzMenu);
 }
 
-void modCommonModule::ScriviVeicoliEquivalenti(const CoefficientiVeicoli& valori) {
+std::string modCommonModule::ScriviVeicoliEquivalenti(const CoefficientiVeicoli& valori) {
+    std::string primo;
     for (std::size_t i = 0; i < valori.size(); ++i) {
-        ambiente_.ScriviIni(ambiente_.PercorsoIni(), sezioneVeicoli, std::string{chiaviCoefficienti[i]},
-                            testoNumero(valori[i]));
+        const std::string errore = ambiente_.ScriviIni(ambiente_.PercorsoIni(), sezioneVeicoli,
+                                                       std::string{chiaviCoefficienti[i]}, testoNumero(valori[i]));
+        primo = primo.empty() ? errore : primo;
     }
     configurazione_.coefficienti(leggiCoefficienti());
+    return primo;
 }
 
 std::string modCommonModule::percorsoLog() const {

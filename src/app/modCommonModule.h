@@ -39,13 +39,13 @@ public:
     std::int16_t LeggiOpzMenu();
 
     // Each writer writes the value, reads it straight back and keeps the value read, so that memory follows the file
-    // even when the write failed.
-    void ScriviCustomPanel(std::int16_t valore);
-    void ScriviAvvioFilmato(std::int16_t valore);
-    void ScriviOpzExplorer(std::int16_t valore);
-    void ScriviOpzMenu(std::int16_t valore);
-    /// All seven: first the writes, then the reads.
-    void ScriviVeicoliEquivalenti(const CoefficientiVeicoli& valori);
+    // even when the write failed. The answer tells why it failed; empty where all went well.
+    std::string ScriviCustomPanel(std::int16_t valore);
+    std::string ScriviAvvioFilmato(std::int16_t valore);
+    std::string ScriviOpzExplorer(std::int16_t valore);
+    std::string ScriviOpzMenu(std::int16_t valore);
+    /// All seven: first the writes, then the reads. Of several failures the first is told.
+    std::string ScriviVeicoliEquivalenti(const CoefficientiVeicoli& valori);
 
     /// Appends a line to the log if the trace is on. The log is opened only if it exists: where it does not, the
     /// failure goes to erroreLog, which makes it.
@@ -61,7 +61,8 @@ private:
     std::string leggi(const std::string& sezione, const std::string& chiave) const;
     float leggiSingolo(const std::string& sezione, const std::string& chiave) const;
     std::int16_t leggiIntero(const std::string& sezione, const std::string& chiave) const;
-    std::int16_t scriviIntero(const std::string& sezione, const std::string& chiave, std::int16_t valore);
+    std::string scriviIntero(const std::string& sezione, const std::string& chiave, std::int16_t valore,
+                             std::int16_t& globale);
     CoefficientiVeicoli leggiCoefficienti() const;
     std::string percorsoLog() const;
 

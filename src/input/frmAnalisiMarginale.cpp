@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/guasto.h"
+#include "input/misureIngresso.h"
 
 namespace kelvo {
 
@@ -14,12 +15,14 @@ constexpr const char* attraversamenti = "Attraversamenti Pedonali";
 constexpr const char* incidenza = "Incidenza sulla capacità";
 constexpr const char* condizioni = "Condizioni esterne";
 constexpr const char* contaComunque = "Il valore conta nel calcolo anche senza la spunta.";
+constexpr const char* senzaAttraversamento = "Non conta: l'ingresso non ha un attraversamento pedonale (Geometria).";
 }  // namespace testi
 
 /// Where the project holds a parameter's flag and step, and the names of their controls.
 struct LegamePasso {
     const char* casella;
     const char* campo;
+    const char* pagina;
     bool (AnalisiMarginale::*usa)() const;
     void (AnalisiMarginale::*scriviUsa)(bool);
     double (AnalisiMarginale::*passo)() const;
@@ -28,18 +31,18 @@ struct LegamePasso {
 
 using A = AnalisiMarginale;
 constexpr std::array<LegamePasso, 6> legami{{
-    {"chkLarghezzaIngresso", "txtLarghezzaIngresso", &A::UsaLarghezzaIngresso, &A::UsaLarghezzaIngresso,
-     &A::LarghezzaIngresso, &A::LarghezzaIngresso},
-    {"chkSemiLarghezza", "txtSemiLarghezza", &A::UsaSemiLarghezza, &A::UsaSemiLarghezza, &A::SemiLarghezza,
-     &A::SemiLarghezza},
-    {"chkLungSvasatura", "txtLungSvasatura", &A::UsaLunghezzaSvasatura, &A::UsaLunghezzaSvasatura, &A::LungSvasatura,
-     &A::LungSvasatura},
-    {"chkAngoloConflitto", "txtAngoloConflitto", &A::UsaAngoloConflitto, &A::UsaAngoloConflitto, &A::AngoloConflitto,
-     &A::AngoloConflitto},
-    {"chkRaggioCurvatura", "txtRaggioCurvatura", &A::UsaRaggioCurvatura, &A::UsaRaggioCurvatura, &A::RaggioCurvatura,
-     &A::RaggioCurvatura},
-    {"chkDiametroInscritto", "txtDiametroInscritto", &A::UsaDiametroInscritto, &A::UsaDiametroInscritto,
-     &A::DiametroInscritto, &A::DiametroInscritto},
+    {"chkLarghezzaIngresso", "txtLarghezzaIngresso", "PassoLarghezzaIngresso.htm", &A::UsaLarghezzaIngresso,
+     &A::UsaLarghezzaIngresso, &A::LarghezzaIngresso, &A::LarghezzaIngresso},
+    {"chkSemiLarghezza", "txtSemiLarghezza", "PassoSemiLarghezza.htm", &A::UsaSemiLarghezza, &A::UsaSemiLarghezza,
+     &A::SemiLarghezza, &A::SemiLarghezza},
+    {"chkLungSvasatura", "txtLungSvasatura", "PassoLungSvasatura.htm", &A::UsaLunghezzaSvasatura,
+     &A::UsaLunghezzaSvasatura, &A::LungSvasatura, &A::LungSvasatura},
+    {"chkAngoloConflitto", "txtAngoloConflitto", "PassoAngoloConflitto.htm", &A::UsaAngoloConflitto,
+     &A::UsaAngoloConflitto, &A::AngoloConflitto, &A::AngoloConflitto},
+    {"chkRaggioCurvatura", "txtRaggioCurvatura", "PassoRaggioCurvatura.htm", &A::UsaRaggioCurvatura,
+     &A::UsaRaggioCurvatura, &A::RaggioCurvatura, &A::RaggioCurvatura},
+    {"chkDiametroInscritto", "txtDiametroInscritto", "PassoDiametroInscritto.htm", &A::UsaDiametroInscritto,
+     &A::UsaDiametroInscritto, &A::DiametroInscritto, &A::DiametroInscritto},
 }};
 
 frmAnalisiMarginale::Passo passo(std::size_t i) {
@@ -78,17 +81,22 @@ frmAnalisiMarginale::frmAnalisiMarginale(const Contorno& contorno)
         controlli.push_back(&p.chk);
         controlli.push_back(&p.txt);
         preparaNumerico(p.txt, campiPasso[i]);
+        p.txt.paginaAiuto = legami[i].pagina;
         p.chk.alClic = [this] { confronta(); };
         p.txt.dopoUscita = [this] { confronta(); };
     }
     for (Controllo* c : std::initializer_list<Controllo*>{
-             &frAttraversamenti, &lblAttraversamentoPedonale, &txtAttraversamentoPedonale, &chkCondizioniEsterne,
-             &txtDescrizioneCondizioniEsterne, &txtCondizioniEsterne, &lblCondizioniEsterne}) {
+             &frAttraversamenti, &lblAttraversamentoPedonale, &txtAttraversamentoPedonale, &lblSenzaAttraversamento,
+             &chkCondizioniEsterne, &txtCondizioniEsterne, &lblCondizioniEsterne, &lblDescrizioneCondizioniEsterne,
+             &txtDescrizioneCondizioniEsterne, &ctlPicture}) {
         controlli.push_back(c);
     }
     ordina(controlli);
     preparaNumerico(txtAttraversamentoPedonale, campoAttraversamento);
     preparaNumerico(txtCondizioniEsterne, campoCondizioni);
+    txtAttraversamentoPedonale.paginaAiuto = "IncidenzaPedonale.htm";
+    txtCondizioniEsterne.paginaAiuto = "CondizioniEsterne.htm";
+    txtDescrizioneCondizioniEsterne.paginaAiuto = "CondizioniEsterne.htm";
     chkCondizioniEsterne.alClic = [this] {
         scartaNonAmmesso();
         abilita();
@@ -99,7 +107,9 @@ frmAnalisiMarginale::frmAnalisiMarginale(const Contorno& contorno)
         dopoNumero(txtAttraversamentoPedonale, campoAttraversamento.formato);
     };
     txtCondizioniEsterne.dopoUscita = [this] { dopoNumero(txtCondizioniEsterne, campoCondizioni.formato); };
+    txtAttraversamentoPedonale.dopoTasto = [this] { abilita(); };
     txtCondizioniEsterne.dopoTasto = [this] { abilita(); };
+    fuocoMutato().connect([this] { fuocoSpostato(); });
 }
 
 void frmAnalisiMarginale::ReadData() {
@@ -113,6 +123,7 @@ void frmAnalisiMarginale::ReadData() {
     txtDescrizioneCondizioniEsterne.testo(analisi.DescrizioneCondizioniEsterne());
     mostraNumero(txtCondizioniEsterne, analisi.CondizioniEsterne(), campoCondizioni.formato);
     abilita();
+    fuocoSpostato();
     DatiAllineati(true);
 }
 
@@ -120,7 +131,23 @@ void frmAnalisiMarginale::abilita() {
     const bool usa = chkCondizioniEsterne.spuntata();
     txtDescrizioneCondizioniEsterne.abilitato(usa);
     txtCondizioniEsterne.abilitato(usa);
-    lblCondizioniEsterne.testo(!usa && doppioDi(txtCondizioniEsterne) != 0.0 ? testi::contaComunque : "");
+    const bool conta = !usa && doppioDi(txtCondizioniEsterne) != 0.0;
+    lblCondizioniEsterne.testo(conta ? testi::contaComunque : "");
+    lblCondizioniEsterne.visibile(conta);
+    const bool inutile = !ramo().AttraversamentoPedonale() && doppioDi(txtAttraversamentoPedonale) != 0.0;
+    lblSenzaAttraversamento.testo(inutile ? testi::senzaAttraversamento : "");
+    lblSenzaAttraversamento.visibile(inutile);
+}
+
+void frmAnalisiMarginale::fuocoSpostato() {
+    std::string figura = "RAMI" + std::to_string(rotonda().NumeroRami());
+    for (std::size_t i = 0; i < passi.size(); ++i) {
+        if (fuoco() == &passi[i].chk || fuoco() == &passi[i].txt) {
+            figura = misureIngresso[i].figura;
+            ctlHelp.pagina(legami[i].pagina);  // a check box brings the page of its step
+        }
+    }
+    ctlPicture.risorsa(figura);
 }
 
 void frmAnalisiMarginale::scartaNonAmmesso() {

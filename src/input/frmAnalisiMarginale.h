@@ -21,10 +21,15 @@ public:
     };
     std::array<Passo, 6> passi;  ///< in the order of the six measures
 
+    Immagine ctlPicture{"ctlPicture"};  ///< picture of the parameter in use, else of the roundabout
+
     Riquadro frAttraversamenti;
     Etichetta lblAttraversamentoPedonale;
     tBox txtAttraversamentoPedonale;
+    /// Tells that the percentage does not count, as the entry has no crossing.
+    Etichetta lblSenzaAttraversamento{"lblSenzaAttraversamento"};
     Casella chkCondizioniEsterne;
+    Etichetta lblDescrizioneCondizioniEsterne{"lblDescrizioneCondizioniEsterne", "Descrizione"};
     tBox txtDescrizioneCondizioniEsterne{"txtDescrizioneCondizioniEsterne", tBox::textbox};
     tBox txtCondizioniEsterne;
     /// Tells that the percentage counts though its box is not ticked.
@@ -37,6 +42,7 @@ private:
     void confronta();
     void abilita();
     void scartaNonAmmesso();
+    void fuocoSpostato();
     void dopoNumero(tBox& campo, Formato formato);
     void scriviPassi();
     void scriviPercentuali();

@@ -35,6 +35,7 @@ frmToponomasticaIntersezione::frmToponomasticaIntersezione(const Contorno& conto
         txtIngresso[i].controllo = [this, i] { return controllaNomeRamo(txtIngresso[i].testo()); };
         txtIngresso[i].dopoTasto = [this] { DatiAllineati(false); };
         txtIngresso[i].dopoUscita = [this, i] { scrivi(i); };
+        txtIngresso[i].paginaAiuto = "Toponomastica.htm";
         txtIngresso[i].nomeCampo = "Ingresso " + std::string(1, static_cast<char>('A' + i));
     }
     controlli.push_back(&ctlPicture);

@@ -13,6 +13,8 @@ namespace testi {
 constexpr const char* didascalia = "Opzioni";
 constexpr const char* suggerimentoNotte = "Incidenza percentuale capacità nodo";
 constexpr const char* notteSenzaIncidenza = "L'incidenza è 0: la capacità non viene ridotta.";
+constexpr const char* errore = "KELVO 2014 - Errore";
+constexpr const char* nonScritto = "Impossibile registrare le impostazioni del programma in Kelvo.ini: ";
 constexpr const char* contaComunque = "Il valore conta nel calcolo anche senza la spunta.";
 }  // namespace testi
 
@@ -91,6 +93,7 @@ frmOpzioni::frmOpzioni(const Contorno& contorno)
     }
     ordina(controlli);
     std::vector<std::string> colori;
+    colori.reserve(coloriPannello.size());
     for (const ColorePannello& colore : coloriPannello) {
         colori.emplace_back(colore.nome);
     }
@@ -144,12 +147,16 @@ void frmOpzioni::collegaAspetto() {
         stato().formaRelazione = static_cast<std::int16_t>(ctlLISTopz.primaSpuntata());
     };
     ckTREE.alClic = [this] {
-        app().comune.ScriviOpzExplorer(ckTREE.spuntata() ? 1 : 0);
+        annota(app().comune.ScriviOpzExplorer(ckTREE.spuntata() ? 1 : 0));
+        ckTREE.spuntata(app().configurazione.OpzExplorer != 0);
         DatiAllineati(false);
+        avvisaIni();
     };
     ckMENU.alClic = [this] {
-        app().comune.ScriviOpzMenu(ckMENU.spuntata() ? 1 : 0);
+        annota(app().comune.ScriviOpzMenu(ckMENU.spuntata() ? 1 : 0));
+        ckMENU.spuntata(app().configurazione.OpzMenu != 0);
         cornice().mostraMenu(app().configurazione.OpzMenu == 0);
+        avvisaIni();
     };
     ckFILMATO.alClic = [this] { DatiAllineati(false); };
 }
@@ -162,14 +169,17 @@ void frmOpzioni::opzioneCliccata() {
 void frmOpzioni::abilita() {
     const bool composizione = grpTipoAnalisi.scelta() != 0;
     frComposizioneTraffico.abilitaContenuto(composizione);
+    frComposizioneTraffico.mostraContenuto(composizione);
     grpTipoFlusso.abilita(0, composizione);
     const bool notte = chkCondizioniNotturne.spuntata();
     txtCondizioniNotturne.abilitato(notte);
     const bool nessunaIncidenza = notte && app().theAmbiente.PercentualeNotturna() == 0;
     lblCondizioniNotturne.testo(nessunaIncidenza ? testi::notteSenzaIncidenza : "");
+    lblCondizioniNotturne.visibile(nessunaIncidenza);
     txtPercentile.abilitato(chkPercentile.spuntata());
     const bool conta = !chkPercentile.spuntata() && rotonda().ValorePercentile() != 0.0F;
     lblPercentile.testo(conta ? testi::contaComunque : "");
+    lblPercentile.visibile(conta);
 }
 
 void frmOpzioni::notteScritta() {
@@ -277,7 +287,19 @@ CoefficientiVeicoli frmOpzioni::coefficientiScritti() const {
     return valori;
 }
 
-void frmOpzioni::SaveData() {
+void frmOpzioni::annota(const std::string& motivo) {
+    motivoIni_ = motivoIni_.empty() ? motivo : motivoIni_;
+}
+
+void frmOpzioni::avvisaIni() {
+    if (!motivoIni_.empty()) {
+        const std::string testo = std::string{testi::nonScritto} + motivoIni_;
+        motivoIni_.clear();
+        messaggio(testo, testi::errore, Icona::critica);
+    }
+}
+
+void frmOpzioni::scriviTutto() {
     gestisci("frmOpzioni:SaveData", [this] {
         if (!convalida()) {
             return;
@@ -285,13 +307,21 @@ void frmOpzioni::SaveData() {
         scriviProgetto();
         const CoefficientiVeicoli valori = coefficientiScritti();
         app().configurazione.coefficienti(valori);
-        app().comune.ScriviVeicoliEquivalenti(valori);
-        for (tBox& casella : txtVeicoli) {
-            casella.salvato();
+        const std::string motivo = app().comune.ScriviVeicoliEquivalenti(valori);
+        annota(motivo);
+        if (motivo.empty()) {
+            for (tBox& casella : txtVeicoli) {
+                casella.salvato();
+            }
         }
-        DatiAllineati(true);
+        DatiAllineati(motivo.empty());
         cornice().SetUpOpzioni();
     });
+}
+
+void frmOpzioni::SaveData() {
+    scriviTutto();
+    avvisaIni();
 }
 
 void frmOpzioni::aggiornaDati() {
@@ -299,13 +329,17 @@ void frmOpzioni::aggiornaDati() {
         return;
     }
     const CoefficientiVeicoli valori = coefficientiScritti();
-    SaveData();
-    app().comune.ScriviCustomPanel(static_cast<std::int16_t>(ctlLIST.primaSpuntata() + 1));
+    scriviTutto();
+    annota(app().comune.ScriviCustomPanel(static_cast<std::int16_t>(ctlLIST.primaSpuntata() + 1)));
     vesti(*this, app().configurazione.LayoutPannello);
     cornice().LoadTreeView();
-    app().comune.ScriviAvvioFilmato(ckFILMATO.spuntata() ? 0 : 1);
-    app().comune.ScriviOpzExplorer(ckTREE.spuntata() ? 1 : 0);
-    app().comune.ScriviVeicoliEquivalenti(valori);
+    annota(app().comune.ScriviAvvioFilmato(ckFILMATO.spuntata() ? 0 : 1));
+    annota(app().comune.ScriviOpzExplorer(ckTREE.spuntata() ? 1 : 0));
+    annota(app().comune.ScriviVeicoliEquivalenti(valori));
+    if (!motivoIni_.empty()) {
+        DatiAllineati(false);
+    }
+    avvisaIni();
 }
 
 void frmOpzioni::altroTasto(const std::string& chiave) {

@@ -66,7 +66,12 @@ private:
     void mostraColore(int riga);
     void confronta();
     void scriviProgetto();
+    void scriviTutto();
+    void annota(const std::string& motivo);
+    void avvisaIni();
     CoefficientiVeicoli coefficientiScritti() const;
+
+    std::string motivoIni_;  ///< why the configuration could not be written, during one gesture
 };
 
 /// A vehicle class of the window: its name, its control, its place among the coefficients of the configuration.

@@ -2,11 +2,14 @@
 
 #include <memory>
 
+#include "input/frmAnalisiMarginale.h"
 #include "input/frmTempoModellazione.h"
+#include "input/frmToponomasticaIntersezione.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
 #include "shell/frmEmptyForm.h"
 #include "shell/frmInputNumeroRami.h"
+#include "shell/frmOpzioni.h"
 
 namespace kelvo {
 
@@ -25,6 +28,9 @@ void registraFinestre(FabbricaFinestre& finestre) {
     finestre.registra("frmAnagraficaRotonda", crea<frmAnagraficaRotonda>);
     finestre.registra("frmCommittenteProfessionista", crea<frmCommittenteProfessionista>);
     finestre.registra("frmTempoModellazione", crea<frmTempoModellazione>);
+    finestre.registra("frmToponomasticaIntersezione", crea<frmToponomasticaIntersezione>);
+    finestre.registra("frmAnalisiMarginale", crea<frmAnalisiMarginale>);
+    finestre.registra("frmOpzioni", crea<frmOpzioni>);
 }
 
 }  // namespace kelvo

@@ -83,7 +83,9 @@ RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidge
 }
 
 void RiquadroAiuto::figura(const std::string& risorsa) {
-    risorsa_ = risorsa;
+    if (esisteImmagine(risorsa)) {
+        risorsa_ = risorsa;
+    }
     mostra();
 }
 

@@ -22,7 +22,7 @@ class RiquadroAiuto final : public QFrame {
 public:
     RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidget* genitore);
 
-    /// The picture of the window, by its resource name.
+    /// The picture of the window, by its resource name; one that is not there leaves the one before.
     void figura(const std::string& risorsa);
     /// The picture of the window is the one of a control, and follows it.
     void segui(Immagine& immagine);

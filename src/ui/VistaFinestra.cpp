@@ -2,6 +2,7 @@
 
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
@@ -12,6 +13,7 @@
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 
+#include "shell/servizi/scelte.h"
 #include "ui/DisposizioneProporzionale.h"
 #include "ui/RiquadroAiuto.h"
 #include "ui/SegnoDati.h"
@@ -83,16 +85,22 @@ Pannello::Pannello(const QString& titolo, QWidget* genitore) : QWidget(genitore)
     fuori->setContentsMargins(0, 0, 0, 0);
     fuori->addWidget(cornice);
     auto* dentro = new QVBoxLayout(cornice);
-    dentro->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
+    // The sign of a check box stands in line with titles and labels, the ring of its focus beyond it.
+    constexpr int sinistra = misura::margine - misura::sporgenza;
+    dentro->setContentsMargins(sinistra, misura::margineVerticale, misura::margine, misura::margineVerticale);
     dentro->setSpacing(misura::spazioRighe);
     if (!titolo.isEmpty()) {
         auto* testata = new QLabel(titolo, cornice);
         testata->setObjectName(QStringLiteral("titoloPannello"));
         testata->setFont(forte(punti::gruppo));
         testata_ = new QHBoxLayout;
+        testata_->setContentsMargins(misura::sporgenza, 0, 0, 0);
         testata_->addWidget(testata, 1);
         dentro->addLayout(testata_);
-        dentro->addWidget(lineaSottile(cornice));
+        auto* linea = new QHBoxLayout;
+        linea->setContentsMargins(misura::sporgenza, 0, 0, 0);
+        linea->addWidget(lineaSottile(cornice));
+        dentro->addLayout(linea);
     }
     griglia_ = new QGridLayout;
     griglia_->setHorizontalSpacing(misura::spazio);
@@ -121,10 +129,24 @@ void Pannello::riga(Etichetta& etichetta, QWidget* campo, const QString& unita, 
 }
 
 void Pannello::riga(QLabel* etichetta, QWidget* campo, const QString& unita, const QString& limiti) {
-    const bool stretto = !unita.isEmpty() || !limiti.isEmpty();
     etichetta->setBuddy(campo);
     etichetta->setMinimumHeight(misura::campo);
+    etichetta->setContentsMargins(misura::sporgenza + (spunte_ ? misura::rientro : 0), 0, 0, 0);
     griglia_->addWidget(etichetta, righe_, 0, Qt::AlignTop);
+    teste_.push_back(etichetta);
+    campoDiRiga(campo, unita, limiti);
+}
+
+void Pannello::riga(QAbstractButton* spunta, QWidget* campo, const QString& unita, const QString& limiti) {
+    griglia_->addWidget(spunta, righe_, 0, Qt::AlignLeft);
+    teste_.push_back(spunta);
+    spunte_ = true;
+    campo->setAccessibleName(spunta->text().remove(QLatin1Char('&')));
+    campoDiRiga(campo, unita, limiti);
+}
+
+void Pannello::campoDiRiga(QWidget* campo, const QString& unita, const QString& limiti) {
+    const bool stretto = !unita.isEmpty() || !limiti.isEmpty();
     if (stretto) {
         campo->setFixedWidth(misura::campoCorto);
     }
@@ -144,19 +166,35 @@ void Pannello::riga(QLabel* etichetta, QWidget* campo, const QString& unita, con
     ++righe_;
 }
 
-void Pannello::larga(QWidget* oggetto) {
-    griglia_->addWidget(oggetto, righe_, 0, 1, 4);
+void Pannello::larga(QWidget* oggetto, Qt::Alignment lato) {
+    if (oggetto->property("sporgente").toBool()) {
+        const bool cresce = oggetto->sizePolicy().expandingDirections().testFlag(Qt::Horizontal);
+        griglia_->addWidget(oggetto, righe_, 0, 1, 4, cresce ? lato : lato | Qt::AlignLeft);
+    } else {
+        auto* riga = new QHBoxLayout;
+        riga->setContentsMargins(misura::sporgenza, 0, 0, 0);
+        riga->addWidget(oggetto, 0, lato);
+        griglia_->addLayout(riga, righe_, 0, 1, 4);
+    }
     ++righe_;
+}
+
+void Pannello::fitto() {
+    griglia_->setVerticalSpacing(misura::spazioSpunte);
+}
+
+void Pannello::avviso(Etichetta& etichetta) {
+    QLabel* testo = collega(etichetta, this);
+    testo->setFont(dati(punti::nota));
+    testo->setWordWrap(true);
+    testo->setContentsMargins(spunte_ ? misura::rientro : 0, 0, 0, misura::canale);
+    larga(testo);
 }
 
 int Pannello::larghezzaEtichette() const {
     int massima = 0;
-    for (int r = 0; r < righe_; ++r) {
-        const QLayoutItem* posto = griglia_->itemAtPosition(r, 0);
-        const auto* etichetta = posto == nullptr ? nullptr : qobject_cast<QLabel*>(posto->widget());
-        if (etichetta != nullptr && etichetta->buddy() != nullptr) {
-            massima = std::max(massima, etichetta->sizeHint().width());
-        }
+    for (const QWidget* testa : teste_) {
+        massima = std::max(massima, testa->sizeHint().width());
     }
     return massima;
 }
@@ -333,15 +371,24 @@ void VistaFinestra::allineaEtichette() {
 
 void VistaFinestra::assegnaMnemonici() {
     QString prese = lettereMenu;
-    for (const Controllo* controllo : finestra_.ordine()) {
-        auto* etichetta = findChild<QLabel*>(q(controllo->nome()));
-        if (etichetta == nullptr || etichetta->buddy() == nullptr) {
-            continue;
-        }
-        const QChar lettera = letteraLibera(etichetta->text(), prese);
+    const auto assegna = [&prese](auto& oggetto) {
+        const QChar lettera = letteraLibera(oggetto.text(), prese);
         if (!lettera.isNull()) {
             prese += lettera;
-            mnemonico(*etichetta, lettera);
+            mnemonico(oggetto, lettera);
+        }
+    };
+    for (const Controllo* controllo : finestra_.ordine()) {
+        QWidget* widget = widgetDi(*controllo);
+        auto* etichetta = qobject_cast<QLabel*>(widget);
+        if (etichetta != nullptr && etichetta->buddy() != nullptr) {
+            assegna(*etichetta);
+        } else if (auto* bottone = qobject_cast<QAbstractButton*>(widget)) {
+            assegna(*bottone);
+        } else if (dynamic_cast<const GruppoOpzioni*>(controllo) != nullptr && widget != nullptr) {
+            for (QAbstractButton* opzione : widget->findChildren<QAbstractButton*>()) {
+                assegna(*opzione);
+            }
         }
     }
 }

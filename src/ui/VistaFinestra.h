@@ -4,10 +4,12 @@
 #include <QtWidgets/QWidget>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include "shell/servizi/Finestra.h"
 #include "shell/servizi/clsResize.h"
 
+class QAbstractButton;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
@@ -29,8 +31,14 @@ public:
     void riga(const std::string& etichetta, QWidget* campo, const QString& unita = {}, const QString& limiti = {});
     /// The same with a label of the window, which follows it.
     void riga(Etichetta& etichetta, QWidget* campo, const QString& unita = {}, const QString& limiti = {});
-    /// Appends something that takes the whole row.
-    void larga(QWidget* oggetto);
+    /// The same with a check box in place of the label.
+    void riga(QAbstractButton* spunta, QWidget* campo, const QString& unita = {}, const QString& limiti = {});
+    /// Appends something that takes the whole row, or stands at one side of it.
+    void larga(QWidget* oggetto, Qt::Alignment lato = {});
+    /// Appends a hint on the row above it: no room is taken while it is hidden.
+    void avviso(Etichetta& etichetta);
+    /// Its rows stand closer, as those of check boxes do.
+    void fitto();
     /// A word at the right of the title.
     void nota(const QString& testo);
 
@@ -40,9 +48,12 @@ public:
 
 private:
     void riga(QLabel* etichetta, QWidget* campo, const QString& unita, const QString& limiti);
+    void campoDiRiga(QWidget* campo, const QString& unita, const QString& limiti);
 
     QGridLayout* griglia_ = nullptr;
     QHBoxLayout* testata_ = nullptr;
+    std::vector<const QWidget*> teste_;  ///< what stands in front of the fields
+    bool spunte_ = false;                ///< a row has a check box in front of its field
     int righe_ = 0;
 };
 

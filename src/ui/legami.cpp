@@ -41,21 +41,29 @@ constexpr const char* proprietaMnemonico = "mnemonico";
 const QString formatoOra = QStringLiteral("HH:mm");
 const QString formatoGiorno = QStringLiteral("dd/MM/yyyy");
 
-/// A label's text with its mnemonic marked; only a label that leads to a field has one.
-QString conMnemonico(const QLabel& etichetta, QString testo) {
-    if (etichetta.buddy() == nullptr) {
-        return testo;
-    }
+/// A text with the mnemonic of its widget marked.
+QString marcato(const QWidget& widget, QString testo) {
     testo.replace(QLatin1Char('&'), QStringLiteral("&&"));
-    const QString lettera = etichetta.property(proprietaMnemonico).toString();
+    const QString lettera = widget.property(proprietaMnemonico).toString();
     const auto posto = lettera.isEmpty() ? qsizetype{-1} : testo.indexOf(lettera, 0, Qt::CaseInsensitive);
     return posto < 0 ? testo : testo.insert(posto, QLatin1Char('&'));
+}
+
+/// A label's text with its mnemonic marked; only a label that leads to a field has one.
+QString conMnemonico(const QLabel& etichetta, const QString& testo) {
+    return etichetta.buddy() == nullptr ? testo : marcato(etichetta, testo);
 }
 
 void preparaCampo(QWidget& widget) {
     widget.setFont(dati(corpo));
     widget.setFixedHeight(misura::campo);
     widget.setFocusPolicy(Qt::StrongFocus);
+}
+
+/// What the field tells the mouse, and whoever is read to.
+void suggerisci(const tBox& campo, QWidget& widget) {
+    widget.setToolTip(q(campo.suggerimento));
+    widget.setAccessibleDescription(q(campo.suggerimento));
 }
 
 QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
@@ -204,17 +212,22 @@ std::string s(const QString& testo) {
 }
 
 QWidget* collega(tBox& campo, QWidget* genitore) {
+    QWidget* widget = nullptr;
     switch (campo.faccia()) {
         case tBox::combobox:
-            return collegaElenco(campo, genitore);
+            widget = collegaElenco(campo, genitore);
+            break;
         case tBox::dtpicker:
-            return collegaOra(campo, genitore);
+            widget = collegaOra(campo, genitore);
+            break;
         case tBox::textbox:
         case tBox::maskedit:
         case tBox::objSmartTextBox:
+            widget = collegaRiga(campo, genitore);
             break;
     }
-    return collegaRiga(campo, genitore);
+    suggerisci(campo, *widget);
+    return widget;
 }
 
 QPlainTextEdit* collega(AreaTesto& area, QWidget* genitore) {
@@ -239,6 +252,16 @@ void mnemonico(QLabel& etichetta, QChar lettera) {
     etichetta.setText(conMnemonico(etichetta, etichetta.text()));
 }
 
+void mnemonico(QAbstractButton& bottone, QChar lettera) {
+    const std::string testo = s(bottone.text().replace(QStringLiteral("&&"), QStringLiteral("&")));
+    bottone.setProperty(proprietaMnemonico, QString(lettera));
+    bottone.setText(testoBottone(bottone, testo));
+}
+
+QString testoBottone(const QAbstractButton& bottone, const std::string& testo) {
+    return marcato(bottone, q(testo));
+}
+
 QLabel* collega(Etichetta& etichetta, QWidget* genitore) {
     auto* label = new QLabel(genitore);
     label->setFont(leggero(corpo));
@@ -261,7 +284,7 @@ QAbstractButton* collega(Bottone& bottone, QWidget* genitore) {
     pulsante->setFixedHeight(misura::bottone);
     pulsante->setAutoDefault(true);  // Enter presses the button that has the keyboard
     auto* legame = new Legame(bottone, *pulsante);
-    legame->mostra([&bottone, pulsante] { pulsante->setText(q(bottone.testo())); });
+    legame->mostra([&bottone, pulsante] { pulsante->setText(testoBottone(*pulsante, bottone.testo())); });
     QObject::connect(pulsante, &QPushButton::clicked, legame, [&bottone] { bottone.premi(); });
     return pulsante;
 }
@@ -271,6 +294,7 @@ QAbstractButton* collega(Casella& casella, QWidget* genitore) {
     if (casella.forma() == Casella::casella) {
         pulsante = new QCheckBox(genitore);
         pulsante->setMinimumHeight(misura::spunta);
+        pulsante->setProperty("sporgente", true);
     } else {
         pulsante = new QPushButton(genitore);
         pulsante->setCheckable(true);
@@ -279,7 +303,7 @@ QAbstractButton* collega(Casella& casella, QWidget* genitore) {
     auto* legame = new Legame(casella, *pulsante);
     legame->mostra([&casella, pulsante] {
         const QSignalBlocker zitto(pulsante);
-        pulsante->setText(q(casella.testo()));
+        pulsante->setText(testoBottone(*pulsante, casella.testo()));
         pulsante->setChecked(casella.spuntata());
     });
     QObject::connect(pulsante, &QAbstractButton::clicked, legame, [&casella, pulsante] {

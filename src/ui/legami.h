@@ -23,8 +23,12 @@ namespace kelvo::ui {
 QString q(const std::string& testo);
 std::string s(const QString& testo);
 
-/// Underlines a letter of a label and makes it its mnemonic; it stays where the text changes and still holds it.
+/// Underlines a letter of a label or a button and makes it its mnemonic; it stays where the text changes and still
+/// holds it.
 void mnemonico(QLabel& etichetta, QChar lettera);
+void mnemonico(QAbstractButton& bottone, QChar lettera);
+/// A text as a button shows it: "&" is a letter like others, and the button's mnemonic is marked.
+QString testoBottone(const QAbstractButton& bottone, const std::string& testo);
 
 QWidget* collega(tBox& campo, QWidget* genitore);
 QPlainTextEdit* collega(AreaTesto& area, QWidget* genitore);

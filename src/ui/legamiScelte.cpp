@@ -3,11 +3,13 @@
 #include <QtCore/QEvent>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
+#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 #include <algorithm>
@@ -31,9 +33,9 @@ public:
     BottoniOpzione(GruppoOpzioni& gruppo, QWidget* genitore, Qt::Orientation verso)
         : QWidget(genitore), gruppo_(gruppo) {
         setFocusPolicy(Qt::StrongFocus);
-        auto* piano = new QBoxLayout(verso == Qt::Vertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, this);
+        setProperty("sporgente", true);
+        auto* piano = new QBoxLayout(QBoxLayout::TopToBottom, this);
         piano->setContentsMargins(0, 0, 0, 0);
-        piano->setSpacing(verso == Qt::Vertical ? 0 : misura::margine);
         for (int i = 0; i < static_cast<int>(gruppo_.opzioni().size()); ++i) {
             auto* bottone = new QRadioButton(this);
             bottone->setObjectName(q(gruppo_.opzione(i).nome));
@@ -45,12 +47,16 @@ public:
                 gruppo_.clicca(i);
                 mostra();
             });
-            piano->addWidget(bottone);
+            piano->addWidget(bottone, 0, Qt::AlignLeft);
             bottoni_.push_back(bottone);
         }
-        if (verso == Qt::Horizontal) {
-            piano->addStretch(1);
-        }
+        disponi(*this, verso);
+    }
+
+    static void disponi(QWidget& gruppo, Qt::Orientation verso) {
+        auto* piano = qobject_cast<QBoxLayout*>(gruppo.layout());
+        piano->setDirection(verso == Qt::Vertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+        piano->setSpacing(verso == Qt::Vertical ? 0 : misura::margine);
     }
 
     const std::vector<QRadioButton*>& bottoni() const { return bottoni_; }
@@ -61,7 +67,7 @@ public:
             const GruppoOpzioni::Opzione& opzione = gruppo_.opzioni()[i];
             const bool scelta = static_cast<int>(i) == gruppo_.scelta();
             QRadioButton* bottone = bottoni_[i];
-            bottone->setText(q(opzione.testo));
+            bottone->setText(testoBottone(*bottone, opzione.testo));
             bottone->setVisible(opzione.visibile);
             bottone->setEnabled(opzione.abilitata);
             bottone->setChecked(scelta);
@@ -124,7 +130,53 @@ void mostraSpunte(const ElencoSpunte& elenco, QListWidget& lista) {
         riga->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         riga->setCheckState(elenco.spuntata(i) ? Qt::Checked : Qt::Unchecked);
     }
+    if (elenco.quanteSpuntate() == 1 && !lista.hasFocus()) {
+        lista.setCurrentRow(elenco.primaSpuntata());  // who comes by key starts there
+    }
 }
+
+/// Ticks a line wherever it is clicked.
+class RigaSpuntabile final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool editorEvent(QEvent* evento, QAbstractItemModel* modello, const QStyleOptionViewItem& opzione,
+                     const QModelIndex& posto) override {
+        switch (evento->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonDblClick:
+                return false;
+            case QEvent::MouseButtonRelease: {
+                const auto* clic = static_cast<QMouseEvent*>(evento);
+                const bool dentro = opzione.rect.contains(clic->position().toPoint());
+                if (clic->button() != Qt::LeftButton || !dentro || !posto.flags().testFlag(Qt::ItemIsEnabled)) {
+                    return false;
+                }
+                const bool spuntata = posto.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+                return modello->setData(posto, spuntata ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+            }
+            default:
+                return QStyledItemDelegate::editorEvent(evento, modello, opzione, posto);
+        }
+    }
+};
+
+/// A list that shows all its lines.
+class ListaSpunte final : public QListWidget {
+public:
+    explicit ListaSpunte(QWidget* genitore) : QListWidget(genitore) {
+        setItemDelegate(new RigaSpuntabile(this));
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        setProperty("spunte", true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+    QSize sizeHint() const override {
+        const int bordi = 2 * frameWidth();
+        const int alta = std::max(sizeHintForRow(0), misura::spunta) * count();
+        return {sizeHintForColumn(0) + bordi, alta + bordi};
+    }
+    QSize minimumSizeHint() const override { return {misura::campoCorto, sizeHint().height()}; }
+};
 
 void mostraSchede(const Schede& schede, QTabWidget& linguette) {
     const QSignalBlocker zitto(&linguette);
@@ -149,6 +201,10 @@ QWidget* collega(GruppoOpzioni& gruppo, QWidget* genitore, Qt::Orientation verso
     return bottoni;
 }
 
+void verso(QWidget& gruppo, Qt::Orientation orientamento) {
+    BottoniOpzione::disponi(gruppo, orientamento);
+}
+
 QListWidget* collega(Elenco& elenco, QWidget* genitore) {
     auto* lista = new QListWidget(genitore);
     lista->setFont(dati(corpo));
@@ -166,9 +222,11 @@ QListWidget* collega(Elenco& elenco, QWidget* genitore) {
     return lista;
 }
 
-QListWidget* collega(ElencoSpunte& elenco, QWidget* genitore) {
-    auto* lista = new QListWidget(genitore);
-    lista->setFont(dati(corpo));
+QListWidget* collega(ElencoSpunte& elenco, QWidget* genitore, FormaElenco forma) {
+    auto* lista = new ListaSpunte(genitore);
+    lista->setProperty("piatto", forma == FormaElenco::piatto);
+    lista->setProperty("sporgente", forma == FormaElenco::piatto);
+    lista->setFont(leggero(corpo));
     auto* legame = new Legame(elenco, *lista);
     legame->mostra([&elenco, lista] { mostraSpunte(elenco, *lista); });
     QObject::connect(lista, &QListWidget::itemChanged, legame, [&elenco, lista](QListWidgetItem* riga) {

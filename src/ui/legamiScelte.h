@@ -19,8 +19,13 @@ class Pannello;
 
 /// Each option is a button of its own name; they stand below one another, or side by side.
 QWidget* collega(GruppoOpzioni& gruppo, QWidget* genitore, Qt::Orientation verso = Qt::Vertical);
+/// Turns the options of a group, as `collega` made it, into a column or a line.
+void verso(QWidget& gruppo, Qt::Orientation orientamento);
 QListWidget* collega(Elenco& elenco, QWidget* genitore);
-QListWidget* collega(ElencoSpunte& elenco, QWidget* genitore);
+/// How a list with check boxes is shown: framed, with the row at hand marked; or flat, like check boxes of their own.
+enum class FormaElenco { incorniciato, piatto };
+/// As high as its lines; a click anywhere on a line ticks it.
+QListWidget* collega(ElencoSpunte& elenco, QWidget* genitore, FormaElenco forma = FormaElenco::incorniciato);
 QSlider* collega(Scorrimento& scorrimento, QWidget* genitore);
 /// `pagine`: what stands under each tab, as many as tabs.
 QTabWidget* collega(Schede& schede, const std::vector<QWidget*>& pagine, QWidget* genitore);

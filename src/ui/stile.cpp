@@ -145,6 +145,17 @@ QListWidget:focus { border: 2px solid {principale}; }
 QListWidget::item { height: 24px; }
 QListWidget::item:hover { background: {sfiorato}; }
 QListWidget::item:selected { background: {scelto}; color: {inchiostro}; }
+QListWidget[spunte="true"]::item { height: 28px; padding: 0px 4px; border: none; }
+QListWidget::indicator { width: 14px; height: 14px; border: 1px solid {bordoCampo}; border-radius: 2px; background: white; }
+QListWidget::indicator:hover { border-color: {principale}; }
+QListWidget::indicator:checked { background: {principale}; border-color: {principale}; image: url("{segni}/spunta.svg"); }
+QListWidget::indicator:disabled { border-color: {bordoSpento}; background: {barra}; }
+QListWidget::indicator:checked:disabled { background: {spento}; border-color: {spento}; }
+QListWidget[piatto="true"] { border: 2px solid transparent; }
+QListWidget[piatto="true"]:focus { border: 2px solid {principale}; }
+QListWidget[piatto="true"]::item { padding: 0px 1px; }
+QListWidget[piatto="true"]::item:selected { background: transparent; }
+QListWidget[piatto="true"]::item:selected:focus { background: {scelto}; }
 QListWidget:disabled { color: {spento}; background: {barra}; border-color: {bordoSpento}; }
 QScrollBar:vertical { background: {barra}; border: none; width: 12px; margin: 0px; }
 QScrollBar:horizontal { background: {barra}; border: none; height: 12px; margin: 0px; }

@@ -64,7 +64,7 @@ TEST_F(ProveAmbiente, AFileInUtf16IsReadAsEmptyAndNotWrittenInto) {
         16);
     scriviContenuto(ini, largo);
     EXPECT_EQ(ambiente.LeggiIni("S", "B", ini), "");
-    ambiente.ScriviIni(ini, "S", "B", "2");
+    EXPECT_EQ(ambiente.ScriviIni(ini, "S", "B", "2"), "il file non è di testo UTF-8");
     EXPECT_EQ(contenuto(ini), largo);
 }
 
@@ -77,8 +77,9 @@ TEST_F(ProveAmbiente, ANameThatCouldNotBeFoundAgainIsFault5) {
 TEST_F(ProveAmbiente, AReadOnlyFileStaysAsItIs) {
     scriviContenuto(ini, "[S]\nB=1\n");
     std::filesystem::permissions(ini, std::filesystem::perms::owner_read);
-    ambiente.ScriviIni(ini, "S", "B", "2");
+    EXPECT_EQ(ambiente.ScriviIni(ini, "S", "B", "2"), "il file è di sola lettura");
     EXPECT_EQ(contenuto(ini), "[S]\nB=1\n");
+    EXPECT_EQ(ambiente.ScriviIni(ini, "S", "B", "1"), "") << "nothing to write";
 }
 
 }  // namespace

@@ -162,6 +162,31 @@ TEST_F(ProveAnalisi, AnUntickedBoxWhoseValueCountsSaysSo) {
     EXPECT_FALSE(analisi(2).UsaCondizioniEsterne());
 }
 
+TEST_F(ProveAnalisi, AnIncidenceWithoutACrossingSaysThatItDoesNotCount) {
+    EXPECT_FALSE(finestra.lblSenzaAttraversamento.visibile());
+    finestra.txtAttraversamentoPedonale.scrivi("12");
+    EXPECT_TRUE(finestra.lblSenzaAttraversamento.visibile());
+    EXPECT_EQ(finestra.lblSenzaAttraversamento.testo(),
+              "Non conta: l'ingresso non ha un attraversamento pedonale (Geometria).");
+    app.theRotonda().Ramo(2).AttraversamentoPedonale(true);
+    finestra.ReadData();
+    finestra.txtAttraversamentoPedonale.scrivi("12");
+    EXPECT_FALSE(finestra.lblSenzaAttraversamento.visibile());
+}
+
+TEST_F(ProveAnalisi, TheParameterInUseBringsItsPageAndItsPicture) {
+    EXPECT_EQ(finestra.ctlPicture.risorsa(), "RAMI3");
+    ASSERT_TRUE(finestra.fuocoSu(finestra.passi[3].txt));
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "PassoAngoloConflitto.htm");
+    EXPECT_EQ(finestra.ctlPicture.risorsa(), "ANGOLO_CONFLITTO");
+    ASSERT_TRUE(finestra.fuocoSu(finestra.passi[5].chk));
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "PassoDiametroInscritto.htm");
+    EXPECT_EQ(finestra.ctlPicture.risorsa(), "DIAMETRO_INSCRITTO");
+    ASSERT_TRUE(finestra.fuocoSu(finestra.txtAttraversamentoPedonale));
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "IncidenzaPedonale.htm");
+    EXPECT_EQ(finestra.ctlPicture.risorsa(), "RAMI3");
+}
+
 TEST_F(ProveAnalisi, ARefusedValueGoesWithItsTick) {
     finestra.chkCondizioniEsterne.clicca();
     finestra.txtCondizioniEsterne.scrivi("500");

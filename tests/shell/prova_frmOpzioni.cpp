@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "app/nuovoProgetto.h"
+#include "comune/cartella.h"
 #include "comune/fintiFinestre.h"
 #include "shell/servizi/pelle.h"
 
@@ -333,6 +335,92 @@ TEST_F(ProveOpzioni, RefreshDiscardsAndArchiveDoesNothing) {
     EXPECT_EQ(finestra.grpTipoMatrice.scelta(), 0);
     EXPECT_EQ(finestra.txtVeicoli[1].testo(), "2");
     EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveOpzioni, AProjectOfSaturationAloneShowsNoCompositionOptions) {
+    rotonda().TipoAnalisi(0);
+    finestra.ReadData();
+    EXPECT_FALSE(finestra.frComposizioneTraffico.visibile());
+    EXPECT_FALSE(finestra.grpTipoFlusso.visibile());
+    finestra.grpTipoAnalisi.clicca(1);
+    EXPECT_TRUE(finestra.frComposizioneTraffico.visibile());
+    EXPECT_TRUE(finestra.grpTipoFlusso.visibile());
+}
+
+TEST_F(ProveOpzioni, AFaultAtThePercentileLeavesWrittenWhatStandsBeforeIt) {
+    rotonda().TipoAnalisi(1);
+    rotonda().UsaPercentile(false);
+    finestra.ReadData();
+    finestra.grpTipoAnalisi.clicca(2);
+    finestra.grpTipoFlusso.clicca(1);
+    finestra.grpTipoMatrice.clicca(1);
+    finestra.chkCondizioniNotturne.clicca();
+    finestra.chkPercentile.clicca();
+    finestra.chkOttimizzazioneGeometrica.clicca();
+    finestra.txtPercentile.modifica(std::string(60, '9'));  // no single holds it
+    finestra.txtPercentile.visibile(false);                 // and nobody asks a hidden field
+    finestra.SaveData();
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014frmOpzioni:SaveData");
+    EXPECT_EQ(rotonda().TipoAnalisi(), 2);
+    EXPECT_EQ(rotonda().TipoFlusso(), 1);
+    EXPECT_TRUE(rotonda().CondizioniNotturne());
+    EXPECT_TRUE(rotonda().UsaPercentile());
+    EXPECT_FALSE(rotonda().OttimizzazioneGeometrica());
+    EXPECT_EQ(rotonda().TipoMatriceSvolte(), 0);
+}
+
+struct ProveOpzioniSenzaScrittura : ProveOpzioni {
+    ProveOpzioniSenzaScrittura() {
+        std::filesystem::permissions(app.theAmbiente.PercorsoIni(), std::filesystem::perms::owner_read);
+        messaggi.mostrati.clear();
+    }
+    ~ProveOpzioniSenzaScrittura() override {
+        std::filesystem::permissions(app.theAmbiente.PercorsoIni(), std::filesystem::perms::owner_all);
+    }
+    static constexpr const char* messaggio =
+        "Impossibile registrare le impostazioni del programma in Kelvo.ini: il file è di sola lettura";
+    void atteso(std::size_t quanti) {
+        ASSERT_EQ(messaggi.mostrati.size(), quanti);
+        for (const auto& m : messaggi.mostrati) {
+            EXPECT_EQ(m.testo, messaggio);
+            EXPECT_EQ(m.titolo, "KELVO 2014 - Errore");
+            EXPECT_EQ(m.icona, Icona::critica);
+        }
+    }
+};
+
+TEST_F(ProveOpzioniSenzaScrittura, OneMessageAGestureAndMemoryFollowsTheFile) {
+    finestra.ctlLIST.clicca(5);
+    scrivi(finestra.txtVeicoli[1], "2,2");
+    const auto prima = app.configurazione.VEAutotreni;
+    finestra.ctlToolbar.premi("AggiornaDati");
+    atteso(1);
+    EXPECT_EQ(app.configurazione.LayoutPannello, 3);
+    EXPECT_NE(app.configurazione.VEAutotreni, 2.2F);
+    EXPECT_EQ(app.configurazione.VEAutotreni, ini("VEICOLI EQUIVALENTI", "Autotreni").empty() ? 0.0F : prima);
+    EXPECT_EQ(finestra.pannello.aspetto().sfondo, (Colore{0, 0, 192}));
+    EXPECT_FALSE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveOpzioniSenzaScrittura, ATickThatCannotBeWrittenGoesAgain) {
+    finestra.ckMENU.clicca();
+    atteso(1);
+    EXPECT_FALSE(finestra.ckMENU.spuntata());
+    EXPECT_EQ(cornice.passi, (std::vector<std::string>{"menu mostrati"}));
+    finestra.ckTREE.clicca();
+    atteso(2);
+    EXPECT_FALSE(finestra.ckTREE.spuntata());
+}
+
+TEST_F(ProveOpzioni, LeavingWithoutAChangeDoesNotTouchTheConfiguration) {
+    finestra.SaveData();
+    const std::string prima = contenuto(app.theAmbiente.PercorsoIni());
+    std::filesystem::permissions(app.theAmbiente.PercorsoIni(), std::filesystem::perms::owner_read);
+    EXPECT_TRUE(gestione.ShowForm(&altra));
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_EQ(contenuto(app.theAmbiente.PercorsoIni()), prima);
+    std::filesystem::permissions(app.theAmbiente.PercorsoIni(), std::filesystem::perms::owner_all);
 }
 
 TEST_F(ProveOpzioni, OddDecimalsAreNotTouchedByLooking) {

@@ -84,7 +84,23 @@ TEST_P(Invarianza, LookingAtEveryWindowLeavesTheSavedFileByteForByte) {
 TEST_P(Invarianza, SoDoesAProjectWhoseEveryPropertyIsItsOwn) {
     Rotonda progetto;
     riempi(progetto, 7, 12);
-    // Times that the window can show; all else is as strange as it comes.
+    // What a window would refuse stands within its limits, with more decimals than it shows; all else is as strange as
+    // it comes.
+    progetto.ValorePercentile(95.00001F);
+    for (std::int16_t i = 1; i <= progetto.NumeroRami(); ++i) {
+        Ramo& ramo = progetto.Ramo(i);
+        ramo.Descrizione("nome " + std::to_string(i) + " 'àè€' 😀\n\t\x01 fine");
+        AnalisiMarginale& analisi = ramo.theAnalisiMarginale();
+        const double strano = 1.0 + i / 7.0;
+        analisi.LarghezzaIngresso(strano / 3.0);
+        analisi.SemiLarghezza(strano / 9.0);
+        analisi.LungSvasatura(strano * 3.0);
+        analisi.AngoloConflitto(strano);
+        analisi.RaggioCurvatura(strano * 2.0);
+        analisi.DiametroInscritto(strano * 5.0);
+        analisi.AttraversamentoPedonale(strano * 11.0);
+        analisi.CondizioniEsterne(-strano * 13.0);
+    }
     progetto.TempoIniziale(oraDelGiorno(7, 30));
     progetto.SegmentoTempo(oraDelGiorno(0, 5));
     progetto.TempoFinale(oraDelGiorno(8, 30));

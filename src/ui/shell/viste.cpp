@@ -22,6 +22,9 @@ constexpr std::array viste{
     VoceVista{"frmINFO", vista_frmINFO},
     VoceVista{"frmSplash", vista_frmSplash},
     VoceVista{"frmTempoModellazione", vista_frmTempoModellazione},
+    VoceVista{"frmToponomasticaIntersezione", vista_frmToponomasticaIntersezione},
+    VoceVista{"frmAnalisiMarginale", vista_frmAnalisiMarginale},
+    VoceVista{"frmOpzioni", vista_frmOpzioni},
 };
 
 }  // namespace

@@ -12,5 +12,8 @@ VistaFinestra* vista_frmInputNumeroRami(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmINFO(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmSplash(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmTempoModellazione(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmToponomasticaIntersezione(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmAnalisiMarginale(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmOpzioni(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui
