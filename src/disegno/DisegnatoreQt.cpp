@@ -10,6 +10,7 @@
 #include <cmath>
 #include <functional>
 
+#include "disegno/pittoreGrafico.h"
 #include "disegno/pittorePianta.h"
 #include "pianta/Pianta.h"
 
@@ -100,7 +101,10 @@ EsitoDisegno pdf(const Foglio& foglio) {
     return finito(byte);
 }
 
-EsitoDisegno scrivi(const Foglio& foglio, FormatoDisegno formato, double scala) {
+EsitoDisegno scrivi(const Foglio& foglio, FormatoDisegno formato, double scalaChiesta) {
+    constexpr double minima = 0.5;
+    constexpr double massima = 8.0;
+    const double scala = std::clamp(scalaChiesta, minima, massima);
     switch (formato) {
         case FormatoDisegno::svg:
             return svg(foglio);
@@ -112,23 +116,43 @@ EsitoDisegno scrivi(const Foglio& foglio, FormatoDisegno formato, double scala) 
     return png(foglio, scala);
 }
 
+/// Size of a drawing of which the own shape is `forma` times as high as wide.
+QSize misuraFoglio(const MisuraDisegno& misura, double forma) {
+    const int larga = std::clamp(misura.larghezza, MisuraDisegno::minimaLarghezza, MisuraDisegno::massimaLarghezza);
+    const int alta = misura.altezza > 0 ? misura.altezza : static_cast<int>(std::lround(larga * forma));
+    return {larga, std::clamp(alta, 1, MisuraDisegno::massimaLarghezza)};
+}
+
+/// How much wider pens are than on a screen.
+double ingrandimento(QSize misura) {
+    return std::max(1.0, misura.width() / larghezzaUsuale);
+}
+
 }  // namespace
 
 EsitoDisegno DisegnatoreQt::pianta(const pianta::DatiPianta& dati, const pianta::OpzioniPianta& opzioni,
                                    FormatoDisegno formato, const MisuraDisegno& misura) {
     const pianta::Pianta disegno = pianta::costruisci(dati, opzioni);
-    const int larga = std::clamp(misura.larghezza, MisuraDisegno::minimaLarghezza, MisuraDisegno::massimaLarghezza);
-    const double propria = larga * disegno.vista.altezza() / disegno.vista.larghezza();
-    const int alta = std::clamp(misura.altezza > 0 ? misura.altezza : static_cast<int>(std::lround(propria)), 1,
-                                MisuraDisegno::massimaLarghezza);
-    const StilePianta stile{.tratto = std::max(1.0, larga / larghezzaUsuale)};
-    const Foglio foglio{
-        .misura = QSizeF(larga, alta),
-        .titolo = QString::fromStdString(disegno.nomeAccessibile),
-        .dipingi = [&](QPainter& pennello) { dipingiPianta(pennello, disegno, QRectF(0, 0, larga, alta), stile); }};
-    constexpr double minima = 0.5;
-    constexpr double massima = 8.0;
-    return scrivi(foglio, formato, std::clamp(misura.scala, minima, massima));
+    const QSize intera = misuraFoglio(misura, disegno.vista.altezza() / disegno.vista.larghezza());
+    const StilePianta stile{.tratto = ingrandimento(intera)};
+    const QRectF spazio(QPointF(0, 0), intera);
+    const Foglio foglio{.misura = intera,
+                        .titolo = QString::fromStdString(disegno.nomeAccessibile),
+                        .dipingi = [&](QPainter& pennello) { dipingiPianta(pennello, disegno, spazio, stile); }};
+    return scrivi(foglio, formato, misura.scala);
+}
+
+EsitoDisegno DisegnatoreQt::grafico(const Grafico::Contenuto& contenuto, FormatoDisegno formato,
+                                    const MisuraDisegno& misura) {
+    constexpr double forma = 0.6;
+    const QSize intera = misuraFoglio(misura, forma);
+    const StileGrafico stile{.scala = ingrandimento(intera)};
+    const QRectF spazio(QPointF(0, 0), intera);
+    const std::string& titolo = contenuto.titolo.empty() ? contenuto.y.titolo : contenuto.titolo;
+    const Foglio foglio{.misura = intera,
+                        .titolo = QString::fromStdString(titolo).simplified(),
+                        .dipingi = [&](QPainter& pennello) { dipingiGrafico(pennello, contenuto, spazio, stile); }};
+    return scrivi(foglio, formato, misura.scala);
 }
 
 }  // namespace kelvo::disegno
