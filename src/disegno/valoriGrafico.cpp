@@ -65,10 +65,9 @@ Segno segnoBarra(const Serie& serie, const Assi& assi, std::size_t i, double sca
 bool inValle(const Serie& serie, const Assi& assi, std::size_t i) {
     const double v = serie.valori[i];
     const double suolo = assi.base() > assi.y(v) ? std::min(assi.base(), assi.campo.bottom()) : assi.campo.bottom();
-    const bool prima = i == 0 || serie.valori[i - 1] >= v;
-    const bool dopo = i + 1 == serie.valori.size() || serie.valori[i + 1] >= v;
-    const bool altrove = (i > 0 && serie.valori[i - 1] > v) || (i + 1 < serie.valori.size() && serie.valori[i + 1] > v);
-    return prima && dopo && altrove && assi.y(v) + sopraPunto + altezzaRiga(tipoMinuto) < suolo;
+    const bool prima = i > 0 && serie.valori[i - 1] > v;
+    const bool dopo = i + 1 < serie.valori.size() && serie.valori[i + 1] > v;
+    return prima && dopo && assi.y(v) + sopraPunto + altezzaRiga(tipoMinuto) < suolo;
 }
 
 Segno segnoPunto(const Serie& serie, const Assi& assi, std::size_t i) {

@@ -117,6 +117,28 @@ TEST_F(Grafici, ValuesAreThinnedOutAroundTheLargestAndOnlyWhereTheyMust) {
     EXPECT_TRUE(di(disponi(senza, usuale), Testi::valore).empty());
 }
 
+TEST_F(Grafici, ValuesOfALineStandOnItsFreeSide) {
+    // Up, peak, down, valley, up: the middle of each label from its point on.
+    const Disposizione d = disponi(prova::prestazioni({20, 40, 60, 40, 20, 60}, 10, Forma::linee), usuale);
+    const std::vector<Disposizione::Testo> testi = di(d, Testi::valore);
+    ASSERT_EQ(testi.size(), 6U);
+    const auto scarto = [&](const char* parole, int punto) {
+        for (const Disposizione::Testo& t : testi) {
+            const QPointF da = t.dove.center() - d.linee[0].punti[punto];
+            if (t.parole.toStdString() == parole && std::abs(da.x()) < 40.0) {
+                return da;
+            }
+        }
+        return QPointF();
+    };
+    EXPECT_LT(scarto("20,0", 0).y(), 0.0);
+    EXPECT_LT(scarto("40,0", 1).x(), -1.0);  // it rises: to the left
+    EXPECT_NEAR(scarto("60,0", 2).x(), 0.0, 0.01);
+    EXPECT_LT(scarto("60,0", 2).y(), 0.0);
+    EXPECT_GT(scarto("40,0", 3).x(), 1.0);
+    EXPECT_GT(scarto("20,0", 4).y(), 0.0);  // the valley: below
+}
+
 TEST_F(Grafici, LabelsALittleTooWideAreSetSmallerRatherThanLeftOut) {
     // Widths at which the labels are between 1 and 1.15 steps.
     bool ridotte = false;
