@@ -1,6 +1,8 @@
 #include "disegno/DisegnatoreQt.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QStringList>
+#include <QtGui/QFontInfo>
 #include <QtGui/QImage>
 #include <QtGui/QPageSize>
 #include <QtGui/QPainter>
@@ -10,6 +12,7 @@
 #include <cmath>
 #include <functional>
 
+#include "disegno/caratteri.h"
 #include "disegno/pittoreGrafico.h"
 #include "disegno/pittorePianta.h"
 #include "pianta/Pianta.h"
@@ -56,6 +59,28 @@ EsitoDisegno png(const Foglio& foglio, double scala) {
     return immagine.save(&memoria, "PNG") ? finito(byte) : nonRiuscito("l'immagine non si lascia scrivere");
 }
 
+/// The families of a face as a list for style sheets, the one that was measured first.
+QByteArray elencoFamiglie(const QFont& tipo) {
+    QStringList nomi{QFontInfo(tipo).family()};
+    nomi << tipo.families();
+    nomi.removeDuplicates();
+    return "'" + nomi.join(QStringLiteral("','")).toUtf8() + "',sans-serif";
+}
+
+/// The toolkit names the first family of a face alone, which few systems have: all are named in its place.
+void nominaFamiglie(QByteArray& svg, const QFont& tipo, const QByteArray& peso) {
+    const QByteArray prima = "font-family=\"" + tipo.families().constFirst().toUtf8() + '"';
+    const QByteArray tutte = "font-family=\"" + elencoFamiglie(tipo) + '"';
+    const QByteArray normale = "font-weight=\"400\"";
+    for (qsizetype i = svg.indexOf(prima); i >= 0; i = svg.indexOf(prima, i + tutte.size())) {
+        svg.replace(i, prima.size(), tutte);
+        const qsizetype dove = svg.indexOf(normale, i);
+        if (dove >= 0 && dove < svg.indexOf('>', i)) {
+            svg.replace(dove, normale.size(), "font-weight=\"" + peso + '"');
+        }
+    }
+}
+
 EsitoDisegno svg(const Foglio& foglio) {
     QByteArray byte;
     QBuffer memoria(&byte);
@@ -74,6 +99,9 @@ EsitoDisegno svg(const Foglio& foglio) {
     pennello.fillRect(QRectF(QPointF(0, 0), foglio.misura), Qt::white);
     foglio.dipingi(pennello);
     pennello.end();
+    constexpr double qualunque = 12.0;
+    nominaFamiglie(byte, dati(qualunque), "400");
+    nominaFamiglie(byte, forte(qualunque), "600");
     return finito(byte);
 }
 

@@ -185,5 +185,29 @@ TEST_F(GraficiDipinti, WordsOfAnSvgStayWords) {
     EXPECT_EQ(titolo.toStdString(), "Ritardi - S.P. 62 Sud");
 }
 
+TEST_F(GraficiDipinti, AnSvgNamesEveryFamilyOfItsFacesAndTheWeightOfTheStrongOne) {
+    const EsitoDisegno esito =
+        DisegnatoreQt().grafico(prova::prestazioni(prova::ritardi, 10), FormatoDisegno::svg, {.larghezza = 900});
+    QXmlStreamReader lettore(QByteArray::fromStdString(esito.dati));
+    int forti = 0;
+    int normali = 0;
+    while (!lettore.atEnd()) {
+        if (lettore.readNext() != QXmlStreamReader::StartElement || lettore.name() != QLatin1String("text")) {
+            continue;
+        }
+        const QString famiglie = lettore.attributes().value(QLatin1String("font-family")).toString();
+        const QString peso = lettore.attributes().value(QLatin1String("font-weight")).toString();
+        EXPECT_TRUE(famiglie.contains(QLatin1String("'Open Sans'"))) << famiglie.toStdString();
+        EXPECT_TRUE(famiglie.endsWith(QLatin1String(",sans-serif"))) << famiglie.toStdString();
+        const QString parole = lettore.readElementText();
+        const bool forte = parole == QLatin1String("71,4") || parole.startsWith(QLatin1String("Ritardi"));
+        EXPECT_EQ(peso.toStdString(), forte ? "600" : "400") << parole.toStdString();
+        (forte ? forti : normali) += 1;
+    }
+    EXPECT_FALSE(lettore.hasError()) << lettore.errorString().toStdString();
+    EXPECT_EQ(forti, 2);
+    EXPECT_GT(normali, 20);
+}
+
 }  // namespace
 }  // namespace kelvo::disegno
