@@ -24,6 +24,7 @@ inline std::string ora(int minuti) {
 
 inline std::vector<std::string> testi(const std::vector<double>& valori, Formato formato) {
     std::vector<std::string> fatti;
+    fatti.reserve(valori.size());
     for (const double v : valori) {
         fatti.push_back(formatta(v, formato));
     }
@@ -37,6 +38,7 @@ inline const std::vector<double> ritardi{3.4,  4.2,  4.4,  4.7, 5.7, 8.0, 13.9, 
 /// A peak in the middle of `quanti` segments.
 inline std::vector<double> onda(int quanti, double basso, double picco) {
     std::vector<double> valori;
+    valori.reserve(static_cast<std::size_t>(quanti));
     for (int i = 0; i < quanti; ++i) {
         const double t = (i - quanti * 0.47) / (quanti * 0.14);
         valori.push_back(std::round((basso + (picco - basso) * std::exp(-t * t)) * 100.0) / 100.0);
@@ -94,7 +96,7 @@ inline Contenuto livelli(Forma forma) {
 
 inline const char* const categorie = "Autoarticolati*Autotreni*Autobus*Camper*Roulotte*Veicoli a due ruote*Autovetture";
 
-inline Contenuto composizione(Forma forma, std::vector<double> valori = {3.5, 2.0, 1.5, 0.0, 1.0, 6.0, 86.0}) {
+inline Contenuto composizione(Forma forma, const std::vector<double>& valori = {3.5, 2.0, 1.5, 0.0, 1.0, 6.0, 86.0}) {
     Contenuto c;
     c.titolo = "Composizione del traffico";
     c.x = {.etichette = etichetteDaTesto(categorie), .passiPerEtichetta = 1.0, .posa = Posa::nome};

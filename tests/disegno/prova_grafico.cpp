@@ -142,8 +142,8 @@ TEST_F(Grafici, ValuesOfALineStandOnItsFreeSide) {
 TEST_F(Grafici, LabelsALittleTooWideAreSetSmallerRatherThanLeftOut) {
     // Widths at which the labels are between 1 and 1.15 steps.
     bool ridotte = false;
-    for (double larga = 400; larga < 560; larga += 4) {
-        const auto valori = di(disponi(prova::prestazioni(prova::ritardi, 10), {larga, 440}), Testi::valore);
+    for (int larga = 400; larga < 560; larga += 4) {
+        const auto valori = di(disponi(prova::prestazioni(prova::ritardi, 10), QSizeF(larga, 440)), Testi::valore);
         if (valori.size() == 18 && valori.front().altezza < 12) {
             ridotte = true;
             EXPECT_GE(valori.front().altezza, 10);

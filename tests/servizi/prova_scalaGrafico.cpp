@@ -54,16 +54,17 @@ TEST(ScalaGrafico, TheDecimalsTellTheTicksApart) {
 }
 
 TEST(ScalaGrafico, FourToEightRoundTicksOnAnyAxis) {
-    for (double massimo = 1e-4; massimo < 1e7; massimo *= 1.07) {
+    for (int i = 0; i < 375; ++i) {
+        const double massimo = 1e-4 * std::pow(1.07, i);  // to ten million
         for (const double minimo : {0.0, -0.4 * massimo, 0.9 * massimo}) {
             for (const Scala& scala : {scalaEntro(minimo, massimo, 8), scalaAttorno(minimo, massimo, 8)}) {
                 ASSERT_GE(scala.tacche.size(), 4U) << minimo << " " << massimo;
                 ASSERT_LE(scala.tacche.size(), 8U) << minimo << " " << massimo;
                 const double passo = scala.tacche[1] - scala.tacche[0];
-                for (std::size_t i = 0; i < scala.tacche.size(); ++i) {
-                    ASSERT_GE(scala.tacche[i], scala.minimo);
-                    ASSERT_LE(scala.tacche[i], scala.massimo);
-                    ASSERT_NEAR(scala.tacche[i] / passo, std::round(scala.tacche[i] / passo), 1e-5);
+                for (const double tacca : scala.tacche) {
+                    ASSERT_GE(tacca, scala.minimo);
+                    ASSERT_LE(tacca, scala.massimo);
+                    ASSERT_NEAR(tacca / passo, std::round(tacca / passo), 1e-5);
                 }
                 // At most three digits tell a step.
                 const double cifre = passo / std::pow(10.0, std::floor(std::log10(passo)) - 1);
