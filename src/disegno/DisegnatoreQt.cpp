@@ -1,6 +1,8 @@
 #include "disegno/DisegnatoreQt.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QStringList>
+#include <QtGui/QFontInfo>
 #include <QtGui/QImage>
 #include <QtGui/QPageSize>
 #include <QtGui/QPainter>
@@ -10,6 +12,8 @@
 #include <cmath>
 #include <functional>
 
+#include "disegno/caratteri.h"
+#include "disegno/pittoreGrafico.h"
 #include "disegno/pittorePianta.h"
 #include "pianta/Pianta.h"
 
@@ -55,6 +59,28 @@ EsitoDisegno png(const Foglio& foglio, double scala) {
     return immagine.save(&memoria, "PNG") ? finito(byte) : nonRiuscito("l'immagine non si lascia scrivere");
 }
 
+/// The families of a face as a list for style sheets, the one that was measured first.
+QByteArray elencoFamiglie(const QFont& tipo) {
+    QStringList nomi{QFontInfo(tipo).family()};
+    nomi << tipo.families();
+    nomi.removeDuplicates();
+    return "'" + nomi.join(QStringLiteral("','")).toUtf8() + "',sans-serif";
+}
+
+/// The toolkit names the first family of a face alone, which few systems have: all are named in its place.
+void nominaFamiglie(QByteArray& svg, const QFont& tipo, const QByteArray& peso) {
+    const QByteArray prima = "font-family=\"" + tipo.families().constFirst().toUtf8() + '"';
+    const QByteArray tutte = "font-family=\"" + elencoFamiglie(tipo) + '"';
+    const QByteArray normale = "font-weight=\"400\"";
+    for (qsizetype i = svg.indexOf(prima); i >= 0; i = svg.indexOf(prima, i + tutte.size())) {
+        svg.replace(i, prima.size(), tutte);
+        const qsizetype dove = svg.indexOf(normale, i);
+        if (dove >= 0 && dove < svg.indexOf('>', i)) {
+            svg.replace(dove, normale.size(), "font-weight=\"" + peso + '"');
+        }
+    }
+}
+
 EsitoDisegno svg(const Foglio& foglio) {
     QByteArray byte;
     QBuffer memoria(&byte);
@@ -73,6 +99,9 @@ EsitoDisegno svg(const Foglio& foglio) {
     pennello.fillRect(QRectF(QPointF(0, 0), foglio.misura), Qt::white);
     foglio.dipingi(pennello);
     pennello.end();
+    constexpr double qualunque = 12.0;
+    nominaFamiglie(byte, dati(qualunque), "400");
+    nominaFamiglie(byte, forte(qualunque), "600");
     return finito(byte);
 }
 
@@ -100,7 +129,10 @@ EsitoDisegno pdf(const Foglio& foglio) {
     return finito(byte);
 }
 
-EsitoDisegno scrivi(const Foglio& foglio, FormatoDisegno formato, double scala) {
+EsitoDisegno scrivi(const Foglio& foglio, FormatoDisegno formato, double scalaChiesta) {
+    constexpr double minima = 0.5;
+    constexpr double massima = 8.0;
+    const double scala = std::clamp(scalaChiesta, minima, massima);
     switch (formato) {
         case FormatoDisegno::svg:
             return svg(foglio);
@@ -112,23 +144,43 @@ EsitoDisegno scrivi(const Foglio& foglio, FormatoDisegno formato, double scala) 
     return png(foglio, scala);
 }
 
+/// Size of a drawing of which the own shape is `forma` times as high as wide.
+QSize misuraFoglio(const MisuraDisegno& misura, double forma) {
+    const int larga = std::clamp(misura.larghezza, MisuraDisegno::minimaLarghezza, MisuraDisegno::massimaLarghezza);
+    const int alta = misura.altezza > 0 ? misura.altezza : static_cast<int>(std::lround(larga * forma));
+    return {larga, std::clamp(alta, 1, MisuraDisegno::massimaLarghezza)};
+}
+
+/// How much wider pens are than on a screen.
+double ingrandimento(QSize misura) {
+    return std::max(1.0, misura.width() / larghezzaUsuale);
+}
+
 }  // namespace
 
 EsitoDisegno DisegnatoreQt::pianta(const pianta::DatiPianta& dati, const pianta::OpzioniPianta& opzioni,
                                    FormatoDisegno formato, const MisuraDisegno& misura) {
     const pianta::Pianta disegno = pianta::costruisci(dati, opzioni);
-    const int larga = std::clamp(misura.larghezza, MisuraDisegno::minimaLarghezza, MisuraDisegno::massimaLarghezza);
-    const double propria = larga * disegno.vista.altezza() / disegno.vista.larghezza();
-    const int alta = std::clamp(misura.altezza > 0 ? misura.altezza : static_cast<int>(std::lround(propria)), 1,
-                                MisuraDisegno::massimaLarghezza);
-    const StilePianta stile{.tratto = std::max(1.0, larga / larghezzaUsuale)};
-    const Foglio foglio{
-        .misura = QSizeF(larga, alta),
-        .titolo = QString::fromStdString(disegno.nomeAccessibile),
-        .dipingi = [&](QPainter& pennello) { dipingiPianta(pennello, disegno, QRectF(0, 0, larga, alta), stile); }};
-    constexpr double minima = 0.5;
-    constexpr double massima = 8.0;
-    return scrivi(foglio, formato, std::clamp(misura.scala, minima, massima));
+    const QSize intera = misuraFoglio(misura, disegno.vista.altezza() / disegno.vista.larghezza());
+    const StilePianta stile{.tratto = ingrandimento(intera)};
+    const QRectF spazio(QPointF(0, 0), intera);
+    const Foglio foglio{.misura = intera,
+                        .titolo = QString::fromStdString(disegno.nomeAccessibile),
+                        .dipingi = [&](QPainter& pennello) { dipingiPianta(pennello, disegno, spazio, stile); }};
+    return scrivi(foglio, formato, misura.scala);
+}
+
+EsitoDisegno DisegnatoreQt::grafico(const Grafico::Contenuto& contenuto, FormatoDisegno formato,
+                                    const MisuraDisegno& misura) {
+    constexpr double forma = 0.6;
+    const QSize intera = misuraFoglio(misura, forma);
+    const StileGrafico stile{.scala = ingrandimento(intera)};
+    const QRectF spazio(QPointF(0, 0), intera);
+    const std::string& titolo = contenuto.titolo.empty() ? contenuto.y.titolo : contenuto.titolo;
+    const Foglio foglio{.misura = intera,
+                        .titolo = QString::fromStdString(titolo).simplified(),
+                        .dipingi = [&](QPainter& pennello) { dipingiGrafico(pennello, contenuto, spazio, stile); }};
+    return scrivi(foglio, formato, misura.scala);
 }
 
 }  // namespace kelvo::disegno

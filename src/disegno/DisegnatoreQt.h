@@ -9,6 +9,8 @@ class DisegnatoreQt final : public Disegnatore {
 public:
     EsitoDisegno pianta(const pianta::DatiPianta& dati, const pianta::OpzioniPianta& opzioni, FormatoDisegno formato,
                         const MisuraDisegno& misura) override;
+    EsitoDisegno grafico(const Grafico::Contenuto& contenuto, FormatoDisegno formato,
+                         const MisuraDisegno& misura) override;
 };
 
 }  // namespace kelvo::disegno

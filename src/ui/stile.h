@@ -60,6 +60,8 @@ inline constexpr int spazioSpunte = 2;  ///< between rows of check boxes with a 
 inline constexpr int lineaRamo = 18;    ///< between title and leg in the caption panel
 inline constexpr int avanzamento = 360;
 inline constexpr int note = 84;
+inline constexpr int grafico = 480;  ///< usual width of a chart; 5 wide to 3 high
+inline constexpr int graficoMinimo = 240;
 }  // namespace misura
 
 /// Sizes of the type, points.

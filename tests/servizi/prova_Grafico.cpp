@@ -92,8 +92,37 @@ TEST_F(ProveGrafico, RefusesWhatCannotBeDrawnAndKeepsWhatItHas) {
     EXPECT_EQ(numeroDi([](C& c) { c.x.passiPerEtichetta = -1.0; }), 5);
     EXPECT_EQ(numeroDi([](C& c) { c.serie[0].valori[1] = std::numeric_limits<double>::quiet_NaN(); }), 6);
     EXPECT_EQ(numeroDi([](C& c) { c.y.massimo = std::numeric_limits<double>::infinity(); }), 6);
+    EXPECT_EQ(numeroDi([](C& c) { c.soglie = {{.valore = std::numeric_limits<double>::infinity()}}; }), 6);
     EXPECT_EQ(grafico.contenuto(), contenuto);
     EXPECT_EQ(segnali, 0);
+}
+
+TEST_F(ProveGrafico, SaysInWordsWhatItShows) {
+    EXPECT_EQ(grafico.descrizione(), "A: 3 valori, minimo 7, massimo 30; B: 2 valori, minimo -2, massimo 4");
+    contenuto.serie = {{.valori = {4.25, 9.5, 4.25, 9.5}}};
+    contenuto.x = {.etichette = {"a", "b", "c", "d"}, .passiPerEtichetta = 1.0};
+    grafico.contenuto(contenuto);
+    EXPECT_EQ(grafico.descrizione(), "4 valori, minimo 4,25 (a), massimo 9,5 (b)");
+    contenuto.serie = {{.valori = {4.0}, .testi = {"quattro"}, .ascisse = {3.75}}};
+    grafico.contenuto(contenuto);
+    EXPECT_EQ(grafico.descrizione(), "1 valore, minimo quattro (3,75), massimo quattro (3,75)");
+}
+
+TEST_F(ProveGrafico, WithoutValuesItSaysItsInvitation) {
+    grafico.svuota();
+    EXPECT_EQ(grafico.descrizione(), "Nessun dato");
+    contenuto.serie.clear();
+    contenuto.invito = "Calcola (F9)";
+    grafico.contenuto(contenuto);
+    EXPECT_EQ(grafico.descrizione(), "Calcola (F9)");
+}
+
+TEST_F(ProveGrafico, ThresholdsAreContent) {
+    contenuto.soglie = {{.testo = "massimo", .valore = 20.0}};
+    grafico.contenuto(contenuto);
+    EXPECT_EQ(segnali, 1);
+    EXPECT_EQ(grafico.contenuto().soglie[0].colore, tinta::errore);
+    EXPECT_EQ(grafico.massimo(), 30.0);
 }
 
 }  // namespace

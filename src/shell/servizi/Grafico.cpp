@@ -36,6 +36,34 @@ void controllaAsse(const Grafico::Asse& asse, const std::string& nome) {
     }
 }
 
+/// A value as its label says it, else in its plain form.
+std::string detto(const Grafico::Serie& serie, std::size_t i) {
+    return serie.testi.empty() ? testoNumero(serie.valori[i]) : serie.testi[i];
+}
+
+/// What stands on the X axis at value `i`; empty where nothing does.
+std::string luogo(const Grafico::Asse& x, const Grafico::Serie& serie, std::size_t i) {
+    if (!serie.ascisse.empty()) {
+        return testoNumero(serie.ascisse[i]);
+    }
+    const bool unaPerValore =
+        x.etichette.size() == serie.valori.size() && (x.passiPerEtichetta == 1.0 || x.passiPerEtichetta == 0.0);
+    return unaPerValore ? x.etichette[i] : std::string{};
+}
+
+std::string inParole(const Grafico::Asse& x, const Grafico::Serie& serie) {
+    const auto estremo = [&](const char* nome, std::vector<double>::const_iterator quale) {
+        const auto i = static_cast<std::size_t>(quale - serie.valori.begin());
+        const std::string dove = luogo(x, serie, i);
+        return std::string(nome) + detto(serie, i) + (dove.empty() ? "" : " (" + dove + ")");
+    };
+    const auto minimo = std::min_element(serie.valori.begin(), serie.valori.end());
+    const auto massimo = std::max_element(serie.valori.begin(), serie.valori.end());
+    return (serie.nome.empty() ? "" : serie.nome + ": ") + std::to_string(serie.valori.size()) +
+           (serie.valori.size() == 1 ? " valore" : " valori") + estremo(", minimo ", minimo) +
+           estremo(", massimo ", massimo);
+}
+
 }  // namespace
 
 std::vector<std::string> etichetteDaTesto(std::string_view testo) {
@@ -67,6 +95,11 @@ void Grafico::contenuto(Contenuto nuovo) {
     controllaAsse(nuovo.y, nome());
     for (const Serie& serie : nuovo.serie) {
         controllaSerie(serie, nome());
+    }
+    for (const Soglia& soglia : nuovo.soglie) {
+        if (!std::isfinite(soglia.valore)) {
+            throw Guasto(NumeroGuasto::overflow, nome() + ", soglia '" + soglia.testo + "'");
+        }
     }
     if (!(nuovo == contenuto_)) {
         contenuto_ = std::move(nuovo);
@@ -119,6 +152,16 @@ double Grafico::minimo() const {
         }
     }
     return trovato;
+}
+
+std::string Grafico::descrizione() const {
+    std::string testo;
+    for (const Serie& serie : contenuto_.serie) {
+        if (!serie.valori.empty()) {
+            testo += (testo.empty() ? "" : "; ") + inParole(contenuto_.x, serie);
+        }
+    }
+    return testo.empty() ? contenuto_.invito : testo;
 }
 
 }  // namespace kelvo

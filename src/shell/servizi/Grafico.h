@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "shell/servizi/Controllo.h"
+#include "shell/servizi/tinte.h"
 
 namespace kelvo {
 
@@ -19,16 +20,28 @@ class Grafico final : public Controllo {
 public:
     enum class Forma { barre, linee, torta };
 
-    /// An axis: values from `minimo` to `massimo`, or labels.
+    /// How the labels of an axis stand, and what becomes of them where they do not fit.
+    enum class Posa {
+        tacca,   ///< at a longer tick at the beginning of their steps; thinned out
+        centro,  ///< in the middle of their steps; thinned out
+        nome     ///< in the middle of their steps; all are shown, in more lines or shortened
+    };
+
+    /// An axis from `minimo` to `massimo`, with the values at its ticks or with labels. Where the two are equal it runs
+    /// as far as the series do: an axis of values from 0 on, one of steps over all of them. An axis of bars always
+    /// holds 0, one of steps all steps.
     struct Asse {
         std::string titolo{};
         double minimo = 0.0;
         double massimo = 0.0;
-        int tacche = 0;  ///< ticks at equal distances, the first at the beginning, the last at the end; 0 for none
+        /// Ticks at equal distances, the first at the beginning, the last at the end. 0: at round values on an axis
+        /// that shows values, else at the labels alone.
+        int tacche = 0;
         std::vector<std::string> etichette{};  ///< empty for the values at the ticks
         /// Steps of the series from one label to the next, the first at the beginning of the axis; 0 for labels at
         /// equal distances from the beginning to the end.
         double passiPerEtichetta = 0.0;
+        Posa posa = Posa::tacca;  ///< on the X axis
         friend bool operator==(const Asse&, const Asse&) = default;
     };
 
@@ -39,12 +52,21 @@ public:
         Colore colore{};
         std::vector<double> valori{};
         std::vector<std::string> testi{};  ///< labels of the values; as many as values, or empty for no labels
-        std::vector<double> ascisse{};     ///< places on the X axis; empty for one step a value
-        std::vector<Colore> colori{};      ///< a colour for each value (bars and slices); empty for the one above
+        std::vector<double> ascisse{};     ///< places on the X axis; empty for one step of 1 a value, from 0 on
+        /// A colour for each value (bars and slices). Empty: bars have the one above, slices those of the categories.
+        std::vector<Colore> colori{};
         friend bool operator==(const Serie&, const Serie&) = default;
     };
 
-    /// All that is shown.
+    /// A value that the eye shall compare with: a dashed line across, with its text at its end.
+    struct Soglia {
+        std::string testo{};
+        double valore = 0.0;
+        Colore colore = tinta::errore;
+        friend bool operator==(const Soglia&, const Soglia&) = default;
+    };
+
+    /// All that is shown. Slices are of the first series that has that form; their names are the labels of `x`.
     struct Contenuto {
         std::string titolo{};
         std::string nota{};  ///< stands below the chart
@@ -52,14 +74,16 @@ public:
         Asse y{};
         std::vector<Serie> serie{};
         bool valori = false;   ///< the labels of the values are shown
-        bool legenda = false;  ///< the names of the series are shown
+        bool legenda = false;  ///< the names of the series are shown; those of slices always are
+        std::vector<Soglia> soglie{};
+        std::string invito = "Nessun dato";  ///< stands in the middle of a chart without values
         friend bool operator==(const Contenuto&, const Contenuto&) = default;
     };
 
     explicit Grafico(std::string nome) : Controllo(std::move(nome)) {}
     const Contenuto& contenuto() const { return contenuto_; }
     /// Fault 5 where a series has other labels, places or colours than values, or an axis ends before it begins;
-    /// fault 6 for a value that is no finite number.
+    /// fault 6 for a value or a threshold that is no finite number.
     void contenuto(Contenuto nuovo);
     /// Takes the series and their labels away; titles and axes stay.
     void svuota();
@@ -73,6 +97,9 @@ public:
     /// The largest (smallest) value of all series; 0 where there is none.
     double massimo() const;
     double minimo() const;
+    /// The chart in words, for who does not see it: number of values, the first of the smallest and of the largest with
+    /// their labels.
+    std::string descrizione() const;
 
 private:
     Contenuto contenuto_;

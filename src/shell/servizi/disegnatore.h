@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "shell/servizi/Grafico.h"
+
 namespace kelvo::pianta {
 struct DatiPianta;
 struct OpzioniPianta;
@@ -43,6 +45,10 @@ public:
     /// Plan of the roundabout. `opzioni.rapporto` and `opzioni.altezzaTesto` are taken as they are.
     virtual EsitoDisegno pianta(const pianta::DatiPianta& dati, const pianta::OpzioniPianta& opzioni,
                                 FormatoDisegno formato, const MisuraDisegno& misura) = 0;
+    /// A chart; its own shape is 5 wide to 3 high. Above 900 logical pixels of width type and lines grow with it, so
+    /// that a large picture on a page reads as a small one.
+    virtual EsitoDisegno grafico(const Grafico::Contenuto& contenuto, FormatoDisegno formato,
+                                 const MisuraDisegno& misura) = 0;
 };
 
 }  // namespace kelvo

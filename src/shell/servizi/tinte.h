@@ -35,6 +35,16 @@ inline constexpr Colore asfalto{217, 222, 227};
 inline constexpr Colore isola{220, 232, 168};
 inline constexpr Colore corona{238, 240, 228};  ///< apron and splitter islands
 inline constexpr Colore ingressoCorrente{191, 224, 246};
+
+// Charts: grid lines, the quantities that have a chart of their own, the categories of one chart in their order.
+inline constexpr Colore griglia{217, 222, 227};
+inline constexpr Colore serieCapacita{0, 114, 198};
+inline constexpr Colore serieSaturazione{196, 78, 0};
+inline constexpr Colore serieCode{0, 122, 98};
+inline constexpr Colore serieRitardi{136, 46, 114};
+inline constexpr Colore serieLOS{64, 72, 80};
+inline constexpr std::array<Colore, 7> categorie{
+    serieCapacita, serieSaturazione, serieCode, serieRitardi, serieLOS, Colore{240, 200, 40}, Colore{140, 200, 235}};
 }  // namespace tinta
 
 /// Widths of the pens, logical pixels at 100 %.
@@ -46,6 +56,9 @@ inline constexpr double quotaSecondaria = 1.0;
 inline constexpr double asse = 1.5;
 inline constexpr double percorso = 3.5;
 inline constexpr double disco = 1.5;
+inline constexpr double assi = 1.5;     ///< axes of a chart
+inline constexpr double griglia = 1.0;  ///< grid and ticks of a chart
+inline constexpr double serie = 2.0;    ///< line of a chart
 }  // namespace tratto
 
 /// Families of the faces, the first that a system has.
