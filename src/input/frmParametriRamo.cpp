@@ -30,11 +30,11 @@ constexpr std::array<std::string_view, 6> nomiNote{"lblNotaLarghezzaIngresso", "
                                                    "lblNotaLungSvasatura",     "lblNotaAngoloConflitto",
                                                    "lblNotaRaggioCurvatura",   "lblNotaDiametroInscritto"};
 
-const MisuraIngresso& misura(MisuraGeometrica quale) {
+const MisuraIngresso& misura(pianta::Misura quale) {
     return misureIngresso[static_cast<std::size_t>(quale)];
 }
 
-std::string tagMisura(MisuraGeometrica quale) {
+std::string tagMisura(pianta::Misura quale) {
     return tagNumerico(misura(quale).campo);
 }
 
@@ -48,12 +48,12 @@ double capacita(const Ramo& ramo, double circolante) {
 frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& servizi)
     : FinestraRamo(contorno, "frmParametriRamo", testi::didascalia),
       lblDescrizioneRamo("lblDescrizioneRamo"),
-      txtLarghezzaIngresso("txtLarghezzaIngresso", tBox::maskedit, tagMisura(MisuraGeometrica::larghezzaIngresso)),
-      txtSemiLarghezza("txtSemiLarghezza", tBox::maskedit, tagMisura(MisuraGeometrica::semiLarghezza)),
-      txtLungSvasatura("txtLungSvasatura", tBox::maskedit, tagMisura(MisuraGeometrica::lunghezzaSvasatura)),
-      txtAngoloConflitto("txtAngoloConflitto", tBox::maskedit, tagMisura(MisuraGeometrica::angoloConflitto)),
-      txtRaggioCurvatura("txtRaggioCurvatura", tBox::maskedit, tagMisura(MisuraGeometrica::raggioIngresso)),
-      txtDiametroInscritto("txtDiametroInscritto", tBox::maskedit, tagMisura(MisuraGeometrica::diametro)),
+      txtLarghezzaIngresso("txtLarghezzaIngresso", tBox::maskedit, tagMisura(pianta::Misura::larghezzaIngresso)),
+      txtSemiLarghezza("txtSemiLarghezza", tBox::maskedit, tagMisura(pianta::Misura::semiLarghezza)),
+      txtLungSvasatura("txtLungSvasatura", tBox::maskedit, tagMisura(pianta::Misura::lunghezzaSvasatura)),
+      txtAngoloConflitto("txtAngoloConflitto", tBox::maskedit, tagMisura(pianta::Misura::angoloConflitto)),
+      txtRaggioCurvatura("txtRaggioCurvatura", tBox::maskedit, tagMisura(pianta::Misura::raggioIngresso)),
+      txtDiametroInscritto("txtDiametroInscritto", tBox::maskedit, tagMisura(pianta::Misura::diametro)),
       chkAttraversamentoPedonale("chkAttraversamentoPedonale", testi::pedonale),
       cmdDM("cmdDM", testi::decreto),
       ctlPicture("ctlPicture", std::string{figuraVuota}),
@@ -169,13 +169,13 @@ Geometria frmParametriRamo::geometriaMostrata() const {
     return g;
 }
 
-std::optional<MisuraGeometrica> frmParametriRamo::misuraInUso() const {
+std::optional<pianta::Misura> frmParametriRamo::misuraInUso() const {
     const auto caselle = campi();
     const auto trovata = std::find(caselle.begin(), caselle.end(), fuoco());
     if (trovata == caselle.end()) {
         return std::nullopt;
     }
-    return static_cast<MisuraGeometrica>(trovata - caselle.begin());
+    return static_cast<pianta::Misura>(trovata - caselle.begin());
 }
 
 EsitoUscita frmParametriRamo::controllaCoppia(const tBox& campo) const {

@@ -54,7 +54,7 @@ public:
     /// The measures that are shown: what was typed where it can be read, else what the project holds.
     Geometria geometriaMostrata() const;
     /// The measure whose field has the focus.
-    std::optional<MisuraGeometrica> misuraInUso() const;
+    std::optional<pianta::Misura> misuraInUso() const;
     /// The measures shown, or the one in use, are others.
     sigc::signal<void()>& geometriaMutata() { return geometriaMutata_; }
 

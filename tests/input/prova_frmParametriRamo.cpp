@@ -295,7 +295,7 @@ TEST_F(ProveParametri, TheFieldInUseShowsItsPictureAndPage) {
         finestra.fuocoSu(*campi[i]);
         EXPECT_EQ(finestra.ctlPicture.risorsa(), attesi[i].first);
         EXPECT_EQ(finestra.ctlHelp.pagina(), attesi[i].second);
-        EXPECT_EQ(finestra.misuraInUso(), static_cast<MisuraGeometrica>(i));
+        EXPECT_EQ(finestra.misuraInUso(), static_cast<pianta::Misura>(i));
     }
     finestra.fuocoSu(finestra.txtDescrizioneRamo);
     EXPECT_EQ(finestra.ctlPicture.risorsa(), "VUOTA");
