@@ -105,7 +105,8 @@ std::optional<std::string> DialogoFileQt::salva(const RichiestaFile& richiesta) 
 }
 
 bool ApriDocumentiQt::apri(const std::string& percorso) {
-    return QFileInfo::exists(q(percorso)) && QDesktopServices::openUrl(QUrl::fromLocalFile(q(percorso)));
+    const QString file = q(percorso).remove(QLatin1Char('"'));
+    return QFileInfo::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 
 bool ApriDocumentiQt::avvia(const std::string& programma, const std::string& argomento) {
