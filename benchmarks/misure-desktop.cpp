@@ -11,6 +11,8 @@
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QTreeWidgetItemIterator>
@@ -133,6 +135,57 @@ void misuraScambi(QMainWindow& finestra) {
     stato("ancora");
 }
 
+/// Notes that a widget was painted.
+class Dipinto final : public QObject {
+public:
+    explicit Dipinto(QWidget& oggetto) { oggetto.installEventFilter(this); }
+    bool avvenuto = false;
+
+protected:
+    bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+        avvenuto = avvenuto || evento->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+/// A key typed into a measure of a leg to the figures shown and the plan painted.
+void misuraTasti(QMainWindow& finestra) {
+    constexpr QSize schermo(1366, 768);
+    finestra.resize(schermo);
+    auto& albero = *finestra.findChild<QTreeWidget*>(QStringLiteral("ctlTree"));
+    scambio(finestra, albero, "keyRamo1");
+    auto* campo = finestra.findChild<QLineEdit*>(QStringLiteral("txtLarghezzaIngresso"));
+    auto* pianta = finestra.findChild<QWidget*>(QStringLiteral("ctlPianta"));
+    auto* figura = finestra.findChild<QLabel*>(QStringLiteral("lblQ0"));
+    if (campo == nullptr || pianta == nullptr || figura == nullptr) {
+        std::cout << "guasto keyRamo1" << std::endl;
+        std::_Exit(1);
+    }
+    campo->setFocus(Qt::TabFocusReason);
+    Dipinto dipinto(*pianta);
+    QElapsedTimer tempo;
+    for (int i = 0; i < ripetizioni + 1; ++i) {
+        campo->selectAll();
+        esaurisci(finestra);
+        const QString prima = figura->text();
+        dipinto.avvenuto = false;
+        tempo.start();
+        QTest::keyClick(campo, i % 2 == 0 ? Qt::Key_7 : Qt::Key_8);
+        while (!dipinto.avvenuto) {
+            QCoreApplication::processEvents();
+        }
+        const double durata = static_cast<double>(tempo.nsecsElapsed()) / milione;
+        if (figura->text() == prima) {
+            std::cout << "guasto figure" << std::endl;
+            std::_Exit(1);
+        }
+        if (i > 0) {
+            std::cout << "tasto " << durata << "\n";
+        }
+    }
+    QTest::keyClick(campo, Qt::Key_Escape);
+}
+
 /// Runs as soon as the application object stands, before anything is shown.
 void comincia() {
     auto* orologio = new QTimer(QCoreApplication::instance());
@@ -154,6 +207,7 @@ void comincia() {
                   << memoria("VmHWM") << "\n";
         if (incarico.scambi) {
             misuraScambi(*finestra);
+            misuraTasti(*finestra);
         }
         std::cout << std::flush;
         std::_Exit(0);
@@ -216,6 +270,7 @@ int tabella(const char* programma, const QString& progetto) {
     riga("switch of windows, ms", figure.at("scambio"), "50");
     riga("empty repaint, ms", figure.at("vuoto"), "");
     riga("first showing of a window, ms", figure.at("primo"), "");
+    riga("key to redrawn plan and figures, ms", figure.at("tasto"), "16");
     fmt::print("\nobjects of the main window: {:.0f}, after {} switches {:.0f}, after {} {:.0f}\n",
                figure.at("prima_oggetti").at(0), scambiLunghi, figure.at("dopo_oggetti").at(0), scambiTanti,
                figure.at("ancora_oggetti").at(0));

@@ -44,6 +44,14 @@ frmPreviewRami::frmPreviewRami(const Contorno& contorno)
       lstRami("lstRami", intestazioni()) {
     ordina({&frDatiProgetto, &lblNumeroRami, &txtNumeroRami, &lblNomeProgetto, &txtNomeProgetto, &lblTitolo, &txtTitolo,
             &lblNote, &txtNote, &frGeometria, &lstRami, &lblAvviso});
+    lstRami.sceglie = true;
+    lstRami.numericheDa = 1;
+    lstRami.allAttivazione = [this](const std::string& riga) {
+        lstRami.seleziona(riga);
+        if (allaConferma) {
+            allaConferma();
+        }
+    };
     vuota(testi::scegli);
 }
 

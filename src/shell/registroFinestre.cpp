@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
@@ -19,12 +20,16 @@ std::unique_ptr<Finestra> crea(const Contorno& contorno) {
 
 }  // namespace
 
-void registraFinestre(FabbricaFinestre& finestre) {
+void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi) {
     finestre.registra("frmEmptyForm", crea<frmEmptyForm>);
     finestre.registra("frmInputNumeroRami", crea<frmInputNumeroRami>);
     finestre.registra("frmAnagraficaRotonda", crea<frmAnagraficaRotonda>);
     finestre.registra("frmCommittenteProfessionista", crea<frmCommittenteProfessionista>);
     finestre.registra("frmTempoModellazione", crea<frmTempoModellazione>);
+    finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmParametriRamo>(contorno,
+                                                  frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});
+    });
 }
 
 }  // namespace kelvo
