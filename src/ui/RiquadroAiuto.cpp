@@ -107,7 +107,9 @@ void RiquadroAiuto::sopra(QWidget* oggetto) {
     testo_->setMinimumHeight(misura::aiuto);
     testo_->setMaximumHeight(QWIDGETSIZE_MAX);
     pagina->addWidget(testo_, 1);
-    figura_->setFixedWidth(misura::figuraAccanto);
+    // On a narrow window the picture gives way down to 60 %.
+    figura_->setMinimumWidth(misura::figuraAccanto * 3 / 5);
+    figura_->setMaximumWidth(misura::figuraAccanto);
     pagina->addWidget(figura_);
     piano_->addLayout(pagina, partePagina);
 }

@@ -110,6 +110,7 @@ TEST_F(ProveViste, PanelsOfEveryWindowStandBesideEachOtherAndHoldTheirContent) {
     shell::ServiziFinestreFinti servizi;
     FabbricaFinestre fabbrica;
     registraFinestre(fabbrica, servizi.servizi());
+    navigazione.corrente = "keyRamo1";
     for (const char* nome : {"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista",
                              "frmTempoModellazione", "frmParametriRamo"}) {
         Finestra* finestra = &fabbrica.finestra(nome, contorno());

@@ -218,7 +218,7 @@ TEST(FigureMisure, TheSixPicturesAndTheEmptyOneLoadAndShowTheirDimension) {
     };
     for (const MisuraIngresso& misura : misureIngresso) {
         ASSERT_TRUE(ui::esisteImmagine(std::string{misura.figura})) << misura.figura;
-        EXPECT_GT(quota(misura.figura), 120) << misura.figura;
+        EXPECT_GT(quota(misura.figura), 60) << misura.figura;
     }
     ASSERT_TRUE(ui::esisteImmagine(std::string{figuraVuota}));
     EXPECT_FALSE(ui::immagine(std::string{figuraVuota}, QSize(220, 190), 1.0).isNull());
@@ -260,6 +260,7 @@ protected:
         banco.cornice.gestione.corrente()->barra()->premi("Archivio");
         EXPECT_TRUE(dialogo.avvenuto());
         EXPECT_FALSE(dialogo.rimasto());
+        ASSERT_TRUE(gesti::davanti(banco.vista));
     }
     /// Chooses the file in the list, as a click does, and waits for its legs.
     void scegliFile(QFileDialog& dialogo) {
