@@ -60,7 +60,7 @@ double memoria(const std::string& voce) {
 /// What a measured process is asked for.
 struct Incarico {
     double partenza = 0.0;  ///< when its parent started it
-    bool scambi = false;    ///< switches windows, and does not end at once
+    std::string compito;    ///< "avvio", "scambi" or "tasti": what comes after the start
 };
 Incarico incarico;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables): read before any object
 
@@ -153,6 +153,12 @@ void misuraTasti(QMainWindow& finestra) {
     constexpr QSize schermo(1366, 768);
     finestra.resize(schermo);
     auto& albero = *finestra.findChild<QTreeWidget*>(QStringLiteral("ctlTree"));
+    QTreeWidgetItem* riga = nodo(albero, "keyRamo1");
+    for (QTreeWidgetItem* padre = riga->parent(); padre != nullptr; padre = padre->parent()) {
+        padre->setExpanded(true);
+    }
+    albero.scrollToItem(riga);
+    esaurisci(finestra);
     scambio(finestra, albero, "keyRamo1");
     auto* campo = finestra.findChild<QLineEdit*>(QStringLiteral("txtLarghezzaIngresso"));
     auto* pianta = finestra.findChild<QWidget*>(QStringLiteral("ctlPianta"));
@@ -205,8 +211,9 @@ void comincia() {
         std::cout << "processore " << static_cast<double>(std::clock()) * 1000.0 / CLOCKS_PER_SEC << "\navvio "
                   << (adesso() - incarico.partenza) / milione << "\nrss " << memoria("VmRSS") << "\npicco "
                   << memoria("VmHWM") << "\n";
-        if (incarico.scambi) {
+        if (incarico.compito == "scambi") {
             misuraScambi(*finestra);
+        } else if (incarico.compito == "tasti") {
             misuraTasti(*finestra);
         }
         std::cout << std::flush;
@@ -218,11 +225,11 @@ void comincia() {
 using Figure = std::map<std::string, std::vector<double>>;
 
 /// The figures that a measured process prints, added to `figure`; false if it failed.
-bool misura(const QString& programma, const QString& progetto, bool scambi, Figure& figure) {
+bool misura(const QString& programma, const QString& progetto, const char* compito, Figure& figure) {
     QProcess processo;
     processo.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     processo.start(programma, {QStringLiteral("--misurato"), QString::number(adesso(), 'f', 0),
-                               scambi ? QStringLiteral("scambi") : QStringLiteral("avvio"), progetto});
+                               QString::fromLatin1(compito), progetto});
     constexpr int pazienza = 300'000;
     if (!processo.waitForFinished(pazienza) || processo.exitStatus() != QProcess::NormalExit ||
         processo.exitCode() != 0) {
@@ -250,7 +257,7 @@ void riga(const char* nome, const std::vector<double>& valori, const char* limit
 int tabella(const char* programma, const QString& progetto) {
     Figure figure;
     for (int i = 0; i < ripetizioni + 1; ++i) {
-        if (!misura(QString::fromLocal8Bit(programma), progetto, false, figure)) {
+        if (!misura(QString::fromLocal8Bit(programma), progetto, "avvio", figure)) {
             std::cerr << "kelvo-misure-desktop: l'avvio non riesce\n";
             return 1;
         }
@@ -258,7 +265,11 @@ int tabella(const char* programma, const QString& progetto) {
             figure.clear();  // reads the files into memory
         }
     }
-    if (!misura(QString::fromLocal8Bit(programma), progetto, true, figure)) {
+    if (!misura(QString::fromLocal8Bit(programma), progetto, "tasti", figure)) {
+        std::cerr << "kelvo-misure-desktop: la scrittura di una misura non riesce\n";
+        return 1;
+    }
+    if (!misura(QString::fromLocal8Bit(programma), progetto, "scambi", figure)) {
         std::cerr << "kelvo-misure-desktop: lo scambio delle finestre non riesce\n";
         return 1;
     }
@@ -282,7 +293,7 @@ int tabella(const char* programma, const QString& progetto) {
 
 /// The program under measure.
 int misurato(char** argv) {
-    incarico = {std::strtod(argv[2], nullptr), std::string{argv[3]} == "scambi"};
+    incarico = {std::strtod(argv[2], nullptr), argv[3]};
     qAddPreRoutine(comincia);
     kelvo::SistemaFileLinux file;
     const std::string lavoro = kelvo::cartellaTemporanea();

@@ -3,6 +3,7 @@
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "disegno/pittorePianta.h"
@@ -45,10 +46,14 @@ void VistaPianta::disegna() {
         soggetto.opzioni.altezzaTesto = misura::testoPianta / std::max<double>(misura::testoPianta, alta);
         disegnata_ = pianta::costruisci(soggetto.dati, soggetto.opzioni);
     };
-    costruisci(height());
-    if (disegnata_->fascia) {
-        // The strip of the remarks stands below the picture: what is left is the room of the picture itself.
-        costruisci(height() * (1.0 - disegnata_->fascia->altezza() / disegnata_->vista.altezza()));
+    // The strip of the remarks stands below the picture: what is left is the room of the picture itself. It is mostly
+    // as high as the last time.
+    constexpr double scarto = 0.01;
+    costruisci(height() * parte_);
+    const double parte = disegnata_->fascia ? 1.0 - disegnata_->fascia->altezza() / disegnata_->vista.altezza() : 1.0;
+    if (std::abs(parte - parte_) > scarto) {
+        parte_ = parte;
+        costruisci(height() * parte_);
     }
     setAccessibleName(q(disegnata_->nomeAccessibile));
 }

@@ -36,6 +36,7 @@ private:
 
     std::function<Soggetto()> soggetto_;
     std::optional<pianta::Pianta> disegnata_;
+    double parte_ = 1.0;  ///< of the height that the picture takes, the strip of its remarks left out
 };
 
 }  // namespace kelvo::ui
