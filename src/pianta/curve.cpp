@@ -142,9 +142,10 @@ std::optional<Posizione> incontro(const Tracciato& tracciato, double angolo) {
         if (angolo < azimut(da) - vicino || angolo > azimut(a) + vicino) {
             continue;
         }
-        // The angle grows along the piece.
+        // The angle grows along the piece: which side of its ray a point lies on tells it without a transcendental.
+        const Punto verso = sulCerchio(1.0, angolo);
         const double quota =
-            bisezione(0.0, 1.0, [&](double q) { return angolo - azimut(puntoSu(tracciato[i], a, q)); });
+            bisezione(0.0, 1.0, [&](double q) { return vettoriale(puntoSu(tracciato[i], a, q), verso); });
         return Posizione{i, quota};
     }
     return std::nullopt;
