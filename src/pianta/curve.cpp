@@ -144,8 +144,14 @@ std::optional<Posizione> incontro(const Tracciato& tracciato, double angolo) {
         }
         // The angle grows along the piece: which side of its ray a point lies on tells it without a transcendental.
         const Punto verso = sulCerchio(1.0, angolo);
-        const double quota =
-            bisezione(0.0, 1.0, [&](double q) { return vettoriale(puntoSu(tracciato[i], a, q), verso); });
+        if (tracciato[i].bombatura == 0) {
+            const double passa = vettoriale(a - da, verso);
+            return Posizione{i, passa == 0 ? 0.0 : std::clamp(-vettoriale(da, verso) / passa, 0.0, 1.0)};
+        }
+        const Cerchio cerchio = cerchioDi(da, a, tracciato[i].bombatura);
+        const double quota = bisezione(0.0, 1.0, [&](double q) {
+            return vettoriale(cerchio.centro + polare(cerchio.raggio, cerchio.da + cerchio.gira * q), verso);
+        });
         return Posizione{i, quota};
     }
     return std::nullopt;
