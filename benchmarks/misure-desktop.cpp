@@ -11,6 +11,8 @@
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QTreeWidgetItemIterator>
@@ -58,7 +60,7 @@ double memoria(const std::string& voce) {
 /// What a measured process is asked for.
 struct Incarico {
     double partenza = 0.0;  ///< when its parent started it
-    bool scambi = false;    ///< switches windows, and does not end at once
+    std::string compito;    ///< "avvio", "scambi" or "tasti": what comes after the start
 };
 Incarico incarico;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables): read before any object
 
@@ -133,6 +135,63 @@ void misuraScambi(QMainWindow& finestra) {
     stato("ancora");
 }
 
+/// Notes that a widget was painted.
+class Dipinto final : public QObject {
+public:
+    explicit Dipinto(QWidget& oggetto) { oggetto.installEventFilter(this); }
+    bool avvenuto = false;
+
+protected:
+    bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+        avvenuto = avvenuto || evento->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+/// A key typed into a measure of a leg to the figures shown and the plan painted.
+void misuraTasti(QMainWindow& finestra) {
+    constexpr QSize schermo(1366, 768);
+    finestra.resize(schermo);
+    auto& albero = *finestra.findChild<QTreeWidget*>(QStringLiteral("ctlTree"));
+    QTreeWidgetItem* riga = nodo(albero, "keyRamo1");
+    for (QTreeWidgetItem* padre = riga->parent(); padre != nullptr; padre = padre->parent()) {
+        padre->setExpanded(true);
+    }
+    albero.scrollToItem(riga);
+    esaurisci(finestra);
+    scambio(finestra, albero, "keyRamo1");
+    auto* campo = finestra.findChild<QLineEdit*>(QStringLiteral("txtLarghezzaIngresso"));
+    auto* pianta = finestra.findChild<QWidget*>(QStringLiteral("ctlPianta"));
+    auto* figura = finestra.findChild<QLabel*>(QStringLiteral("lblQ0"));
+    if (campo == nullptr || pianta == nullptr || figura == nullptr) {
+        std::cout << "guasto keyRamo1" << std::endl;
+        std::_Exit(1);
+    }
+    campo->setFocus(Qt::TabFocusReason);
+    Dipinto dipinto(*pianta);
+    QElapsedTimer tempo;
+    for (int i = 0; i < ripetizioni + 1; ++i) {
+        campo->selectAll();
+        esaurisci(finestra);
+        const QString prima = figura->text();
+        dipinto.avvenuto = false;
+        tempo.start();
+        QTest::keyClick(campo, i % 2 == 0 ? Qt::Key_7 : Qt::Key_8);
+        while (!dipinto.avvenuto) {
+            QCoreApplication::processEvents();
+        }
+        const double durata = static_cast<double>(tempo.nsecsElapsed()) / milione;
+        if (figura->text() == prima) {
+            std::cout << "guasto figure" << std::endl;
+            std::_Exit(1);
+        }
+        if (i > 0) {
+            std::cout << "tasto " << durata << "\n";
+        }
+    }
+    QTest::keyClick(campo, Qt::Key_Escape);
+}
+
 /// Runs as soon as the application object stands, before anything is shown.
 void comincia() {
     auto* orologio = new QTimer(QCoreApplication::instance());
@@ -152,8 +211,10 @@ void comincia() {
         std::cout << "processore " << static_cast<double>(std::clock()) * 1000.0 / CLOCKS_PER_SEC << "\navvio "
                   << (adesso() - incarico.partenza) / milione << "\nrss " << memoria("VmRSS") << "\npicco "
                   << memoria("VmHWM") << "\n";
-        if (incarico.scambi) {
+        if (incarico.compito == "scambi") {
             misuraScambi(*finestra);
+        } else if (incarico.compito == "tasti") {
+            misuraTasti(*finestra);
         }
         std::cout << std::flush;
         std::_Exit(0);
@@ -164,11 +225,11 @@ void comincia() {
 using Figure = std::map<std::string, std::vector<double>>;
 
 /// The figures that a measured process prints, added to `figure`; false if it failed.
-bool misura(const QString& programma, const QString& progetto, bool scambi, Figure& figure) {
+bool misura(const QString& programma, const QString& progetto, const char* compito, Figure& figure) {
     QProcess processo;
     processo.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     processo.start(programma, {QStringLiteral("--misurato"), QString::number(adesso(), 'f', 0),
-                               scambi ? QStringLiteral("scambi") : QStringLiteral("avvio"), progetto});
+                               QString::fromLatin1(compito), progetto});
     constexpr int pazienza = 300'000;
     if (!processo.waitForFinished(pazienza) || processo.exitStatus() != QProcess::NormalExit ||
         processo.exitCode() != 0) {
@@ -196,7 +257,7 @@ void riga(const char* nome, const std::vector<double>& valori, const char* limit
 int tabella(const char* programma, const QString& progetto) {
     Figure figure;
     for (int i = 0; i < ripetizioni + 1; ++i) {
-        if (!misura(QString::fromLocal8Bit(programma), progetto, false, figure)) {
+        if (!misura(QString::fromLocal8Bit(programma), progetto, "avvio", figure)) {
             std::cerr << "kelvo-misure-desktop: l'avvio non riesce\n";
             return 1;
         }
@@ -204,7 +265,11 @@ int tabella(const char* programma, const QString& progetto) {
             figure.clear();  // reads the files into memory
         }
     }
-    if (!misura(QString::fromLocal8Bit(programma), progetto, true, figure)) {
+    if (!misura(QString::fromLocal8Bit(programma), progetto, "tasti", figure)) {
+        std::cerr << "kelvo-misure-desktop: la scrittura di una misura non riesce\n";
+        return 1;
+    }
+    if (!misura(QString::fromLocal8Bit(programma), progetto, "scambi", figure)) {
         std::cerr << "kelvo-misure-desktop: lo scambio delle finestre non riesce\n";
         return 1;
     }
@@ -216,6 +281,7 @@ int tabella(const char* programma, const QString& progetto) {
     riga("switch of windows, ms", figure.at("scambio"), "50");
     riga("empty repaint, ms", figure.at("vuoto"), "");
     riga("first showing of a window, ms", figure.at("primo"), "");
+    riga("key to redrawn plan and figures, ms", figure.at("tasto"), "16");
     fmt::print("\nobjects of the main window: {:.0f}, after {} switches {:.0f}, after {} {:.0f}\n",
                figure.at("prima_oggetti").at(0), scambiLunghi, figure.at("dopo_oggetti").at(0), scambiTanti,
                figure.at("ancora_oggetti").at(0));
@@ -227,7 +293,7 @@ int tabella(const char* programma, const QString& progetto) {
 
 /// The program under measure.
 int misurato(char** argv) {
-    incarico = {std::strtod(argv[2], nullptr), std::string{argv[3]} == "scambi"};
+    incarico = {std::strtod(argv[2], nullptr), argv[3]};
     qAddPreRoutine(comincia);
     kelvo::SistemaFileLinux file;
     const std::string lavoro = kelvo::cartellaTemporanea();

@@ -37,7 +37,8 @@ public:
     ApriDocumenti& operator=(const ApriDocumenti&) = delete;
     virtual ~ApriDocumenti() = default;
 
-    /// Opens a document with the program that belongs to it; waits for nothing. False if it could not.
+    /// Opens a document with the program that belongs to it; waits for nothing. Double quotes around the path are
+    /// taken off. False if it could not.
     virtual bool apri(const std::string& percorso) = 0;
     /// Starts a program; waits for nothing. False if it could not.
     virtual bool avvia(const std::string& programma, const std::string& argomento) = 0;

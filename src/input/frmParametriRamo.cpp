@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <vector>
 
 #include "base/guasto.h"
 #include "input/frmPreviewRami.h"
@@ -21,20 +22,46 @@ constexpr const char* ingressoMinore =
     "Il valore del campo 'Larghezza ingresso' deve essere sempre maggiore del campo 'Semilarghezza accesso'";
 constexpr const char* accessoMaggiore =
     "Il valore del campo 'Semilarghezza accesso' deve essere sempre minore del campo 'Larghezza ingresso'";
+constexpr const char* parametri = "Parametri geometrici ingresso";
+constexpr const char* flussi = "Flussi interferenti";
+constexpr const char* capacita = "Relazione di capacità";
+constexpr const char* descrizione = "Descrizione parametro geometrico";
+constexpr const char* unitaFlussi = "flussi in veic/h";
 constexpr const char* nonAperto = "Impossibile aprire {}";
 constexpr const char* senzaValore = "-";
 }  // namespace testi
 
+constexpr const char* paginaNome = "NomeRamo.htm";
 constexpr std::string_view percorsoDecreto = "\\UserGuide\\DM19-04-06.pdf";
 constexpr std::array<std::string_view, 6> nomiNote{"lblNotaLarghezzaIngresso", "lblNotaSemiLarghezza",
                                                    "lblNotaLungSvasatura",     "lblNotaAngoloConflitto",
                                                    "lblNotaRaggioCurvatura",   "lblNotaDiametroInscritto"};
+constexpr std::array<std::string_view, 6> nomiEtichette{"lblLarghezzaIngresso", "lblSemiLarghezza",
+                                                        "lblLungSvasatura",     "lblAngoloConflitto",
+                                                        "lblRaggioCurvatura",   "lblDiametroInscritto"};
 
-const MisuraIngresso& misura(MisuraGeometrica quale) {
+/// "Ingresso A:"
+std::string etichettaIngresso(int ramo) {
+    return fmt::format("Ingresso {}:", pianta::lettera(ramo));
+}
+
+std::array<Etichetta, 6> etichetteMisure() {
+    const auto una = [](std::size_t i) {
+        return Etichetta{std::string{nomiEtichette[i]}, std::string{misureIngresso[i].campo.nome}};
+    };
+    return {una(0), una(1), una(2), una(3), una(4), una(5)};
+}
+
+std::array<Etichetta, 6> etichetteNote() {
+    const auto una = [](std::size_t i) { return Etichetta{std::string{nomiNote[i]}}; };
+    return {una(0), una(1), una(2), una(3), una(4), una(5)};
+}
+
+const MisuraIngresso& misura(pianta::Misura quale) {
     return misureIngresso[static_cast<std::size_t>(quale)];
 }
 
-std::string tagMisura(MisuraGeometrica quale) {
+std::string tagMisura(pianta::Misura quale) {
     return tagNumerico(misura(quale).campo);
 }
 
@@ -47,32 +74,40 @@ double capacita(const Ramo& ramo, double circolante) {
 
 frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& servizi)
     : FinestraRamo(contorno, "frmParametriRamo", testi::didascalia),
-      lblDescrizioneRamo("lblDescrizioneRamo"),
-      txtLarghezzaIngresso("txtLarghezzaIngresso", tBox::maskedit, tagMisura(MisuraGeometrica::larghezzaIngresso)),
-      txtSemiLarghezza("txtSemiLarghezza", tBox::maskedit, tagMisura(MisuraGeometrica::semiLarghezza)),
-      txtLungSvasatura("txtLungSvasatura", tBox::maskedit, tagMisura(MisuraGeometrica::lunghezzaSvasatura)),
-      txtAngoloConflitto("txtAngoloConflitto", tBox::maskedit, tagMisura(MisuraGeometrica::angoloConflitto)),
-      txtRaggioCurvatura("txtRaggioCurvatura", tBox::maskedit, tagMisura(MisuraGeometrica::raggioIngresso)),
-      txtDiametroInscritto("txtDiametroInscritto", tBox::maskedit, tagMisura(MisuraGeometrica::diametro)),
+      frParametri("frParametri", testi::parametri, {}),
+      frFlussi("frFlussi", testi::flussi, {}),
+      frCapacita("frCapacita", testi::capacita, {}),
+      frDescrizione("frDescrizione", testi::descrizione, {}),
+      lblDescrizioneRamo("lblDescrizioneRamo", etichettaIngresso(1)),
+      txtLarghezzaIngresso("txtLarghezzaIngresso", tBox::maskedit, tagMisura(pianta::Misura::larghezzaIngresso)),
+      txtSemiLarghezza("txtSemiLarghezza", tBox::maskedit, tagMisura(pianta::Misura::semiLarghezza)),
+      txtLungSvasatura("txtLungSvasatura", tBox::maskedit, tagMisura(pianta::Misura::lunghezzaSvasatura)),
+      txtAngoloConflitto("txtAngoloConflitto", tBox::maskedit, tagMisura(pianta::Misura::angoloConflitto)),
+      txtRaggioCurvatura("txtRaggioCurvatura", tBox::maskedit, tagMisura(pianta::Misura::raggioIngresso)),
+      txtDiametroInscritto("txtDiametroInscritto", tBox::maskedit, tagMisura(pianta::Misura::diametro)),
       chkAttraversamentoPedonale("chkAttraversamentoPedonale", testi::pedonale),
       cmdDM("cmdDM", testi::decreto),
       ctlPicture("ctlPicture", std::string{figuraVuota}),
-      lblNote{Etichetta{std::string{nomiNote[0]}}, Etichetta{std::string{nomiNote[1]}},
-              Etichetta{std::string{nomiNote[2]}}, Etichetta{std::string{nomiNote[3]}},
-              Etichetta{std::string{nomiNote[4]}}, Etichetta{std::string{nomiNote[5]}}},
+      lblMisure(etichetteMisure()),
+      lblNote(etichetteNote()),
       valori{{{"k", Etichetta{"lblK"}},
               {"tD", Etichetta{"lblTd"}},
               {"S", Etichetta{"lblS"}},
               {"x2 [m]", Etichetta{"lblX2"}},
-              {"Intercetta [veic/h]", Etichetta{"lblF"}},
+              {"Intercetta", Etichetta{"lblF"}},
               {"Pendenza", Etichetta{"lblFc"}},
-              {"Capacità con Qc = 0 [veic/h]", Etichetta{"lblQ0"}},
-              {"Capacità con Qc = 500 [veic/h]", Etichetta{"lblQ500"}},
-              {"Capacità con Qc = 1000 [veic/h]", Etichetta{"lblQ1000"}}}},
+              {"Capacità con Qc = 0", Etichetta{"lblQ0"}},
+              {"Capacità con Qc = 500", Etichetta{"lblQ500"}},
+              {"Capacità con Qc = 1000", Etichetta{"lblQ1000"}}}},
+      lblUnita("lblUnita", testi::unitaFlussi),
       servizi_(servizi) {
-    ordina({&lblDescrizioneRamo, &txtDescrizioneRamo, &txtLarghezzaIngresso, &txtSemiLarghezza, &txtLungSvasatura,
-            &txtAngoloConflitto, &txtRaggioCurvatura, &txtDiametroInscritto, &chkAttraversamentoPedonale, &cmdDM});
     const auto caselle = campi();
+    std::vector<Controllo*> ordine{&lblDescrizioneRamo, &txtDescrizioneRamo};
+    for (std::size_t i = 0; i < caselle.size(); ++i) {
+        ordine.insert(ordine.end(), {&lblMisure[i], caselle[i], &lblNote[i]});
+    }
+    ordine.insert(ordine.end(), {&lblUnita, &chkAttraversamentoPedonale, &cmdDM});
+    ordina(ordine);
     for (std::size_t i = 0; i < caselle.size(); ++i) {
         preparaNumerico(*caselle[i], misureIngresso[i].campo);
         caselle[i]->paginaAiuto = misureIngresso[i].paginaAiuto;
@@ -81,6 +116,7 @@ frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& serv
     }
     txtLarghezzaIngresso.controllo = [this] { return controllaCoppia(txtLarghezzaIngresso); };
     txtSemiLarghezza.controllo = [this] { return controllaCoppia(txtSemiLarghezza); };
+    txtDescrizioneRamo.paginaAiuto = paginaNome;
     txtDescrizioneRamo.controllo = [this] { return controllaNomeRamo(txtDescrizioneRamo.testo()); };
     txtDescrizioneRamo.dopoUscita = [this] { confronta(); };
     chkAttraversamentoPedonale.alClic = [this] {
@@ -103,7 +139,7 @@ std::array<const tBox*, 6> frmParametriRamo::campi() const {
 }
 
 void frmParametriRamo::legata() {
-    lblDescrizioneRamo.testo(fmt::format("Ingresso {}:", static_cast<char>('A' + indiceRamo() - 1)));
+    lblDescrizioneRamo.testo(etichettaIngresso(indiceRamo()));
 }
 
 void frmParametriRamo::ReadData() {
@@ -169,13 +205,27 @@ Geometria frmParametriRamo::geometriaMostrata() const {
     return g;
 }
 
-std::optional<MisuraGeometrica> frmParametriRamo::misuraInUso() const {
+pianta::DatiPianta frmParametriRamo::piantaMostrata() const {
+    pianta::DatiPianta dati = pianta::datiPianta(app().theRotonda());
+    const Geometria g = geometriaMostrata();
+    pianta::DatiRamo& questo = dati.rami.at(static_cast<std::size_t>(indiceRamo()) - 1);
+    questo.larghezzaIngresso = g.e;
+    questo.semiLarghezza = g.v;
+    questo.lunghezzaSvasatura = g.l;
+    questo.angoloConflitto = g.phi;
+    questo.raggioIngresso = g.r;
+    questo.diametroInscritto = g.D;
+    questo.attraversamentoPedonale = chkAttraversamentoPedonale.spuntata();
+    return dati;
+}
+
+std::optional<pianta::Misura> frmParametriRamo::misuraInUso() const {
     const auto caselle = campi();
     const auto trovata = std::find(caselle.begin(), caselle.end(), fuoco());
     if (trovata == caselle.end()) {
         return std::nullopt;
     }
-    return static_cast<MisuraGeometrica>(trovata - caselle.begin());
+    return static_cast<pianta::Misura>(trovata - caselle.begin());
 }
 
 EsitoUscita frmParametriRamo::controllaCoppia(const tBox& campo) const {
@@ -219,6 +269,7 @@ void frmParametriRamo::aggiorna() {
     const Geometria g = geometriaMostrata();
     for (std::size_t i = 0; i < misureIngresso.size(); ++i) {
         lblNote[i].testo(notaConsigliato(misureIngresso[i], valoreMostrato(i)));
+        lblNote[i].visibile(!lblNote[i].testo().empty());
     }
     mostraValori(g);
     geometriaMutata_.emit();
@@ -253,7 +304,7 @@ void frmParametriRamo::mostraValori(const Geometria& g) {
 void frmParametriRamo::fuocoSpostato() {
     const auto uso = misuraInUso();
     ctlPicture.risorsa(std::string{uso ? misura(*uso).figura : figuraVuota});
-    if (!uso) {
+    if (!uso && fuoco() != &txtDescrizioneRamo) {
         ctlHelp.pagina(std::string{paginaAiutoVuota});
     }
     geometriaMutata_.emit();

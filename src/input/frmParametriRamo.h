@@ -6,6 +6,7 @@
 #include "app/serviziSistema.h"
 #include "calc/Geometria.h"
 #include "input/misureIngresso.h"
+#include "pianta/Pianta.h"
 #include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/FinestraRamo.h"
 #include "shell/servizi/tBox.h"
@@ -22,6 +23,10 @@ public:
     };
     frmParametriRamo(const Contorno& contorno, const Servizi& servizi);
 
+    Riquadro frParametri;
+    Riquadro frFlussi;
+    Riquadro frCapacita;
+    Riquadro frDescrizione;        ///< help of the measure in use
     Etichetta lblDescrizioneRamo;  ///< "Ingresso A:"
     tBox txtDescrizioneRamo{"txtDescrizioneRamo", tBox::textbox};
     tBox txtLarghezzaIngresso;
@@ -34,14 +39,17 @@ public:
     Bottone cmdDM;
     Immagine ctlPicture;  ///< picture of the measure in use
 
-    /// Beside each measure: a word where it lies outside the recommended range.
+    std::array<Etichetta, 6> lblMisure;  ///< names of the measures
+    /// Below each measure: a word where it lies outside the recommended range.
     std::array<Etichetta, 6> lblNote;
     /// What the capacity relation makes of the measures shown: name and figure of each.
     struct Valore {
         std::string_view nome;
         Etichetta etichetta;
     };
+    /// By threes: k, tD, S; x2, intercept, slope; capacities.
     std::array<Valore, 9> valori;
+    Etichetta lblUnita;  ///< unit of the flows among them
 
     /// Reads the leg that the window is bound to.
     void ReadData() override;
@@ -53,8 +61,10 @@ public:
     std::array<const tBox*, 6> campi() const;
     /// The measures that are shown: what was typed where it can be read, else what the project holds.
     Geometria geometriaMostrata() const;
+    /// The roundabout with this leg as it is shown.
+    pianta::DatiPianta piantaMostrata() const;
     /// The measure whose field has the focus.
-    std::optional<MisuraGeometrica> misuraInUso() const;
+    std::optional<pianta::Misura> misuraInUso() const;
     /// The measures shown, or the one in use, are others.
     sigc::signal<void()>& geometriaMutata() { return geometriaMutata_; }
 

@@ -27,6 +27,14 @@ frmPreviewRami::frmPreviewRami(const Contorno& contorno)
     : AnteprimaProgetto(contorno, "frmPreviewRami", testi::didascalia, testi::scegli),
       frGeometria("frGeometria", testi::geometria, {}),
       lstRami("lstRami", intestazioni()) {
+    lstRami.sceglie = true;
+    lstRami.numericheDa = 1;
+    lstRami.allAttivazione = [this](const std::string& riga) {
+        lstRami.seleziona(riga);
+        if (allaConferma) {
+            allaConferma();
+        }
+    };
     std::vector<Controllo*> controlli = datiProgetto();
     for (Controllo* c : std::initializer_list<Controllo*>{&frGeometria, &lstRami, &lblAvviso}) {
         controlli.push_back(c);

@@ -142,9 +142,16 @@ std::optional<Posizione> incontro(const Tracciato& tracciato, double angolo) {
         if (angolo < azimut(da) - vicino || angolo > azimut(a) + vicino) {
             continue;
         }
-        // The angle grows along the piece.
-        const double quota =
-            bisezione(0.0, 1.0, [&](double q) { return angolo - azimut(puntoSu(tracciato[i], a, q)); });
+        // The angle grows along the piece: which side of its ray a point lies on tells it without a transcendental.
+        const Punto verso = sulCerchio(1.0, angolo);
+        if (tracciato[i].bombatura == 0) {
+            const double passa = vettoriale(a - da, verso);
+            return Posizione{i, passa == 0 ? 0.0 : std::clamp(-vettoriale(da, verso) / passa, 0.0, 1.0)};
+        }
+        const Cerchio cerchio = cerchioDi(da, a, tracciato[i].bombatura);
+        const double quota = bisezione(0.0, 1.0, [&](double q) {
+            return vettoriale(cerchio.centro + polare(cerchio.raggio, cerchio.da + cerchio.gira * q), verso);
+        });
         return Posizione{i, quota};
     }
     return std::nullopt;

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "input/frmAnalisiMarginale.h"
+#include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
 #include "shell/frmAnagraficaRotonda.h"
@@ -22,7 +23,7 @@ std::unique_ptr<Finestra> crea(const Contorno& contorno) {
 
 }  // namespace
 
-void registraFinestre(FabbricaFinestre& finestre) {
+void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi) {
     finestre.registra("frmEmptyForm", crea<frmEmptyForm>);
     finestre.registra("frmInputNumeroRami", crea<frmInputNumeroRami>);
     finestre.registra("frmAnagraficaRotonda", crea<frmAnagraficaRotonda>);
@@ -31,6 +32,10 @@ void registraFinestre(FabbricaFinestre& finestre) {
     finestre.registra("frmToponomasticaIntersezione", crea<frmToponomasticaIntersezione>);
     finestre.registra("frmAnalisiMarginale", crea<frmAnalisiMarginale>);
     finestre.registra("frmOpzioni", crea<frmOpzioni>);
+    finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmParametriRamo>(contorno,
+                                                  frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});
+    });
 }
 
 }  // namespace kelvo

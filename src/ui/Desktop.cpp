@@ -51,6 +51,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     MessaggiQt messaggi;
     OrologioSistema orologio;
     DialogoFileQt dialogo;
+    DialogoAnteprimaQt anteprima;
     ApriDocumentiQt documentiQt;
     ImpostazioniQt impostazioniQt;
     ApriDocumenti& documenti = piattaforma.documenti != nullptr ? *piattaforma.documenti : documentiQt;
@@ -63,7 +64,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     StatoFinestre stato;
     VistaMDI_Form vista;
     MDI_Form cornice(app, stato, {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero});
-    registraFinestre(cornice.finestre);
+    registraFinestre(cornice.finestre, {documenti, anteprima});
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});
     if (!avvio.Main(rigaComando())) {

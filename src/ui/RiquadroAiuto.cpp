@@ -2,6 +2,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QVBoxLayout>
@@ -54,9 +55,12 @@ void cartellaAiuto(const std::string& cartella) {
 }
 
 RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidget* genitore)
-    : QFrame(genitore), aiuto_(aiuto), figura_(new Figura(this)), testo_(new QTextBrowser(this)) {
-    auto* piano = new QVBoxLayout(this);
-    piano->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
+    : QFrame(genitore),
+      aiuto_(aiuto),
+      piano_(new QVBoxLayout(this)),
+      figura_(new Figura(this)),
+      testo_(new QTextBrowser(this)) {
+    piano_->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
     auto* testata = new QLabel(titolo, this);
     testata->setObjectName(QStringLiteral("titoloPannello"));
     testata->setFont(forte(punti::gruppo));
@@ -65,17 +69,17 @@ RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidge
         riga->setObjectName(QStringLiteral("rigaPannello"));
         return riga;
     };
-    piano->addWidget(testata);
-    piano->addWidget(linea());
-    piano->addWidget(figura_, 1);
-    piano->addWidget(linea());
+    piano_->addWidget(testata);
+    piano_->addWidget(linea());
+    piano_->addWidget(figura_, 1);
+    piano_->addWidget(linea());
     testo_->setFixedHeight(misura::aiuto);
     testo_->setFocusPolicy(Qt::NoFocus);
     testo_->setOpenLinks(false);
     testo_->document()->setDocumentMargin(0.0);
     testo_->document()->setDefaultStyleSheet(foglioPagine());
     testo_->setFont(dati(punti::corpo));
-    piano->addWidget(testo_);
+    piano_->addWidget(testo_);
     auto* legame = new Legame(aiuto_, *testo_);
     legame->mostra([this] { mostra(); });
     setMinimumWidth(misura::aiutoLargo);
@@ -92,6 +96,24 @@ void RiquadroAiuto::figura(const std::string& risorsa) {
 void RiquadroAiuto::segui(Immagine& immagine) {
     auto* legame = new Legame(immagine, *figura_);
     legame->mostra([this, &immagine] { figura(immagine.risorsa()); });
+}
+
+void RiquadroAiuto::sopra(QWidget* oggetto) {
+    constexpr int parteSopra = 3;
+    constexpr int partePagina = 2;
+    delete piano_->replaceWidget(figura_, oggetto);
+    piano_->removeWidget(testo_);
+    piano_->setStretchFactor(oggetto, parteSopra);
+    auto* pagina = new QHBoxLayout;
+    pagina->setSpacing(misura::margine);
+    testo_->setMinimumHeight(misura::aiuto);
+    testo_->setMaximumHeight(QWIDGETSIZE_MAX);
+    pagina->addWidget(testo_, 1);
+    // On a narrow window the picture gives way down to 60 %.
+    figura_->setMinimumWidth(misura::figuraAccanto * 3 / 5);
+    figura_->setMaximumWidth(misura::figuraAccanto);
+    pagina->addWidget(figura_);
+    piano_->addLayout(pagina, partePagina);
 }
 
 void RiquadroAiuto::mostra() {

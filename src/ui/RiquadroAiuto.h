@@ -6,6 +6,7 @@
 #include "shell/servizi/controlli.h"
 
 class QTextBrowser;
+class QVBoxLayout;
 
 namespace kelvo::ui {
 
@@ -26,11 +27,14 @@ public:
     void figura(const std::string& risorsa);
     /// The picture of the window is the one of a control, and follows it.
     void segui(Immagine& immagine);
+    /// Puts something in the place of the picture, which goes to the right of the page.
+    void sopra(QWidget* oggetto);
 
 private:
     void mostra();
 
     PannelloAiuto& aiuto_;
+    QVBoxLayout* piano_;
     Figura* figura_;
     QTextBrowser* testo_;
     std::string risorsa_;

@@ -4,6 +4,7 @@
 #include <QtGui/QPainter>
 #include <algorithm>
 
+#include "ui/PannelloTitolo.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/stile.h"
@@ -16,7 +17,8 @@ constexpr int lato = 8;
 
 }  // namespace
 
-SegnoDati::SegnoDati(Finestra& finestra, QWidget& titolo) : QWidget(&titolo), finestra_(finestra) {
+SegnoDati::SegnoDati(Finestra& finestra, PannelloTitolo& titolo)
+    : QWidget(&titolo), finestra_(finestra), titolo_(titolo) {
     setFixedSize(lato, lato);
     titolo.installEventFilter(this);
     auto* legame = new Legame(finestra.segno, *this);
@@ -24,18 +26,13 @@ SegnoDati::SegnoDati(Finestra& finestra, QWidget& titolo) : QWidget(&titolo), fi
         setToolTip(q(finestra_.segno.testo()));
         setAccessibleName(q(finestra_.segno.testo()));
     });
-    legame_ = finestra.pannello.cambiato().connect([this] { colloca(); });
+    connect(&titolo, &PannelloTitolo::mutato, this, &SegnoDati::colloca);
     colloca();
 }
 
-SegnoDati::~SegnoDati() {
-    legame_.disconnect();
-}
-
 void SegnoDati::colloca() {
-    const QWidget& titolo = *parentWidget();
-    const int fine = misura::margine + titolo.fontMetrics().horizontalAdvance(q(finestra_.pannello.testo()));
-    move(std::clamp(fine + lato, 0, std::max(0, titolo.width() - 2 * lato)), (titolo.height() - lato) / 2);
+    move(std::clamp(titolo_.fineParole() + lato, 0, std::max(0, titolo_.width() - 2 * lato)),
+         (titolo_.height() - lato) / 2);
     update();
 }
 

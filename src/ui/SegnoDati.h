@@ -6,15 +6,14 @@
 
 namespace kelvo::ui {
 
+class PannelloTitolo;
+
 /// The mark of a window whose data are not those of the project: a dot behind the words of the caption panel.
 class SegnoDati final : public QWidget {
     Q_OBJECT
 public:
-    /// `titolo` is the widget of the caption panel; the dot stands on it.
-    SegnoDati(Finestra& finestra, QWidget& titolo);
-    ~SegnoDati() override;
-    SegnoDati(const SegnoDati&) = delete;
-    SegnoDati& operator=(const SegnoDati&) = delete;
+    /// The dot stands on the caption panel.
+    SegnoDati(Finestra& finestra, PannelloTitolo& titolo);
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
@@ -24,7 +23,7 @@ private:
     void colloca();
 
     Finestra& finestra_;
-    sigc::connection legame_;
+    PannelloTitolo& titolo_;
 };
 
 }  // namespace kelvo::ui

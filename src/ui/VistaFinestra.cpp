@@ -15,9 +15,9 @@
 
 #include "shell/servizi/scelte.h"
 #include "ui/DisposizioneProporzionale.h"
+#include "ui/PannelloTitolo.h"
 #include "ui/RiquadroAiuto.h"
 #include "ui/SegnoDati.h"
-#include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/stile.h"
 
@@ -28,37 +28,16 @@ namespace {
 /// Letters of the menu bar: no label inside a window takes one of them.
 const QString lettereMenu = QStringLiteral("FDORSKH");
 
-/// The caption panel: what it reads, cut in the middle where there is no room.
-class PannelloTitolo final : public QWidget {
-public:
-    explicit PannelloTitolo(QWidget* genitore) : QWidget(genitore) { setFont(forte(punti::pannello)); }
-
-    void mostra(const QString& testo, Colore sfondo) {
-        testo_ = testo;
-        sfondo_ = sfondo;
-        setAccessibleName(testo);
-        update();
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*evento*/) override {
-        QPainter pennello(this);
-        pennello.fillRect(rect(), qcolore(sfondo_));
-        pennello.setPen(qcolore(neroOBianco(sfondo_)));
-        const QRect posto = rect().adjusted(misura::margine, 0, -misura::margine, 0);
-        pennello.drawText(posto, Qt::AlignLeft | Qt::AlignVCenter,
-                          fontMetrics().elidedText(testo_, Qt::ElideMiddle, posto.width()));
-    }
-
-private:
-    QString testo_;
-    Colore sfondo_;
-};
-
 QFrame* lineaSottile(QWidget* genitore) {
     auto* linea = new QFrame(genitore);
     linea->setObjectName(QStringLiteral("rigaPannello"));
     return linea;
+}
+
+/// A hint beside what matters.
+void quieta(QLabel& parola) {
+    parola.setProperty("quieta", true);
+    parola.setFont(dati(punti::nota));
 }
 
 /// The letter of a text that no other label has, at the start of a word where there is one.
@@ -89,11 +68,11 @@ Pannello::Pannello(const QString& titolo, QWidget* genitore) : QWidget(genitore)
     constexpr int sinistra = misura::margine - misura::sporgenza;
     dentro->setContentsMargins(sinistra, misura::margineVerticale, misura::margine, misura::margineVerticale);
     dentro->setSpacing(misura::spazioRighe);
+    testata_ = new QHBoxLayout;
     if (!titolo.isEmpty()) {
         auto* testata = new QLabel(titolo, cornice);
         testata->setObjectName(QStringLiteral("titoloPannello"));
         testata->setFont(forte(punti::gruppo));
-        testata_ = new QHBoxLayout;
         testata_->setContentsMargins(misura::sporgenza, 0, 0, 0);
         testata_->addWidget(testata, 1);
         dentro->addLayout(testata_);
@@ -110,12 +89,34 @@ Pannello::Pannello(const QString& titolo, QWidget* genitore) : QWidget(genitore)
 }
 
 void Pannello::nota(const QString& testo) {
-    if (testata_ != nullptr) {
-        auto* parola = new QLabel(testo, this);
-        parola->setObjectName(QStringLiteral("notaPannello"));
-        parola->setFont(dati(punti::nota));
-        testata_->addWidget(parola);
-    }
+    auto* parola = new QLabel(testo, this);
+    nota(parola);
+}
+
+void Pannello::nota(Etichetta& testo) {
+    nota(collega(testo, this));
+}
+
+void Pannello::nota(QLabel* parola) {
+    quieta(*parola);
+    testata_->addWidget(parola);
+}
+
+void Pannello::valore(Etichetta& etichetta, Etichetta& testo) {
+    auto* nome = collega(etichetta, this);
+    auto* detto = collega(testo, this);
+    detto->setFont(dati(punti::corpo));
+    detto->setWordWrap(true);
+    griglia_->addWidget(nome, righe_, 0, Qt::AlignTop);
+    griglia_->addWidget(detto, righe_, 1, 1, 3);
+    ++righe_;
+}
+
+void Pannello::sotto(Etichetta& nota) {
+    auto* riga = collega(nota, this);
+    quieta(*riga);
+    griglia_->addWidget(riga, righe_, 1, 1, 3, Qt::AlignRight);
+    ++righe_;
 }
 
 void Pannello::riga(const std::string& etichetta, QWidget* campo, const QString& unita, const QString& limiti) {
@@ -160,7 +161,7 @@ void Pannello::campoDiRiga(QWidget* campo, const QString& unita, const QString& 
     if (!limiti.isEmpty()) {
         auto* intervallo = new QLabel(limiti, this);
         intervallo->setObjectName(QStringLiteral("limiti"));
-        intervallo->setFont(dati(punti::nota));
+        quieta(*intervallo);
         griglia_->addWidget(intervallo, righe_, 3, Qt::AlignRight | Qt::AlignVCenter);
     }
     ++righe_;
@@ -321,10 +322,7 @@ QWidget* VistaFinestra::fascia() {
     auto* riga = new QHBoxLayout(banda);
     riga->setContentsMargins(0, 0, 0, 0);
     riga->setSpacing(0);
-    auto* titolo = new PannelloTitolo(banda);
-    auto* legame = new Legame(finestra_.pannello, *titolo);
-    legame->mostra(
-        [this, titolo] { titolo->mostra(q(finestra_.pannello.testo()), finestra_.pannello.aspetto().sfondo); });
+    auto* titolo = new PannelloTitolo(finestra_, banda);
     riga->addWidget(titolo, 1);
     new SegnoDati(finestra_, *titolo);
     if (BarraStrumenti* barra = finestra_.barra()) {

@@ -39,14 +39,21 @@ public:
     void avviso(Etichetta& etichetta);
     /// Its rows stand closer, as those of check boxes do.
     void fitto();
+    /// Appends a row that shows a text of the window and takes none.
+    void valore(Etichetta& etichetta, Etichetta& testo);
+    /// A quiet line below the field of the last row; where it is hidden it takes no room.
+    void sotto(Etichetta& nota);
     /// A word at the right of the title.
     void nota(const QString& testo);
+    /// The same with a label of the window, which follows it.
+    void nota(Etichetta& testo);
 
     /// Room that the widest label takes, and room that all shall take: fields of several panels stand in one column.
     int larghezzaEtichette() const;
     void larghezzaEtichette(int larghezza);
 
 private:
+    void nota(QLabel* parola);
     void riga(QLabel* etichetta, QWidget* campo, const QString& unita, const QString& limiti);
     void campoDiRiga(QWidget* campo, const QString& unita, const QString& limiti);
 

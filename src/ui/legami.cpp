@@ -3,7 +3,6 @@
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QAction>
 #include <QtGui/QPalette>
-#include <QtGui/QShortcut>
 #include <QtGui/QStandardItemModel>
 #include <QtGui/QTextCharFormat>
 #include <QtWidgets/QAbstractButton>
@@ -11,7 +10,6 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateEdit>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
@@ -23,9 +21,6 @@
 #include <QtWidgets/QTimeEdit>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolButton>
-#include <QtWidgets/QTreeWidget>
-#include <algorithm>
-#include <vector>
 
 #include "ui/Figura.h"
 #include "ui/icone.h"
@@ -342,97 +337,6 @@ QProgressBar* collega(BarraProgresso& barra, QWidget* genitore) {
     auto* legame = new Legame(barra, *avanzamento);
     legame->mostra([&barra, avanzamento] { avanzamento->setValue(barra.valore()); });
     return avanzamento;
-}
-
-namespace {
-
-/// A list whose columns take the room of their texts and share what there is where it is not enough.
-class ListaColonne final : public QTreeWidget {
-public:
-    explicit ListaColonne(QWidget* genitore) : QTreeWidget(genitore) {}
-
-    void spartisci() {
-        const int ultima = columnCount() - 1;
-        const int spazio = viewport()->width() - misura::campoCorto;  // the last column has at least this
-        int chiesto = 0;
-        std::vector<int> larghezze;
-        for (int c = 0; c < ultima; ++c) {
-            larghezze.push_back(std::max(sizeHintForColumn(c), header()->sectionSizeHint(c)));
-            chiesto += larghezze.back();
-        }
-        for (int c = 0; c < ultima; ++c) {
-            const int voluta = larghezze[static_cast<std::size_t>(c)];
-            const bool basta = chiesto <= spazio || spazio <= 0;
-            header()->resizeSection(c, basta ? voluta : voluta * spazio / chiesto);
-        }
-    }
-
-protected:
-    void resizeEvent(QResizeEvent* evento) override {
-        QTreeWidget::resizeEvent(evento);
-        spartisci();
-    }
-    void showEvent(QShowEvent* evento) override {
-        QTreeWidget::showEvent(evento);
-        spartisci();
-    }
-};
-
-void riempi(ListaColonne& righe, const ElencoColonne& elenco) {
-    righe.clear();
-    for (const ElencoColonne::Riga& riga : elenco.righe()) {
-        auto* voce = new QTreeWidgetItem(&righe);
-        voce->setData(0, Qt::UserRole, q(riga.chiave));
-        for (int c = 0; c < righe.columnCount() && c < static_cast<int>(riga.celle.size()); ++c) {
-            const QString cella = q(riga.celle[static_cast<std::size_t>(c)]);
-            voce->setText(c, cella);
-            voce->setToolTip(c, cella);
-            if (riga.evidente) {
-                voce->setFont(c, forte(corpo));
-            }
-        }
-    }
-    righe.spartisci();
-}
-
-}  // namespace
-
-QTreeWidget* collega(ElencoColonne& elenco, QWidget* genitore) {
-    auto* righe = new ListaColonne(genitore);
-    righe->setRootIsDecorated(false);
-    righe->header()->setStretchLastSection(true);
-    righe->setUniformRowHeights(true);
-    righe->setMinimumWidth(misura::elenco);
-    righe->setFrameShape(QFrame::NoFrame);
-    righe->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    righe->setFont(dati(corpo));
-    righe->header()->setFont(forte(punti::barra));
-    righe->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    righe->header()->setSectionsClickable(false);
-    righe->header()->setMinimumSectionSize(misura::campoCorto / 2);
-    righe->viewport()->setCursor(Qt::PointingHandCursor);
-    righe->setMouseTracking(true);
-    QStringList titoli;
-    for (const std::string& titolo : elenco.intestazioni()) {
-        titoli << q(titolo);
-    }
-    righe->setHeaderLabels(titoli);
-    auto* legame = new Legame(elenco, *righe);
-    righe->setProperty("elenco", true);
-    legame->mostra([&elenco, righe] { riempi(*righe, elenco); });
-    const auto apri = [&elenco](QTreeWidgetItem* voce) { elenco.attiva(s(voce->data(0, Qt::UserRole).toString())); };
-    // Queued: what a row leads to hides the window that it stands in.
-    QObject::connect(righe, &QTreeWidget::itemClicked, legame, apri, Qt::QueuedConnection);
-    auto* invio = new QShortcut(QKeySequence(Qt::Key_Return), righe, nullptr, nullptr, Qt::WidgetShortcut);
-    QObject::connect(
-        invio, &QShortcut::activated, legame,
-        [righe, apri] {
-            if (QTreeWidgetItem* voce = righe->currentItem()) {
-                apri(voce);
-            }
-        },
-        Qt::QueuedConnection);
-    return righe;
 }
 
 QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto) {

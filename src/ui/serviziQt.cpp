@@ -12,11 +12,17 @@
 #include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QGridLayout>
+#include <algorithm>
 
+#include "shell/servizi/pelle.h"
 #include "ui/DialogoMessaggio.h"
+#include "ui/VistaFinestra.h"
 #include "ui/legami.h"
+#include "ui/stile.h"
 
 namespace kelvo::ui {
 
@@ -54,6 +60,54 @@ std::optional<std::string> scelto(QFileDialog& dialogo) {
     }
     return s(QDir::toNativeSeparators(dialogo.selectedFiles().constFirst()));
 }
+
+/// Part of the screen that a dialogue takes at most.
+constexpr double parteSchermo = 0.92;
+
+/// The dialogue that a window stands in: it follows the selection, and is asked before the dialogue closes.
+class DialogoConAnteprima final : public QFileDialog {
+public:
+    DialogoConAnteprima(const RichiestaFile& richiesta, FinestraAnteprima& anteprima, QWidget* genitore)
+        : QFileDialog(genitore), anteprima_(anteprima) {
+        setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
+        setFileMode(QFileDialog::ExistingFile);
+        setAcceptMode(QFileDialog::AcceptOpen);
+        setViewMode(QFileDialog::List);
+        setWindowTitle(q(anteprima.didascalia()));
+        prepara(*this, richiesta);
+        vesti(anteprima, 0);
+        auto* piano = qobject_cast<QGridLayout*>(layout());
+        QWidget* vista = creaVista(anteprima, this);
+        if (piano != nullptr && vista != nullptr) {
+            piano->setHorizontalSpacing(misura::spazio);
+            piano->addWidget(vista, 0, piano->columnCount(), piano->rowCount(), 1);
+        }
+        const QSize spazio = screen()->availableSize() * parteSchermo;
+        const QSize voluta = QSize(misura::dialogoAnteprima, misura::altezzaAnteprima).boundedTo(spazio);
+        if (vista != nullptr) {
+            vista->setMinimumWidth(std::min(misura::anteprima, voluta.width() - misura::elencoFile));
+        }
+        QObject::connect(this, &QFileDialog::currentChanged, this,
+                         [this](const QString& percorso) { anteprima_.selezionato(s(percorso)); });
+        anteprima_.allaConferma = [this] { accept(); };
+        resize(voluta);
+    }
+    ~DialogoConAnteprima() override { anteprima_.allaConferma = {}; }
+    DialogoConAnteprima(const DialogoConAnteprima&) = delete;
+    DialogoConAnteprima& operator=(const DialogoConAnteprima&) = delete;
+
+protected:
+    void done(int esito) override {
+        const QStringList scelti = selectedFiles();
+        if (esito != QDialog::Accepted ||
+            (!scelti.isEmpty() && anteprima_.conferma(s(QDir::toNativeSeparators(scelti.constFirst()))))) {
+            QFileDialog::done(esito);
+        }
+    }
+
+private:
+    FinestraAnteprima& anteprima_;
+};
 
 /// Ends a wait at a key or a click.
 class Interruttore final : public QObject {
@@ -96,6 +150,11 @@ std::optional<std::string> DialogoFileQt::apri(const RichiestaFile& richiesta,
     return scelto(dialogo);
 }
 
+bool DialogoAnteprimaQt::apri(const RichiestaFile& richiesta, FinestraAnteprima& anteprima) {
+    DialogoConAnteprima dialogo(richiesta, anteprima, QApplication::activeWindow());
+    return dialogo.exec() == QDialog::Accepted;
+}
+
 std::optional<std::string> DialogoFileQt::salva(const RichiestaFile& richiesta) {
     QFileDialog dialogo(QApplication::activeWindow());
     dialogo.setFileMode(QFileDialog::AnyFile);
@@ -105,7 +164,8 @@ std::optional<std::string> DialogoFileQt::salva(const RichiestaFile& richiesta) 
 }
 
 bool ApriDocumentiQt::apri(const std::string& percorso) {
-    return QFileInfo::exists(q(percorso)) && QDesktopServices::openUrl(QUrl::fromLocalFile(q(percorso)));
+    const QString file = q(percorso).remove(QLatin1Char('"'));
+    return QFileInfo::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 
 bool ApriDocumentiQt::avvia(const std::string& programma, const std::string& argomento) {

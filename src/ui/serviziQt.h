@@ -5,6 +5,7 @@
 
 #include "app/servizi.h"
 #include "app/serviziSistema.h"
+#include "shell/servizi/DialogoAnteprima.h"
 
 class QTimer;
 
@@ -23,6 +24,12 @@ public:
     std::optional<std::string> apri(const RichiestaFile& richiesta,
                                     const std::function<void(const std::string&)>& alCambio) override;
     std::optional<std::string> salva(const RichiestaFile& richiesta) override;
+};
+
+/// The file dialogue of the toolkit, never the system's own, with the window beside the files.
+class DialogoAnteprimaQt final : public DialogoAnteprima {
+public:
+    bool apri(const RichiestaFile& richiesta, FinestraAnteprima& anteprima) override;
 };
 
 /// Opens documents with the desktop's own programs.

@@ -87,12 +87,13 @@ QCheckBox::indicator:checked:disabled { background: {spento}; border-color: {spe
 QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: {spento}; }
 QFrame#pannelloDati { border: 1px solid {bordo}; border-radius: 2px; background: white; }
 QLabel#titoloPannello { color: {titolo}; }
-QLabel#unita, QLabel#limiti, QLabel#notaPannello { color: {secondario}; }
+QLabel#unita, QLabel[quieta="true"] { color: {secondario}; }
 QFrame#rigaPannello { background: {rigaPannello}; border: none; max-height: 1px; min-height: 1px; }
 QWidget#lavoro { background: white; }
 QTextBrowser#ctlHelp { border: none; background: white; }
 QMainWindow, QWidget#telaio { background: {principale}; }
 QSplitter::handle { background: {principale}; image: none; }
+QFileDialog QSplitter::handle { background: white; }
 QMenuBar { background: white; } QMenuBar::item { padding: 5px 10px; background: transparent; }
 QMenuBar::item:selected { background: {sfiorato}; } QMenuBar::item:pressed { background: {scelto}; }
 QMenuBar::item:disabled { color: {spento}; }

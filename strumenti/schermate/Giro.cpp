@@ -1,14 +1,19 @@
 #include "schermate/Giro.h"
 
+#include <QtCore/QFileInfo>
+#include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <array>
 #include <filesystem>
 
+#include "input/frmPreviewRami.h"
 #include "shell/finestrePerChiave.h"
 #include "shell/frmSplash.h"
 #include "shell/registroFinestre.h"
@@ -52,6 +57,15 @@ constexpr const char* finestraRifiuto = "frmTempoModellazione";
 constexpr const char* campoRifiuto = "txtSegmentoTempo";
 constexpr const char* testoRifiuto = "45";
 
+/// A measure that is being looked at.
+constexpr const char* chiaveMisura = "keyRamo1";
+constexpr const char* finestraMisura = "frmParametriRamo";
+constexpr const char* campoMisura = "txtLarghezzaIngresso";
+
+/// How long the list of a folder is waited for.
+constexpr int passiElenco = 20;
+constexpr int passoElenco = 10;  ///< ms
+
 std::string nomeDi(const std::string& percorso) {
     return std::filesystem::path(percorso).stem().string();
 }
@@ -64,7 +78,7 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
       app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
       cornice_(app_, stato_, {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero()}),
       fotografo_(richiesta.cartella) {
-    registraFinestre(cornice_.finestre);
+    registraFinestre(cornice_.finestre, {documenti_, anteprima_});
     vista_.collegaA(cornice_);
     app_.comune.LeggiConfigurazione();
     cornice_.InitGraphics();
@@ -105,6 +119,8 @@ std::string Giro::progetto(const std::string& percorso, bool primo) {
     if (primo) {
         disposizioniAlbero();
         menu();
+        misuraInUso();
+        anteprima(percorso);
         campoRifiutato();
     }
     return nonAttesi();
@@ -178,6 +194,40 @@ void Giro::campoRifiutato() {
     detti_.detti.clear();  // the refusal was asked for
     fotografo_.scatta(vista_, "campo-non-valido");
     finestra->barra()->premi("Refresh");
+}
+
+void Giro::misuraInUso() {
+    cornice_.albero.mostra(chiaveMisura);
+    Finestra* finestra = cornice_.finestre.viva(finestraMisura);
+    auto* veduto = vista_.findChild<QWidget*>(QString::fromLatin1(campoMisura));
+    if (finestra == nullptr || veduto == nullptr) {
+        return;
+    }
+    lasciaCorrere();
+    veduto->setFocus(Qt::TabFocusReason);
+    fotografo_.scatta(vista_, "misura-in-uso");
+}
+
+void Giro::anteprima(const std::string& percorso) {
+    frmPreviewRami finestra(cornice_.contorno());
+    QTimer::singleShot(0, &vista_, [&] {
+        auto* aperto = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (aperto == nullptr) {
+            return;
+        }
+        const QFileInfo file(ui::q(percorso));
+        aperto->setDirectory(file.absolutePath());
+        for (int i = 0; i < passiElenco; ++i) {
+            lasciaCorrere();  // the files of a folder come from the event loop
+            QThread::msleep(passoElenco);
+        }
+        aperto->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file.fileName());
+        finestra.selezionato(percorso);
+        finestra.lstRami.clicca("1");
+        fotografo_.scatta(*aperto, finestra.nome());
+        aperto->reject();
+    });
+    anteprima_.apri(AnteprimaProgetto::richiesta({}), finestra);
 }
 
 void Giro::dialoghi() {

@@ -10,6 +10,7 @@
 #include "schermate/Richiesta.h"
 #include "schermate/serviziMuti.h"
 #include "shell/MDI_Form.h"
+#include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
 
 namespace kelvo::schermate {
@@ -32,6 +33,8 @@ private:
     void disposizioniAlbero();
     void menu();
     void campoRifiutato();
+    void misuraInUso();
+    void anteprima(const std::string& percorso);
     /// Messages that came up without being asked for.
     std::string nonAttesi();
 
@@ -41,6 +44,7 @@ private:
     OrologioSistema orologio_;
     DialogoMuto dialogo_;
     DocumentiMuti documenti_;
+    ui::DialogoAnteprimaQt anteprima_;
     ImpostazioniMute impostazioni_;
     CronometroMuto cronometro_;
     Applicazione app_;

@@ -15,6 +15,7 @@
 #include "shell/MDI_Form.h"
 #include "shell/Main.h"
 #include "shell/finestrePerChiave.h"
+#include "shell/registroFinestre.h"
 #include "shell/servizi/tBox.h"
 
 namespace kelvo::prove::shell {
@@ -131,6 +132,24 @@ public:
     std::vector<std::string> aperti;
     std::vector<std::string> avviati;
     bool riesce = true;
+};
+
+/// A file dialogue with a preview: what its user does is told by the test.
+class AnteprimaFinta final : public DialogoAnteprima {
+public:
+    bool apri(const RichiestaFile& richiesta, FinestraAnteprima& anteprima) override {
+        richieste.push_back(richiesta);
+        return alDialogo && alDialogo(anteprima);
+    }
+    std::vector<RichiestaFile> richieste;
+    std::function<bool(FinestraAnteprima&)> alDialogo;  ///< empty: Cancel
+};
+
+/// The services of the real windows.
+struct ServiziFinestreFinti {
+    DocumentiFinti documenti;
+    AnteprimaFinta anteprima;
+    ServiziFinestre servizi() { return {documenti, anteprima}; }
 };
 
 class ImpostazioniFinte final : public ImpostazioniUtente {

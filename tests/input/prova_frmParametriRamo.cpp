@@ -295,12 +295,16 @@ TEST_F(ProveParametri, TheFieldInUseShowsItsPictureAndPage) {
         finestra.fuocoSu(*campi[i]);
         EXPECT_EQ(finestra.ctlPicture.risorsa(), attesi[i].first);
         EXPECT_EQ(finestra.ctlHelp.pagina(), attesi[i].second);
-        EXPECT_EQ(finestra.misuraInUso(), static_cast<MisuraGeometrica>(i));
+        EXPECT_EQ(finestra.misuraInUso(), static_cast<pianta::Misura>(i));
     }
     finestra.fuocoSu(finestra.txtDescrizioneRamo);
     EXPECT_EQ(finestra.ctlPicture.risorsa(), "VUOTA");
-    EXPECT_EQ(finestra.ctlHelp.pagina(), "EmptyHelp.htm");
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "NomeRamo.htm");
     EXPECT_FALSE(finestra.misuraInUso().has_value());
+    finestra.fuocoSu(finestra.txtDiametroInscritto);
+    finestra.fuocoSu(finestra.cmdDM);
+    EXPECT_EQ(finestra.ctlPicture.risorsa(), "VUOTA");
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "EmptyHelp.htm");
 }
 
 TEST_F(ProveParametri, TheDecreeOpensFromKeyAndButton) {
@@ -327,11 +331,11 @@ TEST_F(ProveParametri, FiguresOfTheRelationFollowEachKey) {
     EXPECT_EQ(valore("tD"), "1,4404");
     EXPECT_EQ(valore("S"), "0,224");
     EXPECT_EQ(valore("x2 [m]"), "5,92");
-    EXPECT_EQ(valore("Intercetta [veic/h]"), "1853");
+    EXPECT_EQ(valore("Intercetta"), "1853");
     EXPECT_EQ(valore("Pendenza"), "0,6827");
-    EXPECT_EQ(valore("Capacità con Qc = 0 [veic/h]"), "1853");
-    EXPECT_EQ(valore("Capacità con Qc = 500 [veic/h]"), "1512");
-    EXPECT_EQ(valore("Capacità con Qc = 1000 [veic/h]"), "1171");
+    EXPECT_EQ(valore("Capacità con Qc = 0"), "1853");
+    EXPECT_EQ(valore("Capacità con Qc = 500"), "1512");
+    EXPECT_EQ(valore("Capacità con Qc = 1000"), "1171");
     EXPECT_EQ(ramo(1).F(), 0.0) << "the leg keeps the results of its last calculation";
 }
 
@@ -344,8 +348,8 @@ TEST_F(ProveParametri, TheSmallestEntryStillHasCapacityAtAThousandVehicles) {
     finestra.txtDiametroInscritto.scrivi("13,50");
     // k = 1 - 0.16309 - 0.238747 = 0.598163; S = 2.72; x2 = 1.9 + 1.7/6.44 = 2.163975; F = 392.2;
     // tD = 1.495264; fc = 0.21 x 1.495264 x 1.432795 x k = 0.269117: at 1000 there are 123 left.
-    EXPECT_EQ(valore("Capacità con Qc = 0 [veic/h]"), "392");
-    EXPECT_EQ(valore("Capacità con Qc = 1000 [veic/h]"), "123");
+    EXPECT_EQ(valore("Capacità con Qc = 0"), "392");
+    EXPECT_EQ(valore("Capacità con Qc = 1000"), "123");
 }
 
 TEST_F(ProveParametri, HalfTypedMeasuresKeepTheLastGoodPicture) {

@@ -248,8 +248,9 @@ TEST(NonAncora, TheTrafficNodesFollowTheWindowThatIsChosen) {
 }
 
 TEST(NonAncora, TheListHoldsExactlyWhatAKeyLeadsToAndDoesNotStand) {
+    ServiziFinestreFinti servizi;
     FabbricaFinestre vere;
-    registraFinestre(vere);
+    registraFinestre(vere, servizi.servizi());
     std::set<std::string_view> mete{"frmDatiTraffico", "frmDatiTrafficoST", "frmComposizioneTraffico",
                                     "frmComposizioneTrafficoST", "frmOPZrelazione"};
     for (const FinestraDiChiave& riga : finestrePerChiave) {
@@ -271,11 +272,12 @@ TEST(NonAncora, TheListHoldsExactlyWhatAKeyLeadsToAndDoesNotStand) {
 
 TEST(NonAncora, WithTheRealWindowsEveryClosedKeyLeadsToOneOfTheList) {
     for (const int disposizione : {0, 1}) {
+        ServiziFinestreFinti servizi;
         ShellFinta f;
         f.disposizione(disposizione);
         MDI_Form cornice{
             f.app, f.stato, {f.superficie, f.dialogo, f.documenti, f.impostazioni, f.cronometro, f.cartella.file("R")}};
-        registraFinestre(cornice.finestre);
+        registraFinestre(cornice.finestre, servizi.servizi());
         cornice.Load();
         creaProgetto(f.app, 3);
         f.app.theRotonda().OttimizzazioneGeometrica(true);

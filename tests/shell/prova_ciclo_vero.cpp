@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 struct CicloVero : testing::Test {
     CicloVero() {
-        registraFinestre(f.cornice.finestre);
+        registraFinestre(f.cornice.finestre, {f.documenti, anteprima});
         f.superficie.alModale = [this](Finestra& finestra) {
             if (auto* rami = dynamic_cast<frmInputNumeroRami*>(&finestra)) {
                 rami->txtNumeroRami.imposta(f.ramiScelti == 0 ? 3 : f.ramiScelti);
@@ -46,6 +46,7 @@ struct CicloVero : testing::Test {
         EXPECT_EQ(f.cornice.titolo(), titolo);
         EXPECT_EQ(f.cornice.NomeFileProposto(), proposto);
     }
+    AnteprimaFinta anteprima;
     ShellFinta f;
 };
 

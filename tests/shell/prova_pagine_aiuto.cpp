@@ -6,6 +6,7 @@
 
 #include "comune/cartella.h"
 #include "comune/fintiFinestre.h"
+#include "comune/fintiShell.h"
 #include "input/frmTempoModellazione.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/registroFinestre.h"
@@ -44,8 +45,9 @@ std::string testoVisibile(const std::string& pagina) {
 
 TEST(PagineAiuto, EveryPageThatAFieldNamesStandsAndSaysSomething) {
     ScenaFinestre scena;
+    shell::ServiziFinestreFinti servizi;
     FabbricaFinestre finestre;
-    registraFinestre(finestre);
+    registraFinestre(finestre, servizi.servizi());
     std::set<std::string> nominate;
     for (const std::string& nome : finestre.nomi()) {
         for (const Controllo* controllo : finestre.finestra(nome, scena.contorno()).ordine()) {
@@ -69,8 +71,9 @@ TEST(PagineAiuto, TheBlankPageStandsAndIsBlank) {
 
 TEST(PagineAiuto, EveryFieldOfTimesAndRegistriesHasOne) {
     ScenaFinestre scena;
+    shell::ServiziFinestreFinti servizi;
     FabbricaFinestre finestre;
-    registraFinestre(finestre);
+    registraFinestre(finestre, servizi.servizi());
     int campi = 0;
     for (const char* nome : {"frmTempoModellazione", "frmAnagraficaRotonda", "frmCommittenteProfessionista"}) {
         for (const Controllo* controllo : finestre.finestra(nome, scena.contorno()).ordine()) {

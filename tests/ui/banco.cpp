@@ -81,7 +81,7 @@ Banco::Banco(int disposizione, SistemaFile& file)
     app.configurazione.coefficienti(coefficientiDiFabbrica);
     app.configurazione.PathErrore = "FILELOGERROR.TXT";
     app.configurazione.LayoutPannello = 3;
-    registraFinestre(cornice.finestre);
+    registraFinestre(cornice.finestre, {documenti, anteprima});
     vista.collegaA(cornice);
 }
 

@@ -9,6 +9,7 @@
 #include "comune/fintiShell.h"
 #include "shell/registroFinestre.h"
 #include "ui/gesti.h"
+#include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
 
 namespace kelvo::prove {
@@ -60,6 +61,7 @@ public:
     OrologioFinto orologio;
     shell::DialogoFinto dialogo;
     shell::DocumentiFinti documenti;
+    ui::DialogoAnteprimaQt anteprima;
     shell::ImpostazioniFinte impostazioni;
     shell::CronometroFinto cronometro;
     Applicazione app;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/nuovoProgetto.h"
+#include "comune/fintiShell.h"
 #include "shell/registroFinestre.h"
 #include "ui/scenaVista.h"
 
@@ -106,10 +107,12 @@ struct ProveViste : testing::Test, ScenaFinestre {
 TEST_F(ProveViste, PanelsOfEveryWindowStandBesideEachOtherAndHoldTheirContent) {
     creaProgetto(app, 4);
     stato.ProgettoAperto = true;
+    shell::ServiziFinestreFinti servizi;
     FabbricaFinestre fabbrica;
-    registraFinestre(fabbrica);
-    for (const char* nome :
-         {"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista", "frmTempoModellazione"}) {
+    registraFinestre(fabbrica, servizi.servizi());
+    navigazione.corrente = "keyRamo1";
+    for (const char* nome : {"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista",
+                             "frmTempoModellazione", "frmParametriRamo"}) {
         Finestra* finestra = &fabbrica.finestra(nome, contorno());
         const std::unique_ptr<ui::VistaFinestra> vista(ui::creaVista(*finestra, nullptr));
         ASSERT_NE(vista, nullptr) << finestra->nome();

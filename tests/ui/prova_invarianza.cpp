@@ -107,6 +107,17 @@ TEST_P(Invarianza, SoDoesAProjectWhoseEveryPropertyIsItsOwn) {
     progetto.CAPProfessionista("00042");
     progetto.TipoAnalisi(1);
     progetto.TipoFlusso(0);
+    for (std::int16_t i = 1; i <= progetto.NumeroRami(); ++i) {
+        // Within the limits of the fields, and of more decimals than they show.
+        const auto passo = static_cast<float>(i);
+        progetto.Ramo(i).Descrizione("Strada è n. " + std::to_string(i));
+        progetto.Ramo(i).LarghezzaIngresso(5.123457F + passo / 7.0F);
+        progetto.Ramo(i).SemiLarghezza(3.005001F + passo / 11.0F);
+        progetto.Ramo(i).LunghezzaSvasatura(1.0F + passo / 3.0F);
+        progetto.Ramo(i).AngoloConflitto(passo / 13.0F);
+        progetto.Ramo(i).RaggioIngresso(1234.567F / passo);
+        progetto.Ramo(i).DiametroInscritto(13.5F + passo / 17.0F);
+    }
     std::string messaggio;
     bool esito = false;
     progetto.Save(banco.cartella.file("strano.klv"), messaggio, esito);

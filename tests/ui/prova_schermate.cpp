@@ -9,6 +9,7 @@
 
 #include "cli/processo.h"
 #include "comune/cartella.h"
+#include "comune/fintiShell.h"
 #include "shell/registroFinestre.h"
 
 namespace kelvo::prove {
@@ -46,8 +47,9 @@ Misure misurePng(const std::string& file) {
 }
 
 std::vector<std::string> finestreRegistrate() {
+    shell::ServiziFinestreFinti servizi;
     FabbricaFinestre finestre;
-    registraFinestre(finestre);
+    registraFinestre(finestre, servizi.servizi());
     return finestre.nomi();
 }
 

@@ -22,7 +22,8 @@ const std::vector<Nodo>& nodiAperti() {
     static const std::vector<Nodo> nodi{{"keyMyProject", "frmEmptyForm"},
                                         {"keyAnagraficaRotonda", "frmAnagraficaRotonda"},
                                         {"keyAnagraficaProfessionista", "frmCommittenteProfessionista"},
-                                        {"keyTempoModellazione", "frmTempoModellazione"}};
+                                        {"keyTempoModellazione", "frmTempoModellazione"},
+                                        {"keyRamo1", "frmParametriRamo"}};
     return nodi;
 }
 

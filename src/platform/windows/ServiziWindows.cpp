@@ -90,8 +90,10 @@ std::string ImpostazioniWindows::leggi(const std::string& applicazione, const st
 }
 
 bool ApriDocumentiWindows::apri(const std::string& percorso) {
-    const DWORD attributi = GetFileAttributesW(percorsoLargo(percorso).c_str());
-    return attributi != INVALID_FILE_ATTRIBUTES && apriColSistema(testoLargo(percorso), nullptr);
+    std::string file = percorso;
+    std::erase(file, '"');
+    const DWORD attributi = GetFileAttributesW(percorsoLargo(file).c_str());
+    return attributi != INVALID_FILE_ATTRIBUTES && apriColSistema(testoLargo(file), nullptr);
 }
 
 bool ApriDocumentiWindows::avvia(const std::string& programma, const std::string& argomento) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <functional>
 #include <string>
 
 #include "app/serviziSistema.h"
@@ -17,6 +17,8 @@ public:
     virtual void selezionato(const std::string& percorso) = 0;
     /// The dialogue was confirmed with a file; false keeps it open.
     virtual bool conferma(const std::string& percorso) = 0;
+    /// The user confirms from within the window; set by the dialogue, empty where there is none.
+    std::function<void()> allaConferma;
 };
 
 /// The file dialogue that carries such a window.

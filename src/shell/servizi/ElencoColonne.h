@@ -9,7 +9,7 @@
 
 namespace kelvo {
 
-/// A list of keyed rows in columns, each of which leads somewhere.
+/// A list of keyed rows in columns: a click opens a row, or marks it where rows are chosen.
 class ElencoColonne final : public Controllo {
 public:
     struct Riga {
@@ -32,6 +32,10 @@ public:
         }
         return nullptr;
     }
+    /// Rows are chosen: a click marks one, a double click or Enter opens it. Else a click opens it.
+    bool sceglie = false;
+    /// The columns from this one on, from 0, hold numbers; none at first.
+    std::size_t numericheDa = std::string::npos;
     std::function<void(const std::string&)> allAttivazione;
 
     /// Key of the row that is marked; empty for none.

@@ -20,6 +20,8 @@ constexpr std::array viste{
     VoceVista{"frmEmptyForm", vista_frmEmptyForm},
     VoceVista{"frmInputNumeroRami", vista_frmInputNumeroRami},
     VoceVista{"frmINFO", vista_frmINFO},
+    VoceVista{"frmParametriRamo", vista_frmParametriRamo},
+    VoceVista{"frmPreviewRami", vista_frmPreviewRami},
     VoceVista{"frmSplash", vista_frmSplash},
     VoceVista{"frmTempoModellazione", vista_frmTempoModellazione},
     VoceVista{"frmToponomasticaIntersezione", vista_frmToponomasticaIntersezione},

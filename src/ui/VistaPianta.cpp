@@ -1,0 +1,71 @@
+#include "ui/VistaPianta.h"
+
+#include <QtGui/QPaintEvent>
+#include <QtGui/QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "disegno/pittorePianta.h"
+#include "ui/legami.h"
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+VistaPianta::VistaPianta(std::function<Soggetto()> soggetto, QWidget* genitore)
+    : QWidget(genitore), soggetto_(std::move(soggetto)) {
+    setObjectName(QStringLiteral("ctlPianta"));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void VistaPianta::aggiorna() {
+    disegnata_.reset();
+    update();
+}
+
+QSize VistaPianta::sizeHint() const {
+    return {misura::pianta, misura::pianta};
+}
+
+QSize VistaPianta::minimumSizeHint() const {
+    return {misura::figuraMinima, misura::figuraMinima};
+}
+
+void VistaPianta::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    disegnata_.reset();
+}
+
+void VistaPianta::disegna() {
+    Soggetto soggetto = soggetto_();
+    if (soggetto.dati.rami.empty()) {
+        return;
+    }
+    const auto costruisci = [&](double alta) {
+        soggetto.opzioni.rapporto = width() / std::max(1.0, alta);
+        soggetto.opzioni.altezzaTesto = misura::testoPianta / std::max<double>(misura::testoPianta, alta);
+        disegnata_ = pianta::costruisci(soggetto.dati, soggetto.opzioni);
+    };
+    // The strip of the remarks stands below the picture: what is left is the room of the picture itself. It is mostly
+    // as high as the last time.
+    constexpr double scarto = 0.01;
+    costruisci(height() * parte_);
+    const double parte = disegnata_->fascia ? 1.0 - disegnata_->fascia->altezza() / disegnata_->vista.altezza() : 1.0;
+    if (std::abs(parte - parte_) > scarto) {
+        parte_ = parte;
+        costruisci(height() * parte_);
+    }
+    setAccessibleName(q(disegnata_->nomeAccessibile));
+}
+
+void VistaPianta::paintEvent(QPaintEvent* /*evento*/) {
+    if (!disegnata_) {
+        disegna();
+    }
+    if (disegnata_) {
+        QPainter pennello(this);
+        disegno::dipingiPianta(pennello, *disegnata_, rect());
+    }
+}
+
+}  // namespace kelvo::ui
