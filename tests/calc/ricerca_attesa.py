@@ -54,10 +54,12 @@ class Window:
             return
         q1, q2, q3 = number(self.q1), number(self.q2), number(self.q3)
         p1, p2 = single((q2 - q1) / n1), single((q3 - q2) / n2)
-        total = 0.0
+        total, self.bars = 0.0, []
         for i in range(abs(n1) + abs(n2) - flat + 1):
             flow = single(q1 + i * p1 if i <= n1 else q2 + (i - n1) * p2)
+            self.bars.append((self.t1 + i * self.m if i <= n1 else self.t2 + (i - n1) * self.m, flow))
             total = single(total + flow * self.m)
+        self.total = total
         self.rounded, self.exact = shown(total, 7, 0), shown(total, 7, 2)
 
     def approximation(self):
