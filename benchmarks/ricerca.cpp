@@ -15,7 +15,7 @@ constexpr double minuti = 5.0;
 constexpr double q1 = 3.0;
 constexpr double q3 = 6.0;
 constexpr double fuoriPortata = 1e9;  ///< vehicles
-constexpr int tacche = 1000;          ///< changes of the bar that can be seen
+constexpr int tacche = 200;           ///< changes of the bar that can be seen
 
 }  // namespace
 

@@ -12,6 +12,7 @@ public:
     RicercaLunga();
     RicercaLunga(const RicercaLunga&) = delete;
     RicercaLunga& operator=(const RicercaLunga&) = delete;
+    ~RicercaLunga() = default;
 
     void cerca();
     /// The sums of the same bars for the same peaks, without fields and their texts.

@@ -87,7 +87,7 @@ private:
         }
         if (forma_.costruibile()) {
             const spezzata::Rette rette = spezzata::retteDi(forma_, q1_, q2_.valore, q3_.valore);
-            totale_ = letto(formatta(spezzata::percorri(forma_, rette, [](int, float) {}), "#0"));
+            totale_ = spezzata::arrotondato(spezzata::percorri(forma_, rette, [](int, float) {}));
         }
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdlib>
 
 #include "base/guasto.h"
@@ -64,6 +65,22 @@ float percorri(const Forma& forma, const Rette& rette, PerBarra perBarra) {
 template <class T>
 double comeTesto(T valore) {
     return leggiNumero(testoNumero(valore)).value_or(0.0);
+}
+
+/// A total as its text "#0" gives it back.
+inline double arrotondato(float totale) {
+    // Below it seven digits have two decimals to spare: well away from a half no text is needed to round.
+    constexpr double limite = 1e5;
+    constexpr double margine = 0.01;
+    const auto valore = static_cast<double>(totale);
+    if (valore >= 0.0 && valore < limite) {
+        const double sotto = std::floor(valore);
+        const double resto = valore - sotto;
+        if (resto < 0.5 - margine || resto > 0.5 + margine) {
+            return resto < 0.5 ? sotto : sotto + 1.0;
+        }
+    }
+    return leggiNumero(formatta(totale, "#0")).value_or(0.0);
 }
 
 }  // namespace kelvo::spezzata

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "base/numeri.h"
@@ -119,6 +120,23 @@ TEST(RicercaCurva, FaultsAreThoseOfTheCurveAndOfAQ1ThatIsNoNumber) {
     richiesta.q1 = "4";
     richiesta.dati.minuti = 0;
     EXPECT_EQ(numeroDi(), 11);
+}
+
+TEST(RicercaCurva, RoundingWithoutATextIsThatOfTheText) {
+    const auto diTesto = [](float totale) { return leggiNumero(formatta(totale, "#0")).value(); };
+    for (int i = 0; i < 200000; ++i) {
+        // Steps of no whole number of hundredths, past the six digits where seven leave one decimal.
+        const auto totale = static_cast<float>(i * 0.7531);
+        ASSERT_EQ(spezzata::arrotondato(totale), diTesto(totale)) << i;
+        ASSERT_EQ(spezzata::arrotondato(-totale), diTesto(-totale)) << i;
+    }
+    for (const float mezzo : {0.5F, 123.5F, 9999.5F, 99999.5F, 123456.46F, 999999.5F, 1e10F}) {
+        for (const float totale : {std::nextafter(mezzo, 0.0F), mezzo, std::nextafter(mezzo, 1e30F)}) {
+            EXPECT_EQ(spezzata::arrotondato(totale), diTesto(totale)) << totale;
+        }
+        EXPECT_EQ(spezzata::arrotondato(mezzo + 0.0101F), diTesto(mezzo + 0.0101F)) << mezzo;
+    }
+    EXPECT_EQ(spezzata::arrotondato(123456.46F), 123457.0) << "seven digits round to 123456,5 first";
 }
 
 TEST(RicercaCurva, ShortWayGivesTheTotalOfTheWholeConstruction) {

@@ -265,11 +265,11 @@ TEST_P(TavolaInFinestra, SearchEndsAsExpected) {
     EXPECT_EQ(finestra.lblApprox.testo(),
               *caso.approssimazione == '\0' ? "" : std::string{"Approssimazione applicata :  "} + caso.approssimazione);
     EXPECT_EQ(finestra.prgCurva.valore(), caso.barra);
-    // What can be seen of the steps, a thousandth of the bar each; once more where a second pass comes back.
+    // What can be seen of the steps, half a hundredth of the bar each; once more where a second pass comes back.
     const auto visti = std::count_if(barra.begin(), barra.end(), [](int n) { return n != passiMassimiRicerca; });
-    EXPECT_GE(visti, std::min(caso.passi, passiMassimiRicerca - 1) / 20);
+    EXPECT_GE(visti, std::min(caso.passi, passiMassimiRicerca - 1) / 100);
     if (!flat) {  // its passes follow one another all the way
-        EXPECT_LE(visti, caso.passi / 20 + 1);
+        EXPECT_LE(visti, caso.passi / 100 + 1);
     }
     std::vector<std::string> attesi;
     if (obiettivo > 5000.0) {

@@ -163,7 +163,7 @@ private:
 };
 
 /// How far a long job has come. It may be told each of many small steps: it signals a change only where it can be seen,
-/// a thousandth of the way or more.
+/// half a hundredth of the way or more.
 class BarraProgresso final : public Controllo {
 public:
     BarraProgresso(std::string nome, int minimo, int massimo)
@@ -180,9 +180,9 @@ public:
     }
 
 private:
-    /// Place on a scale of a thousand marks, or the value itself on a shorter way.
+    /// Place on a scale of two hundred marks, or the value itself on a shorter way.
     int tacca(int valore) const {
-        constexpr std::int64_t tacche = 1000;
+        constexpr std::int64_t tacche = 200;
         const std::int64_t lunga = std::int64_t{massimo_} - minimo_;
         const std::int64_t fatta = std::int64_t{valore} - minimo_;
         return static_cast<int>(lunga <= tacche ? fatta : fatta * tacche / lunga);
