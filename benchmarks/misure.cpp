@@ -20,6 +20,7 @@
 #include "calc/modCalcolo.h"
 #include "platform/Piattaforma.h"
 #include "progetti.h"
+#include "ricerca.h"
 
 namespace {
 
@@ -304,6 +305,12 @@ void misura() {
     preparaIpotesi(banchi.ipotesi);
     std::vector<Coppia> coppie = coppieMotore(banchi);
     confrontaTutti(banchi, coppie);
+    RicercaLunga ricerca;
+    coppie.push_back({"search of a peak, 20,000 steps on 72 bars (bare: the sums)", [&ricerca] { ricerca.cerca(); },
+                      [&ricerca] { ricerca.nuda(); }});
+    ricerca.cerca();
+    ricerca.nuda();
+    pretendi(ricerca.difetto().empty(), ricerca.difetto());
 
     const CartellaMisure cartella;
     Rotonda altra;

@@ -28,6 +28,10 @@ void ComandoSuFile::aggiungiComuni() {
     aggiungiIntero(
         *app_, "--notte", comuni_.notte, percento,
         "riduzione della capacità di notte, da 0 a 100 per cento; vale per i progetti in condizioni notturne");
+    aggiungiJson();
+}
+
+void ComandoSuFile::aggiungiJson() {
     app_->add_flag("--json", comuni_.json, "una riga di JSON per file, con i numeri a piena precisione")
         ->disable_flag_override();
 }

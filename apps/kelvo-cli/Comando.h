@@ -40,6 +40,8 @@ public:
 protected:
     /// Adds --ini, --notte and --json.
     void aggiungiComuni();
+    /// Adds --json alone.
+    void aggiungiJson();
     /// False for options that do not go together; says why on standard error.
     virtual bool opzioniCoerenti() { return true; }
     /// False if the command computes nothing and needs no configuration.
@@ -58,6 +60,7 @@ std::unique_ptr<Comando> comandoCapacitaUltima(CLI::App& radice);
 std::unique_ptr<Comando> comandoNuovo(CLI::App& radice);
 std::unique_ptr<Comando> comandoMostra(CLI::App& radice);
 std::unique_ptr<Comando> comandoVerifica(CLI::App& radice);
+std::unique_ptr<Comando> comandoCurva(CLI::App& radice);
 /// The commands that draw; none in a program that was built without the desktop's libraries.
 std::vector<std::unique_ptr<Comando>> comandiDisegno(CLI::App& radice);
 

@@ -20,6 +20,10 @@ public:
 
     /// Shows a message and waits for its answer.
     virtual Risposta mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) = 0;
+    /// The same on top of all windows, those of other programs too; as `mostra` where there is no such thing.
+    virtual Risposta mostraSopra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) {
+        return mostra(testo, titolo, icona, pulsanti);
+    }
 };
 
 /// The time of day of the world outside.

@@ -28,6 +28,7 @@ struct CurvaTraffico {
     std::string TotaleArrotondato;               ///< vehicles, "#0"
     std::string TotaleEsatto;                    ///< vehicles, "#0.00"
     TotaliTraffico totali;
+    float totale = 0.0F;  ///< vehicles, as they were added up
 };
 
 /// Builds the bars of a demand curve into `curva`: rising from q1 to the peak, which stands at index

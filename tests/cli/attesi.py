@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the expected texts of tests/cli/attesi/ from the example projects, apart from any C++ of the project.
 
-The figures come from tests/calc/tavola_attesa.py; the layout of the tables is written down once more here.
+The figures come from tests/calc/tavola_attesa.py, those of the demand curves from ricerca_attesa.py; the layout of the tables is written down once more here.
 Usage: attesi.py
 """
 
@@ -13,6 +13,7 @@ from decimal import ROUND_HALF_UP, Decimal
 
 QUI = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(QUI.parent / "calc"))
+import ricerca_attesa as curve  # noqa: E402
 import tavola_attesa as motore  # noqa: E402
 
 PROGETTI = QUI.parent.parent / "assets" / "Progetti"
@@ -160,6 +161,60 @@ def run_json(file, ultimate, records):
     return json.dumps(run, ensure_ascii=False, separators=(",", ":")) + "\n"
 
 
+def curve_of(file, leg, target):
+    """The window of a leg with its curve built, and outcome and steps of its search if there is a target."""
+    traffic = leg["theDatiTraffico"]
+    times = tuple(minutes(traffic["Tempo%d" % i]) for i in (1, 2, 3))
+    texts = [curve.plain(traffic["FlussoTempo%d" % i]) for i in (1, 2, 3)]
+    window = curve.Window(times, minutes(file["SegmentoTempo"]), texts[0], target)
+    window.q2, window.q3 = texts[1:]
+    found = curve.search(window) if target else None
+    window.build()
+    return window, found
+
+
+def curve_text(file, number, target):
+    leg = file["Rami"][number - 1]
+    window, found = curve_of(file, leg, target)
+    bars = [["", "Flusso [veic/min]"]]
+    bars += [["%s-%s" % (clock(t), clock(t + window.m)), shown(flow, 2)] for t, flow in window.bars]
+    mean = window.total / (window.t3 - window.t1)
+    rows = [["t%d" % (i + 1), clock(t)] for i, t in enumerate((window.t1, window.t2, window.t3))]
+    rows += [["q%d [veic/min]" % (i + 1), q] for i, q in enumerate((window.q1, window.q2, window.q3))]
+    rows += [["Flusso totale ingresso [veic]", window.rounded],
+             ["Flusso medio [veic/min]", shown_double(mean, 2)],
+             ["Flusso orario [veic/h]", shown_double(mean * 60, 2)]]
+    if found:
+        words = {"trovata": "trovata", "passiEsauriti": "passi esauriti"}
+        rows += [["Obiettivo [veic]", target], ["Ricerca", words[found[0]]], ["Passi", str(found[1])],
+                 ["Approssimazione applicata", window.approximation()]]
+    return ("Curva di traffico: %s\r\n\r\n" % leg["Descrizione"] + table_text(bars, True, lambda row: False) + "\r\n" +
+            table_text(rows, False, lambda row: False) + closing(file))
+
+
+def curve_json(file, number, target):
+    leg = file["Rami"][number - 1]
+    window, (outcome, steps) = curve_of(file, leg, target)
+    mean = window.total / (window.t3 - window.t1)
+    q1, q2, q3, wanted = (curve.number(x) for x in (window.q1, window.q2, window.q3, target))
+    run = {"file": "%s.klv" % file["NomeFile"], "NomeFile": file["NomeFile"], "Key": leg["Key"],
+           "Descrizione": leg["Descrizione"], "minuti": window.m, "Tempo1": clock(window.t1), "Tempo2": clock(window.t2),
+           "Tempo3": clock(window.t3), "FlussoTempo1": plain(q1), "FlussoTempo2": plain(q2), "FlussoTempo3": plain(q3),
+           "piatto": False,
+           "barre": [{"intervallo": "%s-%s" % (clock(t), clock(t + window.m)), "Flusso": plain_single(flow)}
+                     for t, flow in window.bars],
+           "FlussoTotale": plain_single(window.total), "FlussoMedio": plain(mean), "FlussoOrario": plain(mean * 60),
+           "ricerca": {"obiettivo": plain(wanted), "q2": plain(q2), "q3": plain(q3), "passi": steps, "esito": outcome,
+                       "differenzaAnomala": q2 - q1 > 15,
+                       "approssimazione": plain(-(100 - curve.number(window.exact) / wanted * 100))},
+           "errori": []}
+    return json.dumps(run, ensure_ascii=False, separators=(",", ":")) + "\n"
+
+
+def write(name, text):
+    (QUI / "attesi" / name).write_bytes(text.encode("utf-8"))
+
+
 def main():
     for path in sorted(PROGETTI.glob("*.klv")):
         file = json.loads(path.read_text(encoding="utf-8"))
@@ -169,10 +224,13 @@ def main():
         capacities = ultimate_text(file, ultimate)
         results = checks_text(file, records) if analysis in (1, 2) else capacities
         for name, text in (("calcola", results), ("capacita-ultima", capacities)):
-            (QUI / "attesi" / ("%s.%s.txt" % (path.stem, name))).write_bytes(text.encode("utf-8"))
+            write("%s.%s.txt" % (path.stem, name), text)
         if path.stem == IN_JSON:
-            text = run_json(file, ultimate, records)
-            (QUI / "attesi" / ("%s.calcola.json" % path.stem)).write_bytes(text.encode("utf-8"))
+            write("%s.calcola.json" % path.stem, run_json(file, ultimate, records))
+            write("%s.curva.json" % path.stem, curve_json(file, 3, "500"))
+        if analysis == 1:
+            write("%s.curva.txt" % path.stem, curve_text(file, 1, ""))
+            write("%s.curva-obiettivo.txt" % path.stem, curve_text(file, 2, "600"))
 
 
 if __name__ == "__main__":

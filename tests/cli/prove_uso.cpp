@@ -121,6 +121,17 @@ const std::array usiErrati{
     UsoErrato{"NewWithForbiddenName",
               {"nuovo", "--rami", "3", "--nome", "a/b", "x.klv"},
               "nome 'a/b': non sono permessi i caratteri \\/:*?\"<>|"},
+    UsoErrato{"CurveWithoutLeg", {"curva", "x.klv"}, "manca l'opzione --ramo"},
+    UsoErrato{"CurveOfLegEight", {"curva", "--ramo", "8", "x.klv"}, "--ramo: serve un numero intero da 1 a 7, non '8'"},
+    UsoErrato{"TargetOfZero",
+              {"curva", "--ramo", "1", "--obiettivo", "0", "x.klv"},
+              "--obiettivo: serve un numero di veicoli sopra 0, non '0'"},
+    UsoErrato{"TargetNotANumber",
+              {"curva", "--ramo", "1", "--obiettivo", "1e3", "x.klv"},
+              "--obiettivo: serve un numero di veicoli sopra 0, non '1e3'"},
+    UsoErrato{"TargetWithoutValue", {"curva", "--ramo", "1", "x.klv", "--obiettivo"}, "--obiettivo: manca il valore"},
+    UsoErrato{
+        "CurveWithNight", {"curva", "--ramo", "1", "--notte", "5", "x.klv"}, "argomento non riconosciuto: '--notte'"},
 };
 
 class UsiErrati : public testing::TestWithParam<UsoErrato> {};
@@ -151,7 +162,8 @@ TEST_P(Aiuto, IsItalianAndEndsWithExamples) {
     EXPECT_EQ(parolaInglese(esito.uscita), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Comandi, Aiuto, testing::Values("calcola", "capacita-ultima", "nuovo", "mostra", "verifica"),
+INSTANTIATE_TEST_SUITE_P(Comandi, Aiuto,
+                         testing::Values("calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva"),
                          [](const auto& caso) {
                              return std::string(caso.param).substr(0, std::string(caso.param).find('-'));
                          });
@@ -159,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(Comandi, Aiuto, testing::Values("calcola", "capacita-ul
 TEST(AiutoGenerale, OfTheProgramNamesEveryCommand) {
     const Esito esito = kelvoCli({"--help"});
     EXPECT_EQ(esito.codice, 0);
-    for (const char* comando : {"calcola", "capacita-ultima", "nuovo", "mostra", "verifica"}) {
+    for (const char* comando : {"calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva"}) {
         EXPECT_NE(esito.uscita.find(std::string("\n  ") + comando + " "), std::string::npos) << comando;
     }
     EXPECT_NE(esito.uscita.find("\nComandi:\n"), std::string::npos);

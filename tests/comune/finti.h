@@ -21,17 +21,27 @@ public:
         std::string titolo;
         Icona icona;
         Pulsanti pulsanti;
+        bool sopra = false;  ///< on top of all windows
     };
     Risposta mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) override {
-        mostrati.push_back({testo, titolo, icona, pulsanti});
+        mostrati.push_back({testo, titolo, icona, pulsanti, sopra_});
         if (alMostrare) {
             alMostrare();
         }
         return risposta;
     }
+    Risposta mostraSopra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) override {
+        sopra_ = true;
+        const Risposta data = mostra(testo, titolo, icona, pulsanti);
+        sopra_ = false;
+        return data;
+    }
     std::vector<Messaggio> mostrati;
     Risposta risposta = Risposta::ok;
     std::function<void()> alMostrare;  ///< looks at how things stand while a box is open
+
+private:
+    bool sopra_ = false;
 };
 
 /// A clock that stands still: 21 November 2026, 10:30:05.

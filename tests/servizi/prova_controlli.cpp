@@ -102,6 +102,35 @@ TEST(Controlli, ProgressStaysBetweenItsLimits) {
     EXPECT_EQ(barra.valore(), 0);
 }
 
+TEST(Controlli, ProgressIsToldWhereItCanBeSeen) {
+    int segnali = 0;
+    BarraProgresso corta("prg", 0, 10);
+    corta.cambiato().connect([&] { ++segnali; });
+    for (int i = 1; i <= 10; ++i) {
+        corta.valore(i);
+        corta.valore(i);
+    }
+    EXPECT_EQ(segnali, 10);
+    BarraProgresso lunga("prg", 0, 20000);
+    segnali = 0;
+    int mostrato = 0;
+    lunga.cambiato().connect([&] {
+        ++segnali;
+        mostrato = lunga.valore();
+    });
+    for (int i = 1; i <= 19999; ++i) {
+        lunga.valore(i);
+        EXPECT_EQ(lunga.valore(), i);
+        EXPECT_LT(i - mostrato, 100);
+    }
+    EXPECT_EQ(segnali, 199);
+    lunga.valore(20000);
+    EXPECT_EQ(mostrato, 20000) << "its end is always told";
+    lunga.valore(1);
+    EXPECT_EQ(mostrato, 1);
+    EXPECT_EQ(segnali, 201);
+}
+
 TEST(ElencoColonne, ARowLeadsSomewhereByItsKey) {
     ElencoColonne elenco("lst", {"a", "b"});
     elenco.righe({{"k1", {"1", "2"}, false}, {"k2", {"3", "4"}, true}});

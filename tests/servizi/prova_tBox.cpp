@@ -139,6 +139,9 @@ TEST_F(ProveCampo, ATypedPointBecomesTheCommaInANumericFieldAlone) {
     EXPECT_EQ(uno.testo(), "3,5");
     finestra.txtDue.scrivi("a.b");
     EXPECT_EQ(finestra.txtDue.testo(), "a.b");
+    finestra.txtDue.virgola = true;
+    finestra.txtDue.scrivi("4.5");
+    EXPECT_EQ(finestra.txtDue.testo(), "4,5");
 }
 
 TEST_F(ProveCampo, EscapePutsBackWhatStoodThereWhenTheFocusCame) {
@@ -205,6 +208,29 @@ TEST_F(ProveCampo, TheWindowsCheckComesAfterTheTagAndSpeaksInItsBox) {
     uno.controllo = nullptr;
     EXPECT_TRUE(uno.lascia());
     EXPECT_EQ(uscite, 1);
+}
+
+TEST_F(ProveCampo, ACheckMayPutATextInThePlaceOfTheRefusedOneBeforeOrAfterItsBox) {
+    std::string mentre;
+    messaggi.alMostrare = [&] { mentre = uno.testo(); };
+    for (const bool prima : {false, true}) {
+        uno.controllo = [prima] {
+            EsitoUscita esito = EsitoUscita::rifiuto(MessaggioCampo{"parole", "titolo", Icona::esclamazione});
+            esito.rimesso = "7";
+            esito.rimessoPrima = prima;
+            return esito;
+        };
+        finestra.fuocoSu(uno);
+        stato.convalidaFallita = false;
+        uno.scrivi("9");
+        EXPECT_FALSE(uno.lascia());
+        EXPECT_EQ(mentre, prima ? "7" : "9");
+        EXPECT_EQ(uno.testo(), "7");
+        EXPECT_FALSE(uno.fallito());
+        EXPECT_FALSE(uno.modificato());
+        EXPECT_TRUE(stato.convalidaFallita);
+    }
+    EXPECT_EQ(messaggi.mostrati.size(), 2U);
 }
 
 TEST_F(ProveCampo, AskingLooksAndChangesNothing) {

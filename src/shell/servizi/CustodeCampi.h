@@ -26,6 +26,8 @@ struct EsitoUscita {
     std::optional<MessaggioCampo> messaggio;  ///< shown in a box
     std::string motivo;                       ///< for the status bar, where there is no box
     std::vector<MessaggioCampo> altri = {};   ///< further boxes, one after the other
+    std::optional<std::string> rimesso = {};  ///< put in the place of the refused text, and no longer refused
+    bool rimessoPrima = false;                ///< before the box comes up, not after it
 
     static EsitoUscita bene() { return {}; }
     static EsitoUscita rifiuto(std::string motivo) {

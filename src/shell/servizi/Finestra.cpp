@@ -133,7 +133,7 @@ void FinestraDati::premuto(const std::string& chiave) {
     if (chiave == "Refresh") {
         gestisci(metodo.c_str(), [this] {
             cornice().avviso({});
-            ReadData();
+            rileggi();
         });
         return;
     }

@@ -127,6 +127,8 @@ protected:
     void DatiAllineati(bool valore);
     /// Import into the window; nothing where there is none.
     virtual void Archivio() {}
+    /// The reload of the tool bar.
+    virtual void rileggi() { ReadData(); }
     /// The confirmation of the tool bar.
     virtual void aggiornaDati() { SaveData(); }
     /// A tool bar key that the given three do not cover.

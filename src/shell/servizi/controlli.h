@@ -162,7 +162,8 @@ private:
     std::string risorsa_;
 };
 
-/// How far a long job has come.
+/// How far a long job has come. It may be told each of many small steps: it signals a change only where it can be seen,
+/// half a hundredth of the way or more.
 class BarraProgresso final : public Controllo {
 public:
     BarraProgresso(std::string nome, int minimo, int massimo)
@@ -170,9 +171,22 @@ public:
     int minimo() const { return minimo_; }
     int massimo() const { return massimo_; }
     int valore() const { return valore_; }
-    void valore(int nuovo) { cambia(valore_, nuovo < minimo_ ? minimo_ : nuovo > massimo_ ? massimo_ : nuovo); }
+    void valore(int nuovo) {
+        const int prima = valore_;
+        valore_ = nuovo < minimo_ ? minimo_ : nuovo > massimo_ ? massimo_ : nuovo;
+        if (tacca(valore_) != tacca(prima)) {
+            cambiato().emit();
+        }
+    }
 
 private:
+    /// Place on a scale of two hundred marks, or the value itself on a shorter way.
+    int tacca(int valore) const {
+        constexpr std::int64_t tacche = 200;
+        const std::int64_t lunga = std::int64_t{massimo_} - minimo_;
+        const std::int64_t fatta = std::int64_t{valore} - minimo_;
+        return static_cast<int>(lunga <= tacche ? fatta : fatta * tacche / lunga);
+    }
     int minimo_;
     int massimo_;
     int valore_;

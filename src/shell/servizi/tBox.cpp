@@ -156,7 +156,7 @@ std::string tBox::filtrato(std::string_view testo) const {
     std::string nuovo;
     std::size_t presi = 0;
     for (std::string& carattere : caratteri(testo)) {
-        if (regole_.numerico && carattere == ".") {
+        if ((regole_.numerico || virgola) && carattere == ".") {
             carattere = ",";  // seen at once: the decimal comma is shown in its place
         }
         const bool ammesso = caratteriAmmessi.empty() || caratteriAmmessi.find(carattere) != std::string::npos;
@@ -218,8 +218,15 @@ bool tBox::convalida() {
     if (prima != fallito_) {
         cambiato().emit();
     }
+    const bool rimette = !esito.accettato && esito.rimesso;
+    if (rimette && esito.rimessoPrima) {
+        testo(*esito.rimesso);
+    }
     if (custode() != nullptr) {
         custode()->giudicato(*this, esito);
+    }
+    if (rimette && !esito.rimessoPrima) {
+        testo(*esito.rimesso);
     }
     return esito.accettato;
 }

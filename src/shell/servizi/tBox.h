@@ -67,7 +67,7 @@ public:
     std::string caratteriAmmessi;
     std::size_t lunghezzaMassima = 0;
 
-    /// The user types the decimal comma: the rules of the tag read it as the point.
+    /// The user types the decimal comma: the rules of the tag read it as the point, and a typed point becomes one.
     bool virgola = false;
     /// Words of the box that comes up when the rules of the tag refuse the text; empty for none.
     std::string rifiuto;

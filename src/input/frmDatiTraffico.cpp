@@ -1,0 +1,198 @@
+#include "input/frmDatiTraffico.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "base/date.h"
+#include "base/numeri.h"
+#include "shell/servizi/campiNumerici.h"
+
+namespace kelvo {
+
+namespace {
+
+namespace testi {
+constexpr const char* didascalia = "Dati di traffico";
+constexpr const char* valoriGrafico = "Inserisci valori grafico";
+constexpr const char* calcolaCurva = "Calcola curva di traffico";
+constexpr const char* obiettivo = "Imposta un valore di flusso totale da assegnare all'ingresso";
+constexpr const char* veicoli = "[veicoli]";
+constexpr const char* avvia = "Avvia calcolo curva di traffico";
+constexpr const char* ora = "[ora]";
+constexpr const char* alMinuto = "[veicoli/min]";
+}  // namespace testi
+
+constexpr const char* cifreEVirgola = "0123456789,";
+/// What a search writes has room: fifteen digits, a comma, a zero before it.
+constexpr std::size_t cifreMassime = 17;
+
+}  // namespace
+
+using F = frmDatiTraffico;
+using D = DatiTraffico;
+const std::array<frmDatiTraffico::LegameNumero, 6> frmDatiTraffico::legamiNumeri{{
+    {&F::txtFlussoTempo1, &D::FlussoTempo1, &D::FlussoTempo1},
+    {&F::txtFlussoTempo2, &D::FlussoTempo2, &D::FlussoTempo2},
+    {&F::txtFlussoTempo3, &D::FlussoTempo3, &D::FlussoTempo3},
+    {&F::txtFlussoTotale, &D::FlussoTotale, &D::FlussoTotale},
+    {&F::txtFlussoMedio, &D::FlussoMedio, &D::FlussoMedio},
+    {&F::txtFlussoOrario, &D::FlussoOrario, &D::FlussoOrario},
+}};
+const std::array<frmDatiTraffico::LegameTempo, 3> frmDatiTraffico::legamiTempi{{
+    {&F::txtTempo1, &D::Tempo1, &D::Tempo1},
+    {&F::txtTempo2, &D::Tempo2, &D::Tempo2},
+    {&F::txtTempo3, &D::Tempo3, &D::Tempo3},
+}};
+
+frmDatiTraffico::frmDatiTraffico(const Contorno& contorno)
+    : FinestraRamo(contorno, "frmDatiTraffico", testi::didascalia),
+      Check1("Check1", testi::valoriGrafico),
+      Check2("Check2", testi::calcolaCurva),
+      lblTarget("lblTarget", testi::obiettivo),
+      lblUnitaTarget("lblUnitaTarget", testi::veicoli),
+      Command1("Command1", testi::avvia) {
+    ordina({&txtDescrizioneRamo,
+            &txtIntervalloTempo,
+            &txtTempo1,
+            &txtTempo2,
+            &txtTempo3,
+            &txtFlussoTempo1,
+            &txtFlussoTempo2,
+            &txtFlussoTempo3,
+            &txtFlussoTotale,
+            &txtFlussoMedio,
+            &txtFlussoOrario,
+            &Check1,
+            &Check2,
+            &lblTarget,
+            &txtTarget,
+            &lblUnitaTarget,
+            &Command1,
+            &prgCurva,
+            &lblApprox,
+            &ctlChart});
+    for (tBox* campo :
+         {&txtDescrizioneRamo, &txtIntervalloTempo, &txtFlussoTotale, &txtFlussoMedio, &txtFlussoOrario}) {
+        campo->solaLettura(true);
+    }
+    for (tBox* campo : {&txtFlussoTempo1, &txtFlussoTempo2, &txtFlussoTempo3, &txtTarget}) {
+        campo->caratteriAmmessi = cifreEVirgola;
+        campo->lunghezzaMassima = cifreMassime;
+        campo->virgola = true;
+        campo->controllo = [this, campo] { return controllaNumero(*campo); };
+    }
+    collega();
+    cambiaModo();
+}
+
+void frmDatiTraffico::collega() {
+    for (tBox* campo : {&txtFlussoTempo1, &txtFlussoTempo2, &txtFlussoTempo3}) {
+        campo->dopoUscita = [this, campo] { dopoFlusso(*campo); };
+    }
+    for (std::size_t i = 0; i < legamiTempi.size(); ++i) {
+        tBox& campo = this->*legamiTempi[i].campo;
+        campo.controllo = [this, i] { return controllaTempo(i); };
+        campo.dopoUscita = [this] { dopoTempo(); };
+    }
+    Check1.alClic = [this] { DoTheChart(); };
+    Check2.alClic = [this] { cambiaModo(); };
+    Command1.allaPressione = [this] {
+        if (lasciaFuoco()) {
+            CalcolaCurva();
+        }
+    };
+}
+
+std::vector<frmDatiTraffico::Riga> frmDatiTraffico::righe() {
+    return {{"Denominazione ramo:", &txtDescrizioneRamo, ""},
+            {"Intervallo di tempo", &txtIntervalloTempo, "[min]"},
+            {"t1", &txtTempo1, testi::ora},
+            {"t2", &txtTempo2, testi::ora},
+            {"t3", &txtTempo3, testi::ora},
+            {"q1", &txtFlussoTempo1, testi::alMinuto},
+            {"q2", &txtFlussoTempo2, testi::alMinuto},
+            {"q3", &txtFlussoTempo3, testi::alMinuto},
+            {"Flusso Totale Ingresso", &txtFlussoTotale, testi::veicoli},
+            {"Flusso Medio", &txtFlussoMedio, testi::alMinuto},
+            {"Flusso Orario", &txtFlussoOrario, "[veicoli/h]"}};
+}
+
+void frmDatiTraffico::attivata() {
+    FinestraRamo::attivata();
+    curva_ = {};  // those of the leg that was shown before
+    txtTarget.testo({});
+    mostraDaCapo();
+    Check1.spuntata(false);
+    ctlChart.mostraValori(false);
+    Check2.spuntata(false);
+    cambiaModo();
+    prgCurva.valore(0);
+}
+
+void frmDatiTraffico::rileggi() {
+    ReadData();
+    mostraDaCapo();
+}
+
+void frmDatiTraffico::mostraDaCapo() {
+    CostruisciCurva();
+    DoTheChart();
+    lblApprox.testo({});
+    segnaSalvati();  // what was worked out while the leg was only looked at is no change of it
+}
+
+void frmDatiTraffico::ReadData() {
+    txtDescrizioneRamo.testo(ramo().Descrizione());
+    txtIntervalloTempo.testo(fmt::format("{:02}", minutiSegmento()));
+    for (const LegameNumero& legame : legamiNumeri) {
+        (this->*legame.campo).testo(testoNumero((dati().*legame.leggi)()));
+    }
+    for (const LegameTempo& legame : legamiTempi) {
+        (this->*legame.campo).testo(testoHHNN((dati().*legame.leggi)()));
+    }
+    segnalato_ = {};
+    DatiAllineati(true);
+}
+
+bool frmDatiTraffico::modificata() const {
+    const auto diverso = [this](const auto& legame) { return (this->*legame.campo).modificato(); };
+    return std::any_of(legamiNumeri.begin(), legamiNumeri.end(), diverso) ||
+           std::any_of(legamiTempi.begin(), legamiTempi.end(), diverso);
+}
+
+void frmDatiTraffico::segnaSalvati() {
+    for (const LegameNumero& legame : legamiNumeri) {
+        (this->*legame.campo).salvato();
+    }
+    for (const LegameTempo& legame : legamiTempi) {
+        (this->*legame.campo).salvato();
+    }
+}
+
+void frmDatiTraffico::SaveData() {
+    gestisci("frmDatiTraffico:SaveData", [this] {
+        if (modificata()) {
+            if (!convalida()) {
+                return;
+            }
+            // What reads as the leg would show it stays as the leg has it, which may be more than a text holds.
+            for (const LegameNumero& legame : legamiNumeri) {
+                const tBox& campo = this->*legame.campo;
+                if (campo.testo() != testoNumero((dati().*legame.leggi)())) {
+                    (dati().*legame.scrivi)(singoloDi(campo));
+                }
+            }
+            for (const LegameTempo& legame : legamiTempi) {
+                const tBox& campo = this->*legame.campo;
+                if (campo.testo() != testoHHNN((dati().*legame.leggi)())) {
+                    (dati().*legame.scrivi)(leggiHHNN(campo.testo()).value_or(0.0));
+                }
+            }
+            segnaSalvati();
+        }
+        DatiAllineati(true);
+    });
+}
+
+}  // namespace kelvo
