@@ -78,6 +78,7 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
         controlli.push_back(&lblVeicoliUscite[i]);
     }
     controlli.push_back(&ctlPicture);
+    conArchivio();
     ordina(controlli);
     preparaGriglie();
 }

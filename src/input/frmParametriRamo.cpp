@@ -107,6 +107,7 @@ frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& serv
         ordine.insert(ordine.end(), {&lblMisure[i], caselle[i], &lblNote[i]});
     }
     ordine.insert(ordine.end(), {&lblUnita, &chkAttraversamentoPedonale, &cmdDM});
+    conArchivio();
     ordina(ordine);
     for (std::size_t i = 0; i < caselle.size(); ++i) {
         preparaNumerico(*caselle[i], misureIngresso[i].campo);

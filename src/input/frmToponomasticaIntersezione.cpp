@@ -1,5 +1,6 @@
 #include "input/frmToponomasticaIntersezione.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "shell/servizi/nomiPermessi.h"
@@ -33,7 +34,7 @@ frmToponomasticaIntersezione::frmToponomasticaIntersezione(const Contorno& conto
         controlli.push_back(&lblIngresso[i]);
         controlli.push_back(&txtIngresso[i]);
         txtIngresso[i].controllo = [this, i] { return controllaNomeRamo(txtIngresso[i].testo()); };
-        txtIngresso[i].dopoTasto = [this] { DatiAllineati(false); };
+        txtIngresso[i].dopoTasto = [this] { confronta(); };
         txtIngresso[i].dopoUscita = [this, i] { scrivi(i); };
         txtIngresso[i].paginaAiuto = "Toponomastica.htm";
         txtIngresso[i].nomeCampo = "Ingresso " + std::string(1, static_cast<char>('A' + i));
@@ -62,11 +63,11 @@ void frmToponomasticaIntersezione::scrivi(std::size_t indice) {
         campo.salvato();
         cornice().testoNodi(ramo.Key(), ramo.Descrizione());
     }
-    bool allineati = true;
-    for (const tBox& altro : txtIngresso) {
-        allineati = allineati && !altro.modificato();
-    }
-    DatiAllineati(allineati);
+    confronta();
+}
+
+void frmToponomasticaIntersezione::confronta() {
+    DatiAllineati(std::none_of(txtIngresso.begin(), txtIngresso.end(), [](const tBox& c) { return c.modificato(); }));
 }
 
 void frmToponomasticaIntersezione::SaveData() {

@@ -21,6 +21,7 @@ public:
 
 private:
     void scrivi(std::size_t indice);
+    void confronta();
 };
 
 }  // namespace kelvo

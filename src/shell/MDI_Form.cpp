@@ -119,6 +119,12 @@ void MDI_Form::aggiornaSegno() {
 
 void MDI_Form::testoNodi(const std::string& chiaveRamo, const std::string& testo) {
     albero.testoNodi(chiaveRamo, testo);
+    // The captions of the menus bear the names of the legs too.
+    if (albero.perTipo()) {
+        Handle_Menu_normale();
+    } else {
+        Handle_Menu_OPZ_raggruppa_tree();
+    }
 }
 
 bool MDI_Form::lasciaCampo() {

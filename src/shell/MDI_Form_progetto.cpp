@@ -318,6 +318,7 @@ void MDI_Form::chiudiProgetto() {
     gestioneToolbar(StatoProgetto::NessunProgetto);
     titolo(titoloProgramma);
     recupero.altroProgetto();
+    stato_.opzioniModificate = false;  // the options went with their project
 }
 
 }  // namespace kelvo

@@ -1,5 +1,6 @@
 #include "shell/frmOpzioni.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/guasto.h"
@@ -21,6 +22,7 @@ constexpr const char* contaComunque = "Il valore conta nel calcolo anche senza l
 constexpr std::array relazioni{"Ipotesi progettuali (solo dati di input)", "Verifiche prestazionali (solo risultati)",
                                "Relazione di calcolo COMPLETA"};
 constexpr std::size_t cifreNotte = 3;
+constexpr const char* metodoLettura = "frmOpzioni:ReadData";
 
 template <std::size_t... I>
 std::array<tBox, 7> caselleVeicoli(std::index_sequence<I...> /*indici*/) {
@@ -116,10 +118,12 @@ void frmOpzioni::collegaOpzioni() {
     grpTipoFlusso.alCambio = [this](int) { opzioneCliccata(); };
     grpTipoMatrice.alCambio = [this](int) { opzioneCliccata(); };
     chkCondizioniNotturne.alClic = [this] {
+        scartaNonAmmesso(chkCondizioniNotturne, txtCondizioniNotturne);
         abilita();
         confronta();
     };
     chkPercentile.alClic = [this] {
+        scartaNonAmmesso(chkPercentile, txtPercentile);
         abilita();
         confronta();
     };
@@ -147,16 +151,21 @@ void frmOpzioni::collegaAspetto() {
         stato().formaRelazione = static_cast<std::int16_t>(ctlLISTopz.primaSpuntata());
     };
     ckTREE.alClic = [this] {
-        annota(app().comune.ScriviOpzExplorer(ckTREE.spuntata() ? 1 : 0));
-        ckTREE.spuntata(app().configurazione.OpzExplorer != 0);
-        DatiAllineati(false);
-        avvisaIni();
+        gestisci("frmOpzioni:ckTREE", [this] {
+            annota(app().comune.ScriviOpzExplorer(ckTREE.spuntata() ? 1 : 0));
+            ckTREE.spuntata(app().configurazione.OpzExplorer != 0);
+            alberoDaRifare_ = true;
+            DatiAllineati(false);
+            avvisaIni();
+        });
     };
     ckMENU.alClic = [this] {
-        annota(app().comune.ScriviOpzMenu(ckMENU.spuntata() ? 1 : 0));
-        ckMENU.spuntata(app().configurazione.OpzMenu != 0);
-        cornice().mostraMenu(app().configurazione.OpzMenu == 0);
-        avvisaIni();
+        gestisci("frmOpzioni:ckMENU", [this] {
+            annota(app().comune.ScriviOpzMenu(ckMENU.spuntata() ? 1 : 0));
+            ckMENU.spuntata(app().configurazione.OpzMenu != 0);
+            cornice().mostraMenu(app().configurazione.OpzMenu == 0);
+            avvisaIni();
+        });
     };
     ckFILMATO.alClic = [this] { DatiAllineati(false); };
 }
@@ -177,9 +186,20 @@ void frmOpzioni::abilita() {
     lblCondizioniNotturne.testo(nessunaIncidenza ? testi::notteSenzaIncidenza : "");
     lblCondizioniNotturne.visibile(nessunaIncidenza);
     txtPercentile.abilitato(chkPercentile.spuntata());
-    const bool conta = !chkPercentile.spuntata() && rotonda().ValorePercentile() != 0.0F;
+    const float percentile =
+        txtPercentile.modificato() ? singoloDi(txtPercentile) : app().theRotonda().ValorePercentile();
+    const bool conta = !chkPercentile.spuntata() && percentile != 0.0F;
     lblPercentile.testo(conta ? testi::contaComunque : "");
     lblPercentile.visibile(conta);
+}
+
+void frmOpzioni::scartaNonAmmesso(const Casella& spunta, tBox& campo) {
+    // A closed field is asked nothing any more: what it would have refused gives way to what stood there.
+    std::string numero = campo.testo();
+    std::replace(numero.begin(), numero.end(), ',', '.');
+    if (!spunta.spuntata() && !campo.regole().ammette(numero)) {
+        campo.annulla();
+    }
 }
 
 void frmOpzioni::notteScritta() {
@@ -212,16 +232,19 @@ void frmOpzioni::leggiConfigurazione() {
     mostraColore(colore >= 0 && colore < static_cast<int>(coloriPannello.size()) ? colore : 0);
     ctlLISTopz.azzera();
     ctlLISTopz.spunta(stato().formaRelazione, true);
-    app().comune.LeggiAvvioFilmato();
-    ckFILMATO.spuntata(app().configurazione.AvvioFilmato == 0);
-    ckTREE.spuntata(app().comune.LeggiOpzExplorer() != 0);
-    ckMENU.spuntata(app().comune.LeggiOpzMenu() != 0);
+    // A wrong key of the file keeps nobody from the others.
+    gestisci(metodoLettura, [this] {
+        app().comune.LeggiAvvioFilmato();
+        ckFILMATO.spuntata(app().configurazione.AvvioFilmato == 0);
+    });
+    gestisci(metodoLettura, [this] { ckTREE.spuntata(app().comune.LeggiOpzExplorer() != 0); });
+    gestisci(metodoLettura, [this] { ckMENU.spuntata(app().comune.LeggiOpzMenu() != 0); });
 }
 
 void frmOpzioni::ReadData() {
     leggiOpzioni();
-    leggiConfigurazione();
     abilita();
+    leggiConfigurazione();
     DatiAllineati(true);
 }
 
@@ -268,7 +291,7 @@ void frmOpzioni::scriviProgetto() {
     r.TipoFlusso(scelta(grpTipoFlusso, r.TipoFlusso()));
     r.CondizioniNotturne(chkCondizioniNotturne.spuntata());
     r.UsaPercentile(chkPercentile.spuntata());
-    if (txtPercentile.modificato() && txtPercentile.abilitato()) {
+    if (txtPercentile.modificato()) {
         r.ValorePercentile(singoloDi(txtPercentile));
     }
     txtPercentile.testo(testoNumero(r.ValorePercentile()));
@@ -285,6 +308,29 @@ CoefficientiVeicoli frmOpzioni::coefficientiScritti() const {
         }
     }
     return valori;
+}
+
+bool frmOpzioni::coefficientiMutati() const {
+    return std::any_of(txtVeicoli.begin(), txtVeicoli.end(), [](const tBox& casella) { return casella.modificato(); });
+}
+
+bool frmOpzioni::scriviCoefficienti(const CoefficientiVeicoli& valori) {
+    app().configurazione.coefficienti(valori);
+    const std::string motivo = app().comune.ScriviVeicoliEquivalenti(valori);
+    annota(motivo);
+    for (tBox& casella : txtVeicoli) {
+        if (motivo.empty()) {
+            casella.salvato();
+        }
+    }
+    return motivo.empty();
+}
+
+bool frmOpzioni::aspettoScritto() const {
+    const int colore = app().configurazione.LayoutPannello - 1;
+    const bool noto = colore >= 0 && colore < static_cast<int>(coloriPannello.size());
+    return ctlLIST.primaSpuntata() == (noto ? colore : 0) &&
+           ckFILMATO.spuntata() == (app().configurazione.AvvioFilmato == 0) && !alberoDaRifare_;
 }
 
 void frmOpzioni::annota(const std::string& motivo) {
@@ -305,16 +351,8 @@ void frmOpzioni::scriviTutto() {
             return;
         }
         scriviProgetto();
-        const CoefficientiVeicoli valori = coefficientiScritti();
-        app().configurazione.coefficienti(valori);
-        const std::string motivo = app().comune.ScriviVeicoliEquivalenti(valori);
-        annota(motivo);
-        if (motivo.empty()) {
-            for (tBox& casella : txtVeicoli) {
-                casella.salvato();
-            }
-        }
-        DatiAllineati(motivo.empty());
+        const bool scritti = !coefficientiMutati() || scriviCoefficienti(coefficientiScritti());
+        DatiAllineati(scritti && aspettoScritto());
         cornice().SetUpOpzioni();
     });
 }
@@ -328,17 +366,19 @@ void frmOpzioni::aggiornaDati() {
     if (!convalida()) {
         return;
     }
+    const bool mutati = coefficientiMutati();
     const CoefficientiVeicoli valori = coefficientiScritti();
     scriviTutto();
     annota(app().comune.ScriviCustomPanel(static_cast<std::int16_t>(ctlLIST.primaSpuntata() + 1)));
     vesti(*this, app().configurazione.LayoutPannello);
     cornice().LoadTreeView();
+    alberoDaRifare_ = false;
     annota(app().comune.ScriviAvvioFilmato(ckFILMATO.spuntata() ? 0 : 1));
     annota(app().comune.ScriviOpzExplorer(ckTREE.spuntata() ? 1 : 0));
-    annota(app().comune.ScriviVeicoliEquivalenti(valori));
-    if (!motivoIni_.empty()) {
-        DatiAllineati(false);
+    if (mutati) {
+        annota(app().comune.ScriviVeicoliEquivalenti(valori));
     }
+    DatiAllineati(motivoIni_.empty());
     avvisaIni();
 }
 

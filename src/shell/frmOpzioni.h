@@ -59,6 +59,7 @@ private:
     void collegaOpzioni();
     void collegaAspetto();
     void abilita();
+    static void scartaNonAmmesso(const Casella& spunta, tBox& campo);
     void opzioneCliccata();
     void notteScritta();
     void ripristina();
@@ -70,6 +71,11 @@ private:
     void annota(const std::string& motivo);
     void avvisaIni();
     CoefficientiVeicoli coefficientiScritti() const;
+    bool coefficientiMutati() const;
+    bool scriviCoefficienti(const CoefficientiVeicoli& valori);
+    bool aspettoScritto() const;
+
+    bool alberoDaRifare_ = false;  ///< the tree does not stand as ckTREE tells yet
 
     std::string motivoIni_;  ///< why the configuration could not be written, during one gesture
 };

@@ -73,7 +73,8 @@ void frmTreeView::ResizeMe() {
 
 void frmTreeView::costruisci() {
     ctlTree.svuota();
-    if (app_.configurazione.OpzExplorer != 0) {
+    perTipo_ = app_.configurazione.OpzExplorer != 0;
+    if (perTipo_) {
         gestisci(app_, "LoadTreeView MOD 1", [&] {
             costruisciAlbero(ctlTree, alberoPerTipo(), app_.theRotonda());
             cornice_.Handle_Menu_normale();
@@ -204,8 +205,7 @@ void frmTreeView::testoNodi(const std::string& chiaveRamo, const std::string& te
     }
     const char digitale = cifra(chiaveRamo.back()) ? chiaveRamo.back() : chiaveRamo.front();
     if (cifra(digitale)) {
-        const bool perTipo = app_.configurazione.OpzExplorer != 0;
-        rinominaRamo(ctlTree, perTipo ? alberoPerTipo() : alberoPerRamo(), digitale, testo);
+        rinominaRamo(ctlTree, perTipo_ ? alberoPerTipo() : alberoPerRamo(), digitale, testo);
     }
 }
 

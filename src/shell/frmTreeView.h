@@ -50,6 +50,8 @@ public:
     void segnaMancanti();
     /// Gives the nodes of a leg its name; `chiaveRamo` begins or ends with the leg's digit.
     void testoNodi(const std::string& chiaveRamo, const std::string& testo);
+    /// The tree stands grouped by type, as it was built last.
+    bool perTipo() const { return perTipo_; }
     /// Lays the tree out to the main window's height.
     void ResizeMe();
     const Rettangolo& posto() const { return posto_; }
@@ -102,6 +104,7 @@ private:
     Applicazione& app_;
     MDI_Form& cornice_;
     bool visibile_ = false;
+    bool perTipo_ = false;
     Rettangolo posto_;
     std::string nodoCorrente_;
     std::string nodoPremuto_;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "app/nuovoProgetto.h"
 #include "comune/fintiFinestre.h"
 
@@ -33,6 +35,41 @@ TEST_F(ProveToponomastica, TheFirstFieldsAreInUseOneForEachLeg) {
         EXPECT_EQ(finestra.txtIngresso[i].visibile(), i < 4) << i;
         EXPECT_EQ(finestra.txtIngresso[i].testo(), i < 4 ? std::string{"Ramo "} + lettera : "") << i;
     }
+}
+
+TEST(ProveToponomasticaRami, EveryLegHasItsFieldAndThePictureItsNumber) {
+    for (const std::int16_t rami : std::array<std::int16_t, 4>{3, 5, 6, 7}) {
+        ScenaFinestre scena;
+        creaProgetto(scena.app, rami);
+        frmToponomasticaIntersezione finestra{scena.contorno()};
+        ASSERT_TRUE(scena.gestione.ShowForm(&finestra));
+        EXPECT_EQ(finestra.ctlPicture.risorsa(), "RAMI" + std::to_string(rami));
+        for (std::size_t i = 0; i < 7; ++i) {
+            EXPECT_EQ(finestra.txtIngresso[i].visibile(), i < static_cast<std::size_t>(rami)) << rami;
+        }
+        finestra.txtIngresso[static_cast<std::size_t>(rami) - 1].scrivi("Via Ultima");
+        finestra.SaveData();
+        EXPECT_EQ(scena.app.theRotonda().Ramo(rami).Descrizione(), "Via Ultima");
+    }
+}
+
+TEST_F(ProveToponomastica, TheSignFollowsWhatStandsInTheFields) {
+    finestra.fuocoSu(finestra.txtIngresso[0]);
+    finestra.txtIngresso[0].scrivi("Via Nuova");
+    EXPECT_FALSE(finestra.DatiAllineati());
+    EXPECT_TRUE(finestra.txtIngresso[0].annulla());
+    EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveToponomastica, OneBadNameKeepsNoneOfTheOthersBack) {
+    finestra.txtIngresso[0].scrivi("Via Prima");
+    finestra.txtIngresso[1].scrivi("Via/Seconda");
+    finestra.txtIngresso[2].scrivi("Via Terza");
+    finestra.SaveData();
+    EXPECT_EQ(ramo(1).Descrizione(), "Via Prima");
+    EXPECT_EQ(ramo(2).Descrizione(), "Ramo B");
+    EXPECT_EQ(ramo(3).Descrizione(), "Via Terza");
+    EXPECT_FALSE(finestra.DatiAllineati());
 }
 
 TEST_F(ProveToponomastica, ANameThatPassesIsWrittenAndTheNodesTakeIt) {

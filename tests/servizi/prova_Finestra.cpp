@@ -118,6 +118,11 @@ TEST_F(ProveFinestra, TheToolbarOfADataWindowHasItsThreeKeys) {
     EXPECT_EQ(finestra.scritture + finestra.letture, 2);
 }
 
+TEST_F(ProveFinestra, AWindowWithoutAnImportHasItsKeyClosedAndTellsWhy) {
+    EXPECT_FALSE(finestra.ctlToolbar.abilitato("Archivio"));
+    EXPECT_NE(finestra.ctlToolbar.spiegazione("Archivio").find("Questa finestra non importa dati"), std::string::npos);
+}
+
 TEST_F(ProveFinestra, SavingWaitsForTheFieldInFocusAndReloadingDoesNot) {
     finestra.fuocoSu(finestra.txtUno);
     finestra.txtUno.scrivi("77");

@@ -321,7 +321,10 @@ TEST(Instradamento, AFieldThatRefusesToBeLeftStopsEveryCommand) {
 /// A data window that counts what its tool bar runs.
 class DatiFinti final : public FinestraDati {
 public:
-    explicit DatiFinti(const Contorno& c) : FinestraDati(c, "frmMatriceSvolte", "") { ordina({}); }
+    explicit DatiFinti(const Contorno& c) : FinestraDati(c, "frmMatriceSvolte", "") {
+        ordina({});
+        conArchivio();
+    }
     void ReadData() override { ++letture; }
     void SaveData() override {
         rotonda().Titolo("scritto");

@@ -287,6 +287,16 @@ TEST(Chiudi, AFailedSaveKeepsTheProjectOpen) {
     EXPECT_EQ(f.app.theRotonda().Rami().Count(), 4);
 }
 
+TEST(Chiudi, ChangedOptionsAreNotToldOfTheNextProject) {
+    ShellFinta f;
+    f.nuovo(4);
+    f.stato.opzioniModificate = true;
+    f.messaggi.risposte = {Risposta::no};
+    f.cornice.CloseRotonda();
+    EXPECT_FALSE(f.stato.ProgettoAperto);
+    EXPECT_FALSE(f.stato.opzioniModificate);
+}
+
 TEST(Chiudi, YesSavesAndCloses) {
     ShellFinta f;
     f.nuovo(4);

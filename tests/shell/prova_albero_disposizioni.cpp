@@ -206,6 +206,31 @@ TEST(TestoNodi, ByLegOnlyTheNodesThatShowTheNameTakeIt) {
     EXPECT_EQ(albero.nodo("keyDatiTraffico3").testo, "Dati di traffico");
 }
 
+TEST(TestoNodi, TheLayoutThatStandsCountsNotTheOneThatIsStillToBeBuilt) {
+    ShellFinta f;
+    f.nuovo(3);
+    f.app.configurazione.OpzExplorer = 1;
+    f.cornice.testoNodi("keyRamo3", "Via Po");
+    EXPECT_EQ(f.cornice.albero.ctlTree.nodo("keyRami3").testo, "Via Po");
+    EXPECT_EQ(f.cornice.albero.ctlTree.nodo("keyRamo3").testo, "Geometria");
+}
+
+TEST(TestoNodi, TheMenusTakeTheNameToo) {
+    for (const int disposizione : {0, 1}) {
+        ShellFinta f;
+        f.disposizione(disposizione);
+        f.nuovo(3);
+        f.app.theRotonda().Ramo(2).Descrizione("Via Roma");
+        f.cornice.testoNodi("2Ramo", "Via Roma");
+        int trovate = 0;
+        for (const MenuChiavi::Voce& voce : f.cornice.ctlMenu.voci()) {
+            trovate += voce.testo == "Via Roma" ? 1 : 0;
+            EXPECT_NE(voce.testo, "Ramo B") << disposizione;
+        }
+        EXPECT_GT(trovate, 0) << disposizione;
+    }
+}
+
 TEST(Misure, TheWidthFollowsTheScreen) {
     EXPECT_EQ(frmTreeView::larghezzaPerSchermo({15360, 11520}), 4500.0);
     EXPECT_EQ(frmTreeView::larghezzaPerSchermo({15361, 11520}), 5500.0);

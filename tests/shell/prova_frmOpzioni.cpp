@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 
 #include "app/nuovoProgetto.h"
@@ -421,6 +422,117 @@ TEST_F(ProveOpzioni, LeavingWithoutAChangeDoesNotTouchTheConfiguration) {
     EXPECT_TRUE(messaggi.mostrati.empty());
     EXPECT_EQ(contenuto(app.theAmbiente.PercorsoIni()), prima);
     std::filesystem::permissions(app.theAmbiente.PercorsoIni(), std::filesystem::perms::owner_all);
+}
+
+TEST_F(ProveOpzioni, ATypedPercentileCountsAfterItsTickWent) {
+    rotonda().UsaPercentile(true);
+    rotonda().ValorePercentile(95.0F);
+    finestra.ReadData();
+    scrivi(finestra.txtPercentile, "85");
+    finestra.chkPercentile.clicca();
+    EXPECT_EQ(finestra.lblPercentile.testo(), "Il valore conta nel calcolo anche senza la spunta.");
+    finestra.SaveData();
+    EXPECT_EQ(rotonda().ValorePercentile(), 85.0F);
+    EXPECT_FALSE(rotonda().UsaPercentile());
+    EXPECT_EQ(finestra.txtPercentile.testo(), "85");
+}
+
+TEST_F(ProveOpzioni, ARefusedTextGoesWithItsTick) {
+    app.theAmbiente.PercentualeNotturna(25);
+    finestra.ReadData();
+    finestra.chkCondizioniNotturne.clicca();
+    scrivi(finestra.txtCondizioniNotturne, "101");
+    EXPECT_TRUE(finestra.txtCondizioniNotturne.fallito());
+    finestra.chkCondizioniNotturne.clicca();
+    EXPECT_EQ(finestra.txtCondizioniNotturne.testo(), "25");
+    EXPECT_FALSE(finestra.txtCondizioniNotturne.fallito());
+    EXPECT_EQ(app.theAmbiente.PercentualeNotturna(), 25) << "not the prefix that was typed on the way";
+    finestra.chkPercentile.clicca();
+    scrivi(finestra.txtPercentile, "100");
+    finestra.chkPercentile.clicca();
+    EXPECT_EQ(finestra.txtPercentile.testo(), testoNumero(rotonda().ValorePercentile()));
+    EXPECT_TRUE(finestra.convalida());
+}
+
+TEST_F(ProveOpzioni, TheSignStaysWhileColourFilmOrTreeAreNotConfirmed) {
+    finestra.ctlLIST.clicca(5);
+    finestra.SaveData();
+    EXPECT_FALSE(finestra.DatiAllineati());
+    finestra.ReadData();
+    finestra.ckFILMATO.clicca();
+    finestra.SaveData();
+    EXPECT_FALSE(finestra.DatiAllineati());
+    finestra.ReadData();
+    finestra.ckTREE.clicca();
+    finestra.SaveData();
+    EXPECT_FALSE(finestra.DatiAllineati());
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_TRUE(finestra.DatiAllineati());
+    finestra.SaveData();
+    EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveOpzioni, AWrongKeyOfTheFileKeepsNobodyFromTheOthers) {
+    std::ofstream(app.theAmbiente.PercorsoIni())
+        << "[LAY_OUT]\nCustomPanel=3\n[10_MOTIVI]\nAvvia=si\n[OPZ_EXPLORER]\nRami=1\n[OPZ_MENU]\nAttivo=1\n";
+    messaggi.mostrati.clear();
+    finestra.ReadData();
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_TRUE(finestra.ckTREE.spuntata());
+    EXPECT_TRUE(finestra.ckMENU.spuntata());
+    EXPECT_FALSE(finestra.txtCondizioniNotturne.abilitato());
+    EXPECT_FALSE(finestra.txtPercentile.abilitato());
+    EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveOpzioni, RestoreMendsTheVeryBoxThatRefuses) {
+    finestra.fuocoSu(finestra.txtVeicoli[3]);
+    finestra.txtVeicoli[3].scrivi("100");
+    EXPECT_FALSE(finestra.lasciaFuoco());
+    messaggi.mostrati.clear();
+    finestra.ctlToolbar.premi("Restore");
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_EQ(finestra.txtVeicoli[3].testo(), "1,4");
+    EXPECT_FALSE(finestra.txtVeicoli[3].fallito());
+    EXPECT_TRUE(finestra.lasciaFuoco());
+}
+
+TEST_F(ProveOpzioni, TheFilmTickIsWrittenBothWays) {
+    finestra.ckFILMATO.clicca();
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_EQ(ini("10_MOTIVI", "Avvia"), "0");
+    finestra.ckFILMATO.clicca();
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_EQ(ini("10_MOTIVI", "Avvia"), "1");
+}
+
+TEST_F(ProveOpzioni, EquivalentsOfMoreDigitsThanABoxShowsAreNotWrittenByLooking) {
+    std::ofstream(app.theAmbiente.PercorsoIni(), std::ios::app) << "[VEICOLI EQUIVALENTI]\nPullman=1,23456789\n";
+    CoefficientiVeicoli valori = app.configurazione.coefficienti();
+    valori[2] = 1.23456789F;
+    app.configurazione.coefficienti(valori);
+    finestra.ReadData();
+    finestra.SaveData();
+    finestra.ctlToolbar.premi("AggiornaDati");
+    EXPECT_EQ(ini("VEICOLI EQUIVALENTI", "Pullman"), "1,23456789");
+    EXPECT_EQ(app.configurazione.coefficienti()[2], 1.23456789F);
+}
+
+TEST_F(ProveOpzioni, EachControlOfItsOwnPutsTheSignUp) {
+    const auto alzato = [&](const std::function<void()>& gesto) {
+        finestra.ReadData();
+        gesto();
+        return !finestra.DatiAllineati();
+    };
+    EXPECT_TRUE(alzato([&] { finestra.chkCondizioniNotturne.clicca(); }));
+    EXPECT_TRUE(alzato([&] { finestra.chkPercentile.clicca(); }));
+    EXPECT_TRUE(alzato([&] { finestra.chkOttimizzazioneGeometrica.clicca(); }));
+    EXPECT_TRUE(alzato([&] { finestra.ckTREE.clicca(); }));
+    EXPECT_TRUE(alzato([&] { finestra.ckFILMATO.clicca(); }));
+    EXPECT_TRUE(alzato([&] { finestra.ctlLIST.clicca(1); }));
+    for (tBox& casella : finestra.txtVeicoli) {
+        EXPECT_TRUE(alzato([&] { scrivi(casella, "3,33"); })) << casella.nome();
+    }
 }
 
 TEST_F(ProveOpzioni, OddDecimalsAreNotTouchedByLooking) {

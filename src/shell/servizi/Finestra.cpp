@@ -120,6 +120,13 @@ void Finestra::messaggio(const std::string& testo, const std::string& titolo, Ic
 FinestraDati::FinestraDati(Contorno contorno, std::string nome, std::string didascalia)
     : Finestra(contorno, std::move(nome), std::move(didascalia)), ctlToolbar("ctlToolbar", tastiDati()) {
     ctlToolbar.allaPressione = [this](const std::string& chiave) { premuto(chiave); };
+    ctlToolbar.abilita("Archivio", false);
+    ctlToolbar.annota("Archivio", "Questa finestra non importa dati");
+}
+
+void FinestraDati::conArchivio() {
+    ctlToolbar.abilita("Archivio", true);
+    ctlToolbar.annota("Archivio", {});
 }
 
 void FinestraDati::DatiAllineati(bool valore) {
@@ -129,11 +136,15 @@ void FinestraDati::DatiAllineati(bool valore) {
 
 void FinestraDati::premuto(const std::string& chiave) {
     const std::string metodo = nome() + ":" + chiave;
-    // Reloading puts a bad field right, so it alone does not ask it first.
-    if (chiave == "Refresh") {
-        gestisci(metodo.c_str(), [this] {
+    // Reloading and restoring put a bad field right, so they alone do not ask it first.
+    if (chiave == "Refresh" || chiave == "Restore") {
+        gestisci(metodo.c_str(), [&] {
             cornice().avviso({});
-            rileggi();
+            if (chiave == "Refresh") {
+                rileggi();
+            } else {
+                altroTasto(chiave);
+            }
         });
         return;
     }

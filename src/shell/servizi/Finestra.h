@@ -125,7 +125,9 @@ public:
 
 protected:
     void DatiAllineati(bool valore);
-    /// Import into the window; nothing where there is none.
+    /// The window has an import: its key is open. Called by the constructors of those that have one.
+    void conArchivio();
+    /// Import into the window.
     virtual void Archivio() {}
     /// The reload of the tool bar.
     virtual void rileggi() { ReadData(); }
