@@ -150,13 +150,15 @@ void frmParametriRamo::ReadData() {
         mostraNumero(*caselle[i], (ramo().*misureIngresso[i].leggi)(), misureIngresso[i].campo.formato);
     }
     chkAttraversamentoPedonale.spuntata(ramo().AttraversamentoPedonale());
+    coppia_ = {ramo().LarghezzaIngresso(), ramo().SemiLarghezza()};
     DatiAllineati(true);
     aggiorna();
 }
 
 void frmParametriRamo::SaveData() {
     gestisci("frmParametriRamo:SaveData", [this] {
-        app().comune.LeggiOpzExplorer();
+        // A wrong layout in the configuration keeps no measure from being written.
+        gestisci("frmParametriRamo:SaveData", [this] { app().comune.LeggiOpzExplorer(); });
         if (!convalida()) {
             return;
         }
@@ -168,7 +170,7 @@ void frmParametriRamo::SaveData() {
         for (std::size_t i = 0; i < caselle.size(); ++i) {
             if (caselle[i]->modificato()) {
                 (ramo().*misureIngresso[i].scrivi)(singoloDi(*caselle[i]));
-                caselle[i]->salvato();
+                mostraNumero(*caselle[i], (ramo().*misureIngresso[i].leggi)(), misureIngresso[i].campo.formato);
             }
         }
         ramo().AttraversamentoPedonale(chkAttraversamentoPedonale.spuntata());
@@ -200,8 +202,8 @@ Geometria frmParametriRamo::geometriaMostrata() const {
                 .D = valoreMostrato(5)};
     if (g.v >= g.e) {
         // Half typed: a pair that the fields will refuse is not shown.
-        g.e = ramo().LarghezzaIngresso();
-        g.v = ramo().SemiLarghezza();
+        g.e = coppia_[0];
+        g.v = coppia_[1];
     }
     return g;
 }
@@ -233,15 +235,18 @@ EsitoUscita frmParametriRamo::controllaCoppia(const tBox& campo) const {
     if (mascheraVuota(campo)) {
         return EsitoUscita::bene();
     }
-    // What was not typed counts as the project holds it, which may be more than the two decimals that are shown.
-    const auto numero = [this](std::size_t i) {
-        const tBox& casella = *campi()[i];
-        return casella.modificato() ? singoloDi(casella) : (ramo().*misureIngresso[i].leggi)();
+    // Two widths that nobody typed count as the project holds them, which may be more than the decimals that are shown.
+    const bool scritte = txtLarghezzaIngresso.modificato() || txtSemiLarghezza.modificato();
+    const auto numero = [&](std::size_t i) {
+        return scritte ? singoloDi(*campi()[i]) : (ramo().*misureIngresso[i].leggi)();
     };
     if (numero(1) < numero(0)) {
         return EsitoUscita::bene();
     }
     const char* testo = &campo == &txtLarghezzaIngresso ? testi::ingressoMinore : testi::accessoMaggiore;
+    if (&campo == &txtSemiLarghezza && txtLarghezzaIngresso.fallito() && !haFuoco(campo)) {
+        return EsitoUscita::rifiuto(testo);  // one box tells of the pair
+    }
     return EsitoUscita::rifiuto(MessaggioCampo{testo, testi::attenzione, Icona::esclamazione});
 }
 
@@ -249,6 +254,7 @@ void frmParametriRamo::dopoUscita(std::size_t misura) {
     tBox& campo = *campi()[misura];
     if (mascheraVuota(campo)) {
         campo.modifica(formatta(0.0, misureIngresso[misura].campo.formato));  // what an empty mask counts as
+        aggiorna();
     }
     confronta();
 }
@@ -267,6 +273,9 @@ void frmParametriRamo::confronta() {
 }
 
 void frmParametriRamo::aggiorna() {
+    if (valoreMostrato(1) < valoreMostrato(0)) {
+        coppia_ = {valoreMostrato(0), valoreMostrato(1)};
+    }
     const Geometria g = geometriaMostrata();
     for (std::size_t i = 0; i < misureIngresso.size(); ++i) {
         lblNote[i].testo(notaConsigliato(misureIngresso[i], valoreMostrato(i)));

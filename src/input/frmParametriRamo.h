@@ -85,6 +85,7 @@ private:
     void apriDecreto();
 
     Servizi servizi_;
+    std::array<float, 2> coppia_{};  ///< e and v that were shown last and fit each other
     sigc::signal<void()> geometriaMutata_;
 };
 

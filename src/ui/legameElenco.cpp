@@ -159,8 +159,10 @@ void collegaGesti(ElencoColonne& elenco, ListaColonne& righe, Legame& legame) {
         auto* invio = new QShortcut(QKeySequence(tasto), &righe, nullptr, nullptr, Qt::WidgetShortcut);
         QObject::connect(
             invio, &QShortcut::activated, &legame,
-            [&righe, apri] {
-                if (QTreeWidgetItem* voce = righe.currentItem()) {
+            [&elenco, &righe, apri] {
+                // A row may be current without having been chosen: the keyboard has only come to the list.
+                QTreeWidgetItem* voce = righe.currentItem();
+                if (voce != nullptr && (!elenco.sceglie || voce->isSelected())) {
                     apri(voce);
                 }
             },

@@ -87,8 +87,9 @@ public:
         if (vista != nullptr) {
             vista->setMinimumWidth(std::min(misura::anteprima, voluta.width() - misura::elencoFile));
         }
-        QObject::connect(this, &QFileDialog::currentChanged, this,
-                         [this](const QString& percorso) { anteprima_.selezionato(s(percorso)); });
+        QObject::connect(this, &QFileDialog::currentChanged, this, [this](const QString& percorso) {
+            anteprima_.selezionato(s(QDir::toNativeSeparators(percorso)));
+        });
         anteprima_.allaConferma = [this] { accept(); };
         resize(voluta);
     }

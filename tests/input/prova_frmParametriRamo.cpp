@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -360,7 +362,7 @@ TEST_F(ProveParametri, HalfTypedMeasuresKeepTheLastGoodPicture) {
     finestra.txtLarghezzaIngresso.scrivi("12");
     EXPECT_EQ(finestra.geometriaMostrata().e, 12.0F);
     finestra.txtSemiLarghezza.scrivi("12,2");
-    EXPECT_EQ(finestra.geometriaMostrata().e, 5.0F);
+    EXPECT_EQ(finestra.geometriaMostrata().e, 12.0F);
     EXPECT_EQ(finestra.geometriaMostrata().v, 3.75F);
 }
 
@@ -389,6 +391,104 @@ TEST_F(ProveParametri, AnEmptyOrForbiddenNameIsRefused) {
     EXPECT_EQ(messaggi.mostrati.back().testo, "Attenzione, indicare un nome per il ramo");
     EXPECT_FALSE(scrivi(finestra.txtDescrizioneRamo, "A/B"));
     EXPECT_EQ(messaggi.mostrati.back().testo, "Attenzione, non sono permessi i caratteri: \\/:*?\"<>|");
+}
+
+TEST_F(ProveParametri, AnEmptiedAngleIsWorkedOutAtOnce) {
+    ramo(1).AngoloConflitto(30.0F);
+    finestra.ReadData();
+    EXPECT_TRUE(scrivi(finestra.txtAngoloConflitto, ""));
+    EXPECT_EQ(finestra.geometriaMostrata().phi, 0.0F);
+    // k = 1 - 0.00347 (phi - 30) - 0.978 (1/r - 0.05) at phi 0 and r 25.
+    EXPECT_EQ(finestra.valori[0].etichetta.testo(),
+              formatta(1.0 + 0.00347 * 30.0 - 0.978 * (1.0 / 25.0 - 0.05), "0.0000"));
+    EXPECT_TRUE(finestra.lblNote[3].visibile());
+}
+
+TEST_F(ProveParametri, ALoneCommaIsAnEmptyMask) {
+    EXPECT_TRUE(scrivi(finestra.txtAngoloConflitto, ","));
+    EXPECT_EQ(finestra.txtAngoloConflitto.testo(), "0,00");
+    EXPECT_TRUE(messaggi.mostrati.empty());
+}
+
+TEST_F(ProveParametri, AWrongLayoutInTheConfigurationKeepsNoMeasureFromBeingWritten) {
+    std::ofstream(app.theAmbiente.PercorsoIni()) << "[OPZ_EXPLORER]\nRami=\n";
+    EXPECT_TRUE(scrivi(finestra.txtLarghezzaIngresso, "8"));
+    finestra.SaveData();
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 8.0F);
+}
+
+TEST_F(ProveParametri, AWrongPairIsToldOnce) {
+    ramo(1).LarghezzaIngresso(5.0F);
+    ramo(1).SemiLarghezza(6.0F);
+    finestra.ReadData();
+    finestra.SaveData();
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].icona, Icona::esclamazione);
+    EXPECT_TRUE(finestra.txtLarghezzaIngresso.fallito());
+    EXPECT_TRUE(finestra.txtSemiLarghezza.fallito());
+}
+
+TEST_F(ProveParametri, WidthsAreComparedAsTyped) {
+    ramo(1).LarghezzaIngresso(5.004F);
+    finestra.ReadData();
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "5,00");
+    EXPECT_FALSE(scrivi(finestra.txtSemiLarghezza, "5,00"));
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+}
+
+TEST_F(ProveParametri, AHalfTypedPairKeepsTheLastOneThatFits) {
+    EXPECT_TRUE(scrivi(finestra.txtLarghezzaIngresso, "12"));
+    finestra.fuocoSu(finestra.txtSemiLarghezza);
+    finestra.txtSemiLarghezza.scrivi("12");
+    EXPECT_EQ(finestra.geometriaMostrata().e, 12.0F);
+    EXPECT_EQ(finestra.geometriaMostrata().v, ramo(1).SemiLarghezza());
+}
+
+TEST_F(ProveParametri, WhatWasSavedIsShownWithTwoDecimals) {
+    EXPECT_TRUE(scrivi(finestra.txtLarghezzaIngresso, "6,257"));
+    finestra.SaveData();
+    EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "6,26");
+    EXPECT_FALSE(finestra.txtLarghezzaIngresso.modificato());
+    EXPECT_EQ(ramo(1).LarghezzaIngresso(), 6.257F);
+}
+
+TEST_F(ProveParametri, EachFieldPutsTheSignUp) {
+    const std::array<const char*, 6> altri{"6,11", "3,11", "21,5", "33", "26", "66"};
+    for (std::size_t i = 0; i < altri.size(); ++i) {
+        finestra.ReadData();
+        EXPECT_TRUE(scrivi(*finestra.campi()[i], altri[i])) << i;
+        EXPECT_FALSE(finestra.DatiAllineati()) << i;
+    }
+    finestra.ReadData();
+    EXPECT_TRUE(scrivi(finestra.txtDescrizioneRamo, "Via Nuova"));
+    EXPECT_FALSE(finestra.DatiAllineati());
+    finestra.ctlToolbar.premi("Refresh");
+    EXPECT_EQ(finestra.txtDescrizioneRamo.testo(), "Ramo A");
+    finestra.chkAttraversamentoPedonale.clicca();
+    EXPECT_FALSE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveParametri, TheCrossingIsReadAndStaysAcrossAVisit) {
+    ramo(2).AttraversamentoPedonale(true);
+    apri("keyRamo2");
+    EXPECT_TRUE(finestra.chkAttraversamentoPedonale.spuntata());
+    EXPECT_TRUE(finestra.piantaMostrata().rami[1].attraversamentoPedonale);
+    finestra.SaveData();
+    EXPECT_TRUE(ramo(2).AttraversamentoPedonale());
+}
+
+TEST_F(ProveParametri, EveryTypedMeasureIsInThePlan) {
+    const std::array<const char*, 6> altri{"6,11", "3,11", "21,5", "33", "26", "66"};
+    for (std::size_t i = 0; i < altri.size(); ++i) {
+        finestra.campi()[i]->scrivi(altri[i]);
+    }
+    const pianta::DatiRamo questo = finestra.piantaMostrata().rami[0];
+    EXPECT_FLOAT_EQ(static_cast<float>(questo.larghezzaIngresso), 6.11F);
+    EXPECT_FLOAT_EQ(static_cast<float>(questo.semiLarghezza), 3.11F);
+    EXPECT_FLOAT_EQ(static_cast<float>(questo.lunghezzaSvasatura), 21.5F);
+    EXPECT_FLOAT_EQ(static_cast<float>(questo.angoloConflitto), 33.0F);
+    EXPECT_FLOAT_EQ(static_cast<float>(questo.raggioIngresso), 26.0F);
+    EXPECT_FLOAT_EQ(static_cast<float>(questo.diametroInscritto), 66.0F);
 }
 
 TEST_F(ProveParametri, AWindowWithoutALegIsAFault) {
@@ -458,6 +558,7 @@ TEST_F(ProveImporta, FilesOfAnotherKindAndBrokenOnesEmptyTheView) {
     vista.selezionato(cartella.percorso() + "/rotto.klv");
     EXPECT_TRUE(vista.lstRami.righe().empty());
     EXPECT_FALSE(vista.lblAvviso.testo().empty());
+    EXPECT_NE(vista.lblAvviso.testo(), "Selezionare un progetto per vederne i rami.");
     EXPECT_FALSE(vista.conferma(cartella.percorso() + "/rotto.klv"));
     EXPECT_TRUE(messaggi.mostrati.empty());
 }
@@ -515,6 +616,30 @@ TEST_F(ProveImporta, NoRowOrNoAnswerLeavesTheFieldsAlone) {
     EXPECT_EQ(messaggi.mostrati.size(), 1U);
     EXPECT_EQ(finestra.txtLarghezzaIngresso.testo(), "5,00");
     EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveImporta, FiguresFollowWhatWasImported) {
+    dialogo.selezioni = {altro};
+    dialogo.riga = "5";
+    messaggi.risposta = Risposta::si;
+    finestra.ctlToolbar.premi("Archivio");
+    // S = 1.6 (e - v) / l' with 7.125, 3.5 and 12.5.
+    EXPECT_EQ(finestra.valori[2].etichetta.testo(), formatta(1.6 * (7.125 - 3.5) / 12.5, "#0.000"));
+}
+
+TEST_F(ProveImporta, AnotherFileTakesTheMarkAway) {
+    frmPreviewRami vista(contorno());
+    vista.selezionato(altro);
+    vista.lstRami.clicca("2");
+    const std::string copia = cartella.percorso() + "/Copia.klv";
+    std::filesystem::copy_file(altro, copia);
+    vista.selezionato(copia);
+    EXPECT_EQ(vista.lstRami.selezionata(), "");
+    EXPECT_FALSE(vista.conferma(copia));
+    vista.lstRami.clicca("2");
+    EXPECT_FALSE(vista.conferma(altro)) << "another name was typed than the one that is shown";
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_EQ(vista.txtNomeProgetto.testo(), "Altro");
 }
 
 TEST_F(ProveImporta, MeasuresOutsideTheLimitsAreNotWritten) {

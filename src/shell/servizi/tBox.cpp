@@ -204,6 +204,7 @@ EsitoUscita tBox::esamina() {
     std::string numero = testo_;
     if (virgola) {
         std::replace(numero.begin(), numero.end(), ',', '.');
+        numero = numero == "." ? std::string{} : numero;  // a lone comma is an empty mask
     }
     if (std::string motivo = regole_.motivo(numero); !motivo.empty()) {
         return rifiutato(std::move(motivo));
