@@ -21,6 +21,7 @@ void lasciaCorrere() {
 }
 
 void Fotografo::scatta(QWidget& oggetto, const std::string& nome) {
+    oggetto.activateWindow();  // no window manager gives it the keyboard back
     lasciaCorrere();
     scrivi(oggetto.grab(), nome);
 }

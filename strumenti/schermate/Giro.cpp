@@ -183,7 +183,7 @@ void Giro::campoRifiutato() {
     for (Controllo* controllo : finestra->ordine()) {
         auto* campo = dynamic_cast<tBox*>(controllo);
         if (campo != nullptr && campo->nome() == campoRifiuto) {
-            if (auto* veduto = vista_.findChild<QWidget*>(ui::q(campo->nome()))) {
+            if (auto* veduto = vista_.vistaCorrente()->findChild<QWidget*>(ui::q(campo->nome()))) {
                 veduto->setFocus(Qt::TabFocusReason);
             }
             lasciaCorrere();
@@ -199,7 +199,7 @@ void Giro::campoRifiutato() {
 void Giro::misuraInUso() {
     cornice_.albero.mostra(chiaveMisura);
     Finestra* finestra = cornice_.finestre.viva(finestraMisura);
-    auto* veduto = vista_.findChild<QWidget*>(QString::fromLatin1(campoMisura));
+    auto* veduto = vista_.vistaCorrente()->findChild<QWidget*>(QString::fromLatin1(campoMisura));
     if (finestra == nullptr || veduto == nullptr) {
         return;
     }

@@ -336,5 +336,31 @@ TEST_F(ImportaRamo, AFileThatIsNoProjectEmptiesTheView) {
     EXPECT_TRUE(banco.messaggi.mostrati.empty()) << banco.ultimo();
 }
 
+TEST(FuocoDiUnaFinestra, ComesByTheTreesLogicByMenuAndByButtonAlike) {
+    Banco banco;
+    banco.mostra();
+    banco.nuovo(4);
+    banco.vai("keyToponomasticaIntersezione");
+    EXPECT_EQ(gesti::fuoco(), "txtIngresso1");
+    banco.cornice.albero.mostra("keyRamo1");
+    gesti::smaltisci();
+    EXPECT_EQ(banco.nomeCorrente(), "frmParametriRamo");
+    EXPECT_EQ(gesti::fuoco(), "txtDescrizioneRamo");
+    banco.vai("keyToponomasticaIntersezione");
+    ASSERT_TRUE(gesti::bottone(banco.vista, "Opzioni"));
+    gesti::smaltisci();
+    EXPECT_EQ(banco.nomeCorrente(), "frmOpzioni");
+    EXPECT_EQ(gesti::fuoco(), "optCurvaTempoFlusso");  // the one that is chosen
+    banco.vai("keyRamo2");
+    EXPECT_EQ(gesti::fuoco(), "txtDescrizioneRamo");
+    ASSERT_TRUE(gesti::menu(banco.vista, {"mnuOpzioni", "keyOpzioni"}));
+    gesti::smaltisci();
+    EXPECT_EQ(banco.nomeCorrente(), "frmOpzioni");
+    EXPECT_EQ(gesti::fuoco(), "optCurvaTempoFlusso");  // the one that is chosen
+    banco.cornice.albero.mostra("keyRamo2");
+    gesti::smaltisci();
+    EXPECT_EQ(gesti::fuoco(), "txtDescrizioneRamo");
+}
+
 }  // namespace
 }  // namespace kelvo::prove
