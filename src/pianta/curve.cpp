@@ -135,6 +135,34 @@ Tracciato fino(const Tracciato& tracciato, Posizione dove) {
     return parte;
 }
 
+namespace {
+
+/// Where an arc that the ray meets once is met, from 0 at its beginning to 1 at its end. Of the two points that ray and
+/// circle share it is the one that lies on the arc, or nearer to it where rounding has put both outside.
+double quotaSulRaggio(const Cerchio& cerchio, Punto verso) {
+    const double lungo = scalare(cerchio.centro, verso);
+    const double lontano = vettoriale(cerchio.centro, verso);
+    const double mezza = std::sqrt(std::max(0.0, cerchio.raggio * cerchio.raggio - lontano * lontano));
+    double migliore = 0.0;
+    double fuori = HUGE_VAL;
+    for (const double quanto : {lungo - mezza, lungo + mezza}) {
+        const Punto raggio = verso * quanto - cerchio.centro;
+        const double svolta = std::atan2(raggio.y, raggio.x) - cerchio.da;
+        // As an arc turns by less than a whole turn, the nearest of its neighbours by whole turns is the one meant.
+        for (const double giro : {-4 * pi, -2 * pi, 0.0, 2 * pi, 4 * pi}) {
+            const double quota = (svolta + giro) / cerchio.gira;
+            const double manca = std::max({0.0, -quota, quota - 1.0});
+            if (manca < fuori) {
+                fuori = manca;
+                migliore = quota;
+            }
+        }
+    }
+    return std::clamp(migliore, 0.0, 1.0);
+}
+
+}  // namespace
+
 std::optional<Posizione> incontro(const Tracciato& tracciato, double angolo) {
     for (std::size_t i = 0; i + 1 < tracciato.size(); ++i) {
         const Punto da = tracciato[i].p;
@@ -148,10 +176,7 @@ std::optional<Posizione> incontro(const Tracciato& tracciato, double angolo) {
             const double passa = vettoriale(a - da, verso);
             return Posizione{i, passa == 0 ? 0.0 : std::clamp(-vettoriale(da, verso) / passa, 0.0, 1.0)};
         }
-        const Cerchio cerchio = cerchioDi(da, a, tracciato[i].bombatura);
-        const double quota = bisezione(0.0, 1.0, [&](double q) {
-            return vettoriale(cerchio.centro + polare(cerchio.raggio, cerchio.da + cerchio.gira * q), verso);
-        });
+        const double quota = quotaSulRaggio(cerchioDi(da, a, tracciato[i].bombatura), verso);
         return Posizione{i, quota};
     }
     return std::nullopt;

@@ -104,6 +104,7 @@ void Pannello::nota(QLabel* parola) {
 
 void Pannello::valore(Etichetta& etichetta, Etichetta& testo) {
     auto* nome = collega(etichetta, this);
+    nome->setContentsMargins(misura::sporgenza, 0, 0, 0);
     auto* detto = collega(testo, this);
     detto->setFont(dati(punti::corpo));
     detto->setWordWrap(true);
