@@ -18,6 +18,7 @@
 #include <QtWidgets/QTreeWidgetItemIterator>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -255,7 +256,7 @@ bool misura(const QString& programma, const QString& progetto, const char* compi
 
 double percentile(std::vector<double> valori, double quota) {
     std::sort(valori.begin(), valori.end());
-    const auto posto = static_cast<std::size_t>(quota * static_cast<double>(valori.size() - 1) + 0.5);
+    const auto posto = static_cast<std::size_t>(std::lround(quota * static_cast<double>(valori.size() - 1)));
     return valori.at(posto);
 }
 
