@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "app/nuovoProgetto.h"
 #include "comune/fintiFinestre.h"
 #include "input/frmDatiTraffico.h"
+#include "input/gestiDati.h"
 
 namespace kelvo::prove {
 
@@ -61,25 +60,8 @@ struct ScenaTraffico : testing::Test, ScenaFinestre {
         gestione.chiudiCorrente();
         ASSERT_TRUE(apri(chiave));
     }
-    /// Types into a field as a person does; true if it could be left.
-    bool scrivi(tBox& campo, const std::string& testo) {
-        finestra.fuocoSu(campo);
-        campo.scrivi(testo);
-        const bool lasciato = finestra.lasciaFuoco();
-        finestra.scordaFuoco();
-        return lasciato;
-    }
-    std::string salva(const std::string& nome) {
-        const std::string percorso = cartella.percorso() + "/" + nome;
-        std::string messaggio;
-        bool esito = true;
-        app.theRotonda().Save(percorso, messaggio, esito);
-        EXPECT_TRUE(esito) << messaggio;
-        std::ifstream file(percorso, std::ios::binary);
-        std::ostringstream testo;
-        testo << file.rdbuf();
-        return testo.str();
-    }
+    bool scrivi(tBox& campo, const std::string& testo) { return scriviIn(finestra, campo, testo); }
+    std::string salva(const std::string& nome) { return testoSalvato(app, cartella.percorso() + "/" + nome); }
     std::string totali() const {
         return finestra.txtFlussoTotale.testo() + " " + finestra.txtFlussoMedio.testo() + " " +
                finestra.txtFlussoOrario.testo();
