@@ -34,7 +34,7 @@ public:
         righe(*ingresso, ramo, tempi);
         colonna()->addWidget(ingresso);
         colonna()->addWidget(curva());
-        auto* somme = new Pannello(QStringLiteral("Totali dell'ingresso"), corpo());
+        auto* somme = new Pannello({}, corpo());
         righe(*somme, totali, fine);
         colonna()->addWidget(somme);
         colonna()->addWidget(ricerca());
