@@ -27,6 +27,26 @@ constexpr const char* cifreEVirgola = "0123456789,";
 /// What a search writes has room: fifteen digits, a comma, a zero before it.
 constexpr std::size_t cifreMassime = 17;
 
+/// Pages of the help pane.
+struct Pagina {
+    tBox frmDatiTraffico::*campo;
+    const char* nome;
+};
+constexpr std::array pagine{
+    Pagina{&frmDatiTraffico::txtDescrizioneRamo, "DenominazioneRamo.htm"},
+    Pagina{&frmDatiTraffico::txtIntervalloTempo, "IntervalloTempo.htm"},
+    Pagina{&frmDatiTraffico::txtTempo1, "Tempo1.htm"},
+    Pagina{&frmDatiTraffico::txtTempo2, "Tempo2.htm"},
+    Pagina{&frmDatiTraffico::txtTempo3, "Tempo3.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTempo1, "FlussoTempo1.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTempo2, "FlussoTempo2.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTempo3, "FlussoTempo3.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTotale, "FlussoTotale.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoMedio, "FlussoMedio.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoOrario, "FlussoOrario.htm"},
+    Pagina{&frmDatiTraffico::txtTarget, "FlussoObiettivo.htm"},
+};
+
 }  // namespace
 
 using F = frmDatiTraffico;
@@ -82,6 +102,9 @@ frmDatiTraffico::frmDatiTraffico(const Contorno& contorno)
         campo->virgola = true;
         campo->controllo = [this, campo] { return controllaNumero(*campo); };
     }
+    for (const Pagina& pagina : pagine) {
+        (this->*pagina.campo).paginaAiuto = pagina.nome;
+    }
     collega();
     cambiaModo();
 }
@@ -128,6 +151,9 @@ void frmDatiTraffico::attivata() {
     Check2.spuntata(false);
     cambiaModo();
     prgCurva.valore(0);
+    if (fuoco() == nullptr) {
+        fuocoSu(txtTempo1);  // the first field that is typed into
+    }
 }
 
 void frmDatiTraffico::rileggi() {

@@ -116,6 +116,14 @@ void RiquadroAiuto::sopra(QWidget* oggetto) {
     piano_->addLayout(pagina, partePagina);
 }
 
+void RiquadroAiuto::soloPagine() {
+    // Behind the title and its line: the picture, and the line below it.
+    delete piano_->takeAt(3)->widget();
+    figura_->hide();
+    piano_->removeWidget(figura_);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
 void RiquadroAiuto::mostra() {
     const QString pagina = q(aiuto_.pagina());
     testo_->setHtml(testoPagina(pagina));

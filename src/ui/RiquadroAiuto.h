@@ -29,6 +29,8 @@ public:
     void segui(Immagine& immagine);
     /// Puts something in the place of the picture, which goes to the right of the page.
     void sopra(QWidget* oggetto);
+    /// Shows pages alone, without pictures: as low as its text asks.
+    void soloPagine();
 
 private:
     void mostra();

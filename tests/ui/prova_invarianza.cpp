@@ -117,6 +117,10 @@ TEST_P(Invarianza, SoDoesAProjectWhoseEveryPropertyIsItsOwn) {
         progetto.Ramo(i).AngoloConflitto(passo / 13.0F);
         progetto.Ramo(i).RaggioIngresso(1234.567F / passo);
         progetto.Ramo(i).DiametroInscritto(13.5F + passo / 17.0F);
+        DatiTraffico& traffico = progetto.Ramo(i).theDatiTraffico();
+        traffico.Tempo1(oraDelGiorno(7, 30, 20));
+        traffico.Tempo2(oraDelGiorno(8, 0, 10));
+        traffico.Tempo3(oraDelGiorno(8, 30, 0));
     }
     std::string messaggio;
     bool esito = false;

@@ -17,6 +17,8 @@ struct VoceVista {
 constexpr std::array viste{
     VoceVista{"frmAnagraficaRotonda", vista_frmAnagraficaRotonda},
     VoceVista{"frmCommittenteProfessionista", vista_frmCommittenteProfessionista},
+    VoceVista{"frmDatiTraffico", vista_frmDatiTraffico},
+    VoceVista{"frmDatiTrafficoST", vista_frmDatiTrafficoST},
     VoceVista{"frmEmptyForm", vista_frmEmptyForm},
     VoceVista{"frmInputNumeroRami", vista_frmInputNumeroRami},
     VoceVista{"frmINFO", vista_frmINFO},

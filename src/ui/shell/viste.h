@@ -7,6 +7,8 @@ namespace kelvo::ui {
 
 VistaFinestra* vista_frmAnagraficaRotonda(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmCommittenteProfessionista(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmDatiTraffico(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmDatiTrafficoST(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmEmptyForm(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmInputNumeroRami(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmINFO(Finestra& finestra, QWidget* genitore);
