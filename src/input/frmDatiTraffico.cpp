@@ -6,6 +6,7 @@
 
 #include "base/date.h"
 #include "base/numeri.h"
+#include "input/recuperoTraffico.h"
 #include "shell/servizi/campiNumerici.h"
 
 namespace kelvo {
@@ -151,9 +152,26 @@ void frmDatiTraffico::attivata() {
     Check2.spuntata(false);
     cambiaModo();
     prgCurva.valore(0);
+    ReadBackUpData();
     if (fuoco() == nullptr) {
         fuocoSu(txtTempo1);  // the first field that is typed into
     }
+}
+
+void frmDatiTraffico::ReadBackUpData() {
+    const auto curva = curvaRecuperabile(app().theRotonda(), indiceRamo());
+    if (!curva || !chiediRecupero(app(), indiceRamo(), DatoTraffico::curva)) {
+        return;
+    }
+    txtTempo1.modifica(testoHHNN(curva->Tempo1));
+    txtTempo2.modifica(testoHHNN(curva->Tempo2));
+    txtTempo3.modifica(testoHHNN(curva->Tempo3));
+    txtFlussoTempo1.modifica(testoNumero(curva->FlussoTempo1));
+    txtFlussoTempo2.modifica(testoNumero(curva->FlussoTempo2));
+    txtFlussoTempo3.modifica(testoNumero(curva->FlussoTempo3));
+    CostruisciCurva();
+    DoTheChart();
+    confronta();
 }
 
 void frmDatiTraffico::rileggi() {

@@ -55,6 +55,8 @@ public:
     void attivata() override;
     /// Copies the leg to the fields; the curve is not built.
     void ReadData() override;
+    /// Offers the curve back that a change of the times took from the leg, once; taken back, it is as if typed.
+    void ReadBackUpData();
     /// Writes the parameters and totals to the leg. With nothing changed by the user it writes nothing.
     void SaveData() override;
     /// Builds the bars and the totals from the fields, and closes t3 and q3 on a flat curve. Where the times give no

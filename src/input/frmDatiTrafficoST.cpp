@@ -11,6 +11,7 @@
 #include "base/testo.h"
 #include "calc/totaliTraffico.h"
 #include "input/istogrammaTraffico.h"
+#include "input/recuperoTraffico.h"
 #include "shell/servizi/campiNumerici.h"
 #include "shell/servizi/incolla.h"
 #include "shell/servizi/pelle.h"
@@ -121,6 +122,23 @@ void frmDatiTrafficoST::attivata() {
     Check1.spuntata(false);
     FinestraRamo::attivata();
     mostraDaCapo();
+    ReadBackUpData();
+}
+
+void frmDatiTrafficoST::ReadBackUpData() {
+    const auto conteggi = conteggiRecuperabili(app().theRotonda(), indiceRamo());
+    if (!conteggi || !chiediRecupero(app(), indiceRamo(), DatoTraffico::conteggi)) {
+        return;
+    }
+    ctlGrid.modifica([&](Tabella& tabella) {
+        for (int r = 1; r < tabella.righe(); ++r) {
+            if (const auto& valore = (*conteggi)[static_cast<std::size_t>(r) - 1]) {
+                tabella.cella(r, colonnaFlusso).testo = testoNumero(*valore);
+            }
+        }
+    });
+    DatiAllineati(!ctlGrid.modificata());
+    cellaLasciata();
 }
 
 void frmDatiTrafficoST::rileggi() {

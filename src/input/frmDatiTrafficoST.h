@@ -46,6 +46,8 @@ public:
     void attivata() override;
     /// Copies the leg to the fields and to the grid; the totals are those that the leg holds.
     void ReadData() override;
+    /// Offers the counts back that a change of the times took from the leg, once; taken back, they are as if typed.
+    void ReadBackUpData();
     /// Writes totals and counts to the leg. With no count changed by the user it writes nothing; the key of the tool
     /// bar puts totals right that do not agree with the counts.
     void SaveData() override;

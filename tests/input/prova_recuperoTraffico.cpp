@@ -4,6 +4,8 @@
 
 #include "app/nuovoProgetto.h"
 #include "comune/fintiFinestre.h"
+#include "input/frmDatiTraffico.h"
+#include "input/frmDatiTrafficoST.h"
 #include "input/frmTempoModellazione.h"
 
 namespace kelvo::prove {
@@ -205,6 +207,67 @@ TEST_F(ProveRecupero, AnotherChangeOfTheTimesOffersAnew) {
     chiediRecupero(app, 2, DatoTraffico::conteggi);
     tempi("08:00", "15", "09:15");
     EXPECT_TRUE(conteggiRecuperabili(rotonda(), 2));
+}
+
+TEST_F(ProveRecupero, TheWindowOfTheCountsOffersThemOnceAndSavesWhatCameBack) {
+    tempi("08:00", "15", "09:30");
+    messaggi.mostrati.clear();
+    messaggi.risposta = Risposta::si;
+    frmDatiTrafficoST conteggi{contorno()};
+    navigazione.corrente = "keyDatiTraffico2";
+    conteggi.attivata();
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(conteggi.ctlGrid.testo(1, 1), "10");
+    EXPECT_EQ(conteggi.ctlGrid.testo(4, 1), "13");
+    EXPECT_EQ(conteggi.ctlGrid.testo(5, 1), "0");
+    EXPECT_EQ(conteggi.txtFlussoTotale.testo(), "46");
+    EXPECT_FALSE(conteggi.DatiAllineati());
+    EXPECT_EQ(dati(2).FlussoSegmento(0, 0), 0.0F);  // nothing is written before the window is left
+    conteggi.SaveData();
+    EXPECT_EQ(dati(2).FlussiSegmento(), (std::vector<float>{10.0F, 11.0F, 12.0F, 13.0F, 0.0F, 0.0F}));
+    EXPECT_EQ(dati(2).FlussoTotale(), 46.0F);
+    conteggi.attivata();
+    navigazione.corrente = "keyDatiTraffico1";
+    conteggi.attivata();  // this leg had nothing
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+}
+
+TEST_F(ProveRecupero, WhoAnswersNoKeepsTheEmptyTable) {
+    tempi("08:00", "15", "09:30");
+    messaggi.mostrati.clear();
+    messaggi.risposta = Risposta::no;
+    frmDatiTrafficoST conteggi{contorno()};
+    navigazione.corrente = "keyDatiTraffico2";
+    conteggi.attivata();
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(conteggi.ctlGrid.testo(1, 1), "0");
+    EXPECT_TRUE(conteggi.DatiAllineati());
+    conteggi.attivata();
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+}
+
+TEST_F(ProveRecupero, TheWindowOfTheCurveOffersItOnceAndSavesWhatCameBack) {
+    tempi("08:00", "15", "09:30");
+    messaggi.mostrati.clear();
+    messaggi.risposta = Risposta::si;
+    frmDatiTraffico curva{contorno()};
+    navigazione.corrente = "keyDatiTraffico2";
+    curva.attivata();
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(
+        messaggi.mostrati[0].testo,
+        "I tempi di modellazione sono stati modificati.\nRipristinare la curva di traffico inserita in precedenza "
+        "per l'ingresso 'Ramo B'?");
+    EXPECT_EQ(curva.txtTempo3.testo(), "09:00");
+    EXPECT_EQ(curva.txtFlussoTempo2.testo(), "10");
+    EXPECT_FALSE(curva.DatiAllineati());
+    curva.SaveData();
+    EXPECT_EQ(dati(2).FlussoTempo1(), 4.0F);
+    EXPECT_EQ(testoHHNN(dati(2).Tempo3()), "09:00");
+    // Two segments behind the peak are flat: 4, 7, 10 and 10 veic/min for 15 minutes each.
+    EXPECT_EQ(dati(2).FlussoTotale(), 465.0F);
+    curva.attivata();
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
 }
 
 TEST_F(ProveRecupero, ANewProjectIsOfferedNothing) {
