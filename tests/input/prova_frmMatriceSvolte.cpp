@@ -211,6 +211,42 @@ TEST_F(ProveMatrice, AKeyThatIsNotTakenEndsTheEditOfACell) {
     EXPECT_EQ(finestra.ctlGrid.testo(1, 3), "11");
 }
 
+TEST_F(ProveMatrice, AFractionThatIsMendedKeepsItsCommaAndIsRoundedToAWholeNumber) {
+    riga(1, 12.5F, 12.5F, 75.0F);
+    apri();
+    finestra.ctlGrid.premiTasto(Tasto::f2);
+    EXPECT_EQ(finestra.ctlGrid.testoEditor(), "12,5");
+    finestra.ctlGrid.correggi("12,56");
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 2), "13");
+    finestra.ctlGrid.premiTasto(Tasto::f2);
+    finestra.ctlGrid.correggi(",");  // all but the comma deleted
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 3), "0");
+    finestra.ctlGrid.corrente({1, 4});
+    finestra.ctlGrid.premiTasto(Tasto::f2);
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_EQ(entrate(0), "88");
+}
+
+TEST_F(ProveMatrice, ArrowsSkipTheDiagonalInTheDirectionOfMotion) {
+    apri();
+    const auto va = [&](Posto da, Tasto tasto) {
+        EXPECT_TRUE(finestra.ctlGrid.corrente(da));
+        finestra.ctlGrid.premiTasto(tasto);
+        return finestra.ctlGrid.corrente();
+    };
+    EXPECT_EQ(va({2, 1}, Tasto::destra), (Posto{2, 3}));
+    EXPECT_EQ(va({2, 3}, Tasto::sinistra), (Posto{2, 1}));
+    EXPECT_EQ(va({1, 2}, Tasto::giu), (Posto{3, 2}));
+    EXPECT_EQ(va({3, 2}, Tasto::su), (Posto{1, 2}));
+    EXPECT_EQ(va({1, 2}, Tasto::sinistra), (Posto{1, 2})) << "nothing lies beyond";
+    EXPECT_EQ(va({3, 4}, Tasto::giu), (Posto{3, 4}));
+    finestra.ctlGrid.corrente({2, 1});
+    finestra.ctlGrid.premiTasto(Tasto::invio, true);  // back along the row, and on to the one before
+    EXPECT_EQ(finestra.ctlGrid.corrente(), (Posto{1, 4}));
+}
+
 TEST_F(ProveMatrice, AValueBeyondSixteenBitsFailsIntoTheHandler) {
     apri();
     finestra.ctlGrid.scrivi("32767");
