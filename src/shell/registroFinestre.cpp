@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "input/frmAnalisiMarginale.h"
+#include "input/frmMatriceSvolte.h"
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
@@ -32,6 +33,9 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmToponomasticaIntersezione", crea<frmToponomasticaIntersezione>);
     finestre.registra("frmAnalisiMarginale", crea<frmAnalisiMarginale>);
     finestre.registra("frmOpzioni", crea<frmOpzioni>);
+    finestre.registra("frmMatriceSvolte", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmMatriceSvolte>(contorno, servizi.anteprima);
+    });
     finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
         return std::make_unique<frmParametriRamo>(contorno,
                                                   frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});

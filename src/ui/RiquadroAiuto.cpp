@@ -116,6 +116,12 @@ void RiquadroAiuto::sopra(QWidget* oggetto) {
     piano_->addLayout(pagina, partePagina);
 }
 
+void RiquadroAiuto::alPosto(QWidget* oggetto) {
+    delete piano_->replaceWidget(figura_, oggetto);
+    piano_->setStretchFactor(oggetto, 1);
+    figura_->hide();
+}
+
 void RiquadroAiuto::mostra() {
     const QString pagina = q(aiuto_.pagina());
     testo_->setHtml(testoPagina(pagina));

@@ -29,6 +29,8 @@ public:
     void segui(Immagine& immagine);
     /// Puts something in the place of the picture, which goes to the right of the page.
     void sopra(QWidget* oggetto);
+    /// Puts something into the place of the picture, which is shown nowhere then.
+    void alPosto(QWidget* oggetto);
 
 private:
     void mostra();

@@ -158,6 +158,10 @@ void VistaGriglia::mostra() {
             setColumnHidden(c, griglia_.colonna(c + griglia_.colonneFisse()).nascosta);
         }
         minime_.clear();
+        if (guida_ != nullptr) {
+            guida_->minime_.clear();
+            guida_->disponi();
+        }
         disponi();
     }
     mostraCorrente();

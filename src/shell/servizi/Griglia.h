@@ -156,7 +156,8 @@ public:
     bool incolla(std::string_view testo);
     bool lascia() override;
     bool convalida() override;
-    bool prendeFuoco() const override { return raggiungibile(); }
+    /// A grid in which the cursor can stop nowhere takes no focus.
+    bool prendeFuoco() const override { return raggiungibile() && (tabella_.righe() == 0 || corrente_.riga >= 0); }
 
 private:
     struct Editor {

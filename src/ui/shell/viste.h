@@ -10,7 +10,9 @@ VistaFinestra* vista_frmCommittenteProfessionista(Finestra& finestra, QWidget* g
 VistaFinestra* vista_frmEmptyForm(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmInputNumeroRami(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmINFO(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmMatriceSvolte(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmParametriRamo(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmPreviewMatriceSvolte(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmPreviewRami(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmSplash(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmTempoModellazione(Finestra& finestra, QWidget* genitore);
