@@ -5,6 +5,7 @@
 #include "input/frmAnalisiMarginale.h"
 #include "input/frmDatiTraffico.h"
 #include "input/frmDatiTrafficoST.h"
+#include "input/frmMatriceSvolte.h"
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
@@ -36,6 +37,9 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmDatiTraffico", crea<frmDatiTraffico>);
     finestre.registra("frmDatiTrafficoST", crea<frmDatiTrafficoST>);
     finestre.registra("frmOpzioni", crea<frmOpzioni>);
+    finestre.registra("frmMatriceSvolte", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmMatriceSvolte>(contorno, servizi.anteprima);
+    });
     finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
         return std::make_unique<frmParametriRamo>(contorno,
                                                   frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});

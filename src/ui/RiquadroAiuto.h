@@ -31,6 +31,8 @@ public:
     void sopra(QWidget* oggetto);
     /// Shows pages alone, without pictures: as low as its text asks.
     void soloPagine();
+    /// Puts something into the place of the picture, which is shown nowhere then.
+    void alPosto(QWidget* oggetto);
 
 private:
     void mostra();

@@ -126,6 +126,9 @@ public:
     bool tuttoScelto() const { return editor_ && editor_->tutto; }
     /// The column of the cursor takes the character.
     bool ammette(std::string_view carattere) const;
+    /// Characters that the text in the editor may have: those of the rules of the column, more where the cell already
+    /// has more; 0 for no limit.
+    std::size_t lunghezzaAmmessa() const;
     /// The last text was refused.
     bool fallita() const { return fallita_; }
     /// The selected cells as text: tabs between cells, CR LF between rows; with the fixed ones that belong to them.
@@ -138,7 +141,8 @@ public:
     bool premiTasto(Tasto tasto, bool estendi = false);
     /// Types characters one after the other; the first opens the editor, in place of what stands in the cell.
     void scrivi(std::string_view testo);
-    /// The text in the open editor is another one; what the column does not take falls out.
+    /// The text in the open editor is another one; what the column does not take falls out, unless it already stood in
+    /// the cell.
     void correggi(std::string_view testo);
     /// A click on a cell; with the shift key the selection reaches as far as it. False if the cursor could not leave
     /// its cell or there is no such cell.
@@ -152,7 +156,8 @@ public:
     bool incolla(std::string_view testo);
     bool lascia() override;
     bool convalida() override;
-    bool prendeFuoco() const override { return raggiungibile(); }
+    /// A grid in which the cursor can stop nowhere takes no focus.
+    bool prendeFuoco() const override { return raggiungibile() && (tabella_.righe() == 0 || corrente_.riga >= 0); }
 
 private:
     struct Editor {

@@ -91,6 +91,11 @@ bool Griglia::ammette(std::string_view carattere) const {
     return caratteri.empty() || caratteri.find(carattere) != std::string::npos;
 }
 
+std::size_t Griglia::lunghezzaAmmessa() const {
+    const std::size_t massima = colonna(corrente_.colonna).regole.lunghezzaMassima;
+    return massima == 0 ? 0 : std::max(massima, lunghezza(testo(corrente_.riga, corrente_.colonna)));
+}
+
 void Griglia::batti(const std::string& carattere) {
     const RegoleCella& regole = colonna(corrente_.colonna).regole;
     if (!ammette(carattere)) {
@@ -125,11 +130,21 @@ void Griglia::correggi(std::string_view testo) {
     if (!editor_ || !raggiungibile()) {
         return;
     }
-    const std::size_t massima = colonna(corrente_.colonna).regole.lunghezzaMassima;
+    const std::size_t massima = lunghezzaAmmessa();
+    // What stood in the cell may stay, each character as often as it stood there.
+    std::vector<std::string> stavano = caratteri(this->testo(corrente_.riga, corrente_.colonna));
+    const auto resta = [&](const std::string& carattere) {
+        const auto posto = std::find(stavano.begin(), stavano.end(), carattere);
+        if (posto == stavano.end()) {
+            return false;
+        }
+        stavano.erase(posto);
+        return true;
+    };
     std::string nuovo;
     std::size_t presi = 0;
     for (const std::string& carattere : caratteri(testo)) {
-        if (ammette(carattere) && (massima == 0 || presi < massima)) {
+        if ((massima == 0 || presi < massima) && (ammette(carattere) || resta(carattere))) {
             nuovo += carattere;
             ++presi;
         }
