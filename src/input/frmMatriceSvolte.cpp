@@ -61,6 +61,7 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
       lblVeicoliEntrate(etichette("lblVeicoliEntrate", sette)),
       frmTotaleUscite("frmTotaleUscite", "Totale uscite", {&ctlGridUscite}),
       lblVeicoliUscite(etichette("lblVeicoliUscite", sette)),
+      cmdImportaCSV("cmdImportaCSV", "Importa da CSV..."),
       dialogo_(dialogo) {
     std::vector<Controllo*> controlli;
     for (std::size_t i = 0; i < massimiIngressi; ++i) {
@@ -78,6 +79,8 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
         controlli.push_back(&lblVeicoliUscite[i]);
     }
     controlli.push_back(&ctlPicture);
+    controlli.push_back(&cmdImportaCSV);
+    cmdImportaCSV.allaPressione = [this] { importaCSV(this->contorno(), dialogo_, bersaglioCSV()); };
     conArchivio();
     ordina(controlli);
     preparaGriglie();
@@ -282,6 +285,18 @@ EsitoUscita frmMatriceSvolte::esaminaBlocco(std::vector<TestoCella>& celle) cons
         cella.testo = testoNumero(static_cast<float>(*numero));
     }
     return EsitoUscita::bene();
+}
+
+BersaglioCSV frmMatriceSvolte::bersaglioCSV() {
+    BersaglioCSV bersaglio{
+        .tipo = "Matrice", .didascalia = "Importa la matrice delle svolte da CSV", .griglia = ctlGrid, .colonne = {}};
+    for (int i = 0; i < ctlGrid.tabella().righe() - 1; ++i) {
+        const auto ramo = static_cast<std::size_t>(i);
+        bersaglio.colonne.push_back({.titolo = "Uscita " + lettera(ramo),
+                                     .colonna = i + 1,
+                                     .altri = {lettera(ramo), txtIngresso[ramo].testo()}});
+    }
+    return bersaglio;
 }
 
 void frmMatriceSvolte::CaricaDaProgetto() {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 
+#include "input/frmImportaCSV.h"
 #include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/Finestra.h"
 #include "shell/servizi/Griglia.h"
@@ -29,6 +30,7 @@ public:
     Griglia ctlGridUscite{"ctlGridUscite", 0, 0};  ///< one row: the total of each column
     std::array<Etichetta, 7> lblVeicoliUscite;
     Immagine ctlPicture{"ctlPicture"};  ///< "RAMI3" to "RAMI7"
+    Bottone cmdImportaCSV;              ///< takes the numbers of a CSV file into the cells
 
     /// Reads units, names and matrix of the project.
     void ReadData() override;
@@ -45,6 +47,8 @@ public:
     Posto movimento() const { return ctlGrid.corrente(); }
     /// Another movement is at hand, or the figures are others.
     sigc::signal<void()>& movimentoMutato() { return movimentoMutato_; }
+    /// Where the columns of a CSV file go: one column for each leg, rows by leg.
+    BersaglioCSV bersaglioCSV();
     /// The figures shown, legs from 0; an empty cell counts as 0.
     Matrice mostrata() const;
 
