@@ -8,6 +8,12 @@ else()
   find_package(CLI11 REQUIRED)
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(sigc REQUIRED IMPORTED_TARGET GLOBAL sigc++-3.0)
+  # libcsv comes without a file that tells where it stands.
+  find_library(KELVO_LIBCSV csv REQUIRED)
+  find_path(KELVO_INTESTAZIONI_CSV csv.h REQUIRED)
+  add_library(csv::csv UNKNOWN IMPORTED GLOBAL)
+  set_target_properties(csv::csv PROPERTIES IMPORTED_LOCATION ${KELVO_LIBCSV}
+    INTERFACE_INCLUDE_DIRECTORIES ${KELVO_INTESTAZIONI_CSV})
 endif()
 if(KELVO_DESKTOP)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg Test)

@@ -1,7 +1,8 @@
 # The libraries of a build for Windows on Linux. The distribution has them for its own systems alone: those that are
 # headers are taken as they stand (fmt in its form of headers), each through a folder of links, so that no other header
-# of the machine comes into reach; GoogleTest is built from the sources that its package holds. Of libsigc++ there are
-# the headers but no library: rooms that use it are compiled, and no program that needs it is linked.
+# of the machine comes into reach; GoogleTest is built from the sources that its package holds. Of libsigc++
+# and libcsv there are the headers but no library: rooms that use them are compiled, and no program that needs them is
+# linked.
 set(KELVO_INTESTAZIONI /usr/include CACHE PATH "Where the header-only libraries stand")
 set(KELVO_SIGC_CONFIGURAZIONE /usr/lib/x86_64-linux-gnu/sigc++-3.0/include CACHE PATH "Folder of sigc++config.h")
 set(KELVO_FONTI_GTEST /usr/src/googletest CACHE PATH "Sources of GoogleTest")
@@ -28,6 +29,7 @@ target_compile_definitions(fmt::fmt INTERFACE FMT_HEADER_ONLY=1)
 kelvo_intestazioni(utf8cpp ${KELVO_INTESTAZIONI}/utf8.h ${KELVO_INTESTAZIONI}/utf8)
 kelvo_intestazioni(nlohmann_json::nlohmann_json ${KELVO_INTESTAZIONI}/nlohmann)
 kelvo_intestazioni(CLI11::CLI11 ${KELVO_INTESTAZIONI}/CLI)
+kelvo_intestazioni(csv::csv ${KELVO_INTESTAZIONI}/csv.h)
 kelvo_intestazioni(PkgConfig::sigc
   ${KELVO_INTESTAZIONI}/sigc++-3.0/sigc++ ${KELVO_SIGC_CONFIGURAZIONE}/sigc++config.h)
 

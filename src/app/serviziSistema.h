@@ -121,6 +121,18 @@ public:
     virtual std::string leggi() const = 0;
 };
 
+/// The clipboard of the system, for pictures.
+class AppuntiImmagini {
+public:
+    AppuntiImmagini() = default;
+    AppuntiImmagini(const AppuntiImmagini&) = delete;
+    AppuntiImmagini& operator=(const AppuntiImmagini&) = delete;
+    virtual ~AppuntiImmagini() = default;
+
+    /// Puts a picture there, the content of a PNG file; false if it could not.
+    virtual bool scrivi(const std::string& png) = 0;
+};
+
 /// Waiting and the events that wait meanwhile.
 class Attesa {
 public:

@@ -67,10 +67,12 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
       lblVeicoliUscite(etichette("lblVeicoliUscite", sette)),
       lblMovimento("lblMovimento"),
       chkFlussi("chkFlussi", testi::flussi, Casella::bottone),
+      cmdImportaCSV("cmdImportaCSV", "Importa da CSV..."),
       dialogo_(dialogo) {
     // The names are there to be read: the keyboard goes to the matrix first.
-    std::vector<Controllo*> controlli{&lblPercentualeROSSO, &ctlGrid,       &frmTotaleEntrate, &ctlGridEntrate,
-                                      &frmTotaleUscite,     &ctlGridUscite, &lblMovimento,     &chkFlussi};
+    std::vector<Controllo*> controlli{&lblPercentualeROSSO, &ctlGrid,         &frmTotaleEntrate,
+                                      &ctlGridEntrate,      &frmTotaleUscite, &ctlGridUscite,
+                                      &cmdImportaCSV,       &lblMovimento,    &chkFlussi};
     for (std::size_t i = 0; i < massimiIngressi; ++i) {
         lblIngresso[i].testo("Ingresso " + lettera(i) + ":");
         txtIngresso[i].solaLettura(true);
@@ -83,6 +85,7 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
         controlli.push_back(&lblVeicoliUscite[i]);
     }
     controlli.push_back(&ctlPicture);
+    cmdImportaCSV.allaPressione = [this] { importaCSV(this->contorno(), dialogo_, bersaglioCSV()); };
     conArchivio();
     ordina(controlli);
     preparaGriglie();
@@ -324,6 +327,18 @@ EsitoUscita frmMatriceSvolte::esaminaBlocco(std::vector<TestoCella>& celle) cons
         cella.testo = testoNumero(static_cast<float>(*numero));
     }
     return EsitoUscita::bene();
+}
+
+BersaglioCSV frmMatriceSvolte::bersaglioCSV() {
+    BersaglioCSV bersaglio{
+        .tipo = "Matrice", .didascalia = "Importa la matrice delle svolte da CSV", .griglia = ctlGrid, .colonne = {}};
+    for (int i = 0; i < ctlGrid.tabella().righe() - 1; ++i) {
+        const auto ramo = static_cast<std::size_t>(i);
+        bersaglio.colonne.push_back({.titolo = "Uscita " + lettera(ramo),
+                                     .colonna = i + 1,
+                                     .altri = {lettera(ramo), txtIngresso[ramo].testo()}});
+    }
+    return bersaglio;
 }
 
 void frmMatriceSvolte::CaricaDaProgetto() {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 
+#include "input/frmImportaCSV.h"
 #include "pianta/Pianta.h"
 #include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/Finestra.h"
@@ -32,6 +33,7 @@ public:
     Immagine ctlPicture{"ctlPicture"};  ///< "RAMI3" to "RAMI7"
     Etichetta lblMovimento;             ///< the movement at hand in words, with its value
     Casella chkFlussi;                  ///< the plan shows the flows of the whole matrix
+    Bottone cmdImportaCSV;              ///< takes the numbers of a CSV file into the cells
 
     /// Reads units, names and matrix of the project.
     void ReadData() override;
@@ -52,6 +54,8 @@ public:
     /// are asked for.
     pianta::DatiPianta piantaMostrata() const;
     pianta::OpzioniPianta opzioniPianta() const;
+    /// Where the columns of a CSV file go: one column for each leg, rows by leg.
+    BersaglioCSV bersaglioCSV();
     /// The figures shown, legs from 0; an empty cell counts as 0.
     Matrice mostrata() const;
 

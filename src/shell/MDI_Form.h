@@ -31,7 +31,9 @@ public:
         ApriDocumenti& documenti;
         ImpostazioniUtente& impostazioni;
         Cronometro& cronometro;
-        std::string cartellaRecupero;  ///< folder of the recovery copies, the user's own
+        std::string cartellaRecupero;         ///< folder of the recovery copies, the user's own
+        Disegnatore* disegnatore = nullptr;   ///< makes pictures of charts; null for none
+        AppuntiImmagini* immagini = nullptr;  ///< takes them; null for none
     };
     MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servizi);
 
@@ -80,7 +82,13 @@ public:
     /// The frame came to the front.
     void inPrimoPiano();
     Superficie& superficie() { return servizi_.superficie; }
-    Contorno contorno() { return {app_, stato_, *this, albero}; }
+    Contorno contorno() {
+        return {app_,
+                stato_,
+                *this,
+                albero,
+                {&servizi_.dialogo, &servizi_.impostazioni, servizi_.disegnatore, servizi_.immagini}};
+    }
 
     // Menu and tool bar.
     void Handle_Menu();

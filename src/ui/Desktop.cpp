@@ -8,6 +8,7 @@
 #include <clocale>
 
 #include "app/Applicazione.h"
+#include "disegno/DisegnatoreQt.h"
 #include "shell/Main.h"
 #include "shell/registroFinestre.h"
 #include "ui/RiquadroAiuto.h"
@@ -61,9 +62,13 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     Applicazione app(piattaforma.cartellaProgramma, piattaforma.cartellaLavoro, {messaggi, orologio, piattaforma.file});
     AppuntiQt appunti;
     app.appunti = &appunti;
+    AppuntiImmaginiQt immagini;
+    disegno::DisegnatoreQt disegnatore;
     StatoFinestre stato;
     VistaMDI_Form vista;
-    MDI_Form cornice(app, stato, {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero});
+    MDI_Form cornice(
+        app, stato,
+        {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
     registraFinestre(cornice.finestre, {documenti, anteprima});
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});

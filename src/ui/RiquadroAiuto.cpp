@@ -122,6 +122,8 @@ void RiquadroAiuto::soloPagine() {
     figura_->hide();
     piano_->removeWidget(figura_);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
 void RiquadroAiuto::alPosto(QWidget* oggetto) {
     delete piano_->replaceWidget(figura_, oggetto);
     piano_->setStretchFactor(oggetto, 1);

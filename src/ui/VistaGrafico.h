@@ -6,8 +6,9 @@
 
 namespace kelvo::ui {
 
-/// A chart on the screen, as large as its room. However often the chart changes, it is painted once in a turn of the
-/// event loop.
+/// A chart on the screen, as large as its room; its menu comes up at the menu key and the right button, the
+/// value below the mouse as a tooltip. However often
+/// the chart changes, it is painted once in a turn of the event loop.
 class VistaGrafico final : public QWidget {
     Q_OBJECT
 public:
@@ -20,7 +21,11 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* evento) override;
     void paintEvent(QPaintEvent* evento) override;
+    void contextMenuEvent(QContextMenuEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
 
 private:
     const Grafico& grafico_;

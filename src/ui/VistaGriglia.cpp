@@ -337,12 +337,13 @@ void VistaGriglia::mouseDoubleClickEvent(QMouseEvent* evento) {
 
 void VistaGriglia::contextMenuEvent(QContextMenuEvent* evento) {
     const bool tastiera = evento->reason() == QContextMenuEvent::Keyboard;
-    if (griglia_.menuContesto == nullptr || (!tastiera && griglia_.alTastoDestro)) {
+    MenuChiavi* menu = !tastiera && griglia_.alTastoDestro ? nullptr : griglia_.menu();
+    if (menu == nullptr) {
         evento->ignore();
         return;
     }
     const QPoint dove = tastiera ? visualRect(currentIndex()).bottomLeft() : evento->pos();
-    mostraContesto(*griglia_.menuContesto, *viewport(), dove);
+    mostraContesto(*menu, *viewport(), dove);
 }
 
 bool VistaGriglia::conFuoco() const {

@@ -11,6 +11,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
@@ -223,6 +224,14 @@ void CronometroQt::ferma() {
 
 void AppuntiQt::scrivi(const std::string& testo) {
     QGuiApplication::clipboard()->setText(q(testo));
+}
+
+bool AppuntiImmaginiQt::scrivi(const std::string& png) {
+    const QImage immagine = QImage::fromData(QByteArray::fromStdString(png), "PNG");
+    if (!immagine.isNull()) {
+        QGuiApplication::clipboard()->setImage(immagine);
+    }
+    return !immagine.isNull();
 }
 
 std::string AppuntiQt::leggi() const {

@@ -56,6 +56,12 @@ public:
     std::string leggi() const override;
 };
 
+/// The clipboard of the desktop, for pictures.
+class AppuntiImmaginiQt final : public AppuntiImmagini {
+public:
+    bool scrivi(const std::string& png) override;
+};
+
 /// Waits in the event loop; a key or a click ends a pause.
 class AttesaQt final : public Attesa {
 public:

@@ -13,6 +13,8 @@
 #include <array>
 #include <filesystem>
 
+#include "base/file.h"
+#include "input/frmMatriceSvolte.h"
 #include "input/frmPreviewRami.h"
 #include "shell/finestrePerChiave.h"
 #include "shell/frmSplash.h"
@@ -62,6 +64,10 @@ constexpr const char* chiaveMisura = "keyRamo1";
 constexpr const char* finestraMisura = "frmParametriRamo";
 constexpr const char* campoMisura = "txtLarghezzaIngresso";
 
+/// What a counting office hands over: a row for each leg.
+constexpr const char* svolteCSV =
+    "Ingresso;A;B;C;D;Totale\r\nA;0;120;85;42;247\r\nB;96;0;110;61;267\r\nC;74;132;0;58;264\r\nD;51;47;63;0;161\r\n";
+
 /// How long the list of a folder is waited for.
 constexpr int passiElenco = 20;
 constexpr int passoElenco = 10;  ///< ms
@@ -75,6 +81,7 @@ std::string nomeDi(const std::string& percorso) {
 Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, SistemaFile& file)
     : richiesta_(richiesta),
       progetti_(richiesta.progetti.empty() ? installazione.esempi() : richiesta.progetti),
+      cartellaLavoro_(installazione.lavoro()),
       app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
       cornice_(app_, stato_, {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero()}),
       fotografo_(richiesta.cartella) {
@@ -208,8 +215,8 @@ void Giro::misuraInUso() {
     fotografo_.scatta(vista_, "misura-in-uso");
 }
 
-void Giro::anteprima(const std::string& percorso) {
-    frmPreviewRami finestra(cornice_.contorno());
+void Giro::ritrai(FinestraAnteprima& finestra, const RichiestaFile& richiesta, const std::string& percorso,
+                  const std::function<void()>& prepara) {
     QTimer::singleShot(0, &vista_, [&] {
         auto* aperto = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (aperto == nullptr) {
@@ -223,11 +230,22 @@ void Giro::anteprima(const std::string& percorso) {
         }
         aperto->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file.fileName());
         finestra.selezionato(percorso);
-        finestra.lstRami.clicca("1");
+        prepara();
         fotografo_.scatta(*aperto, finestra.nome());
         aperto->reject();
     });
-    anteprima_.apri(AnteprimaProgetto::richiesta({}), finestra);
+    anteprima_.apri(richiesta, finestra);
+}
+
+void Giro::anteprima(const std::string& percorso) {
+    frmPreviewRami rami(cornice_.contorno());
+    ritrai(rami, AnteprimaProgetto::richiesta({}), percorso, [&] { rami.lstRami.clicca("1"); });
+    frmMatriceSvolte matrice(cornice_.contorno(), anteprima_);
+    matrice.attivata();
+    frmImportaCSV importa(cornice_.contorno(), matrice.bersaglioCSV());
+    const std::string file = testoDaPercorso(std::filesystem::path(cartellaLavoro_) / "Svolte.csv");
+    scriviFileSicuro(app_.file, file, svolteCSV);
+    ritrai(importa, {.estensione = "csv", .filtro = "File CSV (*.csv)|*.csv", .cartella = {}, .nome = {}}, file, [] {});
 }
 
 void Giro::dialoghi() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -35,6 +36,9 @@ private:
     void campoRifiutato();
     void misuraInUso();
     void anteprima(const std::string& percorso);
+    /// Takes the picture of a file dialogue with its window, after a file was selected and `prepara` ran.
+    void ritrai(FinestraAnteprima& finestra, const RichiestaFile& richiesta, const std::string& percorso,
+                const std::function<void()>& prepara);
     /// Messages that came up without being asked for.
     std::string nonAttesi();
 
@@ -47,6 +51,7 @@ private:
     ui::DialogoAnteprimaQt anteprima_;
     ImpostazioniMute impostazioni_;
     CronometroMuto cronometro_;
+    std::string cartellaLavoro_;
     Applicazione app_;
     StatoFinestre stato_;
     ui::VistaMDI_Form vista_;

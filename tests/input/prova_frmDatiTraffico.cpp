@@ -260,7 +260,8 @@ TEST_F(ProveCurva, TabOrderFollowsTheReadingOrder) {
     }
     EXPECT_EQ(nomi, (std::vector<std::string>{"txtDescrizioneRamo", "txtIntervalloTempo", "txtTempo1", "txtTempo2",
                                               "txtTempo3", "txtFlussoTempo1", "txtFlussoTotale", "txtFlussoMedio",
-                                              "txtFlussoOrario", "Check1", "Check2", "txtTarget", "Command1"}));
+                                              "txtFlussoOrario", "Check1", "Check2", "txtTarget", "Command1",
+                                              "ctlChart"}));
 }
 
 }  // namespace

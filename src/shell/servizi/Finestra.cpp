@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/servizi/menuDati.h"
+
 namespace kelvo {
 
 namespace {
@@ -24,10 +26,17 @@ Finestra::Finestra(Contorno contorno, std::string nome, std::string didascalia)
     segno.visibile(false);
 }
 
+Finestra::~Finestra() = default;
+
 void Finestra::ordina(const std::vector<Controllo*>& controlli) {
     ordine_ = controlli;
     for (Controllo* c : ordine_) {
         c->custode(this);
+        if (auto* griglia = dynamic_cast<Griglia*>(c)) {
+            menuDati_.push_back(std::make_unique<MenuTabella>(*this, contorno_, *griglia));
+        } else if (auto* grafico = dynamic_cast<Grafico*>(c)) {
+            menuDati_.push_back(std::make_unique<MenuGrafico>(*this, contorno_, *grafico));
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,12 +13,24 @@
 
 namespace kelvo {
 
+class Disegnatore;
+class MenuDati;
+
+/// What not every surrounding of a window has; null for what there is none of.
+struct ServiziContorno {
+    DialogoFile* dialogo = nullptr;              ///< where tables and charts are saved
+    ImpostazioniUtente* impostazioni = nullptr;  ///< what windows remember from run to run
+    Disegnatore* disegnatore = nullptr;          ///< makes pictures of charts
+    AppuntiImmagini* immagini = nullptr;         ///< takes them
+};
+
 /// What a window is handed: the program's state and the main window.
 struct Contorno {
     Applicazione& app;
     StatoFinestre& stato;
     Cornice& cornice;
     Navigazione& navigazione;
+    ServiziContorno servizi{};
 };
 
 /// Base of every window. It owns its controls as members and declares their tab order.
@@ -25,6 +38,9 @@ class Finestra : public CustodeCampi {
 public:
     /// `nome` is the name of the window's class, `didascalia` what its caption panel reads.
     Finestra(Contorno contorno, std::string nome, std::string didascalia);
+    ~Finestra() override;
+    Finestra(const Finestra&) = delete;
+    Finestra& operator=(const Finestra&) = delete;
 
     const std::string& nome() const { return nome_; }
     const std::string& didascalia() const { return didascalia_; }
@@ -71,7 +87,8 @@ public:
     Appunti* appunti() override { return contorno_.app.appunti; }
 
 protected:
-    /// Declares the controls, in tab order; called once, by the constructor of the window.
+    /// Declares the controls, in tab order; called once, by the constructor of the window. Tables and charts get the
+    /// entries of their menu that copy and save them.
     void ordina(const std::vector<Controllo*>& controlli);
     Applicazione& app() { return contorno_.app; }
     const Applicazione& app() const { return contorno_.app; }
@@ -98,6 +115,7 @@ private:
     std::string nome_;
     std::string didascalia_;
     std::vector<Controllo*> ordine_;
+    std::vector<std::unique_ptr<MenuDati>> menuDati_;
     Controllo* fuoco_ = nullptr;
     Controllo* rifiutato_ = nullptr;  ///< the first field that the running validation refused
     bool inConvalida_ = false;

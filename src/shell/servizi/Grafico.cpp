@@ -41,20 +41,10 @@ std::string detto(const Grafico::Serie& serie, std::size_t i) {
     return serie.testi.empty() ? testoNumero(serie.valori[i]) : serie.testi[i];
 }
 
-/// What stands on the X axis at value `i`; empty where nothing does.
-std::string luogo(const Grafico::Asse& x, const Grafico::Serie& serie, std::size_t i) {
-    if (!serie.ascisse.empty()) {
-        return testoNumero(serie.ascisse[i]);
-    }
-    const bool unaPerValore =
-        x.etichette.size() == serie.valori.size() && (x.passiPerEtichetta == 1.0 || x.passiPerEtichetta == 0.0);
-    return unaPerValore ? x.etichette[i] : std::string{};
-}
-
-std::string inParole(const Grafico::Asse& x, const Grafico::Serie& serie) {
+std::string inParole(const Grafico::Contenuto& contenuto, const Grafico::Serie& serie) {
     const auto estremo = [&](const char* nome, std::vector<double>::const_iterator quale) {
         const auto i = static_cast<std::size_t>(quale - serie.valori.begin());
-        const std::string dove = luogo(x, serie, i);
+        const std::string dove = Grafico::luogo(contenuto, serie, i);
         return std::string(nome) + detto(serie, i) + (dove.empty() ? "" : " (" + dove + ")");
     };
     const auto minimo = std::min_element(serie.valori.begin(), serie.valori.end());
@@ -154,11 +144,21 @@ double Grafico::minimo() const {
     return trovato;
 }
 
+std::string Grafico::luogo(const Contenuto& contenuto, const Serie& serie, std::size_t valore) {
+    if (!serie.ascisse.empty()) {
+        return testoNumero(serie.ascisse[valore]);
+    }
+    const Asse& x = contenuto.x;
+    const bool unaPerValore =
+        x.etichette.size() == serie.valori.size() && (x.passiPerEtichetta == 1.0 || x.passiPerEtichetta == 0.0);
+    return unaPerValore ? x.etichette[valore] : std::string{};
+}
+
 std::string Grafico::descrizione() const {
     std::string testo;
     for (const Serie& serie : contenuto_.serie) {
         if (!serie.valori.empty()) {
-            testo += (testo.empty() ? "" : "; ") + inParole(contenuto_.x, serie);
+            testo += (testo.empty() ? "" : "; ") + inParole(contenuto_, serie);
         }
     }
     return testo.empty() ? contenuto_.invito : testo;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +10,8 @@
 #include "shell/servizi/tinte.h"
 
 namespace kelvo {
+
+class MenuChiavi;
 
 /// The values of a text "1.5*2*3": parted by "*", with a decimal point or comma; what is no number counts as 0.
 /// An empty text has none.
@@ -81,6 +85,15 @@ public:
     };
 
     explicit Grafico(std::string nome) : Controllo(std::move(nome)) {}
+    /// What the menu key and the right button bring up; null for nothing of its own.
+    MenuChiavi* menuContesto = nullptr;
+    /// The window's: appends what it has for every chart.
+    std::function<MenuChiavi&()> menuCompleto;
+    /// What is brought up: the entries of its own and behind them those of the window; null for nothing.
+    MenuChiavi* menu() const { return menuCompleto ? &menuCompleto() : menuContesto; }
+    /// It takes the keyboard for its menu.
+    bool prendeFuoco() const override { return raggiungibile(); }
+
     const Contenuto& contenuto() const { return contenuto_; }
     /// Fault 5 where a series has other labels, places or colours than values, or an axis ends before it begins;
     /// fault 6 for a value or a threshold that is no finite number.
@@ -100,6 +113,9 @@ public:
     /// The chart in words, for who does not see it: number of values, the first of the smallest and of the largest with
     /// their labels.
     std::string descrizione() const;
+    /// What stands on the X axis at a value of a series: its label, or its place where places are told; empty where
+    /// nothing does.
+    static std::string luogo(const Contenuto& contenuto, const Serie& serie, std::size_t valore);
 
 private:
     Contenuto contenuto_;

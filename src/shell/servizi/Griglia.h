@@ -102,8 +102,12 @@ public:
     std::function<void(Posto)> alTastoDestro;
     /// The user scrolled: another row stands on top.
     std::function<void(int)> alloScorrimento;
-    /// What the menu key brings up, and the right button where nothing else is told of it; null for nothing.
+    /// What the menu key brings up, and the right button where nothing else is told of it; null for nothing of its own.
     MenuChiavi* menuContesto = nullptr;
+    /// The window's: appends what it has for every table.
+    std::function<MenuChiavi&()> menuCompleto;
+    /// What is brought up: the entries of its own and behind them those of the window; null for nothing.
+    MenuChiavi* menu() const { return menuCompleto ? &menuCompleto() : menuContesto; }
 
     // Where things stand.
     /// The cell of the cursor; row -1 where it can stop nowhere.
@@ -154,6 +158,9 @@ public:
     /// Puts a block there, from the top left cell of the selection on; what reaches beyond the table falls away. A
     /// single cell fills the whole selection. False if it was refused or no cell takes it.
     bool incolla(std::string_view testo);
+    /// Puts texts into cells as a block that is pasted: those that may not be typed into fall away, the others are
+    /// judged as a whole and undone in one step. False if they were refused or none is left.
+    bool riempi(std::vector<TestoCella> celle);
     bool lascia() override;
     bool convalida() override;
     /// A grid in which the cursor can stop nowhere takes no focus.

@@ -179,11 +179,14 @@ EsitoUscita Griglia::esaminaBlocco(std::vector<TestoCella>& celle) const {
 }
 
 bool Griglia::incolla(std::string_view testo) {
-    if (!raggiungibile() || editor_ || !fermata(corrente_)) {
-        return false;
-    }
-    std::vector<TestoCella> celle = celleDa(righeIncollate(testo));
-    if (celle.empty()) {
+    return fermata(corrente_) && riempi(celleDa(righeIncollate(testo)));
+}
+
+bool Griglia::riempi(std::vector<TestoCella> celle) {
+    celle.erase(
+        std::remove_if(celle.begin(), celle.end(), [this](const TestoCella& c) { return !puoModificare(c.posto); }),
+        celle.end());
+    if (!raggiungibile() || editor_ || celle.empty()) {
         return false;
     }
     const EsitoUscita esito = esaminaBlocco(celle);

@@ -30,6 +30,7 @@ constexpr std::array viste{
     VoceVista{"frmTempoModellazione", vista_frmTempoModellazione},
     VoceVista{"frmToponomasticaIntersezione", vista_frmToponomasticaIntersezione},
     VoceVista{"frmAnalisiMarginale", vista_frmAnalisiMarginale},
+    VoceVista{"frmImportaCSV", vista_frmImportaCSV},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
 };
 

@@ -1,0 +1,219 @@
+#include "shell/servizi/menuDati.h"
+
+#include <algorithm>
+#include <array>
+
+#include "app/percorsi.h"
+#include "shell/servizi/esporta.h"
+
+namespace kelvo {
+
+namespace {
+
+namespace chiave {
+constexpr const char* radice = "mnuXDati";
+constexpr const char* copia = "mnuXDatiCopia";
+constexpr const char* copiaIntestazioni = "mnuXDatiCopiaIntestazioni";
+constexpr const char* csv = "mnuXDatiCSV";
+constexpr const char* copiaImmagine = "mnuXDatiCopiaImmagine";
+constexpr const char* png = "mnuXDatiPNG";
+constexpr const char* svg = "mnuXDatiSVG";
+constexpr const char* pdf = "mnuXDatiPDF";
+}  // namespace chiave
+
+namespace testi {
+constexpr const char* attenzione = "KELVO 2014 - Attenzione";
+constexpr const char* tabellaVuota = "La tabella è vuota";
+constexpr const char* graficoVuoto = "Il grafico non ha dati";
+constexpr const char* nonDisponibile = "Non disponibile";
+constexpr const char* nonCopiata = "Impossibile copiare l'immagine: ";
+constexpr const char* appuntiChiusi = "gli appunti non la accettano";
+}  // namespace testi
+
+/// An extension and the words of the dialogue for it.
+struct Estensione {
+    std::string_view estensione;
+    const char* filtro;
+};
+constexpr std::array estensioni{
+    Estensione{"csv", "File CSV (*.csv)|*.csv|All Files (*.*)|*.*"},
+    Estensione{"png", "Immagine PNG (*.png)|*.png|All Files (*.*)|*.*"},
+    Estensione{"svg", "Immagine SVG (*.svg)|*.svg|All Files (*.*)|*.*"},
+    Estensione{"pdf", "Documento PDF (*.pdf)|*.pdf|All Files (*.*)|*.*"},
+};
+
+/// The formats of a picture.
+struct VoceFormato {
+    std::string_view chiave;
+    std::string_view estensione;
+    FormatoDisegno formato = FormatoDisegno::png;
+};
+constexpr std::array formati{
+    VoceFormato{chiave::png, "png", FormatoDisegno::png},
+    VoceFormato{chiave::svg, "svg", FormatoDisegno::svg},
+    VoceFormato{chiave::pdf, "pdf", FormatoDisegno::pdf},
+};
+
+/// Pixels of a saved or copied picture to one logical pixel: it stays sharp on paper.
+constexpr double scalaImmagine = 2.0;
+
+}  // namespace
+
+MenuDati::MenuDati(Finestra& finestra, const Contorno& contorno, const std::string& nome)
+    : finestra_(finestra), contorno_(contorno), menu_("menu_" + nome) {
+    menu_.alClic = [this](const std::string& chiave) { premuta(chiave); };
+}
+
+void MenuDati::aggiungiProprie(const MenuChiavi& menu, const std::string& da, const std::string& a) {
+    for (const MenuChiavi::Voce* voce : menu.figli(da)) {
+        MenuChiavi::Voce copia = *voce;
+        copia.padre = a;
+        menu_.aggiungi(copia);
+        if (!menu.figli(voce->chiave).empty()) {
+            aggiungiProprie(menu, voce->chiave, voce->chiave);
+        }
+    }
+}
+
+MenuChiavi& MenuDati::menu() {
+    if (!menu_.contiene(chiave::radice)) {
+        menu_.aggiungiMenu(chiave::radice, {});
+    }
+    menu_.svuota(chiave::radice);
+    const MenuChiavi* altro = proprio();
+    if (altro != nullptr && !altro->figli({}).empty()) {
+        aggiungiProprie(*altro, altro->figli({}).front()->chiave, chiave::radice);
+    }
+    if (!menu_.figli(chiave::radice).empty()) {
+        menu_.aggiungi({.padre = chiave::radice, .testo = "-", .chiave = {}});
+    }
+    for (const Voce& voce : voci()) {
+        const std::string perche = chiusa(voce.chiave);
+        menu_.aggiungi({.padre = chiave::radice,
+                        .testo = voce.testo,
+                        .chiave = voce.chiave,
+                        .abilitata = perche.empty(),
+                        .scorciatoia = voce.scorciatoia,
+                        .nota = perche});
+    }
+    return menu_;
+}
+
+void MenuDati::premuta(const std::string& chiave) {
+    MenuChiavi* altro = proprio();
+    if (altro != nullptr && altro->contiene(chiave)) {
+        altro->premi(chiave);
+    } else if (finestra_.lasciaFuoco()) {
+        esegui(chiave);
+    }
+}
+
+void MenuDati::segnala(const std::string& testo) {
+    contorno_.app.messaggi.mostra(testo, testi::attenzione, Icona::esclamazione, Pulsanti::ok);
+}
+
+void MenuDati::salva(std::string_view estensione, const std::function<EsitoDisegno()>& dati) {
+    const auto* voce = std::find_if(estensioni.begin(), estensioni.end(),
+                                    [&](const Estensione& e) { return e.estensione == estensione; });
+    const RichiestaFile richiesta{
+        .estensione = std::string{estensione},
+        .filtro = voce->filtro,
+        .cartella = cartellaProgetti(contorno_.app.theAmbiente),
+        .nome = nomeFileDati(finestra_.didascalia(), finestra_.sottotitolo.testo()) + "." + std::string{estensione}};
+    const std::optional<std::string> percorso = contorno_.servizi.dialogo->salva(richiesta);
+    if (!percorso) {
+        return;
+    }
+    const EsitoDisegno esito = dati();
+    const std::string errore =
+        esito.errore.empty() ? scriviFileSicuro(contorno_.app.file, *percorso, esito.dati) : esito.errore;
+    if (!errore.empty()) {
+        segnala("Impossibile scrivere il file: " + errore + " (" + *percorso + ")");
+        return;
+    }
+    contorno_.cornice.avviso("Scritto il file " + *percorso);
+}
+
+MenuTabella::MenuTabella(Finestra& finestra, const Contorno& contorno, Griglia& griglia)
+    : MenuDati(finestra, contorno, griglia.nome()), griglia_(griglia) {
+    griglia_.menuCompleto = [this]() -> MenuChiavi& { return menu(); };
+}
+
+std::vector<MenuDati::Voce> MenuTabella::voci() const {
+    return {{chiave::copia, "Copia", "Ctrl+C"},
+            {chiave::copiaIntestazioni, "Copia con intestazioni", "Ctrl+Shift+C"},
+            {"mnuXDatiLinea", "-", ""},
+            {chiave::csv, "Salva come CSV...", ""}};
+}
+
+std::string MenuTabella::chiusa(std::string_view chiave) const {
+    if (griglia_.tabella().righe() <= griglia_.righeFisse() || griglia_.tabella().colonne() == 0) {
+        return testi::tabellaVuota;
+    }
+    const bool puo = chiave == chiave::csv ? contorno().servizi.dialogo != nullptr : contorno().app.appunti != nullptr;
+    return puo ? std::string{} : testi::nonDisponibile;
+}
+
+void MenuTabella::esegui(std::string_view chiave) {
+    if (chiave == chiave::csv) {
+        salva("csv", [this] { return EsitoDisegno{.dati = csvDiTabella(griglia_), .errore = {}}; });
+    } else {
+        copia(chiave == chiave::copiaIntestazioni);
+    }
+}
+
+void MenuTabella::copia(bool conIntestazioni) {
+    const bool scelte = griglia_.corrente().riga >= griglia_.righeFisse();
+    contorno().app.appunti->scrivi(scelte ? griglia_.testoSelezione(conIntestazioni)
+                                          : testoDiTabella(griglia_, conIntestazioni));
+}
+
+MenuGrafico::MenuGrafico(Finestra& finestra, const Contorno& contorno, Grafico& grafico)
+    : MenuDati(finestra, contorno, grafico.nome()), grafico_(grafico) {
+    grafico_.menuCompleto = [this]() -> MenuChiavi& { return menu(); };
+}
+
+std::vector<MenuDati::Voce> MenuGrafico::voci() const {
+    return {{chiave::copiaImmagine, "Copia immagine", ""}, {"mnuXDatiLinea", "-", ""},
+            {chiave::png, "Salva come PNG...", ""},        {chiave::svg, "Salva come SVG...", ""},
+            {chiave::pdf, "Salva come PDF...", ""},        {chiave::csv, "Salva i dati come CSV...", ""}};
+}
+
+std::string MenuGrafico::chiusa(std::string_view chiave) const {
+    if (grafico_.vuoto()) {
+        return testi::graficoVuoto;
+    }
+    const ServiziContorno& servizi = contorno().servizi;
+    const bool serveDisegno = chiave != chiave::csv;
+    const bool arriva = chiave == chiave::copiaImmagine ? servizi.immagini != nullptr : servizi.dialogo != nullptr;
+    return arriva && (!serveDisegno || servizi.disegnatore != nullptr) ? std::string{} : testi::nonDisponibile;
+}
+
+EsitoDisegno MenuGrafico::disegna(FormatoDisegno formato) const {
+    return contorno().servizi.disegnatore->grafico(grafico_.contenuto(), formato, {.scala = scalaImmagine});
+}
+
+void MenuGrafico::copia() {
+    const EsitoDisegno esito = disegna(FormatoDisegno::png);
+    if (!esito.errore.empty()) {
+        segnala(testi::nonCopiata + esito.errore);
+    } else if (!contorno().servizi.immagini->scrivi(esito.dati)) {
+        segnala(std::string{testi::nonCopiata} + testi::appuntiChiusi);
+    }
+}
+
+void MenuGrafico::esegui(std::string_view chiave) {
+    if (chiave == chiave::copiaImmagine) {
+        copia();
+    } else if (chiave == chiave::csv) {
+        salva("csv", [this] { return EsitoDisegno{.dati = csvDiGrafico(grafico_.contenuto()), .errore = {}}; });
+    } else {
+        const auto* formato = std::find_if(formati.begin(), formati.end(),
+                                           [&](const VoceFormato& voce) { return voce.chiave == chiave; });
+        if (formato != formati.end()) {
+            salva(formato->estensione, [&] { return disegna(formato->formato); });
+        }
+    }
+}
+
+}  // namespace kelvo
