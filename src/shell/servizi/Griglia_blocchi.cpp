@@ -237,9 +237,11 @@ void Griglia::rivedi(const std::vector<TestoCella>& celle) {
         }
     }
     ++versione_;
+    inRevisione_ = true;
     if (dopoModifica) {
         dopoModifica(posti);
     }
+    inRevisione_ = false;
     if (!posti.empty()) {
         vai(posti.front());
     }
