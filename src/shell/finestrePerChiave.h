@@ -44,12 +44,10 @@ inline constexpr std::array finestrePerChiave{
 std::string_view finestraDiChiave(std::string_view chiave);
 
 /// Windows and procedures that a key leads to and that do not stand yet. Their keys are shown closed, with a note.
-inline constexpr std::array<std::string_view, 15> nonAncora{
+inline constexpr std::array<std::string_view, 13> nonAncora{
     "frmDatiTraffico",
     "frmDatiTrafficoST",
     "frmMatriceSvolte",
-    "frmComposizioneTraffico",
-    "frmComposizioneTrafficoST",
     "frmCapacitaCodeRitardi",
     "frmCapacitaCodeRitardiRamo",
     "frmCapacitaUltima",

@@ -3,6 +3,8 @@
 #include <memory>
 
 #include "input/frmAnalisiMarginale.h"
+#include "input/frmComposizioneTraffico.h"
+#include "input/frmComposizioneTrafficoST.h"
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
@@ -31,6 +33,8 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmTempoModellazione", crea<frmTempoModellazione>);
     finestre.registra("frmToponomasticaIntersezione", crea<frmToponomasticaIntersezione>);
     finestre.registra("frmAnalisiMarginale", crea<frmAnalisiMarginale>);
+    finestre.registra("frmComposizioneTraffico", crea<frmComposizioneTraffico>);
+    finestre.registra("frmComposizioneTrafficoST", crea<frmComposizioneTrafficoST>);
     finestre.registra("frmOpzioni", crea<frmOpzioni>);
     finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
         return std::make_unique<frmParametriRamo>(contorno,

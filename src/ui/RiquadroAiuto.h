@@ -29,6 +29,8 @@ public:
     void segui(Immagine& immagine);
     /// Puts something in the place of the picture, which goes to the right of the page.
     void sopra(QWidget* oggetto);
+    /// The pane is its title and the page alone, for the room that other things leave.
+    void soloPagina();
 
 private:
     void mostra();

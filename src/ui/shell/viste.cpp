@@ -26,6 +26,8 @@ constexpr std::array viste{
     VoceVista{"frmTempoModellazione", vista_frmTempoModellazione},
     VoceVista{"frmToponomasticaIntersezione", vista_frmToponomasticaIntersezione},
     VoceVista{"frmAnalisiMarginale", vista_frmAnalisiMarginale},
+    VoceVista{"frmComposizioneTraffico", vista_frmComposizioneTraffico},
+    VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
 };
 
