@@ -6,6 +6,8 @@
 #include "input/frmDatiTraffico.h"
 #include "input/frmDatiTrafficoST.h"
 #include "input/frmMatriceSvolte.h"
+#include "input/frmComposizioneTraffico.h"
+#include "input/frmComposizioneTrafficoST.h"
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
@@ -36,6 +38,8 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmAnalisiMarginale", crea<frmAnalisiMarginale>);
     finestre.registra("frmDatiTraffico", crea<frmDatiTraffico>);
     finestre.registra("frmDatiTrafficoST", crea<frmDatiTrafficoST>);
+    finestre.registra("frmComposizioneTraffico", crea<frmComposizioneTraffico>);
+    finestre.registra("frmComposizioneTrafficoST", crea<frmComposizioneTrafficoST>);
     finestre.registra("frmOpzioni", crea<frmOpzioni>);
     finestre.registra("frmMatriceSvolte", [servizi](const Contorno& contorno) {
         return std::make_unique<frmMatriceSvolte>(contorno, servizi.anteprima);

@@ -48,6 +48,16 @@ QString foglioPagine() {
         .arg(qcolore(tinta::secondario).name());
 }
 
+/// The page: as high as it has to be at least where it stands alone, so that it takes what others leave.
+class Pagina final : public QTextBrowser {
+public:
+    using QTextBrowser::QTextBrowser;
+    bool sola = false;
+    QSize sizeHint() const override {
+        return sola ? QSize(QTextBrowser::sizeHint().width(), minimumHeight()) : QTextBrowser::sizeHint();
+    }
+};
+
 }  // namespace
 
 void cartellaAiuto(const std::string& cartella) {
@@ -59,7 +69,7 @@ RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidge
       aiuto_(aiuto),
       piano_(new QVBoxLayout(this)),
       figura_(new Figura(this)),
-      testo_(new QTextBrowser(this)) {
+      testo_(new Pagina(this)) {
     piano_->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
     auto* testata = new QLabel(titolo, this);
     testata->setObjectName(QStringLiteral("titoloPannello"));
@@ -116,18 +126,23 @@ void RiquadroAiuto::sopra(QWidget* oggetto) {
     piano_->addLayout(pagina, partePagina);
 }
 
-void RiquadroAiuto::soloPagine() {
-    // Behind the title and its line: the picture, and the line below it.
-    delete piano_->takeAt(3)->widget();
-    figura_->hide();
-    piano_->removeWidget(figura_);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-}
-
 void RiquadroAiuto::alPosto(QWidget* oggetto) {
     delete piano_->replaceWidget(figura_, oggetto);
     piano_->setStretchFactor(oggetto, 1);
     figura_->hide();
+}
+
+void RiquadroAiuto::soloPagina() {
+    figura_->hide();
+    for (QFrame* linea : findChildren<QFrame*>(QStringLiteral("rigaPannello"), Qt::FindDirectChildrenOnly)) {
+        linea->hide();
+    }
+    piano_->setContentsMargins(misura::margine, misura::spazio, misura::margine, misura::spazio);
+    piano_->setSpacing(misura::canale);
+    static_cast<Pagina*>(testo_)->sola = true;
+    testo_->setMinimumHeight(misura::paginaSola);
+    testo_->setMaximumHeight(QWIDGETSIZE_MAX);
+    piano_->setStretchFactor(testo_, 1);
 }
 
 void RiquadroAiuto::mostra() {

@@ -29,10 +29,10 @@ public:
     void segui(Immagine& immagine);
     /// Puts something in the place of the picture, which goes to the right of the page.
     void sopra(QWidget* oggetto);
-    /// Shows pages alone, without pictures: as low as its text asks.
-    void soloPagine();
     /// Puts something into the place of the picture, which is shown nowhere then.
     void alPosto(QWidget* oggetto);
+    /// The pane is its title and the page alone, for the room that other things leave.
+    void soloPagina();
 
 private:
     void mostra();

@@ -215,6 +215,9 @@ void VistaGriglia::mostraEditor() {
     }
     if (editor_->text() != q(griglia_.testoEditor())) {
         editor_->setText(q(griglia_.testoEditor()));
+        if (griglia_.tuttoScelto()) {
+            editor_->selectAll();
+        }
     }
     mostraFallito(*editor_, griglia_.fallita());
     if (editor_->isHidden()) {

@@ -50,6 +50,7 @@ inline constexpr int elenco = 376;            ///< least width of a list with co
 inline constexpr int campoCorto = 96;         ///< field of a number or a time
 inline constexpr int campoBreve = 68;         ///< of a number of few digits
 inline constexpr int aiuto = 112;             ///< text of the help pane
+inline constexpr int paginaSola = 92;         ///< the same without a picture
 inline constexpr int aiutoLargo = 272;        ///< least width of the help pane
 inline constexpr int barraAlbero = 3;         ///< mark of the selected node
 inline constexpr int rientroAlbero = 16;

@@ -274,5 +274,23 @@ TEST_F(ProveEditor, WhileTheHookAsksTheEditIsNotEndedTwice) {
     EXPECT_EQ(testo(1, 1), "7");
 }
 
+TEST_F(ProveEditor, ARefusalMayPutAnotherTextIntoTheEditor) {
+    griglia.allaConferma = [](Posto, std::string&) {
+        EsitoUscita esito = EsitoUscita::rifiuto(std::string{"no"});
+        esito.rimesso = "5,5";
+        return esito;
+    };
+    griglia.scrivi("7");
+    premi({Tasto::invio});
+    EXPECT_TRUE(griglia.inModifica());
+    EXPECT_EQ(griglia.testoEditor(), "5,5");
+    EXPECT_TRUE(griglia.tuttoScelto());
+    EXPECT_FALSE(griglia.fallita());
+    EXPECT_EQ(testo(1, 1), "11");
+    griglia.correggi("8");
+    EXPECT_FALSE(griglia.convalida());
+    EXPECT_EQ(griglia.testoEditor(), "5,5");
+}
+
 }  // namespace
 }  // namespace kelvo::prove

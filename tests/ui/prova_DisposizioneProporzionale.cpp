@@ -112,7 +112,8 @@ TEST_F(ProveViste, PanelsOfEveryWindowStandBesideEachOtherAndHoldTheirContent) {
     registraFinestre(fabbrica, servizi.servizi());
     navigazione.corrente = "keyRamo1";
     for (const char* nome : {"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista",
-                             "frmTempoModellazione", "frmParametriRamo"}) {
+                             "frmTempoModellazione", "frmParametriRamo", "frmComposizioneTraffico",
+                             "frmComposizioneTrafficoST"}) {
         Finestra* finestra = &fabbrica.finestra(nome, contorno());
         const std::unique_ptr<ui::VistaFinestra> vista(ui::creaVista(*finestra, nullptr));
         ASSERT_NE(vista, nullptr) << finestra->nome();

@@ -78,6 +78,11 @@ public:
     bool modificata(Posto posto) const;
     /// What stands there has been written back.
     void salvata();
+    /// Puts texts there in the user's stead, in closed cells too: nothing is asked, the owner is told, and it can be
+    /// undone.
+    void inserisci(const std::vector<TestoCella>& celle) { scriviCelle(celle); }
+    /// `dopoModifica` is told of something undone or redone: all cells stand as they stood then.
+    bool inRevisione() const { return inRevisione_; }
 
     // How the grid behaves: data and hooks of its owner.
     Verso versoInvio = Verso::giu;
@@ -87,7 +92,8 @@ public:
     std::function<bool(Posto)> salta;
     /// What stands in a cell beside its text.
     std::function<OrnamentoCella(Posto)> ornamento;
-    /// A typed text is to go into a cell, which may mend or refuse it; refused, the editor stays open.
+    /// A typed text is to go into a cell, which may mend or refuse it; refused, the editor stays open, with what the
+    /// outcome puts in the place of the text.
     std::function<EsitoUscita(Posto, std::string&)> allaConferma;
     /// A block is to go into cells, all of which may be typed into; they are mended or refused as a whole, before any
     /// of them changes. Where it is not set, every text must keep the rules of its column.
@@ -204,6 +210,7 @@ private:
     bool conferma();
     void batti(const std::string& carattere);
     void giudica(const EsitoUscita& esito);
+    void rimetti(const EsitoUscita& esito);
 
     void cancella();
     void copia(bool conIntestazioni);
@@ -226,6 +233,7 @@ private:
     std::optional<Editor> editor_;
     bool fallita_ = false;
     bool inConferma_ = false;
+    bool inRevisione_ = false;
     unsigned versione_ = 0;
     std::vector<Passo> fatti_;
     std::vector<Passo> disfatti_;

@@ -27,6 +27,15 @@ void Griglia::giudica(const EsitoUscita& esito) {
     }
 }
 
+void Griglia::rimetti(const EsitoUscita& esito) {
+    if (editor_ && esito.rimesso) {
+        editor_->testo = *esito.rimesso;
+        editor_->tutto = true;
+        fallita_ = false;
+        cambiato().emit();
+    }
+}
+
 bool Griglia::conferma() {
     if (!editor_) {
         return true;
@@ -56,6 +65,7 @@ bool Griglia::conferma() {
         fallita_ = true;
         cambiato().emit();  // the place is marked before the message comes up
         giudica(esito);
+        rimetti(esito);
         return false;
     }
     chiudi();
@@ -83,6 +93,9 @@ bool Griglia::convalida() {
         cambiato().emit();
     }
     giudica(esito);
+    if (!esito.accettato) {
+        rimetti(esito);
+    }
     return esito.accettato;
 }
 

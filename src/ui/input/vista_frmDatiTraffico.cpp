@@ -40,7 +40,7 @@ public:
         colonna()->addWidget(ricerca());
         destra()->addWidget(pannelloIstogramma(f.ctlChart, f.Check1, corpo()), 1);
         RiquadroAiuto* aiuto = aggiungiAiuto(QStringLiteral("Descrizione del parametro"));
-        aiuto->soloPagine();
+        aiuto->soloPagina();
         destra()->setStretchFactor(aiuto, 0);
         chiudiDisposizione();
     }

@@ -33,7 +33,7 @@ public:
         destra()->addWidget(totali());
         destra()->addWidget(pannelloIstogramma(f.ctlChart, f.Check1, corpo()), 1);
         RiquadroAiuto* aiuto = aggiungiAiuto(QStringLiteral("Descrizione del parametro"));
-        aiuto->soloPagine();
+        aiuto->soloPagina();
         destra()->setStretchFactor(aiuto, 0);
         chiudiDisposizione();
     }

@@ -31,6 +31,8 @@ constexpr std::array viste{
     VoceVista{"frmToponomasticaIntersezione", vista_frmToponomasticaIntersezione},
     VoceVista{"frmAnalisiMarginale", vista_frmAnalisiMarginale},
     VoceVista{"frmImportaCSV", vista_frmImportaCSV},
+    VoceVista{"frmComposizioneTraffico", vista_frmComposizioneTraffico},
+    VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
 };
 

@@ -21,6 +21,8 @@ VistaFinestra* vista_frmTempoModellazione(Finestra& finestra, QWidget* genitore)
 VistaFinestra* vista_frmToponomasticaIntersezione(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmAnalisiMarginale(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmImportaCSV(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmComposizioneTraffico(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmComposizioneTrafficoST(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmOpzioni(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui
