@@ -197,6 +197,8 @@ TEST_F(ComposizioneVista, LocksStandOverTheirColumnsAlsoWhereTheTableIsScrolled)
             EXPECT_TRUE(sopra(i)) << misura.width() << " " << i;
         }
     }
+    griglia().testo({1, 1}, std::string(60, '9'));  // a column as wide as half the window
+    smaltisci();
     QScrollBar* barra = tabella.horizontalScrollBar();
     ASSERT_GT(barra->maximum(), 0);
     barra->setValue(barra->maximum());
