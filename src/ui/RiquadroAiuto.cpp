@@ -72,7 +72,8 @@ RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidge
     piano_->addWidget(testata);
     piano_->addWidget(linea());
     piano_->addWidget(figura_, 1);
-    piano_->addWidget(linea());
+    linea_ = linea();
+    piano_->addWidget(linea_);
     testo_->setFixedHeight(misura::aiuto);
     testo_->setFocusPolicy(Qt::NoFocus);
     testo_->setOpenLinks(false);
@@ -114,6 +115,14 @@ void RiquadroAiuto::sopra(QWidget* oggetto) {
     figura_->setMaximumWidth(misura::figuraAccanto);
     pagina->addWidget(figura_);
     piano_->addLayout(pagina, partePagina);
+}
+
+void RiquadroAiuto::soloPagina() {
+    figura_->hide();
+    linea_->hide();
+    testo_->setMinimumHeight(misura::note);
+    testo_->setMaximumHeight(QWIDGETSIZE_MAX);
+    piano_->setStretchFactor(testo_, 1);
 }
 
 void RiquadroAiuto::mostra() {

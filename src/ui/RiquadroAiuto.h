@@ -29,6 +29,8 @@ public:
     void segui(Immagine& immagine);
     /// Puts something in the place of the picture, which goes to the right of the page.
     void sopra(QWidget* oggetto);
+    /// The page takes all the room: there is no picture.
+    void soloPagina();
 
 private:
     void mostra();
@@ -36,6 +38,7 @@ private:
     PannelloAiuto& aiuto_;
     QVBoxLayout* piano_;
     Figura* figura_;
+    QFrame* linea_ = nullptr;  ///< below the picture
     QTextBrowser* testo_;
     std::string risorsa_;
 };
