@@ -1,5 +1,5 @@
 #include "Comando.h"
-#include "disegni.h"
+#include "disegno/disegni.h"
 
 namespace kelvo::cli {
 

@@ -8,9 +8,9 @@
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "calc/curvaTraffico.h"
-#include "disegni.h"
 #include "disegno/AmbienteDisegno.h"
 #include "disegno/DisegnatoreQt.h"
+#include "disegno/disegni.h"
 #include "errori.h"
 #include "input/istogrammaTraffico.h"
 

@@ -7,9 +7,9 @@
 #include "argomenti.h"
 #include "base/file.h"
 #include "base/guasto.h"
-#include "disegni.h"
 #include "disegno/AmbienteDisegno.h"
 #include "disegno/DisegnatoreQt.h"
+#include "disegno/disegni.h"
 #include "errori.h"
 #include "pianta/Pianta.h"
 
