@@ -152,12 +152,15 @@ void frmImportaCSV::svuota(const std::string& motivo) {
 }
 
 void frmImportaCSV::selezionato(const std::string& percorso) {
-    percorso_.clear();
-    svuota(testi::scegli);
     std::error_code errore;
     if (percorso.empty() || std::filesystem::is_directory(percorsoDaTesto(percorso), errore)) {
-        return;
+        return;  // a folder on the way to a file
     }
+    if (!percorso_.empty()) {
+        viste_[percorso_] = scelta_;
+    }
+    percorso_.clear();
+    svuota(testi::scegli);
     gestisci("frmImportaCSV:selezionato", [&] {
         TestoCSV letto = leggiTestoCSV(percorso);
         if (!letto.errore.empty()) {
@@ -171,7 +174,10 @@ void frmImportaCSV::selezionato(const std::string& percorso) {
 }
 
 void frmImportaCSV::proponi() {
-    if (const auto nota = memoria_.adatta(testo_.testo, bersaglio_.colonne.size())) {
+    const auto vista = viste_.find(percorso_);
+    const auto nota =
+        vista != viste_.end() ? std::optional{vista->second} : memoria_.adatta(testo_.testo, bersaglio_.colonne.size());
+    if (nota) {
         scelta_ = *nota;
         righe_ = celleCSV(testo_.testo, scelta_.separatore).righe;
         mostraScelta();
@@ -385,8 +391,9 @@ std::vector<TestoCella> frmImportaCSV::celleScelte() const {
 
 bool frmImportaCSV::conferma(const std::string& percorso) {
     if (percorso != percorso_) {
+        const bool vista = viste_.contains(percorso);
         selezionato(percorso);  // a name that was typed
-        if (!percorso_.empty() && righeDati() > 0) {
+        if (!vista && percorso == percorso_ && righeDati() > 0) {
             return false;  // its columns have not been seen yet
         }
     }

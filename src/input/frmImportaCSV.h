@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,7 @@ public:
     PannelloAiuto ctlHelp{"ctlHelp"};
     PannelloAiuto* aiuto() override { return &ctlHelp; }
 
+    /// Shows a file, with what was chosen for it where it has been shown before; a folder changes nothing.
     void selezionato(const std::string& percorso) override;
     /// Fills the grid of the window. False, with a word on why, where a cell is no number or could be read in two ways,
     /// no column or one twice is chosen, the user does not want the file clipped, or the grid refuses: then nothing has
@@ -95,6 +97,7 @@ private:
     BersaglioCSV bersaglio_;
     MemoriaCSV memoria_;
     std::string percorso_;
+    std::map<std::string, SceltaCSV> viste_;  ///< files that were shown before, with what was chosen for them
     TestoCSV testo_;
     RigheCSV righe_;
     SceltaCSV scelta_;

@@ -294,18 +294,40 @@ TEST_F(ProveImportaCSV, AFileThatCannotBeReadEmptiesTheView) {
     EXPECT_EQ(ultimo(), "Il file non contiene righe di dati.");
 }
 
-TEST_F(ProveImportaCSV, AFolderOrNothingAsksForAFile) {
+TEST_F(ProveImportaCSV, WithoutAFileTheFieldsAreClosedAndSayWhatToDo) {
     frmImportaCSV vista(completo(), bersaglio());
+    vista.selezionato("");
+    vista.selezionato(cartella.percorso());
     EXPECT_EQ(vista.lblAvviso.testo(), "Selezionare un file CSV per vederne il contenuto.");
     EXPECT_FALSE(vista.txtSeparatore.abilitato());
     EXPECT_FALSE(vista.chkIntestazioni.abilitato());
     EXPECT_FALSE(vista.txtColonna[0].abilitato());
+    EXPECT_FALSE(vista.conferma(cartella.percorso()));
+    EXPECT_EQ(ultimo(), "Selezionare un file CSV per vederne il contenuto.");
+}
+
+TEST_F(ProveImportaCSV, AFolderOnTheWayLeavesTheFileThatIsShown) {
+    frmImportaCSV vista(completo(), bersaglio());
     vista.selezionato(scrivi("1;2\n"));
     EXPECT_EQ(vista.ctlGrid.tabella().righe(), 3);
     vista.selezionato(cartella.percorso());
-    EXPECT_EQ(vista.ctlGrid.tabella().righe(), 0);
-    EXPECT_EQ(vista.lblAvviso.testo(), "Selezionare un file CSV per vederne il contenuto.");
-    EXPECT_FALSE(vista.txtSeparatore.abilitato());
+    EXPECT_EQ(vista.ctlGrid.tabella().righe(), 3);
+    EXPECT_TRUE(vista.txtSeparatore.abilitato());
+}
+
+TEST_F(ProveImportaCSV, WhatWasChosenForAFileStandsWhenItComesBack) {
+    frmImportaCSV vista(completo(), bersaglio());
+    const std::string uno = scrivi("1,2;3\n", "uno.csv");
+    const std::string due = scrivi("7;8\n", "due.csv");
+    vista.selezionato(uno);
+    vista.txtColonna[0].scegli(0);
+    vista.selezionato(due);
+    EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{0, 1, -1}));
+    vista.selezionato(uno);
+    EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{-1, 1, -1}));
+    vista.selezionato(due);
+    EXPECT_TRUE(vista.conferma(uno)) << "seen before: it is taken as it was chosen";
+    EXPECT_EQ(finestra.celle(), "5 3|5 5|5 5|5 5");
 }
 
 TEST_F(ProveImportaCSV, ATypedNameIsShownBeforeItIsTaken) {

@@ -121,8 +121,9 @@ TEST_F(ProveVistaGrafico, FillsItsRoomAndIsSharpAtEveryScale) {
     }
 }
 
-TEST_F(ProveVistaGrafico, DoesNotTakeTheKeyboard) {
-    EXPECT_EQ(vista->focusPolicy(), Qt::NoFocus);
+TEST_F(ProveVistaGrafico, IsAStopOfTheTabKeyForItsMenu) {
+    tasto(Qt::Key_Tab);
+    EXPECT_EQ(fuoco(), "ctlChartRitardi");
     tasto(Qt::Key_Tab);
     EXPECT_EQ(fuoco(), "txtDopo");
 }

@@ -9,6 +9,7 @@
 #include "base/guasto.h"
 #include "disegno/AmbienteDisegno.h"
 #include "disegno/DisegnatoreQt.h"
+#include "disegno/disegni.h"
 #include "errori.h"
 #include "pianta/Pianta.h"
 
@@ -129,10 +130,8 @@ private:
 
 }  // namespace
 
-std::vector<std::unique_ptr<Comando>> comandiDisegno(CLI::App& radice) {
-    std::vector<std::unique_ptr<Comando>> comandi;
-    comandi.push_back(std::make_unique<ComandoPianta>(radice));
-    return comandi;
+std::unique_ptr<Comando> comandoPianta(CLI::App& radice) {
+    return std::make_unique<ComandoPianta>(radice);
 }
 
 }  // namespace kelvo::cli

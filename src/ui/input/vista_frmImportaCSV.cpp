@@ -52,7 +52,9 @@ private:
         pannello->riga(f.lblSeparatore, collega(f.txtSeparatore, pannello));
         pannello->larga(collega(f.chkIntestazioni, pannello));
         piano->addWidget(pannello);
-        piano->addWidget(new RiquadroAiuto(f.ctlHelp, QStringLiteral("Descrizione"), lato), 1);
+        auto* aiuto = new RiquadroAiuto(f.ctlHelp, QStringLiteral("Descrizione"), lato);
+        aiuto->soloPagina();
+        piano->addWidget(aiuto, 1);
         return lato;
     }
     QWidget* colonne(frmImportaCSV& f) {
@@ -62,6 +64,9 @@ private:
                 pannello->riga(f.lblColonna.at(i), collega(f.txtColonna.at(i), pannello));
             }
         }
+        auto* resto = new QWidget(pannello);
+        resto->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+        pannello->larga(resto);
         return pannello;
     }
 };
