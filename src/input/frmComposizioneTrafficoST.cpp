@@ -10,6 +10,8 @@
 #include "base/numeri.h"
 #include "input/categorieTraffico.h"
 #include "input/flussiIngresso.h"
+#include "input/frmImportaCSV.h"
+#include "input/recuperoTraffico.h"
 #include "input/tabellaComposizione.h"
 #include "shell/servizi/incolla.h"
 
@@ -51,16 +53,19 @@ bool categoria(int colonna) {
 
 }  // namespace
 
-frmComposizioneTrafficoST::frmComposizioneTrafficoST(const Contorno& contorno)
+frmComposizioneTrafficoST::frmComposizioneTrafficoST(const Contorno& contorno, DialogoAnteprima* dialogo)
     : FinestraRamo(contorno, "frmComposizioneTrafficoST", testi::didascalia),
       lblBlocca("lblBlocca", testi::blocca),
-      chkLock(caselle(std::make_index_sequence<numeroClassi>())) {
+      chkLock(caselle(std::make_index_sequence<numeroClassi>())),
+      cmdImportaCSV("cmdImportaCSV", bottoneImportaCSV) {
+    cmdImportaCSV.visibile(dialogo != nullptr);
+    cmdImportaCSV.allaPressione = [this, dialogo] { importa(*dialogo); };
     std::vector<Controllo*> controlli{&ctlGrid, &lblBlocca};
     for (std::size_t i = 0; i < chkLock.size(); ++i) {
         controlli.push_back(&chkLock[i]);
         chkLock[i].alClic = [this, i] { spunta(i); };
     }
-    controlli.insert(controlli.end(), {&lblSegmento, &lblStato, &lblErroreStato});
+    controlli.insert(controlli.end(), {&lblSegmento, &lblStato, &lblErroreStato, &cmdImportaCSV});
     ordina(controlli);
     preparaGriglia();
     fuocoMutato().connect([this] { mostraAiuto(); });
@@ -88,6 +93,37 @@ void frmComposizioneTrafficoST::attivata() {
         casella.spuntata(false);
     }
     FinestraRamo::attivata();
+    ReadBackUpData();
+}
+
+void frmComposizioneTrafficoST::ReadBackUpData() {
+    const auto tabella = composizioneRecuperabile(app().theRotonda(), indiceRamo());
+    if (!tabella || !chiediRecupero(app(), indiceRamo(), DatoTraffico::composizione)) {
+        return;
+    }
+    std::vector<TestoCella> celle;
+    for (int r = 1; r < ctlGrid.tabella().righe(); ++r) {
+        if (const auto& riga = (*tabella)[static_cast<std::size_t>(r) - 1]) {
+            for (int c = col::prima; c <= col::ultima; ++c) {
+                celle.push_back({{r, c}, testoNumero((*riga)[static_cast<std::size_t>(c - col::prima)])});
+            }
+        }
+    }
+    copia_ = true;
+    ctlGrid.inserisci(celle);
+    copia_ = false;
+}
+
+void frmComposizioneTrafficoST::importa(DialogoAnteprima& dialogo) {
+    BersaglioCSV bersaglio{.tipo = "Composizione",
+                           .didascalia = "Importa la composizione del traffico da CSV",
+                           .griglia = ctlGrid,
+                           .colonne = {}};
+    for (int c = col::prima; c <= col::ultima; ++c) {
+        const CategoriaTraffico& categoria = categorieTraffico[static_cast<std::size_t>(c - col::prima)];
+        bersaglio.colonne.push_back({std::string{categoria.intestazione}, c, {std::string{categoria.nome}}});
+    }
+    importaCSV(contorno(), dialogo, bersaglio);
 }
 
 std::vector<double> frmComposizioneTrafficoST::flussi() {

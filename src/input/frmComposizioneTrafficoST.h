@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/ComposizioneTraffico.h"
+#include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/FinestraRamo.h"
 #include "shell/servizi/Griglia.h"
 
@@ -17,11 +18,13 @@ namespace kelvo {
 /// time may be locked: it takes what the others leave of the flow.
 class frmComposizioneTrafficoST final : public FinestraRamo {
 public:
-    explicit frmComposizioneTrafficoST(const Contorno& contorno);
+    /// `dialogo` chooses the file of an import; without one there is none.
+    explicit frmComposizioneTrafficoST(const Contorno& contorno, DialogoAnteprima* dialogo = nullptr);
 
     Griglia ctlGrid{"ctlGrid"};
     Etichetta lblBlocca;                        ///< what the check boxes do
     std::array<Casella, numeroClassi> chkLock;  ///< "chkLock1" to "chkLock7", over their columns; one ticked at most
+    Bottone cmdImportaCSV;                      ///< takes the vehicles of a CSV file into the cells
     Etichetta lblSegmento{"lblSegmento"};       ///< total and flow of the segment of the cursor
     Etichetta lblStato{"lblStato"};             ///< the same of all segments, or what has to be done first
     Etichetta lblErroreStato{"lblErroreStato", {}, "ROSSO"};  ///< stands in its place where a total exceeds its flow
@@ -30,6 +33,8 @@ public:
     void attivata() override;
     /// Reads the table of the leg and the flows of its demand; locks stay.
     void ReadData() override;
+    /// Offers the table back that a change of the times took from the leg, once; taken back, it is as if typed.
+    void ReadBackUpData();
     /// Writes the cells that were changed.
     void SaveData() override;
 
@@ -38,6 +43,7 @@ public:
 
 private:
     void preparaGriglia();
+    void importa(DialogoAnteprima& dialogo);
     void spunta(std::size_t quale);
     void copiaPrimaRiga();
     EsitoUscita confermaCella(Posto posto, std::string& testo);
@@ -52,7 +58,7 @@ private:
     void mostraStato();
     void mostraAiuto();
 
-    bool copia_ = false;  ///< the first row is being copied: the texts go below as they are
+    bool copia_ = false;  ///< whole rows are being put there: their texts stay as they are
 };
 
 }  // namespace kelvo

@@ -10,6 +10,7 @@
 #include "base/numeri.h"
 #include "base/testo.h"
 #include "calc/totaliTraffico.h"
+#include "input/frmImportaCSV.h"
 #include "input/istogrammaTraffico.h"
 #include "input/recuperoTraffico.h"
 #include "shell/servizi/campiNumerici.h"
@@ -66,10 +67,20 @@ const std::array<frmDatiTrafficoST::LegameNumero, 3> frmDatiTrafficoST::legamiNu
     {&F::txtFlussoOrario, &D::FlussoOrario, &D::FlussoOrario},
 }};
 
-frmDatiTrafficoST::frmDatiTrafficoST(const Contorno& contorno)
-    : FinestraRamo(contorno, "frmDatiTrafficoST", testi::didascalia), Check1("Check1", testi::valoriGrafico) {
-    ordina({&ctlGrid, &txtDescrizioneRamo, &txtIntervalloTempo, &txtFlussoTotale, &txtFlussoMedio, &txtFlussoOrario,
-            &Check1, &ctlChart});
+frmDatiTrafficoST::frmDatiTrafficoST(const Contorno& contorno, DialogoAnteprima* dialogo)
+    : FinestraRamo(contorno, "frmDatiTrafficoST", testi::didascalia),
+      cmdImportaCSV("cmdImportaCSV", bottoneImportaCSV),
+      Check1("Check1", testi::valoriGrafico) {
+    cmdImportaCSV.visibile(dialogo != nullptr);
+    cmdImportaCSV.allaPressione = [this, dialogo] {
+        importaCSV(this->contorno(), *dialogo,
+                   {.tipo = "DatiTraffico",
+                    .didascalia = "Importa i flussi da CSV",
+                    .griglia = ctlGrid,
+                    .colonne = {{testi::flusso, colonnaFlusso, {"Flusso", "Veicoli"}}}});
+    };
+    ordina({&ctlGrid, &cmdImportaCSV, &txtDescrizioneRamo, &txtIntervalloTempo, &txtFlussoTotale, &txtFlussoMedio,
+            &txtFlussoOrario, &Check1, &ctlChart});
     for (const Riga& riga : righe()) {
         riga.campo->solaLettura(true);
     }

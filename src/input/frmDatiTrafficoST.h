@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/FinestraRamo.h"
 #include "shell/servizi/Grafico.h"
 #include "shell/servizi/Griglia.h"
@@ -16,7 +17,8 @@ namespace kelvo {
 /// Demand of one entry as counts: the vehicles of each time segment, as surveyed, with their histogram and totals.
 class frmDatiTrafficoST final : public FinestraRamo {
 public:
-    explicit frmDatiTrafficoST(const Contorno& contorno);
+    /// `dialogo` chooses the file of an import; without one there is none.
+    explicit frmDatiTrafficoST(const Contorno& contorno, DialogoAnteprima* dialogo = nullptr);
 
     /// One row a segment below the headings: "HH:NN - HH:NN" and its vehicles, decimals allowed.
     Griglia ctlGrid{"ctlGrid"};
@@ -25,7 +27,8 @@ public:
     tBox txtFlussoTotale{"txtFlussoTotale", tBox::textbox, "Type:Numeric"};        ///< vehicles, read-only
     tBox txtFlussoMedio{"txtFlussoMedio", tBox::textbox, "Type:Numeric"};          ///< veic/min, read-only
     tBox txtFlussoOrario{"txtFlussoOrario", tBox::textbox, "Type:Numeric"};        ///< veic/h, read-only
-    Casella Check1;                                                                ///< figures over the bars
+    Bottone cmdImportaCSV;         ///< takes the counts of a CSV file into the cells
+    Casella Check1;                ///< figures over the bars
     Grafico ctlChart{"ctlChart"};  ///< the bars, vehicles by time segment
 
     /// What stands beside a field.

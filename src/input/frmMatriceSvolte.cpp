@@ -67,7 +67,7 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
       lblVeicoliUscite(etichette("lblVeicoliUscite", sette)),
       lblMovimento("lblMovimento"),
       chkFlussi("chkFlussi", testi::flussi, Casella::bottone),
-      cmdImportaCSV("cmdImportaCSV", "Importa da CSV..."),
+      cmdImportaCSV("cmdImportaCSV", bottoneImportaCSV),
       dialogo_(dialogo) {
     // The names are there to be read: the keyboard goes to the matrix first.
     std::vector<Controllo*> controlli{&lblPercentualeROSSO, &ctlGrid,         &frmTotaleEntrate,

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "app/nuovoProgetto.h"
 #include "comune/fintiFinestre.h"
+#include "input/frmComposizioneTrafficoST.h"
 #include "input/frmDatiTraffico.h"
 #include "input/frmDatiTrafficoST.h"
 #include "input/frmTempoModellazione.h"
@@ -268,6 +271,74 @@ TEST_F(ProveRecupero, TheWindowOfTheCurveOffersItOnceAndSavesWhatCameBack) {
     EXPECT_EQ(dati(2).FlussoTotale(), 465.0F);
     curva.attivata();
     EXPECT_EQ(messaggi.mostrati.size(), 1U);
+}
+
+TEST_F(ProveRecupero, TheTableOfTheCompositionOffersItOnceAndSavesWhatCameBack) {
+    tempi("08:00", "30", "09:30");
+    messaggi.mostrati.clear();
+    messaggi.risposta = Risposta::si;
+    frmComposizioneTrafficoST tabella{contorno()};
+    navigazione.corrente = "keyComposizioneTraffico2";
+    tabella.attivata();
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);  // that the vehicles exceed a flow of 0 is no message
+    EXPECT_EQ(tabella.ctlGrid.testo(1, 1), "201");
+    EXPECT_EQ(tabella.ctlGrid.testo(2, 7), "405");
+    EXPECT_EQ(tabella.ctlGrid.testo(1, 8), "602");
+    EXPECT_EQ(tabella.ctlGrid.testo(3, 7), "0");
+    EXPECT_FALSE(tabella.DatiAllineati());
+    EXPECT_EQ(composizione(2).CategoriaSegmento(0, 0), 0.0F);
+    tabella.SaveData();
+    EXPECT_EQ(composizione(2).CategoriaSegmento(0, 0), 201.0F);
+    EXPECT_EQ(composizione(2).CategoriaSegmento(1, 6), 405.0F);
+    tabella.attivata();
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+}
+
+/// Plays the user of the file dialogue: selects a file and confirms it.
+class DialogoCSV final : public DialogoAnteprima {
+public:
+    bool apri(const RichiestaFile& /*richiesta*/, FinestraAnteprima& anteprima) override {
+        didascalia = anteprima.didascalia();
+        anteprima.selezionato(percorso);
+        return anteprima.conferma(percorso);
+    }
+    std::string percorso;
+    std::string didascalia;
+};
+
+TEST_F(ProveRecupero, CountsAreImportedFromAFile) {
+    DialogoCSV dialogo;
+    dialogo.percorso = cartella.file("conteggi.csv");
+    std::ofstream(dialogo.percorso) << "Ora;Flusso\n08:00;7\n08:15;8,5\n08:30;9\n08:45;10\n";
+    frmDatiTrafficoST conteggi{contorno(), &dialogo};
+    navigazione.corrente = "keyDatiTraffico1";
+    conteggi.attivata();
+    ASSERT_TRUE(conteggi.cmdImportaCSV.visibile());
+    conteggi.cmdImportaCSV.premi();
+    EXPECT_EQ(dialogo.didascalia, "Importa i flussi da CSV");
+    EXPECT_EQ(conteggi.txtFlussoTotale.testo(), "35");
+    conteggi.SaveData();
+    EXPECT_EQ(dati(1).FlussiSegmento(), (std::vector<float>{7.0F, 8.5F, 9.0F, 10.0F}));
+}
+
+TEST_F(ProveRecupero, TheCompositionIsImportedFromAFileByTheNamesOfItsColumns) {
+    DialogoCSV dialogo;
+    dialogo.percorso = cartella.file("composizione.csv");
+    std::ofstream(dialogo.percorso) << "Autovetture;Motocicli;Roulotte;Furgoni;Autobus;Autocarri;Autoarticolati\n"
+                                       "70;6;5;4;3;2;1\n71;0;0;0;0;0;0\n72;0;0;0;0;0;0\n73;0;0;0;0;0;9\n";
+    frmComposizioneTrafficoST tabella{contorno(), &dialogo};
+    navigazione.corrente = "keyComposizioneTraffico1";
+    tabella.attivata();
+    tabella.cmdImportaCSV.premi();
+    EXPECT_EQ(dialogo.didascalia, "Importa la composizione del traffico da CSV");
+    tabella.SaveData();
+    EXPECT_EQ(composizione(1).Categorie().at(0), (PerClasse{1, 2, 3, 4, 5, 6, 70}));
+    EXPECT_EQ(composizione(1).Categorie().at(3), (PerClasse{9, 0, 0, 0, 0, 0, 73}));
+}
+
+TEST_F(ProveRecupero, WithoutAFileDialogueThereIsNoImport) {
+    EXPECT_FALSE(frmDatiTrafficoST{contorno()}.cmdImportaCSV.visibile());
+    EXPECT_FALSE(frmComposizioneTrafficoST{contorno()}.cmdImportaCSV.visibile());
 }
 
 TEST_F(ProveRecupero, ANewProjectIsOfferedNothing) {

@@ -59,6 +59,7 @@ private:
             stato->setFont(forte(punti::corpo));
             riga->addWidget(stato);
         }
+        riga->addWidget(collega(f.cmdImportaCSV, corpo()));
         colonna()->addLayout(riga);
     }
 };

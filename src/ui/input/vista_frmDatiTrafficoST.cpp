@@ -30,6 +30,7 @@ public:
         }
         colonna()->addWidget(ingresso);
         colonna()->addWidget(collega(f.ctlGrid, corpo()), parteTabella);
+        colonna()->addWidget(collega(f.cmdImportaCSV, corpo()), 0, Qt::AlignLeft);
         destra()->addWidget(totali());
         destra()->addWidget(pannelloIstogramma(f.ctlChart, f.Check1, corpo()), 1);
         RiquadroAiuto* aiuto = aggiungiAiuto(QStringLiteral("Descrizione del parametro"));

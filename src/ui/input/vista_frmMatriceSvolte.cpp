@@ -31,6 +31,7 @@ public:
         valori->larga(percento);
         valori->larga(new QuadroMatrice(f, valori));
         colonna()->addWidget(valori);
+        colonna()->addWidget(collega(f.cmdImportaCSV, corpo()), 0, Qt::AlignLeft);
         aggiungiAiuto(QStringLiteral("Svolta e flussi"))->alPosto(pianta());
         chiudiDisposizione();
     }
