@@ -22,7 +22,7 @@ constexpr std::string_view spazioTesto = "http://schemas.openxmlformats.org/word
     throw Guasto::conParole(NumeroGuasto::chiamataNonValida, parole);
 }
 
-/// The values of `attributo` of all nodes of that name below `radice`, as numbers.
+/// A text as a number; 0 for what is none.
 unsigned numero(std::string_view testo) {
     unsigned letto = 0;
     std::from_chars(testo.data(), testo.data() + testo.size(), letto);

@@ -115,7 +115,8 @@ public:
     virtual void InserisciTabella(const TabellaRelazione& tabella) = 0;
     virtual void InserisciImmagine(const ImmagineRelazione& immagine) = 0;
 
-    /// The document as the bytes of a .docx file. Captions are numbered in the order in which they stand.
+    /// The document as the bytes of a .docx file. Captions are numbered in the order in which they stand; nothing is
+    /// selected afterwards.
     virtual std::string Contenuto() = 0;
     /// Writes them to a file, safely. Fault 75 with the reason in words: the old file then stands untouched.
     virtual void Salva(SistemaFile& sistema, const std::string& percorso) = 0;
