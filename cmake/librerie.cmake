@@ -14,6 +14,9 @@ else()
   add_library(csv::csv UNKNOWN IMPORTED GLOBAL)
   set_target_properties(csv::csv PROPERTIES IMPORTED_LOCATION ${KELVO_LIBCSV}
     INTERFACE_INCLUDE_DIRECTORIES ${KELVO_INTESTAZIONI_CSV})
+  find_package(pugixml REQUIRED)
+  # The CMake files of its package want programs that come with another one.
+  pkg_check_modules(libzip REQUIRED IMPORTED_TARGET GLOBAL libzip)
 endif()
 if(KELVO_DESKTOP)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg Test)
