@@ -12,6 +12,7 @@ namespace kelvo::cli {
 inline constexpr int uscitaFatto = 0;
 inline constexpr int uscitaFallito = 1;
 inline constexpr int uscitaUsoErrato = 2;
+inline constexpr int uscitaErroriProgetto = 3;  ///< the check of a project found an error in it
 
 /// The options that the commands share.
 struct OpzioniComuni {

@@ -25,7 +25,8 @@ constexpr const char* piede =
     "  kelvo-cli calcola Rotatoria.klv\n"
     "  kelvo-cli calcola --help\n"
     "\n"
-    "Codice di uscita: 0 fatto; 1 il calcolo o un file non è riuscito; 2 uso errato o configurazione inutilizzabile";
+    "Codice di uscita: 0 fatto; 1 il calcolo o un file non è riuscito; 2 uso errato o configurazione inutilizzabile; "
+    "3 il controllo ha trovato errori nel progetto";
 
 int esegui(std::vector<std::string> argomenti) {
     CLI::App radice{"Kelvo: progetto e verifica di rotatorie", "kelvo-cli"};
@@ -35,8 +36,8 @@ int esegui(std::vector<std::string> argomenti) {
     radice.footer(piede);
 
     std::vector<std::unique_ptr<Comando>> comandi;
-    for (const auto crea :
-         {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica, comandoCurva}) {
+    for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica,
+                            comandoCurva, comandoControllo}) {
         comandi.push_back(crea(radice));
     }
     for (auto& comando : comandiDisegno(radice)) {

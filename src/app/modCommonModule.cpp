@@ -65,10 +65,14 @@ std::string modCommonModule::scriviIntero(const std::string& sezione, const std:
     return errore;
 }
 
+float modCommonModule::LeggiCoefficiente(std::size_t indice) const {
+    return leggiSingolo(sezioneVeicoli, std::string{chiaviCoefficienti.at(indice)});
+}
+
 CoefficientiVeicoli modCommonModule::leggiCoefficienti() const {
     CoefficientiVeicoli valori{};
     for (std::size_t i = 0; i < valori.size(); ++i) {
-        valori[i] = leggiSingolo(sezioneVeicoli, std::string{chiaviCoefficienti[i]});
+        valori[i] = LeggiCoefficiente(i);
     }
     return valori;
 }
@@ -91,7 +95,7 @@ void modCommonModule::LeggiConfigurazione(const std::function<void(const Guasto&
     passo([&] { LeggiAvvioFilmato(); });
     CoefficientiVeicoli valori = configurazione_.coefficienti();
     for (std::size_t i = 0; i < valori.size(); ++i) {
-        passo([&] { valori[i] = leggiSingolo(sezioneVeicoli, std::string{chiaviCoefficienti[i]}); });
+        passo([&] { valori[i] = LeggiCoefficiente(i); });
     }
     configurazione_.coefficienti(valori);
 }

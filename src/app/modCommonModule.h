@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -32,6 +33,10 @@ public:
     void LeggiConfigurazione(const std::function<void(const Guasto&)>& alGuasto);
     /// Reads the setting of the introduction film. Fault 13 for a text that is no number.
     void LeggiAvvioFilmato() { configurazione_.AvvioFilmato = leggiIntero("10_MOTIVI", "Avvia"); }
+
+    /// Reads a coefficient from the configuration file, by its position in `chiaviCoefficienti`; memory keeps what it
+    /// holds. A missing key gives 0; faults as above.
+    float LeggiCoefficiente(std::size_t indice) const;
 
     // Settings that are read where they are used, at each use: these keep the value in memory and answer it. A missing
     // key gives 0; faults as above.

@@ -162,16 +162,14 @@ TEST_P(Aiuto, IsItalianAndEndsWithExamples) {
     EXPECT_EQ(parolaInglese(esito.uscita), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Comandi, Aiuto,
-                         testing::Values("calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva"),
-                         [](const auto& caso) {
-                             return std::string(caso.param).substr(0, std::string(caso.param).find('-'));
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Comandi, Aiuto, testing::Values("calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva", "controllo"),
+    [](const auto& caso) { return std::string(caso.param).substr(0, std::string(caso.param).find('-')); });
 
 TEST(AiutoGenerale, OfTheProgramNamesEveryCommand) {
     const Esito esito = kelvoCli({"--help"});
     EXPECT_EQ(esito.codice, 0);
-    for (const char* comando : {"calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva"}) {
+    for (const char* comando : {"calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva", "controllo"}) {
         EXPECT_NE(esito.uscita.find(std::string("\n  ") + comando + " "), std::string::npos) << comando;
     }
     EXPECT_NE(esito.uscita.find("\nComandi:\n"), std::string::npos);

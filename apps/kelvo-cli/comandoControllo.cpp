@@ -1,0 +1,78 @@
+#include "Comando.h"
+#include "checkup/modERRORI.h"
+#include "json.h"
+
+namespace kelvo::cli {
+
+namespace {
+
+class ComandoControllo final : public ComandoSuFile {
+public:
+    explicit ComandoControllo(CLI::App& radice)
+        : ComandoSuFile(radice, "controllo",
+                        "Controlla i dati di un progetto ed elenca errori, verifiche, informazioni",
+                        "  kelvo-cli controllo Rotatoria.klv\n"
+                        "  kelvo-cli controllo --json *.klv > controllo.jsonl") {
+        aggiungiIni(comuni_);
+        aggiungiJson();
+    }
+
+    int esegui() override {
+        const int uscita = ComandoSuFile::esegui();
+        return uscita == uscitaFatto && errore_ ? uscitaErroriProgetto : uscita;
+    }
+
+private:
+    bool tratta(Contesto& contesto, const std::string& file) override {
+        Applicazione& app = contesto.app();
+        modERRORI errori(app);
+        if (contesto.carica(file)) {
+            errori.svuota();
+            errori.AnalisiProgetto();
+            for (const Riscontro& riscontro : errori.ctlTreeAnalizzatore.riscontri) {
+                errore_ = errore_ || riscontro.livello == Livello::Red;
+            }
+        }
+        if (comuni_.json) {
+            stampa(riga(json(contesto, file, errori.ctlTreeAnalizzatore)));
+        } else if (contesto.caricato()) {
+            stampa(testoReport(errori.ctlTreeAnalizzatore, app.orologio.adesso(), app.theRotonda().NomeFile()));
+        }
+        return contesto.errori().empty();
+    }
+
+    static Json json(Contesto& contesto, const std::string& file, const AlberoRiscontri& albero) {
+        Json uscita = {{"file", file}};
+        if (contesto.caricato()) {
+            Json riscontri = Json::array();
+            for (const Riscontro& riscontro : albero.riscontri) {
+                riscontri.push_back(json(riscontro));
+            }
+            uscita["NomeFile"] = contesto.app().theRotonda().NomeFile();
+            uscita["riscontri"] = riscontri;
+        }
+        uscita["errori"] = erroriJson(contesto);
+        return uscita;
+    }
+
+    static Json json(const Riscontro& riscontro) {
+        Json meta = {{"chiave", riscontro.meta.chiave}, {"campo", riscontro.meta.campo}};
+        if (riscontro.meta.ramo > 0) {
+            meta["ramo"] = riscontro.meta.ramo;
+        }
+        return {{"livello", nomeLivello(riscontro.livello)},
+                {"titolo", titoloRiscontro(riscontro.testo)},
+                {"testo", messaggioRiscontro(riscontro.testo)},
+                {"meta", meta}};
+    }
+
+    bool errore_ = false;  ///< a project has a finding of the level of errors
+};
+
+}  // namespace
+
+std::unique_ptr<Comando> comandoControllo(CLI::App& radice) {
+    return std::make_unique<ComandoControllo>(radice);
+}
+
+}  // namespace kelvo::cli

@@ -1,0 +1,153 @@
+#include <fmt/format.h>
+
+#include "base/numeri.h"
+#include "checkup/checkList.h"
+#include "checkup/frmANALIZZATORE.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr int colonne = 5;
+
+const char* nomeGenere(GenereRiga genere) {
+    switch (genere) {
+        case GenereRiga::GRIGIO:
+            return "GRIGIO";
+        case GenereRiga::BIANCO:
+            return "BIANCO";
+        case GenereRiga::DESCRIZIONE:
+            return "DESCRIZIONE";
+        case GenereRiga::VUOTA:
+            break;
+    }
+    return "";
+}
+
+bool domanda(int riga) {
+    return riga >= 0 && static_cast<std::size_t>(riga) < righeCheckList.size() &&
+           righeCheckList[static_cast<std::size_t>(riga)].genere == GenereRiga::BIANCO;
+}
+
+bool risposta(int colonna) {
+    return colonna == frmANALIZZATORE::colonnaSI || colonna == frmANALIZZATORE::colonnaNO;
+}
+
+/// Adds a row to the table: its kind gives texts and colours of its cells.
+void componiRiga(Tabella& t, int riga, const RigaCheckList& voce) {
+    const bool intestazione = voce.genere == GenereRiga::GRIGIO;
+    const bool bianca = voce.genere == GenereRiga::BIANCO;
+    for (int c = 0; c < colonne; ++c) {
+        Cella& cella = t.cella(riga, c);
+        cella.sfondo = intestazione ? colori::intestazione : frmANALIZZATORE::fondoChiuso;
+        cella.inchiostro = intestazione ? colori::bianco : colori::nero;
+        cella.grassetto = intestazione;
+        if (bianca) {
+            cella.sfondo = c == frmANALIZZATORE::colonnaTesto ? colori::nomeIngresso : colori::bianco;
+        }
+    }
+    t.cella(riga, frmANALIZZATORE::colonnaTesto).testo = voce.testo;
+    t.cella(riga, frmANALIZZATORE::colonnaGenere).testo = nomeGenere(voce.genere);
+    if (bianca) {
+        t.cella(riga, frmANALIZZATORE::colonnaSI).testo = frmANALIZZATORE::casellaVuota;
+        t.cella(riga, frmANALIZZATORE::colonnaNO).testo = frmANALIZZATORE::casellaVuota;
+    } else if (intestazione && voce.testo.empty()) {
+        t.cella(riga, frmANALIZZATORE::colonnaSI).testo = "SI";
+        t.cella(riga, frmANALIZZATORE::colonnaNO).testo = "NO";
+    }
+}
+
+}  // namespace
+
+void frmANALIZZATORE::preparaCheckList() {
+    Tabella t(static_cast<int>(righeCheckList.size()) + righeVuote, colonne);
+    for (int r = 0; r < t.righe(); ++r) {
+        const auto posto = static_cast<std::size_t>(r);
+        componiRiga(t, r, posto < righeCheckList.size() ? righeCheckList[posto] : RigaCheckList{});
+    }
+    ctlGrid.salta = [](Posto posto) { return !domanda(posto.riga) || !risposta(posto.colonna); };
+    ctlGrid.versoInvio = Griglia::Verso::giu;
+    ctlGrid.alClic = [this](Posto posto) { cliccata(posto); };
+    ctlGrid.alloScorrimento = [this](int /*riga*/) { aggiornaSezione(); };
+    ctlGrid.colonna(colonnaTesto, {.allineamento = AllineamentoCella::sinistra, .aCapo = true});
+    ctlGrid.colonna(colonnaSI, {.allineamento = AllineamentoCella::centro});
+    ctlGrid.colonna(colonnaNO, {.allineamento = AllineamentoCella::centro});
+    ctlGrid.colonna(colonnaPunti, {.nascosta = true});
+    ctlGrid.colonna(colonnaGenere, {.nascosta = true});
+    ctlGrid.tabella(std::move(t));
+    cmdAVANTIsezione.allaPressione = [this] { portaSezione(true); };
+    cmdINDIETROsezione.allaPressione = [this] { portaSezione(false); };
+    aggiornaSezione();
+    aggiornaIndice();
+}
+
+void frmANALIZZATORE::cliccata(Posto posto) {
+    const bool chiusa = ctlGrid.tabella().cella(posto.riga, posto.colonna).sfondo == fondoChiuso;
+    if (chiusa || !domanda(posto.riga) || !risposta(posto.colonna)) {
+        return;
+    }
+    const RigaCheckList& voce = righeCheckList[static_cast<std::size_t>(posto.riga)];
+    const bool si = posto.colonna == colonnaSI;
+    ctlGrid.modifica([&](Tabella& t) {
+        t.cella(posto.riga, posto.colonna).testo = casellaSpuntata;
+        t.cella(posto.riga, si ? colonnaNO : colonnaSI).testo = casellaVuota;
+        t.cella(posto.riga, colonnaPunti).testo = testoNumero(si ? voce.si : voce.no);
+    });
+    aggiornaIndice();
+}
+
+int frmANALIZZATORE::domande() {
+    int quante = 0;
+    for (const RigaCheckList& voce : righeCheckList) {
+        quante += voce.genere == GenereRiga::BIANCO ? 1 : 0;
+    }
+    return quante;
+}
+
+int frmANALIZZATORE::risposte() const {
+    int quante = 0;
+    for (int r = 0; r < ctlGrid.tabella().righe(); ++r) {
+        quante += ctlGrid.testo(r, colonnaPunti).empty() ? 0 : 1;
+    }
+    return quante;
+}
+
+int frmANALIZZATORE::indice() const {
+    double somma = 0.0;
+    for (int r = 0; r < ctlGrid.tabella().righe(); ++r) {
+        somma += leggiNumero(ctlGrid.testo(r, colonnaPunti)).value_or(0.0);
+    }
+    return static_cast<int>(somma);
+}
+
+void frmANALIZZATORE::aggiornaIndice() {
+    lblIndice.testo(fmt::format("Risposte inserite: {} di {}   -   Indice: {}", risposte(), domande(), indice()));
+    mostraLivello();
+}
+
+void frmANALIZZATORE::mostraLivello() {
+    const bool pagina = TabStrip2.corrente() == 1;
+    const bool completa = risposte() == domande();
+    const int fascia = completa ? fasciaDiIndice(indice()) : -1;
+    for (std::size_t i = 0; i < lblLivello.size(); ++i) {
+        const bool sua = static_cast<int>(i) == fascia;
+        lblLivello[i].testo(sua ? fmt::format(" LIVELLO {}: ", fasceIndice[i].nome) : std::string{});
+    }
+    lblCommento.testo(fascia < 0 ? std::string{} : std::string{fasceIndice[static_cast<std::size_t>(fascia)].commento});
+    lblCopertina.visibile(pagina && !completa);
+    frLivello.mostraContenuto(pagina && completa);
+}
+
+void frmANALIZZATORE::portaSezione(bool avanti) {
+    ctlGrid.rigaAlta(rigaSezione(ctlGrid.rigaAlta(), avanti));
+    aggiornaSezione();
+}
+
+void frmANALIZZATORE::aggiornaSezione() {
+    const int alta = ctlGrid.rigaAlta();
+    lblSezione.testo(std::string{sezioniCheckList[sezioneDiRiga(alta)].titolo});
+    cmdINDIETROsezione.abilitato(alta > sezioniCheckList.front().rigaAlta);
+    cmdAVANTIsezione.abilitato(alta < sezioniCheckList.back().rigaAlta);
+}
+
+}  // namespace kelvo

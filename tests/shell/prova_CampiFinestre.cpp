@@ -1,0 +1,92 @@
+#include "shell/CampiFinestre.h"
+
+#include "comune/fintiShell.h"
+
+namespace kelvo::prove::shell {
+namespace {
+
+/// The real windows behind the main window, with a project of four legs.
+struct ProveCampiFinestre : testing::Test, ShellFinta {
+    ServiziFinestreFinti altri;
+    CampiFinestre campi{cornice.finestre, cornice.gestione};
+
+    ProveCampiFinestre() {
+        registraFinestre(cornice.finestre, altri.servizi());
+        nuovo(4);
+        app.theRotonda().Comune("Lucca");
+        app.theRotonda().Note("una nota");
+    }
+};
+
+TEST_F(ProveCampiFinestre, AWindowThatDoesNotLiveShowsNothing) {
+    EXPECT_EQ(campi.testo("frmAnagraficaRotonda", "txtComune"), std::nullopt);
+    EXPECT_EQ(campi.testo("frmInesistente", "txtComune"), std::nullopt);
+}
+
+TEST_F(ProveCampiFinestre, AWindowThatLivesShowsWhatWasTypedAndNotWritten) {
+    ASSERT_TRUE(cornice.albero.UserClick("keyAnagraficaRotonda"));
+    EXPECT_EQ(campi.testo("frmAnagraficaRotonda", "txtComune"), "Lucca");
+    EXPECT_EQ(campi.testo("frmAnagraficaRotonda", "txtNote"), "una nota");
+    EXPECT_EQ(campi.testo("frmAnagraficaRotonda", "txtManca"), std::nullopt);
+    EXPECT_EQ(campi.testo("frmAnagraficaRotonda", "lblComune"), std::nullopt);
+    auto* finestra = cornice.gestione.corrente();
+    for (Controllo* c : finestra->ordine()) {
+        if (c->nome() == "txtComune") {
+            finestra->fuocoSu(*c);
+            dynamic_cast<tBox&>(*c).scrivi("Pisa");
+        }
+    }
+    EXPECT_EQ(campi.testo("frmAnagraficaRotonda", "txtComune"), "Pisa");
+    EXPECT_EQ(app.theRotonda().Comune(), "Lucca");
+}
+
+TEST_F(ProveCampiFinestre, TheFocusGoesToAFieldOfTheWindowAtHand) {
+    ASSERT_TRUE(cornice.albero.UserClick("keyRamo2"));
+    EXPECT_TRUE(campi.fuocoSu("txtLungSvasatura"));
+    ASSERT_NE(cornice.gestione.corrente()->fuoco(), nullptr);
+    EXPECT_EQ(cornice.gestione.corrente()->fuoco()->nome(), "txtLungSvasatura");
+    EXPECT_FALSE(campi.fuocoSu("txtManca"));
+    EXPECT_FALSE(campi.fuocoSu(""));
+    EXPECT_EQ(cornice.gestione.corrente()->fuoco()->nome(), "txtLungSvasatura");
+}
+
+TEST_F(ProveCampiFinestre, TheFieldsThatFindingsLeadToStandInTheirWindows) {
+    struct Meta {
+        const char* chiave;
+        const char* campo;
+    };
+    for (const Meta& meta : {Meta{"keyAnagraficaRotonda", "txtData"},
+                             Meta{"keyAnagraficaRotonda", "txtNomeFile"},
+                             Meta{"keyAnagraficaRotonda", "txtStatoAvanzamento"},
+                             Meta{"keyAnagraficaRotonda", "txtLocalita"},
+                             Meta{"keyAnagraficaRotonda", "txtProvincia"},
+                             Meta{"keyAnagraficaRotonda", "txtNote"},
+                             Meta{"keyAnagraficaRotonda", "txtTitolo"},
+                             Meta{"keyAnagraficaProfessionista", "txtNomeProfessionista"},
+                             Meta{"keyAnagraficaProfessionista", "txtIndirizzoProfessionista"},
+                             Meta{"keyAnagraficaProfessionista", "txtCAPProfessionista"},
+                             Meta{"keyAnagraficaProfessionista", "txtCittaProfessionista"},
+                             Meta{"keyAnagraficaProfessionista", "txtProvinciaProfessionista"},
+                             Meta{"keyAnagraficaProfessionista", "txtTelefonoProfessionista"},
+                             Meta{"keyAnagraficaProfessionista", "txtEMailProfessionista"},
+                             Meta{"keyTempoModellazione", "txtSegmentoTempo"},
+                             Meta{"keyToponomasticaIntersezione", "txtIngresso4"},
+                             Meta{"keyRamo3", "txtDiametroInscritto"},
+                             Meta{"keyRamo3", "txtLarghezzaIngresso"},
+                             Meta{"keyRamo3", "txtLungSvasatura"},
+                             Meta{"keyRamo3", "txtSemiLarghezza"},
+                             Meta{"keyOpzioni", "grpTipoAnalisi"},
+                             Meta{"keyOpzioni", "txtAutoarticolati"},
+                             Meta{"keyOpzioni", "txtAutotreni"},
+                             Meta{"keyOpzioni", "txtPullman"},
+                             Meta{"keyOpzioni", "txtCamper"},
+                             Meta{"keyOpzioni", "txtRoulotte"},
+                             Meta{"keyOpzioni", "txtMotocicli"},
+                             Meta{"keyOpzioni", "txtAutovetture"}}) {
+        ASSERT_TRUE(cornice.albero.UserClick(meta.chiave)) << meta.chiave;
+        EXPECT_TRUE(campi.fuocoSu(meta.campo)) << meta.chiave << " " << meta.campo;
+    }
+}
+
+}  // namespace
+}  // namespace kelvo::prove::shell
