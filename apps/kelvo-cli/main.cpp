@@ -35,8 +35,8 @@ int esegui(std::vector<std::string> argomenti) {
     radice.footer(piede);
 
     std::vector<std::unique_ptr<Comando>> comandi;
-    for (const auto crea :
-         {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica, comandoCurva}) {
+    for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica,
+                            comandoCurva, comandoCorsiaDx, comandoSensibilita}) {
         comandi.push_back(crea(radice));
     }
     for (auto& comando : comandiDisegno(radice)) {
