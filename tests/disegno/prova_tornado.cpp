@@ -57,6 +57,14 @@ TEST_F(Tornado, RowsStandInTheirOrderWithTheirNamesBesideThem) {
     }
 }
 
+TEST_F(Tornado, NoNameIsLostWhereItHasToBeShortened) {
+    for (int larga = 300; larga <= 700; larga += 3) {
+        const std::vector<Disposizione::Testo> nomi =
+            di(disponi(prova::tornado(), QSizeF(larga, 280)), Testi::etichettaX);
+        EXPECT_EQ(nomi.size(), 6U) << larga;
+    }
+}
+
 TEST_F(Tornado, ValuesOfOppositeSignsShareTheRowOthersPartIt) {
     Contenuto c = prova::tornado(2);
     c.serie[0].valori = {5.0, 3.0};
