@@ -20,6 +20,7 @@
 #include "calc/modCalcolo.h"
 #include "platform/Piattaforma.h"
 #include "progetti.h"
+#include "results/Sensibilita.h"
 #include "ricerca.h"
 
 namespace {
@@ -78,8 +79,6 @@ struct Passo {
 };
 constexpr Passo passi[] = {{&Geometria::e, 0.05F},  {&Geometria::v, 0.05F}, {&Geometria::l, 0.5F},
                            {&Geometria::phi, 5.0F}, {&Geometria::r, 1.0F},  {&Geometria::D, 1.0F}};
-constexpr int passiPerParte = 3;
-
 template <class F>
 void perOgniPasso(const Geometria& base, F&& corsa) {
     for (const Passo& passo : passi) {
@@ -149,6 +148,12 @@ void stampaTabella(const std::vector<Coppia>& coppie, Raccolta& raccolta) {
     }
 }
 
+void pretendi(bool vero, const std::string& parole) {
+    if (!vero) {
+        throw std::runtime_error(parole);
+    }
+}
+
 const CorsieDestra corsieAccese{true, false, true, false};
 
 /// The projects of the measured runs, each with its bare companion.
@@ -157,6 +162,7 @@ struct Banchi {
     Banco destra{4, Domanda::curva, false};
     Banco tabella{7, Domanda::tabella, true};
     Banco ipotesi{7, Domanda::curva, false};
+    Sensibilita sensibilita;  ///< of the first leg of `ipotesi`, all six measures
 };
 
 /// The lanes of the right-turn run take their share of the entry's vehicles a minute.
@@ -184,6 +190,19 @@ void preparaIpotesi(Banco& banco) {
     }
 }
 
+/// The analysis takes all six measures of the first leg.
+void preparaSensibilita(Banchi& banchi) {
+    const Rotonda& rotonda = banchi.ipotesi.app.theRotonda();
+    AnalisiMarginale& marginale = rotonda.Ramo(1).theAnalisiMarginale();
+    marginale.UsaLarghezzaIngresso(true);
+    marginale.UsaSemiLarghezza(true);
+    marginale.UsaLunghezzaSvasatura(true);
+    marginale.UsaAngoloConflitto(true);
+    marginale.UsaRaggioCurvatura(true);
+    marginale.UsaDiametroInscritto(true);
+    banchi.sensibilita.imposta(rotonda, 1);
+}
+
 void corriIpotesi(Banco& banco, const Geometria& g) {
     banco.motore.Calcola_Tempo_Flusso(1, g, "0");
 }
@@ -208,7 +227,9 @@ std::vector<Coppia> coppieMotore(Banchi& banchi) {
              [&banco = banchi.destra] { banco.nucleo.esegui(); }},
             {"segment table, 7 legs x 72", [&banco = banchi.tabella] { banco.motore.Calcola_Tempo_Flusso_ST("1"); },
              [&banco = banchi.tabella] { banco.nucleo.esegui(); }},
-            {"42 what-if runs, 7 legs x 72", quarantadue, quarantadueNude}};
+            {"42 what-if runs, 7 legs x 72", quarantadue, quarantadueNude},
+            {"sensitivity of six measures with its tables, 7 legs x 72 (bare: 42 runs)",
+             [&banchi] { banchi.sensibilita.calcola(banchi.ipotesi.app); }, quarantadueNude}};
 }
 
 /// Every bare run against its engine run; each of the what-if runs of its own.
@@ -216,6 +237,13 @@ void confrontaTutti(Banchi& banchi, const std::vector<Coppia>& coppie) {
     for (const Coppia& c : coppie) {
         c.corsa();
         c.nuda();
+    }
+    // The last to run was the sensitivity: both stand at the last step of the last measure.
+    confronta(banchi.ipotesi, "sensitivity");
+    for (const TabellaSensibilita& tabella : banchi.sensibilita.tabelle()) {
+        for (const PassoSensibilita& passo : tabella.passi()) {
+            pretendi(passo.calcolato, "un passo della sensibilità non è calcolato");
+        }
     }
     confronta(banchi.curva, "time-flow");
     confronta(banchi.destra, "right-turn");
@@ -225,12 +253,6 @@ void confrontaTutti(Banchi& banchi, const std::vector<Coppia>& coppie) {
         corriNuda(banchi.ipotesi, g);
         confronta(banchi.ipotesi, "what-if");
     });
-}
-
-void pretendi(bool vero, const std::string& parole) {
-    if (!vero) {
-        throw std::runtime_error(parole);
-    }
 }
 
 /// A folder of its own for the measured files, removed at the end.
@@ -303,6 +325,7 @@ void misura() {
     Banchi banchi;
     preparaDestra(banchi.destra);
     preparaIpotesi(banchi.ipotesi);
+    preparaSensibilita(banchi);
     std::vector<Coppia> coppie = coppieMotore(banchi);
     confrontaTutti(banchi, coppie);
     RicercaLunga ricerca;

@@ -9,6 +9,7 @@
 #include "calc/modCalcolo.h"
 #include "calcolaJson.h"
 #include "errori.h"
+#include "impedimenti.h"
 #include "results/TabellaCapacitaUltima.h"
 #include "results/tabellaVerifiche.h"
 
@@ -17,8 +18,6 @@ namespace kelvo::cli {
 namespace {
 
 constexpr int guastoChiamata = 5;
-constexpr int ramiConCorsie = 4;
-constexpr int analisiTabella = 2;  // the highest kind of analysis
 
 constexpr const char* esempi =
     "  kelvo-cli calcola Rotatoria.klv > Risultati.txt\n"
@@ -80,17 +79,9 @@ private:
 
     /// Why the project does not allow what the options ask for, or an empty text.
     std::string impedimento(const Rotonda& rotonda) const {
-        if (rotonda.TipoAnalisi() < 0 || rotonda.TipoAnalisi() > analisiTabella) {
-            return fmt::format("il tipo di analisi {} non è previsto: i valori sono 0, 1 e 2", rotonda.TipoAnalisi());
-        }
-        if (corsie_ && rotonda.TipoAnalisi() != 1 && rotonda.TipoAnalisi() != 2) {
-            return "le corsie di svolta a destra non hanno effetto su un'analisi della sola saturazione";
-        }
-        if (corsie_ && rotonda.NumeroRami() != ramiConCorsie) {
-            return fmt::format(
-                "corsie di svolta a destra: funzione disponibile solo per rotatorie a quattro ingressi, "
-                "questa ne ha {}",
-                rotonda.NumeroRami());
+        const std::string motivo = corsie_ ? impedimentoCorsie(rotonda) : impedimentoAnalisi(rotonda);
+        if (!motivo.empty()) {
+            return motivo;
         }
         if (geometria_ && ramo_ > rotonda.NumeroRami()) {
             return fmt::format("il ramo {} non esiste: la rotatoria ha {} rami", ramo_, rotonda.NumeroRami());

@@ -46,18 +46,10 @@ private:
     static Json json(const Contesto& contesto, const std::string& file, const TabellaCapacitaUltima& tabella) {
         Json uscita = {{"file", file}};
         if (contesto.caricato()) {
-            Json righe = Json::array();
-            for (int r = 0; r < tabella.tabella().righe(); ++r) {
-                Json celle = Json::array();
-                for (int c = 0; c < tabella.tabella().colonne(); ++c) {
-                    celle.push_back(tabella.tabella().testo(r, c));
-                }
-                righe.push_back(celle);
-            }
             uscita["SC"] = numero(tabella.SC());
             uscita["SF"] = numero(tabella.SF());
             uscita["ISR"] = numero(tabella.ISR());
-            uscita["tabella"] = righe;
+            uscita["tabella"] = tabellaJson(tabella.tabella());
         }
         uscita["errori"] = erroriJson(contesto);
         return uscita;

@@ -28,6 +28,18 @@ Json numero(float valore) {
     return numero(corto);
 }
 
+Json tabellaJson(const Tabella& tabella) {
+    Json righe = Json::array();
+    for (int r = 0; r < tabella.righe(); ++r) {
+        Json celle = Json::array();
+        for (int c = 0; c < tabella.colonne(); ++c) {
+            celle.push_back(tabella.testo(r, c));
+        }
+        righe.push_back(celle);
+    }
+    return righe;
+}
+
 Json erroriJson(const Contesto& contesto) {
     Json errori = Json::array();
     for (const ErroreRegistrato& errore : contesto.errori()) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Contesto.h"
+#include "base/Tabella.h"
 
 namespace kelvo::cli {
 
@@ -12,6 +13,9 @@ using Json = nlohmann::ordered_json;
 /// A number that prints in the shortest form that reads back, whole numbers without a point.
 Json numero(float valore);
 Json numero(double valore);
+
+/// The texts of the cells of a table, row by row.
+Json tabellaJson(const Tabella& tabella);
 
 /// The faults of the file at hand.
 Json erroriJson(const Contesto& contesto);

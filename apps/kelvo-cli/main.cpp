@@ -37,7 +37,7 @@ int esegui(std::vector<std::string> argomenti) {
 
     std::vector<std::unique_ptr<Comando>> comandi;
     for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica,
-                            comandoCurva, comandoControllo}) {
+                            comandoCurva, comandoCorsiaDx, comandoSensibilita, comandoControllo}) {
         comandi.push_back(crea(radice));
     }
     for (auto& comando : comandiDisegno(radice)) {

@@ -1,5 +1,9 @@
 #include "calc/modCalcolo.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
+
 #include "base/guasto.h"
 #include "calc/bilanciamento.h"
 
@@ -23,11 +27,26 @@ void scriviCapacitaUltime(Rotonda& rotonda, const PerRamo<T>& Q) {
 
 template <class Operazione>
 void modCalcolo::gestisci(const char* metodo, Operazione operazione) {
+    riuscita_ = true;
     try {
         operazione();
     } catch (const Guasto& guasto) {
-        app_.comune.erroreLog(guasto.codice(), metodo, guasto.descrizione(), true);
+        riuscita_ = false;
+        if (daRaccontare(fmt::format("{} {} {}", guasto.codice(), metodo, guasto.descrizione()))) {
+            app_.comune.erroreLog(guasto.codice(), metodo, guasto.descrizione(), true);
+        }
     }
+}
+
+bool modCalcolo::daRaccontare(const std::string& impronta) {
+    if (racconto_ != Racconto::unaVolta) {
+        return racconto_ == Racconto::sempre;
+    }
+    const bool nuovo = std::find(raccontati_.begin(), raccontati_.end(), impronta) == raccontati_.end();
+    if (nuovo) {
+        raccontati_.push_back(impronta);
+    }
+    return nuovo;
 }
 
 void modCalcolo::Calcola_Parametri() {

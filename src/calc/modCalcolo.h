@@ -2,13 +2,22 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/Applicazione.h"
 #include "calc/Geometria.h"
 #include "calc/simulazione.h"
 
 namespace kelvo {
+
+/// How the faults of the engine's operations are told.
+enum class Racconto {
+    sempre,    ///< each of them
+    unaVolta,  ///< one of the same number, operation and words as one told before is passed over
+    mai,       ///< none: whoever calls looks at riuscita()
+};
 
 /// The calculation engine: capacity of the entries, balancing of the flows round the ring, simulation over time.
 ///
@@ -20,7 +29,10 @@ namespace kelvo {
 /// parameters of the legs that stand before the first missing one.
 class modCalcolo {
 public:
-    explicit modCalcolo(Applicazione& app) : app_(app) {}
+    explicit modCalcolo(Applicazione& app, Racconto racconto = Racconto::sempre) : app_(app), racconto_(racconto) {}
+
+    /// True if the operation run last ended without a fault; true before the first.
+    bool riuscita() const { return riuscita_; }
 
     /// Intercept F and slope Fc of every entry's capacity line, with K, Td, S, X2 on the way.
     /// Faults pass to the caller: 11 for a flare length or an entry radius of 0 or a sharpness of -0.5, 6 for an
@@ -57,7 +69,13 @@ private:
     template <class Operazione>
     void gestisci(const char* metodo, Operazione operazione);
 
+    /// True if this fault is to be told.
+    bool daRaccontare(const std::string& impronta);
+
     Applicazione& app_;
+    Racconto racconto_;
+    bool riuscita_ = true;
+    std::vector<std::string> raccontati_;  ///< faults told so far, where each is told once
     std::array<double, 4> quoteSvoltaDX_{};
     MemoriaSimulazione memoria_;
 };

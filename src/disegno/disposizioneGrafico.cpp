@@ -6,6 +6,7 @@
 #include "disegno/serieGrafico.h"
 #include "disegno/soglieGrafico.h"
 #include "disegno/testiGrafico.h"
+#include "disegno/tornadoGrafico.h"
 #include "disegno/tortaGrafico.h"
 
 namespace kelvo::disegno {
@@ -122,9 +123,9 @@ bool vuoto(const Contenuto& contenuto) {
     return std::all_of(contenuto.serie.begin(), contenuto.serie.end(), [](const Serie& s) { return s.valori.empty(); });
 }
 
-bool soloTorta(const Contenuto& contenuto) {
+bool tutte(const Contenuto& contenuto, Forma forma) {
     return !contenuto.serie.empty() && std::all_of(contenuto.serie.begin(), contenuto.serie.end(),
-                                                   [](const Serie& s) { return s.forma == Forma::torta; });
+                                                   [forma](const Serie& s) { return s.forma == forma; });
 }
 
 /// What to do next, in the middle of a chart without values.
@@ -175,9 +176,16 @@ void disponiTutto(const Contenuto& contenuto, QRectF spazio, QSizeF misura, Disp
     if (contenuto.legenda && misura.height() >= altezzaLegenda) {
         disponiLegenda(contenuto, spazio, d);
     }
-    if (soloTorta(contenuto)) {
+    if (tutte(contenuto, Forma::torta)) {
         d.campo = spazio;
         if (!disponiTorta(contenuto, spazio, d)) {
+            disponiInvito(contenuto, d);
+        }
+        return;
+    }
+    if (tutte(contenuto, Forma::tornado)) {
+        d.campo = spazio;
+        if (!disponiTornado(contenuto, spazio, d)) {
             disponiInvito(contenuto, d);
         }
         return;

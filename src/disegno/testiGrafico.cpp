@@ -64,9 +64,17 @@ QString accorciato(const QString& parole, double larga, Tipo tipo) {
     if (larghezza(parole, tipo) <= larga) {
         return parole;
     }
-    const QString corto = QFontMetricsF(carattere(tipo)).elidedText(parole, Qt::ElideMiddle, larga);
     constexpr int almeno = 3;
-    return corto.size() < almeno || larghezza(corto, tipo) > larga ? QString() : corto;
+    constexpr int tentativi = 4;
+    const QFontMetricsF metrica(carattere(tipo));
+    for (int i = 0; i < tentativi; ++i) {
+        // What the toolkit shortens may come out a little wider than it was asked for: kerning across the dots.
+        const QString corto = metrica.elidedText(parole, Qt::ElideMiddle, larga - i);
+        if (corto.size() < almeno || larghezza(corto, tipo) <= larga) {
+            return corto.size() < almeno ? QString() : corto;
+        }
+    }
+    return {};
 }
 
 Disposizione::Testo testoPresso(Disposizione::Testi ruolo, const QString& parole, QPointF punto, QPointF parte,

@@ -211,6 +211,211 @@ def curve_json(file, number, target):
     return json.dumps(run, ensure_ascii=False, separators=(",", ":")) + "\n"
 
 
+LANES = ("A", "B", "C", "D")
+LANE_ROWS = (("Flusso Tot[veic.eq]", 2), ("Capacità [veic/h]", 2), ("Coeff. saturazione", 2), ("Coda [veic]", 1),
+             ("Ritardo [s/veic]", 1))
+
+
+def without_zeros(text):
+    return text.rstrip("0").rstrip(",") if "," in text else text
+
+
+def number_of(text):
+    return float(text.replace(",", "."))
+
+
+def lane_change(before, after):
+    if number_of(before) == 0:
+        return "0%" if number_of(after) == 0 else "n.d."
+    text = without_zeros(shown_double((number_of(before) - number_of(after)) / number_of(before) * 100, 2))
+    return ("0" if text == "-0" else text) + "%"
+
+
+def lane_totals(records):
+    """Of each entry: vehicles, and the largest of the other four."""
+    totals = []
+    for i in range(4):
+        mine = [record[i] for record in records]
+        flow = 0.0
+        for values in mine:
+            flow += values[0] * motore.STEP
+        totals.append([flow] + [max([0.0] + [values[q] for values in mine]) for q in (1, 2, 3, 4)])
+    return totals
+
+
+def lane_runs(file, project, lanes):
+    source, mode = "curve" if file["TipoAnalisi"] == 1 else "table", str(file["TipoFlusso"])
+    return [lane_totals(motore.run(project, source, mode, form, lanes=lanes)[1]) for form in ("plain", "right-turn")]
+
+
+def lane_rows(runs):
+    rows = [[""] + ["RAMO " + leg for leg in LANES]]
+    for q, (name, decimals) in enumerate(LANE_ROWS):
+        plain_row, lane_row = ([shown_double(run[i][q], decimals) for i in range(4)] for run in runs)
+        rows += [[name] + plain_row, [name + "(*)"] + lane_row,
+                 ["Variazione %"] + [lane_change(a, b) for a, b in zip(plain_row, lane_row)]]
+    rows += [[name] + [level(number_of(cell)) for cell in rows[row][1:]] for name, row in (("L.O.S.", 13),
+                                                                                            ("L.O.S.(*)", 14))]
+    return rows
+
+
+def lanes_text(file, project, lanes):
+    text = "ANALISI CORSIA PREFERENZIALE SVOLTA IN DESTRA: \r\n\r\nIPOTESI:\r\n"
+    for lane in lanes:
+        goal = (lane + 1) % 4
+        unit = "[%]" if file["TipoMatriceSvolte"] == 1 else "[veic.]"
+        text += "Posizione %d: (svolta Ramo %s-->Ramo %s) ==> %s %s\r\n" % (
+            lane + 1, LANES[lane], LANES[goal], without_zeros("%.7g" % file["MatriceSvolte"][lane][goal]).replace(
+                ".", ","), unit)
+    line = "---------------\r\n"
+    return (text + "\r\nCONFRONTO VALORI PRESTAZIONALI\r\n\r\n" +
+            table_text(lane_rows(lane_runs(file, project, lanes)), True, lambda row: False) + "\r\n" + line +
+            "L.O.S. (Level of service) - HCM Americano\r\n"
+            "(*) Valore dovuto all'introduzione della corsia preferenziale di svolta in destra\r\n" + line +
+            closing(file)[2:])
+
+
+def lanes_json(file, project, lanes):
+    runs = lane_runs(file, project, lanes)
+    rows = lane_rows(runs)
+    names = ("Flusso", "Capacita", "Coeff_Sat", "Coda", "Ritardo")
+
+    def totals(run, row, i):
+        # The largest are singles in doubles: the shortest form is that of the double.
+        return dict(zip(names, map(plain, runs[run][i])), LOS=rows[row][i + 1])
+
+    legs = [{"Key": leg["Key"], "Descrizione": leg["Descrizione"], "senza": totals(0, 16, i), "con": totals(1, 17, i)}
+            for i, leg in enumerate(file["Rami"])]
+    run = {"file": "%s.klv" % file["NomeFile"], "NomeFile": file["NomeFile"], "TipoAnalisi": file["TipoAnalisi"],
+           "TipoFlusso": file["TipoFlusso"],
+           "corsie_dx": [{"posizione": lane + 1, "origine": lane + 1, "destinazione": (lane + 1) % 4 + 1,
+                          "quota": plain_single(project["p"][lane][(lane + 1) % 4])} for lane in lanes],
+           "rami": legs, "tabella": rows, "errori": []}
+    return json.dumps(run, ensure_ascii=False, separators=(",", ":")) + "\n"
+
+
+# Word of the command line, name, unit, key of the leg, names of flag and step in the file, lower limit.
+MEASURES = (
+    ("larghezza", "Larghezza ingresso", "m", "e", "UsaLarghezzaIngresso", "LarghezzaIngresso", 3.1),
+    ("semilarghezza", "Semilarghezza accesso", "m", "v", "UsaSemiLarghezza", "SemiLarghezza", 1.0),
+    ("svasatura", "Lunghezza svasatura", "m", "l", "UsaLunghezzaSvasatura", "LungSvasatura", 1.0),
+    ("angolo", "Angolo di conflitto", "°", "phi", "UsaAngoloConflitto", "AngoloConflitto", 0.0),
+    ("raggio", "Raggio curvatura ingresso", "m", "r", "UsaRaggioCurvatura", "RaggioCurvatura", 3.0),
+    ("diametro", "Diametro inscritto", "m", "D", "UsaDiametroInscritto", "DiametroInscritto", 13.0),
+)
+
+
+def balanced_double(lines, w):
+    f = [line[0] for line in lines]
+    q = [0.0] * len(f)
+    while True:
+        change = 0.0
+        for i in range(len(f)):
+            new = f[i]
+            for j in range(len(f)):
+                new -= w[j][i] * q[j]
+            change = max(change, abs(q[i] - new))
+            q[i] = new
+        if change < 0.001:
+            return q
+
+
+def step_result(file, project, number, key, value):
+    """Capacity, queue and delay of the entry with one measure changed; the capacity alone of the balancing."""
+    analysis, mode = file["TipoAnalisi"], str(file["TipoFlusso"])
+    if analysis == 0:
+        lines = [motore.parameters(dict(leg, **{key: value}) if i + 1 == number else leg)
+                 for i, leg in enumerate(project["legs"])]
+        return [motore.single(balanced_double(lines, motore.weights(project, lines))[number - 1])]
+    source = "curve" if analysis == 1 else "table"
+    peak = (0.0,) * 5
+    for record in motore.run(project, source, mode, "what-if", number, {key: value})[1]:
+        if record[number - 1][0] > peak[0]:
+            peak = record[number - 1]
+    return [peak[1], peak[3], peak[4]]
+
+
+def relative(text, reference):
+    if not text or number_of(reference) == 0:
+        return ""
+    change = (number_of(text) - number_of(reference)) / number_of(reference)
+    percent = (Decimal("%.15g" % change) * 100).quantize(Decimal("0.01"), rounding=ROUND_HALF_UP)
+    return "%s%%" % str(abs(percent) if not percent else percent).replace(".", ",")
+
+
+def steps_of(file, project, number, measure):
+    """The rows of the table, and for each step its measure, whether it is valid, and its results."""
+    _, name, _, key, _, step_name, lowest = measure
+    step = file["Rami"][number - 1]["theAnalisiMarginale"][step_name]
+    reference = motore.single(project["legs"][number - 1][key])
+    rows = [["Step ->"], [name], ["Capacità [veic/h]"], ["Variazione Capacità"], ["Coda [veic]"], ["Variazione coda"],
+            ["Ritardo [s/veic]"], ["Variazione ritardo"]]
+    steps = []
+    for i in range(-3, 4):
+        sign = shown_double(i * step, 2)
+        rows[0].append(sign if i < 0 else "+" + sign)
+        rows[1].append(shown_double(reference + i * step, 2))
+        value = motore.single(number_of(rows[1][-1]))
+        valid = number_of(rows[1][-1]) >= lowest
+        found = step_result(file, project, number, key, value) if valid else []
+        steps.append((i, value, valid, found))
+        for row, place, decimals in ((2, 0, 2), (4, 1, 1), (6, 2, 1)):
+            there = file["TipoAnalisi"] != 0 or place == 0
+            rows[row].append("" if not there else shown(found[place], decimals) if valid else "0")
+    for row in (2, 4, 6):
+        rows[row + 1] += [relative(cell, rows[row][4]) if step[2] else "" for cell, step in zip(rows[row][1:], steps)]
+    return rows, steps
+
+
+def steps_text(file, project, number, measures):
+    texts = []
+    for measure in measures:
+        rows, _ = steps_of(file, project, number, measure)
+        rows = [[cell + "*" if c == 4 and cell else cell for c, cell in enumerate(row)] for row in rows]
+        texts.append("Risultati: Ottimizzazione Geometrica *** %s\r\n\r\n" % measure[1] +
+                     table_text(rows, True, lambda row: row in (1, 2, 4, 6)) + "\r\n\r\n" + "=" * 58 +
+                     "\r\n\r\n(*) Valore iniziale di riferimento" + closing(file))
+    return "\r\n".join(texts)
+
+
+def steps_json(file, project, number, measures):
+    leg = file["Rami"][number - 1]
+    parameters = []
+    for measure in measures:
+        rows, steps = steps_of(file, project, number, measure)
+        listed = []
+        for i, value, valid, found in steps:
+            step = {"i": i, "misura": plain_single(value), "valido": valid}
+            step.update(zip(("Capacita", "Coda", "Ritardo"), map(plain_single, found)))
+            listed.append(step)
+        parameters.append({"parametro": measure[0], "nome": measure[1], "unita": measure[2],
+                           "passo": plain(leg["theAnalisiMarginale"][measure[5]]), "passi": listed, "tabella": rows})
+    run = {"file": "%s.klv" % file["NomeFile"], "NomeFile": file["NomeFile"], "TipoAnalisi": file["TipoAnalisi"],
+           "TipoFlusso": file["TipoFlusso"], "Key": leg["Key"], "Descrizione": leg["Descrizione"],
+           "parametri": parameters, "errori": []}
+    return json.dumps(run, ensure_ascii=False, separators=(",", ":")) + "\n"
+
+
+# What of the two analyses is written: project, lanes; project, leg, measures (none: those chosen in the project).
+LANE_CASES = (("Rotatoria_Tangenziale_est", (0, 2)), ("Rotatoria_Viale_della_Stazione", (0, 1, 2, 3)))
+STEP_CASES = (("Rotatoria_Viale_della_Stazione", 1, ()), ("Rotatoria_Aurelia_Sette_Strade", 2, ()),
+              ("Rotatoria_Tangenziale_est", 3, ("larghezza",)), ("Rotatoria_Piazza_Italia", 2, ("svasatura",)),
+              ("Rotatoria_Via_dei_Mulini", 2, ("angolo",)))
+
+
+def write_analyses(name, file, project):
+    for case, lanes in LANE_CASES:
+        if case == name:
+            write("%s.corsia-dx.txt" % name, lanes_text(file, project, lanes))
+            write("%s.corsia-dx.json" % name, lanes_json(file, project, lanes))
+    for case, number, words in STEP_CASES:
+        if case == name:
+            flags = file["Rami"][number - 1]["theAnalisiMarginale"]
+            measures = [m for m in MEASURES if (m[0] in words if words else flags[m[4]])]
+            write("%s.sensibilita.txt" % name, steps_text(file, project, number, measures))
+            write("%s.sensibilita.json" % name, steps_json(file, project, number, measures))
+
+
 def write(name, text):
     (QUI / "attesi" / name).write_bytes(text.encode("utf-8"))
 
@@ -228,6 +433,7 @@ def main():
         if path.stem == IN_JSON:
             write("%s.calcola.json" % path.stem, run_json(file, ultimate, records))
             write("%s.curva.json" % path.stem, curve_json(file, 3, "500"))
+        write_analyses(path.stem, file, project)
         if analysis == 1:
             write("%s.curva.txt" % path.stem, curve_text(file, 1, ""))
             write("%s.curva-obiettivo.txt" % path.stem, curve_text(file, 2, "600"))

@@ -130,6 +130,19 @@ const std::array usiErrati{
               {"curva", "--ramo", "1", "--obiettivo", "1e3", "x.klv"},
               "--obiettivo: serve un numero di veicoli sopra 0, non '1e3'"},
     UsoErrato{"TargetWithoutValue", {"curva", "--ramo", "1", "x.klv", "--obiettivo"}, "--obiettivo: manca il valore"},
+    UsoErrato{"LanesWithoutPlaces", {"corsia-dx", "x.klv"}, "manca l'opzione --posizioni"},
+    UsoErrato{"LanesOfPlaceFive",
+              {"corsia-dx", "--posizioni", "1,5", "x.klv"},
+              "--posizioni: servono posizioni da 1 a 4, separate da virgole, non '1,5'"},
+    UsoErrato{"LanesOfNoPlace", {"corsia-dx", "--posizioni", "", "x.klv"}, "--posizioni: il testo è vuoto"},
+    UsoErrato{"LanesWithoutFile", {"corsia-dx", "--posizioni", "1"}, "manca il nome del file di progetto"},
+    UsoErrato{"StepsWithoutLeg", {"sensibilita", "x.klv"}, "manca l'opzione --ramo"},
+    UsoErrato{
+        "StepsOfLegEight", {"sensibilita", "--ramo", "8", "x.klv"}, "--ramo: serve un numero intero da 1 a 7, non '8'"},
+    UsoErrato{"StepsOfAnUnknownMeasure",
+              {"sensibilita", "--ramo", "1", "--parametro", "altezza", "x.klv"},
+              "--parametro: serve uno tra larghezza, semilarghezza, svasatura, angolo, raggio, diametro, non "
+              "'altezza'"},
     UsoErrato{
         "CurveWithNight", {"curva", "--ramo", "1", "--notte", "5", "x.klv"}, "argomento non riconosciuto: '--notte'"},
 };
@@ -162,14 +175,18 @@ TEST_P(Aiuto, IsItalianAndEndsWithExamples) {
     EXPECT_EQ(parolaInglese(esito.uscita), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Comandi, Aiuto, testing::Values("calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva", "controllo"),
-    [](const auto& caso) { return std::string(caso.param).substr(0, std::string(caso.param).find('-')); });
+INSTANTIATE_TEST_SUITE_P(Comandi, Aiuto,
+                         testing::Values("calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva",
+                                         "corsia-dx", "sensibilita", "controllo"),
+                         [](const auto& caso) {
+                             return std::string(caso.param).substr(0, std::string(caso.param).find('-'));
+                         });
 
 TEST(AiutoGenerale, OfTheProgramNamesEveryCommand) {
     const Esito esito = kelvoCli({"--help"});
     EXPECT_EQ(esito.codice, 0);
-    for (const char* comando : {"calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva", "controllo"}) {
+    for (const char* comando : {"calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva", "corsia-dx",
+                                "sensibilita", "controllo"}) {
         EXPECT_NE(esito.uscita.find(std::string("\n  ") + comando + " "), std::string::npos) << comando;
     }
     EXPECT_NE(esito.uscita.find("\nComandi:\n"), std::string::npos);

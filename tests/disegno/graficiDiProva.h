@@ -169,6 +169,35 @@ inline Contenuto conNegativi() {
     return c;
 }
 
+/// What a step of each measure changes, the largest first.
+inline Contenuto tornado(std::size_t righe = 6) {
+    Contenuto c;
+    c.titolo = "Capacità: variazione per un passo di ogni grandezza";
+    c.y.titolo = "Variazione Capacità [veic/h]";
+    c.x.posa = Posa::nome;
+    c.x.etichette = {"Angolo di conflitto ±5,00°",    "Larghezza ingresso ±0,05 m",
+                     "Semilarghezza accesso ±0,05 m", "Raggio curvatura ingresso ±1,00 m",
+                     "Lunghezza svasatura ±0,50 m",   "Diametro inscritto ±1,00 m"};
+    std::vector<double> giu{19.02, -8.29, -4.48, -2.82, -1.51, -0.66};
+    std::vector<double> su{-19.02, 8.19, 4.38, 2.55, 1.45, 0.71};
+    c.x.etichette.resize(righe);
+    giu.resize(righe);
+    su.resize(righe);
+    c.serie = {{.nome = "un passo in meno",
+                .forma = Forma::tornado,
+                .colore = tinta::secondario,
+                .valori = giu,
+                .testi = testi(giu, "#0.00")},
+               {.nome = "un passo in più",
+                .forma = Forma::tornado,
+                .colore = tinta::serieCapacita,
+                .valori = su,
+                .testi = testi(su, "#0.00")}};
+    c.valori = true;
+    c.legenda = true;
+    return c;
+}
+
 inline Contenuto senzaDati() {
     Contenuto c = prestazioni(ritardi, 10);
     c.serie.clear();

@@ -91,7 +91,9 @@ inline std::map<std::string, Contenuto> tutti() {
             {"soglie linee", prova::conSoglie(Forma::linee)},
             {"due serie", prova::dueSerie()},
             {"negativi", prova::conNegativi()},
-            {"vuoto", prova::senzaDati()}};
+            {"vuoto", prova::senzaDati()},
+            {"tornado", prova::tornado()},
+            {"tornado di uno", prova::tornado(1)}};
 }
 
 }  // namespace kelvo::disegno

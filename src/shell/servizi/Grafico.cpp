@@ -108,7 +108,7 @@ void Grafico::mostraValori(bool valore) {
 void Grafico::forma(Forma valore) {
     std::vector<Serie> nuove = contenuto_.serie;
     for (Serie& serie : nuove) {
-        if (serie.forma != Forma::torta) {
+        if (serie.forma != Forma::torta && serie.forma != Forma::tornado) {
             serie.forma = valore;
         }
     }

@@ -22,7 +22,9 @@ std::vector<std::string> etichetteDaTesto(std::string_view testo);
 /// What a chart shows; a painter makes a picture of it.
 class Grafico final : public Controllo {
 public:
-    enum class Forma { barre, linee, torta };
+    /// `tornado`: bars that lie, to both sides of 0, one row a value named by the labels of `x`; the axis of `y` lies
+    /// below them. Not to be mixed with the others.
+    enum class Forma { barre, linee, torta, tornado };
 
     /// How the labels of an axis stand, and what becomes of them where they do not fit.
     enum class Posa {
@@ -102,7 +104,7 @@ public:
     void svuota();
     /// Shows or hides the labels of the values.
     void mostraValori(bool valore);
-    /// Draws all series as bars or as lines. Slices stay slices.
+    /// Draws all series as bars or as lines. Slices stay slices, lying bars stay lying.
     void forma(Forma valore);
 
     /// True where there is no value to draw.

@@ -1,0 +1,32 @@
+#include "impedimenti.h"
+
+#include <fmt/format.h>
+
+#include "results/calcoloIpotesi.h"
+#include "results/corsiaDestra.h"
+
+namespace kelvo::cli {
+
+std::string impedimentoAnalisi(const Rotonda& rotonda) {
+    if (rotonda.TipoAnalisi() < analisi::saturazione || rotonda.TipoAnalisi() > analisi::tabella) {
+        return fmt::format("il tipo di analisi {} non è previsto: i valori sono 0, 1 e 2", rotonda.TipoAnalisi());
+    }
+    return {};
+}
+
+std::string impedimentoCorsie(const Rotonda& rotonda) {
+    if (const std::string motivo = impedimentoAnalisi(rotonda); !motivo.empty()) {
+        return motivo;
+    }
+    if (rotonda.TipoAnalisi() == analisi::saturazione) {
+        return "le corsie di svolta a destra non hanno effetto su un'analisi della sola saturazione";
+    }
+    if (!corsieDisponibili(rotonda)) {
+        return fmt::format(
+            "corsie di svolta a destra: funzione disponibile solo per rotatorie a quattro ingressi, questa ne ha {}",
+            rotonda.NumeroRami());
+    }
+    return {};
+}
+
+}  // namespace kelvo::cli

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+#include "model/Rotonda.h"
+
+namespace kelvo::cli {
+
+// Why a project does not allow what a command asks for; an empty text where it does.
+
+/// For any calculation: the kind of analysis.
+std::string impedimentoAnalisi(const Rotonda& rotonda);
+/// For right-turn lanes: kind of analysis and number of legs.
+std::string impedimentoCorsie(const Rotonda& rotonda);
+
+}  // namespace kelvo::cli
