@@ -8,6 +8,7 @@
 #include "app/modCommonModule.h"
 #include "app/servizi.h"
 #include "app/serviziSistema.h"
+#include "app/statoRisultati.h"
 #include "base/file.h"
 #include "model/Rotonda.h"
 
@@ -42,6 +43,8 @@ public:
     clsAmbiente theAmbiente;
     Configurazione configurazione;
     modCommonModule comune;
+    /// Statistics and thresholds that the result windows share.
+    StatoRisultati risultati;
     /// The clipboard; null where there is none (no desktop).
     Appunti* appunti = nullptr;
 
@@ -56,6 +59,13 @@ public:
     /// Replaces the content of the project from a file, as Rotonda::Load. If that succeeds no leg is the current one
     /// any more: the old ones are gone. If it fails, project and current leg stay.
     void caricaRotonda(const std::string& percorso, std::string& messaggio, bool& esito);
+    /// What a calculation would read beside the project at this moment.
+    AmbienteCalcolo ambienteCalcolo() const {
+        const std::int16_t notte = rotonda_->CondizioniNotturne() ? theAmbiente.PercentualeNotturna() : std::int16_t{0};
+        return {notte, configurazione.coefficienti()};
+    }
+    /// True if the records are those of the project as it stands, with what is in force at this moment.
+    bool risultatiAttuali() const { return rotonda_->risultatiAttuali(ambienteCalcolo()); }
     /// The leg whose window is open, if any; owned by the project.
     Ramo* theRamoCorrente = nullptr;
 

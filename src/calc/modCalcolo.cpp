@@ -69,7 +69,7 @@ void modCalcolo::bilanciamentoPiano() {
     Rotonda& rotonda = app_.theRotonda();
     Calcola_Parametri();
     scriviCapacitaUltime(rotonda, bilancia<float>(rotonda).soluzione.Q);
-    rotonda.timbra(FormaCalcolo::bilanciamento);
+    rotonda.timbra(FormaCalcolo::bilanciamento, app_.ambienteCalcolo());
 }
 
 void modCalcolo::bilanciamentoIpotesi(std::int16_t indice, const Geometria& g) {
@@ -86,7 +86,7 @@ void modCalcolo::bilanciamentoIpotesi(std::int16_t indice, const Geometria& g) {
             traffico.SetIterazione(static_cast<std::int16_t>(k), record);
         }
     }
-    rotonda.timbra(FormaCalcolo::ipotesi);
+    rotonda.timbra(FormaCalcolo::ipotesi, app_.ambienteCalcolo());
 }
 
 void modCalcolo::simula(const RichiestaSimulazione& richiesta) {

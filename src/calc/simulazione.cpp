@@ -144,7 +144,7 @@ void Simulazione::esegui() {
     }
     calcolaPortate(K);
     scriviRecord(K);
-    rotonda_.timbra(richiesta_.forma);
+    rotonda_.timbra(richiesta_.forma, app_.ambienteCalcolo());
 }
 
 void Simulazione::bilanciaRete() {

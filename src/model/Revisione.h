@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -23,10 +24,18 @@ enum class FormaCalcolo {
     bilanciamento,  ///< ultimate capacities alone; the records are not touched
 };
 
-/// What a calculation leaves behind: its form and the input that it read.
+/// What a calculation reads and no project holds.
+struct AmbienteCalcolo {
+    std::int16_t notte = 0;              ///< reduction of all capacities at night, per cent; 0 where it is not in force
+    std::array<float, 7> equivalenti{};  ///< equivalent-car coefficients, in the order of the engine
+    friend bool operator==(const AmbienteCalcolo&, const AmbienteCalcolo&) = default;
+};
+
+/// What a calculation leaves behind: its form, the input that it read and what was in force.
 struct Timbro {
     FormaCalcolo forma = FormaCalcolo::nessuna;
     std::uint64_t revisione = 0;
+    AmbienteCalcolo ambiente{};
     friend bool operator==(const Timbro&, const Timbro&) = default;
 };
 

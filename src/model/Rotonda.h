@@ -160,12 +160,16 @@ public:
     const Revisione& revisione() const { return revisione_; }
     /// What the last calculation left.
     const Timbro& timbro() const { return timbro_; }
-    /// Stamps the results as left by a calculation of `forma` on the input as it stands.
-    void timbra(FormaCalcolo forma) { timbro_ = {forma, revisione_.calcolo}; }
-    /// True if the records are those of the project as it stands.
-    bool risultatiAttuali() const {
-        return timbro_.forma == FormaCalcolo::piana && timbro_.revisione == revisione_.calcolo;
+    /// Stamps the results as left by a calculation of `forma` on the input as it stands, with `ambiente` in force.
+    void timbra(FormaCalcolo forma, const AmbienteCalcolo& ambiente = {}) {
+        timbro_ = {forma, revisione_.calcolo, ambiente};
     }
+    /// True if figures of that stamp are those of the project as it stands, with `ambiente` in force.
+    bool attuale(const Timbro& timbro, const AmbienteCalcolo& ambiente) const {
+        return timbro == Timbro{FormaCalcolo::piana, revisione_.calcolo, ambiente};
+    }
+    /// True if the records are those of the project as it stands, with `ambiente` in force.
+    bool risultatiAttuali(const AmbienteCalcolo& ambiente) const { return attuale(timbro_, ambiente); }
 
 private:
     struct Dati {

@@ -1,7 +1,5 @@
 #include "results/livelloServizio.h"
 
-#include <array>
-
 #include "base/numeri.h"
 
 namespace kelvo {
@@ -46,6 +44,23 @@ int codiceLivello(std::string_view livello) {
         }
     }
     return livello == ultimoLivello ? ultimoCodice : 0;
+}
+
+std::string_view livelloDiCodice(int codice) {
+    const int posto = codice / passoCodici;
+    const bool noto = codice >= 0 && codice <= ultimoCodice && codice % passoCodici == 0;
+    return noto ? livelliServizio[static_cast<std::size_t>(posto)] : nessunLivello;
+}
+
+std::string_view livelloMedio(double codice) {
+    constexpr std::array limiti{0.0, 5.0, 10.0, 20.0, 25.0, 30.0};
+    constexpr std::array<std::string_view, limiti.size()> lettere{"-", "A", "B", "C", "D", "E"};
+    for (std::size_t i = 0; i < limiti.size(); ++i) {
+        if (codice <= limiti[i]) {
+            return lettere[i];
+        }
+    }
+    return ultimoLivello;
 }
 
 }  // namespace kelvo

@@ -4,35 +4,17 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
+#include "results/grandezze.h"
 #include "results/livelloServizio.h"
 
 namespace kelvo {
 
 namespace {
 
-/// A column of figures: its heading, the field of the record and its format.
-struct Colonna {
-    std::string_view intestazione;
-    float Iterazione::*campo;
-    Formato formato;
-};
-
-constexpr std::array colonne{
-    Colonna{"Flusso [veic/min]", &Iterazione::Flusso, "#0.00"},
-    Colonna{"Capacità [veic/h]", &Iterazione::Capacita, "#0.00"},
-    Colonna{"Coeff. saturazione", &Iterazione::Coeff_Sat, "#0.000"},
-    Colonna{"Coda [veic]", &Iterazione::Coda, "#0.0"},
-    Colonna{"Ritardo [s/veic]", &Iterazione::Ritardo, "#0.0"},
-};
-constexpr std::string_view intestazioneLivello = "L.O.S.";
-constexpr int colonnaRitardo = 5;
-constexpr int colonnaLivello = 6;
-constexpr int numeroColonne = 7;
 constexpr std::array larghezzeColonne{2000, 1300, 1400, 1400, 1000, 1300, 900};
 
 int rigaBanda(const Rotonda& rotonda, int k) {
@@ -45,11 +27,11 @@ void colora(Cella& cella, Colore sfondo, Colore inchiostro) {
 }
 
 void impostaIntestazione(Tabella& tabella) {
-    for (int c = 0; c < numeroColonne; ++c) {
+    for (int c = 0; c < colonneRisultati; ++c) {
         colora(tabella.cella(0, c), colori::intestazione, colori::bianco);
     }
-    for (std::size_t c = 0; c < colonne.size(); ++c) {
-        tabella.cella(0, static_cast<int>(c) + 1).testo = colonne[c].intestazione;
+    for (std::size_t c = 0; c < grandezze.size(); ++c) {
+        tabella.cella(0, static_cast<int>(c) + 1).testo = grandezze[c].intestazione;
     }
     tabella.cella(0, colonnaLivello).testo = intestazioneLivello;
 }
@@ -59,7 +41,7 @@ void impostaIntervallo(const Rotonda& rotonda, Tabella& tabella, int k) {
     Cella& titolo = tabella.cella(banda, 0);
     titolo.testo = testoIntervallo(rotonda, k);
     colora(titolo, colori::intestazione, colori::bianco);
-    for (int c = 1; c < numeroColonne; ++c) {
+    for (int c = 1; c < colonneRisultati; ++c) {
         tabella.cella(banda, c).sfondo = colori::dati;
     }
     for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
@@ -67,6 +49,16 @@ void impostaIntervallo(const Rotonda& rotonda, Tabella& tabella, int k) {
         nome.testo = rotonda.Ramo(i).Descrizione();
         colora(nome, colori::nomeIngresso, colori::bianco);
     }
+}
+
+Tabella conIntervalli(const Rotonda& rotonda, int intervalli) {
+    Tabella tabella((rotonda.NumeroRami() + 1) * intervalli + 1, colonneRisultati);
+    tabella.larghezze.assign(larghezzeColonne.begin(), larghezzeColonne.end());
+    impostaIntestazione(tabella);
+    for (int k = 1; k <= intervalli; ++k) {
+        impostaIntervallo(rotonda, tabella, k);
+    }
+    return tabella;
 }
 
 }  // namespace
@@ -82,14 +74,12 @@ std::string testoIntervallo(const Rotonda& rotonda, int k) {
 }
 
 Tabella impostaTabellaVerifiche(const Rotonda& rotonda) {
-    const int intervalli = std::max(0, numeroIntervalli(rotonda));
-    Tabella tabella((rotonda.NumeroRami() + 1) * intervalli + 1, numeroColonne);
-    tabella.larghezze.assign(larghezzeColonne.begin(), larghezzeColonne.end());
-    impostaIntestazione(tabella);
-    for (int k = 1; k <= intervalli; ++k) {
-        impostaIntervallo(rotonda, tabella, k);
-    }
-    return tabella;
+    return conIntervalli(rotonda, std::max(0, numeroIntervalli(rotonda)));
+}
+
+Tabella tabellaVerificheVuota(const Rotonda& rotonda) {
+    const bool senzaPasso = minutoCampo(rotonda.SegmentoTempo()) == 0;
+    return conIntervalli(rotonda, senzaPasso ? 0 : std::max(0, numeroIntervalli(rotonda)));
 }
 
 void riempiTabellaVerifiche(const Rotonda& rotonda, Tabella& tabella) {
@@ -108,9 +98,9 @@ void riempiTabellaVerifiche(const Rotonda& rotonda, Tabella& tabella) {
         for (std::int16_t s = 1; s <= traffico.NumSegmentiTempo(); ++s) {
             const Iterazione record = traffico.GetIterazione(s);
             const int riga = rigaBanda(rotonda, s) + i;
-            for (std::size_t c = 0; c < colonne.size(); ++c) {
+            for (std::size_t c = 0; c < grandezze.size(); ++c) {
                 tabella.cella(riga, static_cast<int>(c) + 1).testo =
-                    formatta(record.*colonne[c].campo, colonne[c].formato);
+                    formatta(record.*grandezze[c].campo, grandezze[c].formato);
             }
             // The level follows the delay as the table shows it.
             const double mostrato = leggiNumero(tabella.testo(riga, colonnaRitardo)).value_or(0.0);

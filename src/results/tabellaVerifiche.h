@@ -18,6 +18,9 @@ std::string testoIntervallo(const Rotonda& rotonda, int k);
 /// (NumeroRami + 1) x intervals + 1 rows of 7 columns; the headings alone for a window without intervals.
 Tabella impostaTabellaVerifiche(const Rotonda& rotonda);
 
+/// The same for a window that has nothing to show yet: the headings alone for segments of 0 minutes too.
+Tabella tabellaVerificheVuota(const Rotonda& rotonda);
+
 /// Fills the figures and levels of service from the records of every segment of an entry; sets the levels of all other
 /// rows back to black and not bold. Fault 9 if an entry has more segments than the table has intervals.
 void riempiTabellaVerifiche(const Rotonda& rotonda, Tabella& tabella);

@@ -3,6 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "shell/servizi/nonAncora.h"
+
 namespace kelvo {
 
 /// Window of a key of tree or menu.
@@ -56,8 +58,5 @@ inline constexpr std::array<std::string_view, 10> nonAncora{
     "frmOPZrelazione",
     "LinkKELVOCAD",
 };
-
-/// What a closed key tells.
-inline constexpr std::string_view notaNonAncora = "Non ancora disponibile in questa versione";
 
 }  // namespace kelvo

@@ -101,11 +101,12 @@ FormaCalcolo formaDi(const Corsa& corsa) {
     return corsa.richiesta.forma == oracolo::Forma::corsie ? FormaCalcolo::corsiaDestra : FormaCalcolo::piana;
 }
 
-Timbro timbroAtteso(const Timbro& prima, std::uint64_t revisione, const Corsa& corsa, const oracolo::Esito& esito) {
+Timbro timbroAtteso(const Timbro& prima, const Applicazione& app, const Corsa& corsa, const oracolo::Esito& esito) {
+    const std::uint64_t revisione = app.theRotonda().revisione().calcolo;
     if (esito.guasto == 0) {
-        return {formaDi(corsa), revisione};
+        return {formaDi(corsa), revisione, app.ambienteCalcolo()};
     }
-    return esito.scritti.empty() ? prima : Timbro{FormaCalcolo::interrotta, revisione};
+    return esito.scritti.empty() ? prima : Timbro{FormaCalcolo::interrotta, revisione, {}};
 }
 
 oracolo::Esito interroga(oracolo::Progetto& p, const Corsa& corsa) {
@@ -313,7 +314,7 @@ std::string Banco::confronta(const Corsa& corsa) {
             return diverso(fmt::format("{}: QuoteSvoltaDX {}", corsa.nome(), k), a.quoteDX[k], b.quoteDX[k]);
         }
     }
-    const Timbro timbro = timbroAtteso(prima, rotonda().revisione().calcolo, corsa, atteso);
+    const Timbro timbro = timbroAtteso(prima, finta.app, corsa, atteso);
     if (!(rotonda().timbro() == timbro)) {
         return fmt::format("{}: stamp {}/{} expected, found {}/{}", corsa.nome(), static_cast<int>(timbro.forma),
                            timbro.revisione, static_cast<int>(rotonda().timbro().forma), rotonda().timbro().revisione);

@@ -374,6 +374,7 @@ TEST(GuastiBilanciamento, GoodRunsStampTheirForm) {
         EXPECT_EQ(banco.guasto, 0) << corsa.nome();
         EXPECT_EQ(banco.rotonda().timbro().forma, forma) << corsa.nome();
         EXPECT_EQ(banco.rotonda().timbro().revisione, banco.rotonda().revisione().calcolo) << corsa.nome();
+        EXPECT_EQ(banco.rotonda().timbro().ambiente.equivalenti, coefficientiDiFabbrica) << corsa.nome();
     }
 }
 

@@ -419,15 +419,15 @@ TEST_F(ProveRotonda, AMatrixOfAnUnknownKindIsReadAsVehicles) {
 
 TEST_F(ProveRotonda, StampTellsWhetherTheRecordsAreThoseOfTheProject) {
     rami(3);
-    EXPECT_FALSE(rotonda.risultatiAttuali());
+    EXPECT_FALSE(rotonda.risultatiAttuali({}));
     rotonda.timbra(FormaCalcolo::piana);
-    EXPECT_TRUE(rotonda.risultatiAttuali());
+    EXPECT_TRUE(rotonda.risultatiAttuali({}));
     rotonda.Titolo("altro");
-    EXPECT_TRUE(rotonda.risultatiAttuali()) << "a title is read by no calculation";
+    EXPECT_TRUE(rotonda.risultatiAttuali({})) << "a title is read by no calculation";
     rotonda.Ramo(2).theDatiTraffico().FlussoTempo2(9.0F);
-    EXPECT_FALSE(rotonda.risultatiAttuali());
+    EXPECT_FALSE(rotonda.risultatiAttuali({}));
     rotonda.timbra(FormaCalcolo::ipotesi);
-    EXPECT_FALSE(rotonda.risultatiAttuali());
+    EXPECT_FALSE(rotonda.risultatiAttuali({}));
 }
 
 TEST(Rotonda, TheBackupOfTheTrafficEndsWithTheContent) {

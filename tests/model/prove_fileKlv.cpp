@@ -137,7 +137,7 @@ TEST(ProveFileKlv, ALoadRaisesTheRevisionAndTakesTheStampAway) {
     EXPECT_GT(r.revisione().tutto, prima.tutto);
     EXPECT_GT(r.revisione().calcolo, prima.calcolo);
     EXPECT_EQ(r.timbro().forma, FormaCalcolo::nessuna);
-    EXPECT_FALSE(r.risultatiAttuali());
+    EXPECT_FALSE(r.risultatiAttuali({}));
     const Revisione dopo = r.revisione();
     r.Ramo(3).theDatiTraffico().FlussoTempo1(77.0F);
     r.Ramo(3).theComposizioneTraffico().Autovetture(77.0F);
@@ -160,7 +160,7 @@ TEST(ProveFileKlv, AFailedLoadLeavesTheProjectAndItsStampUntouched) {
     EXPECT_FALSE(carica(r, testo).esito);
     EXPECT_EQ(r.TestoFile(), prima);
     EXPECT_EQ(r.revisione().tutto, revisione.tutto);
-    EXPECT_TRUE(r.risultatiAttuali());
+    EXPECT_TRUE(r.risultatiAttuali({}));
     EXPECT_EQ(ramo, &r.Ramo(6));
     r.Clear();
     EXPECT_EQ(r.Rami().Count(), 0);

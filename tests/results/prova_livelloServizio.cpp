@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include <string_view>
 #include <tuple>
 
@@ -47,6 +51,27 @@ TEST(CodiceLivello, GivesTheCodesOfChartsAndMeans) {
     EXPECT_EQ(codiceLivello("F"), 30);
     EXPECT_EQ(codiceLivello("G"), 0);
     EXPECT_EQ(codiceLivello(""), 0);
+}
+
+TEST(LivelloServizio, ACodeHasItsLevelAndAnyOtherNumberNone) {
+    const std::vector<std::pair<int, std::string>> casi{{0, "-"},  {5, "A"},  {10, "B"}, {15, "C"},
+                                                        {20, "D"}, {25, "E"}, {30, "F"}, {35, "-"},
+                                                        {-5, "-"}, {7, "-"},  {31, "-"}};
+    for (const auto& [codice, livello] : casi) {
+        EXPECT_EQ(livelloDiCodice(codice), livello) << codice;
+    }
+    for (const std::string_view livello : livelliServizio) {
+        EXPECT_EQ(livelloDiCodice(codiceLivello(livello)), livello);
+    }
+}
+
+TEST(LivelloServizio, AMeanCodeFallsIntoBandsOfItsOwn) {
+    const std::vector<std::pair<double, std::string>> casi{{0, "-"},  {1, "A"},  {5, "A"},  {6, "B"},  {10, "B"},
+                                                           {11, "C"}, {15, "C"}, {20, "C"}, {21, "D"}, {25, "D"},
+                                                           {26, "E"}, {30, "E"}, {31, "F"}};
+    for (const auto& [codice, livello] : casi) {
+        EXPECT_EQ(livelloMedio(codice), livello) << codice;
+    }
 }
 
 }  // namespace

@@ -159,7 +159,7 @@ TEST(CopiaTraffico, TheRecordsOfTheProjectAreOlderThanItsDataAfterwards) {
     f.nuovo(4);
     f.app.theRotonda().timbra(FormaCalcolo::piana);
     f.cornice.albero.CopyDatiTraffico("1", "2");  // equal legs: nothing but the records goes
-    EXPECT_FALSE(f.app.theRotonda().risultatiAttuali());
+    EXPECT_FALSE(f.app.theRotonda().risultatiAttuali({}));
 }
 
 TEST(CopiaTraffico, AFaultIsRecordedUnderTheLabelOfTheCopy) {

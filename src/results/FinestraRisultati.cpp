@@ -1,0 +1,177 @@
+#include "results/FinestraRisultati.h"
+
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "base/guasto.h"
+#include "base/numeri.h"
+#include "results/inVigore.h"
+#include "shell/servizi/nonAncora.h"
+
+namespace kelvo {
+
+namespace {
+
+namespace testi {
+constexpr const char* invito = "Calcola (F9)";
+constexpr const char* soloSaturazione =
+    "Le verifiche nel tempo non vengono calcolate: l'analisi è di sola saturazione (Opzioni).";
+constexpr const char* datiCambiati =
+    "I dati sono cambiati dopo il calcolo: le cifre non sono più quelle del progetto. Premere Calcola (F9).";
+constexpr const char* interrotto = "Il calcolo si è interrotto: le cifre non sono complete.";
+constexpr const char* ipotesi = "Le cifre sono di un'analisi di ipotesi, non del progetto. Premere Calcola (F9).";
+constexpr const char* nonRiuscito = "Il calcolo non è riuscito: le cifre non sono quelle del progetto.";
+constexpr const char* inVigore = "In vigore nel calcolo";
+constexpr const char* valore = "Valore";
+}  // namespace testi
+
+std::vector<BarraStrumenti::Tasto> tastiRisultati() {
+    return {{"keyCalcola", "Calcola", "Calcola il progetto", "Calcola"},
+            {"keyAnteprima", "Anteprima", "Scrive la tabella in un file di testo e lo apre", "Anteprima"},
+            {"keyRelazione", "Relazione", "Apre la finestra delle relazioni", "Relazione"}};
+}
+
+Tabella tabellaInVigore(const std::vector<VoceInVigore>& voci) {
+    Tabella tabella(static_cast<int>(voci.size()) + 1, 2);
+    tabella.cella(0, 0).testo = testi::inVigore;
+    tabella.cella(0, 1).testo = testi::valore;
+    for (int r = 0; r < tabella.righe(); ++r) {
+        if (r > 0) {
+            const VoceInVigore& voce = voci[static_cast<std::size_t>(r) - 1];
+            tabella.cella(r, 0).testo = voce.nome;
+            tabella.cella(r, 1).testo = voce.valore;
+        }
+        for (int c = 0; c < 2; ++c) {
+            Cella& cella = tabella.cella(r, c);
+            cella.sfondo = r == 0 ? colori::intestazione : c == 0 ? colori::nomeIngresso : colori::dati;
+            cella.inchiostro = r == 0 || c == 0 ? colori::bianco : colori::nero;
+        }
+    }
+    return tabella;
+}
+
+void scriviNota(Etichetta& etichetta, const std::string& testo) {
+    etichetta.testo(testo);
+    etichetta.visibile(!testo.empty());
+}
+
+}  // namespace
+
+FinestraRisultati::FinestraRisultati(const Contorno& contorno, const ServiziRisultati& servizi, std::string nome,
+                                     std::string didascalia)
+    : Finestra(contorno, std::move(nome), std::move(didascalia)),
+      ctlToolbar("ctlToolbar", tastiRisultati()),
+      cmdCalcola("cmdCalcola", testi::invito),
+      lblVecchi("lblVecchi", {}, "ROSSO"),
+      lblFlussi("lblFlussi", {}, "ROSSO"),
+      lblNotte("lblNotte", {}, "ROSSO"),
+      lblInVigore("lblInVigore", {}, "GREY"),
+      ctlInVigore("ctlInVigore"),
+      servizi_(servizi),
+      motore_(app()),
+      anteprima_(contorno, servizi_.finestre, servizi_.documenti) {
+    ctlToolbar.allaPressione = [this](const std::string& chiave) { premuto(chiave); };
+    cmdCalcola.allaPressione = [this] { ctlToolbar.premi("keyCalcola"); };
+    ctlInVigore.colonna(1, {.allineamento = AllineamentoCella::sinistra, .aCapo = true});
+    if (!servizi_.relazione) {
+        ctlToolbar.abilita("keyRelazione", false);
+        ctlToolbar.annota("keyRelazione", std::string{notaNonAncora});
+    }
+    for (Etichetta* nota : {&lblVecchi, &lblFlussi, &lblNotte}) {
+        nota->visibile(false);
+    }
+}
+
+std::vector<Controllo*> FinestraRisultati::comuni() {
+    return {&cmdCalcola, &lblVecchi, &lblFlussi, &lblNotte, &lblInVigore, &ctlInVigore};
+}
+
+void FinestraRisultati::premuto(const std::string& chiave) {
+    if (!lasciaFuoco()) {
+        return;
+    }
+    cornice().avviso({});
+    if (chiave == "keyAnteprima") {
+        anteprima();
+        return;
+    }
+    const std::string metodo = nome() + ":" + chiave;
+    gestisci(metodo.c_str(), [&] {
+        if (chiave == "keyCalcola") {
+            calcola();
+        } else if (chiave == "keyRelazione") {
+            servizi_.relazione();
+        } else {
+            altroTasto(chiave);
+        }
+    });
+    if (chiave == "keyCalcola") {
+        aggiornaNote();  // a calculation that failed is told too
+    }
+}
+
+void FinestraRisultati::simula() {
+    const std::string tipo = testoNumero(static_cast<int>(rotonda().TipoAnalisi()));
+    const std::string flusso = testoNumero(static_cast<int>(rotonda().TipoFlusso()));
+    if (tipo == "1") {
+        motore_.Calcola_Tempo_Flusso(flusso);
+    } else if (tipo == "2") {
+        motore_.Calcola_Tempo_Flusso_ST(flusso);
+    }
+}
+
+std::string FinestraRisultati::motivoVecchi() const {
+    if (!timbro_) {
+        return {};
+    }
+    const Rotonda& r = app().theRotonda();
+    const bool curvaOTabella = r.TipoAnalisi() == 1 || r.TipoAnalisi() == 2;
+    if (!curvaOTabella) {
+        return testi::soloSaturazione;
+    }
+    if (r.attuale(*timbro_, app().ambienteCalcolo())) {
+        return {};
+    }
+    switch (timbro_->forma) {
+        case FormaCalcolo::interrotta:
+            return testi::interrotto;
+        case FormaCalcolo::ipotesi:
+        case FormaCalcolo::corsiaDestra:
+            return testi::ipotesi;
+        case FormaCalcolo::piana:
+            return testi::datiCambiati;
+        case FormaCalcolo::nessuna:
+        case FormaCalcolo::bilanciamento:
+            break;
+    }
+    return testi::nonRiuscito;
+}
+
+void FinestraRisultati::aggiornaNote() {
+    scriviNota(lblVecchi, motivoVecchi());
+    scriviNota(lblFlussi, conFigure() ? motivoFlussi() : std::string{});
+    scriviNota(lblNotte, avvisoNotte(app()));
+    lblInVigore.testo(rigaInVigore(app()));
+    ctlInVigore.tabella(tabellaInVigore(inVigore(app())));
+    cmdCalcola.visibile(!conFigure());
+}
+
+void FinestraRisultati::anteprima() {
+    try {
+        anteprima_.apri(nomeAnteprima(), testoAnteprima());
+    } catch (const Guasto& guasto) {
+        anteprimaFallita(guasto);
+    }
+}
+
+void FinestraRisultati::anteprimaFallita(const Guasto& guasto) {
+    tracciaGuasto(nome() + ":Anteprima", guasto);
+}
+
+void FinestraRisultati::tracciaGuasto(const std::string& metodo, const Guasto& guasto) {
+    app().comune.traceLog(fmt::format("{} {} : {}", metodo, guasto.codice(), guasto.descrizione()));
+    cornice().avviso(guasto.descrizione());
+}
+
+}  // namespace kelvo

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "calc/modCalcolo.h"
+#include "results/ServiziRisultati.h"
+#include "results/frmAnteprimaTesto.h"
+#include "shell/servizi/Griglia.h"
+
+namespace kelvo {
+
+/// Base of the windows that show results: the keys that they have in common, and beside the tables what the reader of a
+/// figure has to know of it.
+class FinestraRisultati : public Finestra {
+public:
+    FinestraRisultati(const Contorno& contorno, const ServiziRisultati& servizi, std::string nome,
+                      std::string didascalia);
+
+    BarraStrumenti ctlToolbar;  ///< keyCalcola, keyAnteprima, keyRelazione
+    BarraStrumenti* barra() override { return &ctlToolbar; }
+    /// Stands in the middle while there are no figures, and does what keyCalcola does.
+    Bottone cmdCalcola;
+    Etichetta lblVecchi;    ///< the figures are not those of the project as it stands, and why; else hidden
+    Etichetta lblFlussi;    ///< why all flows are 0, that the matrix is empty; else hidden
+    Etichetta lblNotte;     ///< night conditions without an incidence; else hidden
+    Etichetta lblInVigore;  ///< what is in force, in one line
+    Griglia ctlInVigore;    ///< the same with all legs and coefficients, name and value
+
+    /// Brings up to date what stands beside the tables. The frame calls it when data changed while the window is shown.
+    void aggiornaNote();
+    void attivata() override { aggiornaNote(); }
+    /// The window shows figures.
+    bool conFigure() const { return timbro_.has_value(); }
+
+protected:
+    /// Calculates and fills the window.
+    virtual void calcola() = 0;
+    /// Text of the export of what the window shows, and name of its file.
+    virtual std::string testoAnteprima() = 0;
+    virtual std::string nomeAnteprima() const { return "Risultati.txt"; }
+    /// The export failed.
+    virtual void anteprimaFallita(const Guasto& guasto);
+    /// A tool bar key that the given three do not cover.
+    virtual void altroTasto(const std::string& /*chiave*/) {}
+    /// Why the figures shown are not those of the project as it stands; empty where they are, or there are none.
+    virtual std::string motivoVecchi() const;
+    /// Why all flows are 0; asked only while there are figures.
+    virtual std::string motivoFlussi() const = 0;
+
+    /// Runs the operation of the project's kind of analysis; nothing for any kind but curve and table.
+    void simula();
+    /// The figures shown are those that the calculation of this stamp left.
+    void figureDi(const Timbro& timbro) { timbro_ = timbro; }
+    /// The window shows no figures any more.
+    void senzaFigure() { timbro_.reset(); }
+    const Timbro& timbroFigure() const { return *timbro_; }
+    /// Runs `esporta`; a fault is traced under `metodo` and told in the status bar.
+    template <class Procedura>
+    void traccia(const std::string& metodo, Procedura esporta) {
+        try {
+            esporta();
+        } catch (const Guasto& guasto) {
+            tracciaGuasto(metodo, guasto);
+        }
+    }
+    void tracciaGuasto(const std::string& metodo, const Guasto& guasto);
+    void anteprima();
+    /// The controls that all result windows have, in tab order.
+    std::vector<Controllo*> comuni();
+    const ServiziRisultati& servizi() const { return servizi_; }
+    modCalcolo& motore() { return motore_; }
+
+private:
+    void premuto(const std::string& chiave);
+
+    ServiziRisultati servizi_;
+    modCalcolo motore_;
+    AnteprimaTesto anteprima_;
+    std::optional<Timbro> timbro_;
+};
+
+}  // namespace kelvo

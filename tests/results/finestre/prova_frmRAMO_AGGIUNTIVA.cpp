@@ -1,0 +1,554 @@
+#include "results/frmRAMO_AGGIUNTIVA.h"
+
+#include <filesystem>
+
+#include "results/frmCapacitaCodeRitardiRamo.h"
+#include "scenaRisultati.h"
+
+namespace kelvo::prove {
+namespace {
+
+/// The per-entry window with figures written by hand, and what it opens.
+struct ProveAggiuntiva : ScenaRisultati {
+    frmCapacitaCodeRitardiRamo finestra{contorno(), servizi()};
+    frmRAMO_AGGIUNTIVA& a = finestra.aggiuntiva;
+
+    ProveAggiuntiva() { r().TipoAnalisi(0); }
+    /// Flow 2 to 12, capacity 500.5 to 900, saturation 0.36 to 1.2, queue 0 to 20.5, delay 4 to 60.
+    void conFigure(int i) {
+        ramo(i).theDatiTraffico().NumSegmentiTempo(4);
+        const Iterazione record[] = {{2.0F, 900.0F, 0.36F, 0.0F, 4.0F},
+                                     {12.0F, 500.5F, 1.2F, 20.5F, 60.0F},
+                                     {8.0F, 700.0F, 0.7F, 3.0F, 20.0F},
+                                     {6.0F, 800.0F, 0.6F, 2.0F, 12.0F}};
+        for (std::int16_t k = 1; k <= 4; ++k) {
+            ramo(i).theDatiTraffico().SetIterazione(k, record[k - 1]);
+        }
+        apri(finestra, "keyCodeRitardi_Out" + std::to_string(i));
+        finestra.ctlToolbar.premi("keyCalcola");
+    }
+    void apriAggiuntiva(bool marker = true) {
+        if (finestra.cmdMARKER.spuntata() != marker) {
+            finestra.cmdMARKER.clicca();
+        }
+        finestra.ctlToolbar2.premi("Aggiuntivi");
+        ASSERT_EQ(gestione.corrente(), &a);
+    }
+    frmRAMO_AGGIUNTIVA::Soglia& s(int q) { return a.soglie[static_cast<std::size_t>(q) - 1]; }
+    /// Ticks a threshold and puts its values there, without leaving the fields.
+    void soglia(int q, const std::string& minimo, const std::string& massimo) {
+        if (!s(q).spunta.spuntata()) {
+            s(q).spunta.clicca();
+        }
+        s(q).minimo.scrivi(minimo);
+        s(q).massimo.scrivi(massimo);
+    }
+    bool scrivi(tBox& campo, const std::string& testo) {
+        a.fuocoSu(campo);
+        campo.scrivi(testo);
+        const bool lasciato = a.lasciaFuoco();
+        a.scordaFuoco();
+        return lasciato;
+    }
+    void ritorno() { a.ctlToolbar.premi("Ritorno"); }
+    bool tornata() { return gestione.corrente() == &finestra; }
+    bool visualizza() { return finestra.ctlToolbar2.abilitato("Visualizza"); }
+    Marker& marker() { return app.risultati.marker; }
+};
+
+TEST_F(ProveAggiuntiva, ShowsTheSummaryOfItsEntry) {
+    conFigure(2);
+    apriAggiuntiva(false);
+    EXPECT_EQ(a.frRIASSUNTO.titolo(), "Dati Riassuntivi ingresso");
+    EXPECT_EQ(a.sottotitolo.testo(), "Ramo B");
+    const Tabella& t = a.ctlGRID1.tabella();
+    const std::vector<std::vector<std::string>> attesa{{"", "V.Minimo", "V.Massimo", "V.Medio"},
+                                                       {"Flusso [veic./min]", "2,00", "12,00", "7,00"},
+                                                       {"Capacità [veic./min]", "500,50", "900,00", "725,13"},
+                                                       {"Coeff. saturazione", "0,360", "1,200", "0,715"},
+                                                       {"Coda [veic.]", "0,0", "20,5", "6,4"},
+                                                       {"Ritardi [sec/veic.]", "4,0", "60,0", "24,0"},
+                                                       {"L.O.S.", "A", "F", "C"}};
+    ASSERT_EQ(t.righe(), 7);
+    ASSERT_EQ(t.colonne(), 4);
+    for (int riga = 0; riga < 7; ++riga) {
+        for (int c = 0; c < 4; ++c) {
+            EXPECT_EQ(t.testo(riga, c), attesa[static_cast<std::size_t>(riga)][static_cast<std::size_t>(c)]);
+        }
+    }
+    EXPECT_EQ(t.larghezze, (std::vector<int>{2500, 1400, 1400, 1400}));
+    EXPECT_EQ(t.altezzaRiga, 300);
+    EXPECT_EQ(t.cella(0, 2).sfondo, (Colore{0, 98, 0}));
+    EXPECT_EQ(t.cella(0, 2).inchiostro, (Colore{255, 255, 255}));
+    EXPECT_EQ(t.cella(3, 0).sfondo, (Colore{164, 196, 0}));
+    EXPECT_EQ(t.cella(3, 0).inchiostro, (Colore{255, 255, 255}));
+    EXPECT_EQ(t.cella(3, 1).sfondo, (Colore{220, 220, 220}));
+    EXPECT_EQ(a.txtminLOS.testo(), "A");
+    EXPECT_EQ(a.txtmaxLOS.testo(), "F");
+    EXPECT_EQ(a.ctlGRID1.ornamento({6, 2}).distintivo, distintivoLivello("F"));
+    EXPECT_EQ(a.ctlGRID1.ornamento({5, 2}).distintivo, std::nullopt);
+    EXPECT_EQ(a.ctlGRID1.ornamento({6, 0}).distintivo, std::nullopt);
+}
+
+TEST_F(ProveAggiuntiva, PanelsFollowTheTwoButtons) {
+    conFigure(1);
+    const auto pannelli = [&](bool riassunto, bool soglie) {
+        if (finestra.cmdRIASSUNTO.spuntata() != riassunto) {
+            finestra.cmdRIASSUNTO.clicca();
+        }
+        apriAggiuntiva(soglie);
+        const auto visti = std::make_pair(a.frRIASSUNTO.visibile(), a.frMARKER.visibile());
+        EXPECT_EQ(a.ctlGRID1.visibile(), visti.first);
+        EXPECT_EQ(a.soglie[2].spunta.visibile(), visti.second);
+        EXPECT_EQ(a.soglie[5].massimo.visibile(), visti.second);
+        EXPECT_EQ(a.cmdAzzera.visibile(), visti.second);
+        ritorno();
+        return visti;
+    };
+    EXPECT_EQ(pannelli(false, false), std::make_pair(true, false));
+    EXPECT_EQ(pannelli(true, false), std::make_pair(true, false));
+    EXPECT_EQ(pannelli(false, true), std::make_pair(false, true));
+    EXPECT_EQ(pannelli(true, true), std::make_pair(true, true));
+    EXPECT_EQ(a.frMARKER.titolo(), "Marker controllo risultati");
+}
+
+TEST_F(ProveAggiuntiva, HasItsFieldsAndTheyOpenWithTheirTicks) {
+    conFigure(1);
+    apriAggiuntiva();
+    const std::vector<std::array<const char*, 4>> attesi{
+        {"chFLUSSO", "txtvalMIN1", "txtvalMAX1", "Flusso [veic./min]"},
+        {"chCAPACITA", "txtvalMIN2", "txtvalMAX2", "Capacità [veic./h]"},
+        {"chSATURAZIONE", "txtvalMIN3", "txtvalMAX3", "Coeff. Saturazione"},
+        {"chCODA", "txtvalMIN4", "txtvalMAX4", "Coda  [veic.]"},
+        {"chRITARDO", "txtvalMIN5", "txtvalMAX5", "Ritardo [sec./veic.]"},
+        {"chLOS", "comboLOSmin", "comboLOSmax", "L.O.S."}};
+    const std::vector<std::string> zeri{"0,00", "0,00", "0,000", "0,0", "0,0", "-"};
+    for (std::size_t i = 0; i < attesi.size(); ++i) {
+        auto& soglia = a.soglie[i];
+        EXPECT_EQ(soglia.spunta.nome(), attesi[i][0]);
+        EXPECT_EQ(soglia.minimo.nome(), attesi[i][1]);
+        EXPECT_EQ(soglia.massimo.nome(), attesi[i][2]);
+        EXPECT_EQ(soglia.spunta.testo(), attesi[i][3]);
+        EXPECT_FALSE(soglia.spunta.spuntata());
+        EXPECT_EQ(soglia.minimo.testo(), zeri[i]);
+        EXPECT_EQ(soglia.massimo.testo(), zeri[i]);
+        EXPECT_FALSE(soglia.minimo.abilitato());
+        soglia.spunta.clicca();
+        EXPECT_TRUE(soglia.minimo.abilitato());
+        EXPECT_TRUE(soglia.massimo.abilitato());
+        soglia.spunta.clicca();
+        EXPECT_FALSE(soglia.massimo.abilitato());
+    }
+    EXPECT_EQ(s(6).minimo.voci(), (std::vector<std::string>{"-", "A", "B", "C", "D", "E", "F"}));
+    EXPECT_EQ(s(6).massimo.voci(), s(6).minimo.voci());
+    const auto& tasti = a.ctlToolbar.tasti();
+    ASSERT_EQ(tasti.size(), 2U);
+    EXPECT_EQ(tasti[0].testo, "Anteprima");
+    EXPECT_EQ(tasti[1].testo, "Ritorno");
+}
+
+TEST_F(ProveAggiuntiva, DigitsAndTheCommaPassAndOnlyNumbersCanBeLeft) {
+    conFigure(1);
+    apriAggiuntiva();
+    s(2).spunta.clicca();
+    s(2).minimo.scrivi("6-00.,5a0 ");
+    EXPECT_EQ(s(2).minimo.testo(), "600,50");
+    for (const char* testo : {"", ",", "1,2,3"}) {
+        messaggi.mostrati.clear();
+        EXPECT_FALSE(scrivi(s(2).minimo, testo)) << testo;
+        ASSERT_EQ(messaggi.mostrati.size(), 1U);
+        EXPECT_EQ(messaggi.mostrati[0].testo, "Attenzione! Inserire solo valori numerici");
+        EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014");
+    }
+}
+
+TEST_F(ProveAggiuntiva, APairIsCheckedWhenItIsConfirmed) {
+    conFigure(1);
+    apriAggiuntiva();
+    s(2).spunta.clicca();
+    EXPECT_TRUE(scrivi(s(2).minimo, "600"));  // the upper value still is 0
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo, "Attenzione! valori ammessi: MINIMO = 500,5; MASSIMO = 900");
+    EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
+    EXPECT_EQ(messaggi.mostrati[0].icona, Icona::esclamazione);
+    messaggi.mostrati.clear();
+    EXPECT_TRUE(scrivi(s(2).massimo, "550,5"));
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo, "Attenzione! valore MASSIMO < valore MINIMO  550,5 < 600");
+    messaggi.mostrati.clear();
+    for (const char* buono : {"600", "600,01", "900"}) {
+        EXPECT_TRUE(scrivi(s(2).massimo, buono));
+        EXPECT_TRUE(messaggi.mostrati.empty()) << buono;
+    }
+    EXPECT_TRUE(scrivi(s(2).massimo, "900,01"));
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_TRUE(scrivi(s(2).massimo, "900"));
+    EXPECT_TRUE(scrivi(s(2).minimo, "500,5"));
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_TRUE(scrivi(s(2).minimo, "500,49"));
+    EXPECT_EQ(messaggi.mostrati.size(), 2U);
+    // A field that is only passed through says nothing.
+    EXPECT_TRUE(scrivi(s(2).minimo, "500,49"));
+    EXPECT_EQ(messaggi.mostrati.size(), 2U);
+}
+
+TEST_F(ProveAggiuntiva, AnUpperLevelBeforeTheLowerIsRefusedAndADashPasses) {
+    conFigure(1);
+    apriAggiuntiva();
+    s(6).spunta.clicca();
+    s(6).massimo.scrivi("D");
+    s(6).minimo.scrivi("C");
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    s(6).massimo.scrivi("A");
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo, "Selezionare un LOS coerente!");
+    EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014");
+    EXPECT_EQ(messaggi.mostrati[0].icona, Icona::critica);
+    EXPECT_EQ(s(6).massimo.testo(), "D");
+    s(6).massimo.scrivi("C");
+    s(6).massimo.scrivi("-");
+    s(6).massimo.scrivi("F");
+    s(6).minimo.scrivi("-");
+    s(6).massimo.scrivi("A");
+    s(6).minimo.scrivi("F");  // the lower one is tested by nothing beyond the list
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+    s(6).minimo.scrivi("G");
+    EXPECT_EQ(s(6).minimo.testo(), "F");
+}
+
+TEST_F(ProveAggiuntiva, GoingBackWithoutThresholdsClosesVisualizza) {
+    conFigure(1);
+    apriAggiuntiva(false);
+    ritorno();
+    EXPECT_TRUE(tornata());
+    EXPECT_FALSE(visualizza());
+    apriAggiuntiva(true);
+    soglia(2, "600", "800");
+    ritorno();
+    EXPECT_TRUE(tornata());
+    EXPECT_TRUE(visualizza());
+    apriAggiuntiva(true);
+    s(2).spunta.clicca();
+    ritorno();
+    EXPECT_TRUE(tornata());
+    EXPECT_FALSE(visualizza());
+    EXPECT_EQ(marker().MarkerAttivo(1, 2), 1.0) << "nothing was stored on that way";
+}
+
+TEST_F(ProveAggiuntiva, AReturnIsNoActivation) {
+    conFigure(1);
+    const std::string prima = finestra.ctlGrid.testo(1, 1);
+    apriAggiuntiva(true);
+    soglia(1, "3", "7");
+    ritorno();
+    EXPECT_TRUE(tornata());
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 1), prima);
+    EXPECT_TRUE(finestra.ctlToolbar2.abilitato("Aggiuntivi"));
+    EXPECT_TRUE(visualizza());
+    apri(finestra, "keyCodeRitardi_Out1");  // by the tree it is one
+    EXPECT_FALSE(finestra.ctlToolbar2.abilitato("Aggiuntivi"));
+    EXPECT_FALSE(visualizza());
+}
+
+TEST_F(ProveAggiuntiva, LeavingByTheTreeStoresNothing) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    soglia(1, "3", "7");
+    apri(finestra, "keyCodeRitardi_Out1");
+    EXPECT_EQ(marker().MarkerAttivo(1, 1), 0.0);
+    EXPECT_EQ(marker().MarkerMassimo(1, 1), 0.0);
+    EXPECT_TRUE(messaggi.mostrati.empty());
+}
+
+TEST_F(ProveAggiuntiva, EachQuantityIsTestedOnTheWayBackInItsWords) {
+    conFigure(1);
+    struct Caso {
+        int q;
+        const char* dentroMin;
+        const char* dentroMax;
+        const char* sotto;
+        const char* sopra;
+        const char* limiti;
+        const char* incoerente;
+    };
+    const std::vector<Caso> casi{
+        {1, "2", "12", "1,99", "12,01", "Attenzione! valori ammessi per il FLUSSO: MINIMO = 2; MASSIMO = 12",
+         "Attenzione! valore MASSIMO FLUSSO non coerente con valore MINIMO"},
+        {2, "500,5", "900", "500,49", "900,01",
+         "Attenzione! valori ammessi per la CAPACITA': MINIMO = 500,5; MASSIMO = 900",
+         "Attenzione! valore MASSIMO CAPACITA non coerente con valore MINIMO"},
+        {3, "0,36", "1,2", "0,359", "1,201",
+         "Attenzione! valori ammessi per il COEFF. SATURAZIONE: MINIMO = 0,36; MASSIMO = 1,2",
+         "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
+        {4, "0,1", "20,5", "", "20,51", "Attenzione! valori ammessi per la CODA: MINIMO = 0; MASSIMO = 20,5",
+         "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
+        {5, "4", "60", "3,99", "60,01", "Attenzione! valori ammessi per il RITARDO: MINIMO = 4; MASSIMO = 60",
+         "Attenzione! valore MASSIMO non coerente con valore MINIMO"}};
+    for (const Caso& caso : casi) {
+        apriAggiuntiva(true);
+        const auto rifiuta = [&](const std::string& minimo, const std::string& massimo, const std::string& atteso) {
+            messaggi.mostrati.clear();
+            soglia(caso.q, minimo, massimo);
+            ritorno();
+            EXPECT_FALSE(tornata());
+            ASSERT_EQ(messaggi.mostrati.size(), 1U) << minimo << " " << massimo;
+            EXPECT_EQ(messaggi.mostrati[0].testo, atteso);
+            EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014");
+            EXPECT_EQ(marker().MarkerAttivo(1, caso.q), 0.0);
+        };
+        if (*caso.sotto != '\0') {
+            rifiuta(caso.sotto, caso.dentroMax, caso.limiti);
+        }
+        rifiuta(caso.dentroMin, caso.sopra, caso.limiti);
+        rifiuta(caso.dentroMax, caso.dentroMin, caso.incoerente);
+        messaggi.mostrati.clear();
+        soglia(caso.q, caso.dentroMin, caso.dentroMax);
+        ritorno();
+        EXPECT_TRUE(tornata());
+        EXPECT_TRUE(messaggi.mostrati.empty());
+        marker().azzera(1);
+    }
+}
+
+TEST_F(ProveAggiuntiva, LowerEqualToUpperPassesAndTheFirstFailureSpeaks) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    soglia(5, "20", "20");
+    soglia(2, "1", "1");
+    soglia(3, "9", "9");
+    ritorno();
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_NE(messaggi.mostrati[0].testo.find("CAPACITA'"), std::string::npos);
+    s(2).spunta.clicca();
+    s(3).spunta.clicca();
+    ritorno();
+    EXPECT_TRUE(tornata());
+    EXPECT_EQ(marker().MarkerMassimo(1, 5), 20.0);
+    EXPECT_EQ(marker().MarkerMinimo(1, 5), 20.0);
+}
+
+TEST_F(ProveAggiuntiva, ALevelOfServiceNeedsBothLetters) {
+    conFigure(1);
+    const std::string manca = "Attenzione! Selezionare un valore corretto per i livelli di servizio (L.O.S.)";
+    for (const auto& [minimo, massimo] :
+         std::vector<std::pair<std::string, std::string>>{{"-", "C"}, {"B", "-"}, {"-", "-"}}) {
+        messaggi.mostrati.clear();
+        apriAggiuntiva(true);
+        soglia(6, minimo, massimo);
+        ritorno();
+        EXPECT_EQ(testi(), std::vector<std::string>{manca});
+        EXPECT_FALSE(tornata());
+        s(6).spunta.clicca();
+        ritorno();
+    }
+    messaggi.mostrati.clear();
+    apriAggiuntiva(true);
+    soglia(6, "B", "C");
+    ritorno();
+    EXPECT_TRUE(tornata());
+    EXPECT_EQ(marker().MarkerMinimo(1, 6), 10.0);
+    EXPECT_EQ(marker().MarkerMassimo(1, 6), 15.0);
+    apriAggiuntiva(true);
+    EXPECT_EQ(s(6).minimo.testo(), "B");
+    EXPECT_EQ(s(6).massimo.testo(), "C");
+}
+
+TEST_F(ProveAggiuntiva, StoresForItsEntryAloneAndShowsItAgain) {
+    conFigure(2);
+    r().NomeFile("Nodo");
+    apriAggiuntiva(true);
+    soglia(3, "0,3655", "0,9");
+    s(1).spunta.clicca();
+    soglia(1, "3", "7,5");
+    s(1).spunta.clicca();  // its values are stored all the same
+    ritorno();
+    EXPECT_EQ(marker().MarkerAttivo(2, 3), 1.0);
+    EXPECT_EQ(marker().MarkerMinimo(2, 3), 0.3655);
+    EXPECT_EQ(marker().MarkerMassimo(2, 3), 0.9);
+    EXPECT_EQ(marker().MarkerAttivo(2, 1), 0.0);
+    EXPECT_EQ(marker().MarkerMassimo(2, 1), 7.5);
+    EXPECT_FALSE(marker().attivi(1));
+    apriAggiuntiva(true);
+    EXPECT_TRUE(s(3).spunta.spuntata());
+    EXPECT_EQ(s(3).minimo.testo(), "0,366");
+    EXPECT_TRUE(s(3).minimo.abilitato());
+    EXPECT_EQ(s(1).massimo.testo(), "7,50");
+    EXPECT_FALSE(s(1).massimo.abilitato());
+    ritorno();
+    EXPECT_EQ(marker().MarkerMinimo(2, 3), 0.3655) << "what was not typed again stays as it was";
+    conFigure(1);
+    apriAggiuntiva(true);
+    EXPECT_FALSE(s(3).spunta.spuntata());
+}
+
+TEST_F(ProveAggiuntiva, AStoredValueOutsideTheNewRangeIsCaughtAtTheNextReturn) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    soglia(2, "600", "850");
+    ritorno();
+    ramo(1).theDatiTraffico().SetIterazione(1, {2.0F, 820.0F, 0.36F, 0.0F, 4.0F});
+    finestra.ctlToolbar.premi("keyCalcola");
+    apriAggiuntiva(true);
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    ritorno();
+    EXPECT_EQ(testi(),
+              std::vector<std::string>{"Attenzione! valori ammessi per la CAPACITA': MINIMO = 500,5; MASSIMO = 820"});
+    EXPECT_FALSE(tornata());
+}
+
+TEST_F(ProveAggiuntiva, VisualizzaColoursTheTableUntilTheNextCalculation) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    soglia(1, "3", "7");
+    ritorno();
+    finestra.ctlToolbar2.premi("Visualizza");
+    const auto sfondo = [&](int riga) { return finestra.ctlGrid.tabella().cella(riga, 1).sfondo; };
+    EXPECT_EQ(sfondo(1), (Colore{220, 255, 220}));  // 2 < 3
+    EXPECT_EQ(sfondo(2), (Colore{255, 220, 220}));  // 12 > 7
+    EXPECT_EQ(sfondo(3), (Colore{255, 220, 220}));
+    EXPECT_EQ(sfondo(4), (Colore{220, 220, 220}));
+    EXPECT_EQ(finestra.ctlGrid.tabella().cella(2, 1).inchiostro, (Colore{230, 0, 0}));
+    finestra.ctlToolbar.premi("keyCalcola");
+    EXPECT_EQ(sfondo(3), (Colore{220, 220, 220}));
+}
+
+TEST_F(ProveAggiuntiva, TellsInWhichProjectTheThresholdsWereSetAndTakesThemAway) {
+    r().NomeFile("Nodo nord");
+    conFigure(1);
+    apriAggiuntiva(true);
+    EXPECT_FALSE(a.lblProgetto.visibile());
+    EXPECT_FALSE(a.cmdAzzera.abilitato());
+    soglia(1, "3", "7");
+    ritorno();
+    apriAggiuntiva(true);
+    EXPECT_TRUE(a.lblProgetto.visibile());
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in \"Nodo nord\".");
+    ritorno();
+    progetto(3);
+    r().TipoAnalisi(0);
+    conFigure(1);
+    apriAggiuntiva(true);
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un altro progetto: \"Nodo nord\".");
+    EXPECT_TRUE(s(1).spunta.spuntata()) << "they last as long as the program runs";
+    EXPECT_EQ(a.cmdAzzera.testo(), "Azzera soglie");
+    a.cmdAzzera.premi();
+    EXPECT_FALSE(marker().attivi(1));
+    EXPECT_FALSE(s(1).spunta.spuntata());
+    EXPECT_EQ(s(1).massimo.testo(), "0,00");
+    EXPECT_FALSE(a.lblProgetto.visibile());
+    EXPECT_FALSE(a.cmdAzzera.abilitato());
+    soglia(1, "3", "7");
+    ritorno();
+    apriAggiuntiva(true);
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un progetto senza nome.");
+}
+
+TEST_F(ProveAggiuntiva, ASeventhEntryHasNoThresholdsAndIsTold) {
+    progetto(7);
+    r().TipoAnalisi(0);
+    conFigure(7);
+    apriAggiuntiva(true);
+    const std::string motivo =
+        "Indice non compreso nell'intervallo (le soglie sono previste per gli ingressi da 1 a 6, questo è il numero 7)";
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo, motivo);
+    EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014frmRAMO_AGGIUNTIVA:Form_Load");
+    EXPECT_TRUE(a.lblSenzaSoglie.visibile());
+    EXPECT_EQ(a.lblSenzaSoglie.testo(), "Questo ingresso non può avere soglie: " + motivo + ".");
+    EXPECT_EQ(a.ctlGRID1.testo(1, 1), "2,00") << "the summary stands";
+    for (const auto& soglia : a.soglie) {
+        EXPECT_FALSE(soglia.spunta.abilitato());
+        EXPECT_FALSE(soglia.minimo.abilitato());
+    }
+    EXPECT_FALSE(a.cmdAzzera.visibile());
+    ritorno();
+    EXPECT_TRUE(tornata());
+    EXPECT_FALSE(visualizza());
+    // Whoever did not ask for thresholds is not stopped by a box.
+    messaggi.mostrati.clear();
+    apriAggiuntiva(false);
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_FALSE(a.lblSenzaSoglie.visibile());
+    ritorno();
+    // The sixth has its row, and its panel opens again.
+    conFigure(6);
+    apriAggiuntiva(true);
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_TRUE(s(1).spunta.abilitato());
+    EXPECT_FALSE(a.lblSenzaSoglie.visibile());
+    soglia(1, "3", "7");
+    ritorno();
+    EXPECT_EQ(marker().MarkerMassimo(6, 1), 7.0);
+}
+
+TEST_F(ProveAggiuntiva, AFieldThatBreaksItsPairStopsTheReturnWithOneBox) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    s(1).spunta.clicca();
+    a.fuocoSu(s(1).massimo);
+    s(1).massimo.scrivi("99");
+    ritorno();
+    EXPECT_EQ(testi(), std::vector<std::string>{"Attenzione! valori ammessi: MINIMO = 2; MASSIMO = 12"});
+    EXPECT_FALSE(tornata());
+}
+
+TEST_F(ProveAggiuntiva, UntickingARefusedFieldPutsBackWhatStoodThere) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    s(1).spunta.clicca();
+    EXPECT_FALSE(scrivi(s(1).minimo, ""));
+    s(1).spunta.clicca();
+    EXPECT_EQ(s(1).minimo.testo(), "0,00");
+    ritorno();
+    EXPECT_TRUE(tornata());
+}
+
+TEST_F(ProveAggiuntiva, WritesItsTextToTheByte) {
+    for (const auto& [nome, i, descrizione] : std::vector<std::tuple<std::string, int, std::string>>{
+             {"Rotatoria_Via_dei_Mulini", 3, ""},
+             {"Rotatoria_Tangenziale_est", 2, "Località Città Più Là"},
+             {"Rotatoria_Aurelia_Sette_Strade", 7, ""}}) {
+        esempio(nome);
+        if (!descrizione.empty()) {
+            ramo(i).Descrizione(descrizione);
+        }
+        frmCapacitaCodeRitardiRamo altra(contorno(), servizi());
+        apri(altra, "keyCodeRitardi_Out" + std::to_string(i));
+        altra.ctlToolbar.premi("keyCalcola");
+        altra.ctlToolbar2.premi("Aggiuntivi");
+        altra.aggiuntiva.ctlToolbar.premi("Anteprima");
+        EXPECT_EQ(file("Risultati2.txt"),
+                  atteso("results/attesi/" + nome + "." + std::to_string(i) + ".riassunto.txt"));
+        EXPECT_EQ(documenti.aperti.back(), app.theAmbiente.CartellaLavoro() + "Risultati2.txt");
+        gestione.chiudiCorrente();
+    }
+}
+
+TEST_F(ProveAggiuntiva, APreviewThatCannotBeWrittenIsTracedUnderItsLabel) {
+    conFigure(1);
+    apriAggiuntiva(false);
+    std::filesystem::create_directory(app.theAmbiente.CartellaLavoro() + "Risultati2.txt");
+    app.configurazione.TraceAbilitato = true;
+    app.configurazione.PathErrore = "log.txt";
+    scriviContenuto(cartella.file("log.txt"), "");
+    a.ctlToolbar.premi("Anteprima");
+    EXPECT_NE(contenuto(cartella.file("log.txt")).find(" - frmRAMO_AGGIUNTIVA:Anteprima 75 : Impossibile scrivere"),
+              std::string::npos);
+    EXPECT_EQ(cornice.avvisato.rfind("Impossibile scrivere", 0), 0U);
+}
+
+TEST_F(ProveAggiuntiva, AnEntryWithoutSegmentsHasAnEmptySummary) {
+    ramo(1).theDatiTraffico().NumSegmentiTempo(0);
+    apri(finestra, "keyCodeRitardi_Out1");
+    finestra.ctlToolbar.premi("keyCalcola");
+    apriAggiuntiva(true);
+    for (int riga = 1; riga < 7; ++riga) {
+        for (int c = 1; c < 4; ++c) {
+            EXPECT_EQ(a.ctlGRID1.testo(riga, c), "");
+        }
+    }
+    EXPECT_EQ(a.txtminLOS.testo(), "");
+}
+
+}  // namespace
+}  // namespace kelvo::prove
