@@ -26,11 +26,11 @@ constexpr int formaBarre = 1;
 
 /// Controls and format of what the right column tells of a chart.
 struct VoceRiassunto {
-    const char* minimo;
-    const char* massimo;
-    const char* medio;
-    const char* unita;
-    Formato formato;
+    const char* minimo = "";
+    const char* massimo = "";
+    const char* medio = "";
+    const char* unita = "";
+    Formato formato = "#0";
 };
 constexpr std::array<VoceRiassunto, frmCapacitaCodeRitardiRamo::numeroGrafici> vociRiassunto{{
     {"txtMIN", "txtMAX", "txtMEDIA", "[veic./h]", "#0.00"},

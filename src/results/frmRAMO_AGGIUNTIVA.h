@@ -105,7 +105,7 @@ struct VoceSoglia {
     std::string_view minimo;
     std::string_view massimo;
     std::string_view etichetta;
-    Formato formato;                   ///< of its values; the level of service has none
+    Formato formato = "#0";            ///< of its values; the level of service has none
     std::string_view fuoriIntervallo;  ///< how its range is told when going back
     std::string_view incoerente;       ///< what is told there of an upper value below the lower one
 };

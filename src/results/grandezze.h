@@ -12,8 +12,8 @@ namespace kelvo {
 /// A quantity of a record as the tables of results show it.
 struct Grandezza {
     std::string_view intestazione;  ///< of its column
-    float Iterazione::*campo;
-    Formato formato;
+    float Iterazione::*campo = nullptr;
+    Formato formato = "#0";
 };
 
 /// The quantities in the order of the record; quantity q, from 1, stands in column q of the tables.

@@ -14,7 +14,7 @@ namespace {
 /// A row of the summary. The unit of the capacity reads as it always has; its figures are per hour.
 struct RigaRiassunto {
     std::string_view nome;
-    Formato formato;
+    Formato formato = "#0";
 };
 
 constexpr std::array<RigaRiassunto, numeroGrandezze> righe{{
