@@ -100,12 +100,16 @@ TEST_F(ProveVistaGriglia, TheEditorTakesWhatTheColumnAllows) {
     EXPECT_EQ(fuoco(), "ctlGrid");
 }
 
-TEST_F(ProveVistaGriglia, APasteIntoTheEditorIsFilteredToo) {
+TEST_F(ProveVistaGriglia, APasteIntoTheEditorThatTheCellDoesNotTakeChangesNothing) {
     tasto(Qt::Key_F2);
+    const std::string prima = ui::s(editor().text());
     QGuiApplication::clipboard()->setText(QStringLiteral("a1b2"));
     tasto(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(ui::s(editor().text()), "12");
-    EXPECT_EQ(griglia.testoEditor(), "12");
+    EXPECT_EQ(ui::s(editor().text()), prima);
+    EXPECT_EQ(griglia.testoEditor(), prima);
+    QGuiApplication::clipboard()->setText(QStringLiteral("12"));
+    tasto(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(griglia.testoEditor(), prima + "12");
 }
 
 TEST_F(ProveVistaGriglia, AKeyThatIsNotAllowedMayEndTheEdit) {

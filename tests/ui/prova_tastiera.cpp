@@ -146,7 +146,7 @@ TEST_P(TastiCornice, NodesOfWindowsThatDoNotStandYetOpenNothingByTheKeyboardEith
     banco.vai("keyTempoModellazione");
     QTreeWidget& albero = banco.albero();
     albero.setFocus();
-    albero.setCurrentItem(gesti::nodo(albero, "keyMatriceSvolte"), 0, QItemSelectionModel::NoUpdate);
+    albero.setCurrentItem(gesti::nodo(albero, "keyCapacitaUltima_Out"), 0, QItemSelectionModel::NoUpdate);
     tasto(Qt::Key_Return);
     smaltisci();
     EXPECT_EQ(banco.nomeCorrente(), "frmTempoModellazione");

@@ -151,8 +151,9 @@ public:
     bool premiTasto(Tasto tasto, bool estendi = false);
     /// Types characters one after the other; the first opens the editor, in place of what stands in the cell.
     void scrivi(std::string_view testo);
-    /// The text in the open editor is another one; what the column does not take falls out, unless it already stood in
-    /// the cell.
+    /// The text in the open editor is another one. What its column does not take, and did not stand in the cell, is
+    /// judged as a block that is pasted if it takes the place of the whole text; else, and where that is refused, the
+    /// text stays as it was.
     void correggi(std::string_view testo);
     /// A click on a cell; with the shift key the selection reaches as far as it. False if the cursor could not leave
     /// its cell or there is no such cell.
@@ -209,6 +210,7 @@ private:
     void chiudi();
     bool conferma();
     void batti(const std::string& carattere);
+    bool traduci(std::string& testo);
     void giudica(const EsitoUscita& esito);
     void rimetti(const EsitoUscita& esito);
 
