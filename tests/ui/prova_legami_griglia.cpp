@@ -102,14 +102,14 @@ TEST_F(ProveVistaGriglia, TheEditorTakesWhatTheColumnAllows) {
 
 TEST_F(ProveVistaGriglia, APasteIntoTheEditorThatTheCellDoesNotTakeChangesNothing) {
     tasto(Qt::Key_F2);
-    const std::string prima = ui::s(editor().text());
+    const std::string stava = ui::s(editor().text());
     QGuiApplication::clipboard()->setText(QStringLiteral("a1b2"));
     tasto(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(ui::s(editor().text()), prima);
-    EXPECT_EQ(griglia.testoEditor(), prima);
+    EXPECT_EQ(ui::s(editor().text()), stava);
+    EXPECT_EQ(griglia.testoEditor(), stava);
     QGuiApplication::clipboard()->setText(QStringLiteral("12"));
     tasto(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(griglia.testoEditor(), prima + "12");
+    EXPECT_EQ(griglia.testoEditor(), stava + "12");
 }
 
 TEST_F(ProveVistaGriglia, AKeyThatIsNotAllowedMayEndTheEdit) {
