@@ -233,10 +233,10 @@ TEST_F(ProveCurva, TabOrderFollowsTheReadingOrder) {
             nomi.push_back(c->nome());
         }
     }
-    EXPECT_EQ(nomi, (std::vector<std::string>{"txtDescrizioneRamo", "txtIntervalloTempo", "txtTempo1", "txtTempo2",
-                                              "txtTempo3", "txtFlussoTempo1", "txtFlussoTotale", "txtFlussoMedio",
-                                              "txtFlussoOrario", "Check1", "Check2", "txtTarget", "Command1",
-                                              "ctlChart"}));
+    EXPECT_EQ(nomi,
+              (std::vector<std::string>{"txtDescrizioneRamo", "txtIntervalloTempo", "txtTempo1", "txtTempo2",
+                                        "txtTempo3", "txtFlussoTempo1", "txtFlussoTotale", "txtFlussoMedio",
+                                        "txtFlussoOrario", "Check1", "Check2", "txtTarget", "Command1", "ctlChart"}));
 }
 
 }  // namespace
