@@ -45,6 +45,14 @@ constexpr std::array vernici{
     Vernice{Ruolo::isolaDivisionale, tinta::corona, tratto::isola},
 };
 
+/// The ribbons of the flows lie on everything up to this, and below what follows.
+constexpr Ruolo sottoIFlussi = Ruolo::frecciaAnello;
+
+/// Colour of what belongs to an origin, legs from 1.
+Colore tintaRamo(int ramo) {
+    return tinta::categorie[static_cast<std::size_t>(ramo - 1) % tinta::categorie.size()];
+}
+
 class Pittore {
 public:
     Pittore(QPainter& pennello, const Pianta& pianta, const QRectF& spazio, const StilePianta& stile)
@@ -61,6 +69,9 @@ public:
                 if (area.ruolo == vernice.ruolo) {
                     dipingi(area, vernice);
                 }
+            }
+            if (vernice.ruolo == sottoIFlussi) {
+                dipingiFlussi();
             }
         }
         for (const Linea& linea : pianta_.linee) {
@@ -125,10 +136,64 @@ private:
         if (!area.foro.empty()) {
             aggiungi(via, area.foro, true);
         }
-        via.setFillRule(Qt::OddEvenFill);
+        via.setFillRule(area.foro.empty() ? Qt::WindingFill : Qt::OddEvenFill);
         pennello_.setPen(vernice.bordo > 0 ? penna(tinta::grafite, vernice.bordo) : QPen(Qt::NoPen));
         pennello_.setBrush(qcolore(vernice.fondo));
         pennello_.drawPath(via);
+    }
+
+    /// Origin by origin, so that the ribbons of one read as a band; the ribbon at hand lies above all.
+    void dipingiFlussi() {
+        const Area* scelto = nullptr;
+        for (int ramo = 1; ramo <= static_cast<int>(pianta_.rami.size()); ++ramo) {
+            std::vector<Nastro> nastri;
+            for (const Area& area : pianta_.aree) {
+                if (area.ruolo == Ruolo::flusso && area.ramo == ramo) {
+                    nastri.push_back(nastro(area));
+                    scelto = area.corrente ? &area : scelto;
+                }
+            }
+            dipingiFascio(nastri, tintaRamo(ramo));
+        }
+        if (scelto != nullptr) {
+            const QPainterPath via = nastro(*scelto).via;
+            const double ingrossa = tratto::flussoCorrente;
+            bordo(via, colori::bianco, ingrossa + 4 * tratto::flusso);
+            bordo(via, tinta::inchiostro, ingrossa + 2 * tratto::flusso);
+            bordo(via, tintaRamo(scelto->ramo), ingrossa);
+            pennello_.fillPath(via, qcolore(tintaRamo(scelto->ramo)));
+        }
+    }
+
+    struct Nastro {
+        QPainterPath via;
+        double largo = 0.0;  ///< logical pixels at the start
+    };
+
+    Nastro nastro(const Area& area) const {
+        Nastro nastro{.via = {}, .largo = norma(area.contorno.front().p - area.contorno.back().p) * scala_};
+        aggiungi(nastro.via, area.contorno, true);
+        nastro.via.setFillRule(Qt::WindingFill);
+        return nastro;
+    }
+
+    void bordo(const QPainterPath& via, Colore colore, double largo) {
+        pennello_.strokePath(via, penna(colore, largo));
+    }
+
+    /// A border keeps a band apart from those that it crosses; one too light for the asphalt has it in graphite. On a
+    /// thin ribbon it is thinner.
+    void dipingiFascio(const std::vector<Nastro>& nastri, Colore colore) {
+        constexpr double leggibile = 3.0;
+        constexpr double quota = 0.7;
+        const bool chiaro = contrasto(colore, tinta::asfalto) < leggibile;
+        for (const Nastro& nastro : nastri) {
+            bordo(nastro.via, chiaro ? tinta::grafite : colori::bianco,
+                  std::min(2 * tratto::flusso, quota * nastro.largo / stile_.tratto));
+        }
+        for (const Nastro& nastro : nastri) {
+            pennello_.fillPath(nastro.via, qcolore(colore));
+        }
     }
 
     void dipingi(const Linea& linea) {
@@ -234,12 +299,19 @@ private:
             const bool scelta = std::any_of(pianta_.testi.begin(), pianta_.testi.end(),
                                             [](const Testo& t) { return t.disco > 0 && t.corrente; });
             const bool vuoto = scelta && !testo.corrente;
-            pennello_.setPen(penna(tinta::principale, tratto::disco));
-            pennello_.setBrush(vuoto ? QColor(Qt::white) : qcolore(tinta::principale));
+            // With flows a letter tells the colour of its origin.
+            const bool flussi = std::any_of(pianta_.aree.begin(), pianta_.aree.end(),
+                                            [](const Area& a) { return a.ruolo == Ruolo::flusso; });
+            const Colore fondo = flussi ? tintaRamo(testo.ramo) : vuoto ? colori::bianco : tinta::principale;
+            const Colore contorno = !flussi ? tinta::principale : testo.corrente ? tinta::inchiostro : tinta::grafite;
+            pennello_.setPen(penna(contorno, flussi && testo.corrente ? 2 * tratto::disco : tratto::disco));
+            pennello_.setBrush(qcolore(fondo));
             pennello_.drawEllipse(punto(testo.punto), testo.disco * scala_, testo.disco * scala_);
             if (stile_.testi) {
                 scrivi(testo.testo, testo.punto, testo.allineamento, forte(corpo),
-                       vuoto ? tinta::principale : colori::bianco);
+                       flussi  ? neroOBianco(fondo)
+                       : vuoto ? tinta::principale
+                               : colori::bianco);
             }
             return;
         }

@@ -6,6 +6,7 @@
 
 #include "base/date.h"
 #include "base/numeri.h"
+#include "input/recuperoTraffico.h"
 #include "shell/servizi/campiNumerici.h"
 
 namespace kelvo {
@@ -26,6 +27,26 @@ constexpr const char* alMinuto = "[veicoli/min]";
 constexpr const char* cifreEVirgola = "0123456789,";
 /// What a search writes has room: fifteen digits, a comma, a zero before it.
 constexpr std::size_t cifreMassime = 17;
+
+/// Pages of the help pane.
+struct Pagina {
+    tBox frmDatiTraffico::*campo;
+    const char* nome;
+};
+constexpr std::array pagine{
+    Pagina{&frmDatiTraffico::txtDescrizioneRamo, "DenominazioneRamo.htm"},
+    Pagina{&frmDatiTraffico::txtIntervalloTempo, "IntervalloTempo.htm"},
+    Pagina{&frmDatiTraffico::txtTempo1, "Tempo1.htm"},
+    Pagina{&frmDatiTraffico::txtTempo2, "Tempo2.htm"},
+    Pagina{&frmDatiTraffico::txtTempo3, "Tempo3.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTempo1, "FlussoTempo1.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTempo2, "FlussoTempo2.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTempo3, "FlussoTempo3.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoTotale, "FlussoTotale.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoMedio, "FlussoMedio.htm"},
+    Pagina{&frmDatiTraffico::txtFlussoOrario, "FlussoOrario.htm"},
+    Pagina{&frmDatiTraffico::txtTarget, "FlussoObiettivo.htm"},
+};
 
 }  // namespace
 
@@ -82,6 +103,9 @@ frmDatiTraffico::frmDatiTraffico(const Contorno& contorno)
         campo->virgola = true;
         campo->controllo = [this, campo] { return controllaNumero(*campo); };
     }
+    for (const Pagina& pagina : pagine) {
+        (this->*pagina.campo).paginaAiuto = pagina.nome;
+    }
     collega();
     cambiaModo();
 }
@@ -128,6 +152,26 @@ void frmDatiTraffico::attivata() {
     Check2.spuntata(false);
     cambiaModo();
     prgCurva.valore(0);
+    ReadBackUpData();
+    if (fuoco() == nullptr) {
+        fuocoSu(txtTempo1);  // the first field that is typed into
+    }
+}
+
+void frmDatiTraffico::ReadBackUpData() {
+    const auto curva = curvaRecuperabile(app().theRotonda(), indiceRamo());
+    if (!curva || !chiediRecupero(app(), indiceRamo(), DatoTraffico::curva)) {
+        return;
+    }
+    txtTempo1.modifica(testoHHNN(curva->Tempo1));
+    txtTempo2.modifica(testoHHNN(curva->Tempo2));
+    txtTempo3.modifica(testoHHNN(curva->Tempo3));
+    txtFlussoTempo1.modifica(testoNumero(curva->FlussoTempo1));
+    txtFlussoTempo2.modifica(testoNumero(curva->FlussoTempo2));
+    txtFlussoTempo3.modifica(testoNumero(curva->FlussoTempo3));
+    CostruisciCurva();
+    DoTheChart();
+    confronta();
 }
 
 void frmDatiTraffico::rileggi() {

@@ -18,26 +18,26 @@ class frmDatiTraffico final : public FinestraRamo {
 public:
     explicit frmDatiTraffico(const Contorno& contorno);
 
-    tBox txtDescrizioneRamo{"txtDescrizioneRamo", tBox::textbox};  ///< name of the leg, read-only
-    tBox txtIntervalloTempo{"txtIntervalloTempo", tBox::textbox};  ///< minutes of a segment, read-only
-    tBox txtTempo1{"txtTempo1", tBox::dtpicker};                   ///< t1, start of the curve
-    tBox txtTempo2{"txtTempo2", tBox::dtpicker};                   ///< t2, time of the peak
-    tBox txtTempo3{"txtTempo3", tBox::dtpicker};                   ///< t3, end; closed on a flat curve
-    tBox txtFlussoTempo1{"txtFlussoTempo1", tBox::maskedit};       ///< q1, veic/min
-    tBox txtFlussoTempo2{"txtFlussoTempo2", tBox::maskedit};       ///< q2, the peak, veic/min
-    tBox txtFlussoTempo3{"txtFlussoTempo3", tBox::maskedit};       ///< q3, veic/min
-    tBox txtFlussoTotale{"txtFlussoTotale", tBox::textbox};        ///< vehicles, read-only
-    tBox txtFlussoMedio{"txtFlussoMedio", tBox::textbox};          ///< veic/min, read-only
-    tBox txtFlussoOrario{"txtFlussoOrario", tBox::textbox};        ///< veic/h, read-only
-    Casella Check1;                                                ///< figures over the bars
-    Casella Check2;                                                ///< the curve is searched, not typed
-    Etichetta lblTarget;                                           ///< what `txtTarget` is
-    tBox txtTarget{"txtTarget", tBox::maskedit};                   ///< vehicles that the search is to bring
-    Etichetta lblUnitaTarget;                                      ///< its unit
-    Bottone Command1;                                              ///< starts the search
-    BarraProgresso prgCurva{"prgCurva", 0, passiMassimiRicerca};   ///< how far the search has come
-    Etichetta lblApprox{"lblApprox"};                              ///< how near the search came
-    Grafico ctlChart{"ctlChart"};                                  ///< the bars, veic/min by time segment
+    tBox txtDescrizioneRamo{"txtDescrizioneRamo", tBox::textbox};                  ///< name of the leg, read-only
+    tBox txtIntervalloTempo{"txtIntervalloTempo", tBox::textbox, "Type:Numeric"};  ///< minutes of a segment, read-only
+    tBox txtTempo1{"txtTempo1", tBox::dtpicker};                                   ///< t1, start of the curve
+    tBox txtTempo2{"txtTempo2", tBox::dtpicker};                                   ///< t2, time of the peak
+    tBox txtTempo3{"txtTempo3", tBox::dtpicker};                                   ///< t3, end; closed on a flat curve
+    tBox txtFlussoTempo1{"txtFlussoTempo1", tBox::maskedit, "Type:Numeric"};       ///< q1, veic/min
+    tBox txtFlussoTempo2{"txtFlussoTempo2", tBox::maskedit, "Type:Numeric"};       ///< q2, the peak, veic/min
+    tBox txtFlussoTempo3{"txtFlussoTempo3", tBox::maskedit, "Type:Numeric"};       ///< q3, veic/min
+    tBox txtFlussoTotale{"txtFlussoTotale", tBox::textbox, "Type:Numeric"};        ///< vehicles, read-only
+    tBox txtFlussoMedio{"txtFlussoMedio", tBox::textbox, "Type:Numeric"};          ///< veic/min, read-only
+    tBox txtFlussoOrario{"txtFlussoOrario", tBox::textbox, "Type:Numeric"};        ///< veic/h, read-only
+    Casella Check1;                                                                ///< figures over the bars
+    Casella Check2;                                                                ///< the curve is searched, not typed
+    Etichetta lblTarget;                                                           ///< what `txtTarget` is
+    tBox txtTarget{"txtTarget", tBox::maskedit, "Type:Numeric"};  ///< vehicles that the search is to bring
+    Etichetta lblUnitaTarget;                                     ///< its unit
+    Bottone Command1;                                             ///< starts the search
+    BarraProgresso prgCurva{"prgCurva", 0, passiMassimiRicerca};  ///< how far the search has come
+    Etichetta lblApprox{"lblApprox"};                             ///< how near the search came
+    Grafico ctlChart{"ctlChart"};                                 ///< the bars, veic/min by time segment
 
     /// What stands beside a field.
     struct Riga {
@@ -55,6 +55,8 @@ public:
     void attivata() override;
     /// Copies the leg to the fields; the curve is not built.
     void ReadData() override;
+    /// Offers the curve back that a change of the times took from the leg, once; taken back, it is as if typed.
+    void ReadBackUpData();
     /// Writes the parameters and totals to the leg. With nothing changed by the user it writes nothing.
     void SaveData() override;
     /// Builds the bars and the totals from the fields, and closes t3 and q3 on a flat curve. Where the times give no
@@ -111,7 +113,7 @@ private:
 
     // The search.
     void cambiaModo();
-    void cerca();
+    bool cerca();
     void conclusa(const RisultatoRicerca& risultato);
     void apriFlussi();
     void mostraApprossimazione();

@@ -28,6 +28,7 @@ constexpr const char* fallita =
     "Controllare i valori inseriti\r - Ridurre il valore assegnato a q1\re ricalcolare la curva di traffico.";
 constexpr const char* approssimazione = "Approssimazione applicata :  ";
 constexpr const char* asse = "[veicoli]/[min]";
+constexpr const char* senzaFlussi = "Scrivere i flussi q1, q2 e q3, oppure far calcolare la curva da un flusso totale.";
 constexpr const char* nonCostruibile =
     "La curva non si può costruire: serve almeno un segmento di tempo tra t1 e t2 e tra t2 e t3.";
 }  // namespace testi
@@ -108,7 +109,11 @@ void frmDatiTraffico::disegna() {
                                                        .unita = testi::asse,
                                                        .colore = colorePannello(app().configurazione.LayoutPannello),
                                                        .mostraValori = Check1.spuntata()});
-    contenuto.nota = costruita_ ? "" : testi::nonCostruibile;
+    if (!costruita_) {
+        contenuto.nota = testi::nonCostruibile;
+    } else if (curva_.totale == 0.0F) {
+        contenuto.nota = testi::senzaFlussi;
+    }
     ctlChart.contenuto(contenuto);
 }
 
@@ -133,17 +138,25 @@ void frmDatiTraffico::messaggioSopra(const char* testo, const char* titolo, Icon
 }
 
 void frmDatiTraffico::CalcolaCurva() {
-    gestisci("frmDatiTraffico:CalcolaCurva", [this] { cerca(); });
+    const bool daTasto = fuoco() == &Command1;
+    bool cercata = true;
+    gestisci("frmDatiTraffico:CalcolaCurva", [&] { cercata = cerca(); });
     Command1.abilitato(true);  // after a fault too
+    if (daTasto && cercata) {
+        scordaFuoco();  // closed for the while, the button has let the keyboard go
+        fuocoSu(Command1);
+    }
 }
 
-void frmDatiTraffico::cerca() {
+/// False where a figure is missing: its field has the focus.
+bool frmDatiTraffico::cerca() {
     Command1.abilitato(false);
     curva_.TotaleArrotondato.clear();
     prgCurva.visibile(true);
     if (flusso(txtFlussoTempo1) == 0.0 || mascheraVuota(txtTarget)) {
+        fuocoSu(mascheraVuota(txtTarget) ? txtTarget : txtFlussoTempo1);  // marked before the box comes up
         messaggioSopra(testi::incoerente, testi::errore, Icona::critica);
-        return;
+        return false;
     }
     const double obiettivo = flusso(txtTarget);
     if (obiettivo > obiettivoElevato) {
@@ -168,6 +181,7 @@ void frmDatiTraffico::cerca() {
         conclusa(risultato);
     }
     confronta();
+    return true;
 }
 
 void frmDatiTraffico::conclusa(const RisultatoRicerca& risultato) {

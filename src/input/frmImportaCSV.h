@@ -21,6 +21,9 @@ struct BersaglioCSV {
     int primaRiga = 1;                ///< row of the grid that the first row of figures goes to
 };
 
+/// What the button of an import reads.
+inline constexpr const char* bottoneImportaCSV = "Importa da CSV...";
+
 /// Asks for a file and puts its figures into the grid of a window: one change that can be undone, judged by the grid's
 /// own `allIncolla` and told by its `dopoModifica`, as a block that is pasted. True if cells were filled; after Cancel
 /// nothing has changed.

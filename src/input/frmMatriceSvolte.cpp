@@ -20,6 +20,10 @@ constexpr const char* didascalia = "Matrice delle svolte";
 constexpr const char* inPercento = "VALORI ESPRESSI IN PERCENTUALE";
 constexpr const char* veicoli = "[veicoli]";
 constexpr const char* percento = "[%]";
+constexpr const char* flussi = "Flussi";
+constexpr const char* paginaMatrice = "MatriceSvolte.htm";
+constexpr const char* paginaFlussi = "FlussiMatrice.htm";
+constexpr const char* paginaNomi = "NomiMatrice.htm";
 }  // namespace testi
 
 constexpr std::size_t massimiIngressi = 7;
@@ -61,25 +65,26 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
       lblVeicoliEntrate(etichette("lblVeicoliEntrate", sette)),
       frmTotaleUscite("frmTotaleUscite", "Totale uscite", {&ctlGridUscite}),
       lblVeicoliUscite(etichette("lblVeicoliUscite", sette)),
-      cmdImportaCSV("cmdImportaCSV", "Importa da CSV..."),
+      lblMovimento("lblMovimento"),
+      chkFlussi("chkFlussi", testi::flussi, Casella::bottone),
+      cmdImportaCSV("cmdImportaCSV", bottoneImportaCSV),
       dialogo_(dialogo) {
-    std::vector<Controllo*> controlli;
+    // The names are there to be read: the keyboard goes to the matrix first.
+    std::vector<Controllo*> controlli{&lblPercentualeROSSO, &ctlGrid,         &frmTotaleEntrate,
+                                      &ctlGridEntrate,      &frmTotaleUscite, &ctlGridUscite,
+                                      &cmdImportaCSV,       &lblMovimento,    &chkFlussi};
     for (std::size_t i = 0; i < massimiIngressi; ++i) {
         lblIngresso[i].testo("Ingresso " + lettera(i) + ":");
         txtIngresso[i].solaLettura(true);
+        txtIngresso[i].paginaAiuto = testi::paginaNomi;
         controlli.push_back(&lblIngresso[i]);
         controlli.push_back(&txtIngresso[i]);
-    }
-    for (Controllo* c : std::initializer_list<Controllo*>{&lblPercentualeROSSO, &ctlGrid, &frmTotaleEntrate,
-                                                          &ctlGridEntrate, &frmTotaleUscite, &ctlGridUscite}) {
-        controlli.push_back(c);
     }
     for (std::size_t i = 0; i < massimiIngressi; ++i) {
         controlli.push_back(&lblVeicoliEntrate[i]);
         controlli.push_back(&lblVeicoliUscite[i]);
     }
     controlli.push_back(&ctlPicture);
-    controlli.push_back(&cmdImportaCSV);
     cmdImportaCSV.allaPressione = [this] { importaCSV(this->contorno(), dialogo_, bersaglioCSV()); };
     conArchivio();
     ordina(controlli);
@@ -97,7 +102,8 @@ void frmMatriceSvolte::preparaGriglie() {
         DatiAllineati(!ctlGrid.modificata());
         ricalcola();
     };
-    ctlGrid.alMovimento = [this](Posto /*posto*/) { movimentoMutato_.emit(); };
+    ctlGrid.alMovimento = [this](Posto /*posto*/) { mostraMovimento(); };
+    chkFlussi.alClic = [this] { movimentoMutato_.emit(); };
     for (int c = 1; c <= static_cast<int>(massimiIngressi); ++c) {
         ctlGrid.colonna(c, {.regole = {.caratteri = "0123456789", .esclusoChiude = true}});
     }
@@ -126,7 +132,7 @@ void frmMatriceSvolte::ReadData() {
         AggiornaTotali();
         AggiornaEsitoRighe();
         DatiAllineati(true);
-        movimentoMutato_.emit();
+        mostraMovimento();
     });
 }
 
@@ -259,8 +265,44 @@ void frmMatriceSvolte::ricalcola() {
     gestisci("frmMatriceSvolte:Immagini", [this] {
         AggiornaTotali();
         AggiornaEsitoRighe();
-        movimentoMutato_.emit();
+        mostraMovimento();
     });
+}
+
+void frmMatriceSvolte::mostraMovimento() {
+    const Posto cella = movimento();
+    std::string parole;
+    if (cella.riga > 0) {
+        const std::string& valore = ctlGrid.testo(cella.riga, cella.colonna);
+        parole = "Da " + ctlGrid.testo(cella.riga, 0) + " verso " + ctlGrid.testo(0, cella.colonna) + ": " +
+                 (valore.empty() ? "0" : valore) + (percentuale() ? " %" : " veicoli");
+    }
+    lblMovimento.testo(parole);
+    movimentoMutato_.emit();
+}
+
+pianta::DatiPianta frmMatriceSvolte::piantaMostrata() const {
+    return pianta::datiPianta(app().theRotonda());
+}
+
+pianta::OpzioniPianta frmMatriceSvolte::opzioniPianta() const {
+    pianta::OpzioniPianta opzioni{.nomi = false};
+    if (movimento().riga > 0) {
+        opzioni.movimento = pianta::Movimento{movimento().riga, movimento().colonna};
+    }
+    if (chkFlussi.spuntata()) {
+        opzioni.flussi = mostrata();
+    }
+    return opzioni;
+}
+
+void frmMatriceSvolte::entrato(Controllo& campo) {
+    FinestraDati::entrato(campo);
+    if (&campo == &ctlGrid) {
+        ctlHelp.pagina(testi::paginaMatrice);
+    } else if (&campo == &chkFlussi) {
+        ctlHelp.pagina(testi::paginaFlussi);
+    }
 }
 
 EsitoUscita frmMatriceSvolte::confermaCella(std::string& testo) {
@@ -318,7 +360,7 @@ void frmMatriceSvolte::CaricaDaProgetto() {
         DatiAllineati(!ctlGrid.modificata());
         AggiornaTotali();
         AggiornaEsitoRighe();
-        movimentoMutato_.emit();
+        mostraMovimento();
     });
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "input/frmImportaCSV.h"
+#include "pianta/Pianta.h"
 #include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/Finestra.h"
 #include "shell/servizi/Griglia.h"
@@ -30,6 +31,8 @@ public:
     Griglia ctlGridUscite{"ctlGridUscite", 0, 0};  ///< one row: the total of each column
     std::array<Etichetta, 7> lblVeicoliUscite;
     Immagine ctlPicture{"ctlPicture"};  ///< "RAMI3" to "RAMI7"
+    Etichetta lblMovimento;             ///< the movement at hand in words, with its value
+    Casella chkFlussi;                  ///< the plan shows the flows of the whole matrix
     Bottone cmdImportaCSV;              ///< takes the numbers of a CSV file into the cells
 
     /// Reads units, names and matrix of the project.
@@ -45,12 +48,18 @@ public:
 
     /// The movement of the cell at hand, legs from 1; {-1, ...} for none.
     Posto movimento() const { return ctlGrid.corrente(); }
-    /// Another movement is at hand, or the figures are others.
+    /// Another movement is at hand, the figures are others, or what the plan is to show of them.
     sigc::signal<void()>& movimentoMutato() { return movimentoMutato_; }
+    /// The roundabout of the project, and what of the matrix its plan shows: the movement at hand, the flows if they
+    /// are asked for.
+    pianta::DatiPianta piantaMostrata() const;
+    pianta::OpzioniPianta opzioniPianta() const;
     /// Where the columns of a CSV file go: one column for each leg, rows by leg.
     BersaglioCSV bersaglioCSV();
     /// The figures shown, legs from 0; an empty cell counts as 0.
     Matrice mostrata() const;
+
+    void entrato(Controllo& campo) override;
 
 protected:
     void Archivio() override { CaricaDaProgetto(); }
@@ -63,6 +72,7 @@ private:
     EsitoUscita confermaCella(std::string& testo);
     EsitoUscita esaminaBlocco(std::vector<TestoCella>& celle) const;
     void ricalcola();
+    void mostraMovimento();
     bool percentuale() const;
     float valore(int riga, int colonna) const;
 

@@ -3,10 +3,12 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <span>
 
 #include "base/date.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
+#include "input/recuperoTraffico.h"
 
 namespace kelvo {
 
@@ -70,8 +72,19 @@ CurvaBackup copiaCurva(const DatiTraffico& dati) {
             .FlussoOrario = dati.FlussoOrario(),
             .Tempo1 = dati.Tempo1(),
             .Tempo2 = dati.Tempo2(),
-            .Tempo3 = dati.Tempo3(),
-            .conteggi = dati.FlussiSegmento()};
+            .Tempo3 = dati.Tempo3()};
+}
+
+bool vuota(const CurvaBackup& curva) {
+    return curva.FlussoTempo1 == 0.0F && curva.FlussoTempo2 == 0.0F && curva.FlussoTempo3 == 0.0F;
+}
+
+bool vuoti(std::span<const float> valori) {
+    return std::all_of(valori.begin(), valori.end(), [](float valore) { return valore == 0.0F; });
+}
+
+bool vuota(const TabellaCategorie& tabella) {
+    return std::all_of(tabella.begin(), tabella.end(), [](const PerClasse& riga) { return vuoti(riga); });
 }
 
 }  // namespace
@@ -102,6 +115,7 @@ std::string frmTempoModellazione::limitiSegmento() {
 }
 
 void frmTempoModellazione::ReadData() {
+    precedenti_ = tempiDelProgetto(rotonda(), 0);
     txtTempoIniziale.testo(testoHHNN(rotonda().TempoIniziale()));
     txtSegmentoTempo.testo(testoNumero(minutoCampo(rotonda().SegmentoTempo())));
     FillTempoFinale();
@@ -212,6 +226,7 @@ void frmTempoModellazione::SaveData() {
 
 void frmTempoModellazione::salva() {
     Tempi t = tempi();
+    precedenti_ = tempiDelProgetto(rotonda(), 0);
     const std::int64_t totale = t.fine - t.inizio;
     Rotonda& r = rotonda();
     if (txtSegmentoTempo.modificato()) {
@@ -285,12 +300,34 @@ void frmTempoModellazione::aggiornaRami(const Tempi& tempi) {
 void frmTempoModellazione::BackUpData() {
     gestisci(metodoCopia, [this] {
         Rotonda& r = rotonda();
-        r.backupTraffico().curve.clear();
+        r.backupTraffico().rami.resize(static_cast<std::size_t>(r.Rami().Count()));
         for (std::int16_t i = 1; i <= r.Rami().Count(); ++i) {
-            r.backupTraffico().curve.push_back(copiaCurva(r.Ramo(i).theDatiTraffico()));
+            copiaTraffico(i);
             salvaCopiaRamo(i);
         }
     });
+}
+
+SerieSegmenti frmTempoModellazione::serie(std::int16_t numero) const {
+    return {precedenti_.inizio, precedenti_.minuti, numero};
+}
+
+/// A leg without data keeps what an earlier change of the times took from it: a mistyped time, mended by a second
+/// change, costs nothing. Each kind is offered anew.
+void frmTempoModellazione::copiaTraffico(std::int16_t indice) {
+    const DatiTraffico& dati = rotonda().Ramo(indice).theDatiTraffico();
+    RamoBackup& copia = rotonda().backupTraffico().rami[static_cast<std::size_t>(indice) - 1];
+    copia.origineCurva.offerto = false;
+    copia.origineConteggi.offerto = false;
+    copia.origineComposizione.offerto = false;
+    if (const CurvaBackup curva = copiaCurva(dati); !vuota(curva)) {
+        copia.curva = curva;
+        copia.origineCurva = {.tempi = serie(dati.NumSegmentiTempo()), .presente = true, .offerto = false};
+    }
+    if (!vuoti(dati.FlussiSegmento())) {
+        copia.conteggi = dati.FlussiSegmento();
+        copia.origineConteggi = {.tempi = serie(dati.NumSegmentiTempo()), .presente = true, .offerto = false};
+    }
 }
 
 void frmTempoModellazione::salvaCopiaRamo(std::int16_t indice) {
@@ -300,6 +337,11 @@ void frmTempoModellazione::salvaCopiaRamo(std::int16_t indice) {
     copia.allarga(r.Rami().Count(), composizione.NumSegmentiTempo());
     TabellaCategorie tabella;
     composizione.GetCategorieSegmenti(tabella);
+    if (vuota(tabella)) {
+        return;
+    }
+    r.backupTraffico().rami[static_cast<std::size_t>(indice) - 1].origineComposizione = {
+        .tempi = serie(composizione.NumSegmentiTempo()), .presente = true, .offerto = false};
     for (std::size_t s = 0; s < tabella.size(); ++s) {
         for (std::int16_t c = 0; c < numeroClassi; ++c) {
             const auto segmento = static_cast<std::int16_t>(s);

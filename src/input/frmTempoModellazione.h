@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "model/BackupTraffico.h"
 #include "shell/servizi/Finestra.h"
 #include "shell/servizi/tBox.h"
 
@@ -56,7 +57,11 @@ private:
     EsitoUscita controllaFine() const;
     void dopoTempoIniziale();
     void dopoSegmento();
+    SerieSegmenti serie(std::int16_t numero) const;
+    void copiaTraffico(std::int16_t indice);
     void salvaCopiaRamo(std::int16_t indice);
+
+    SerieSegmenti precedenti_;  ///< start and segment length that the traffic data at hand were entered for
 };
 
 }  // namespace kelvo

@@ -60,7 +60,8 @@ Grafico::Contenuto istogrammaTraffico(const Istogramma& istogramma) {
                    .massimo = static_cast<double>(barre.valori.size()),
                    .tacche = static_cast<int>(barre.valori.size()) + 1,
                    .etichette = etichetteDaTesto(istogramma.etichette),
-                   .passiPerEtichetta = 1.0};
+                   .passiPerEtichetta = 1.0,
+                   .posa = Grafico::Posa::centro};
     contenuto.y = asseValori(barre.valori, istogramma.unita);
     contenuto.serie = {barre};
     contenuto.valori = istogramma.mostraValori;

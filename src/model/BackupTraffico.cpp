@@ -44,4 +44,24 @@ void TabellaBackup::cella(std::int32_t valore, std::int16_t ramo, std::int16_t c
     celle_[static_cast<std::size_t>(ramo) - 1][i] = valore;
 }
 
+std::vector<TrattoSegmenti> segmentiCorrispondenti(const SerieSegmenti& vecchi, const SerieSegmenti& nuovi) {
+    std::vector<TrattoSegmenti> tratti(static_cast<std::size_t>(std::max<std::int16_t>(nuovi.numero, 0)));
+    if (vecchi.minuti <= 0 || nuovi.minuti % vecchi.minuti != 0) {
+        return tratti;
+    }
+    const std::int64_t quanti = nuovi.minuti / vecchi.minuti;
+    const std::int64_t scarto = minutiTra(vecchi.inizio, nuovi.inizio);
+    if (scarto % vecchi.minuti != 0) {
+        return tratti;
+    }
+    std::int64_t primo = scarto / vecchi.minuti;
+    for (TrattoSegmenti& tratto : tratti) {
+        if (primo >= 0 && primo + quanti <= vecchi.numero) {
+            tratto = {static_cast<std::int16_t>(primo), static_cast<std::int16_t>(quanti)};
+        }
+        primo += quanti;
+    }
+    return tratti;
+}
+
 }  // namespace kelvo

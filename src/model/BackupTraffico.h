@@ -26,7 +26,32 @@ private:
     std::int16_t ultimoSegmento_ = -1;
 };
 
-/// Demand of a leg as it was.
+/// Time segments of one length in a row.
+struct SerieSegmenti {
+    DataOra inizio = 0.0;
+    std::int16_t minuti = 0;  ///< length of a segment
+    std::int16_t numero = 0;
+};
+
+/// Segments from `primo` on, from 0; none where `quanti` is 0.
+struct TrattoSegmenti {
+    std::int16_t primo = 0;
+    std::int16_t quanti = 0;
+    friend bool operator==(const TrattoSegmenti&, const TrattoSegmenti&) = default;
+};
+
+/// For each segment of `nuovi` those of `vecchi` that make up exactly its interval: the same one, or several shorter
+/// ones; none where no such segments stand there.
+std::vector<TrattoSegmenti> segmentiCorrispondenti(const SerieSegmenti& vecchi, const SerieSegmenti& nuovi);
+
+/// Where data that were kept come from.
+struct OrigineBackup {
+    SerieSegmenti tempi;    ///< those that the data belonged to
+    bool presente = false;  ///< there was something to keep
+    bool offerto = false;   ///< the user has been asked whether to take it back
+};
+
+/// Parameters of the demand curve of a leg as they were.
 struct CurvaBackup {
     float FlussoTempo1 = 0.0F;
     float FlussoTempo2 = 0.0F;
@@ -37,8 +62,16 @@ struct CurvaBackup {
     DataOra Tempo1 = 0.0;
     DataOra Tempo2 = 0.0;
     DataOra Tempo3 = 0.0;
-    std::vector<float> conteggi;  ///< vehicles by segment, from 0
     friend bool operator==(const CurvaBackup&, const CurvaBackup&) = default;
+};
+
+/// Traffic of a leg as it was. Each kind has an origin of its own: what is all zero takes no other's place.
+struct RamoBackup {
+    OrigineBackup origineCurva;
+    OrigineBackup origineConteggi;
+    OrigineBackup origineComposizione;
+    CurvaBackup curva;
+    std::vector<float> conteggi;  ///< vehicles by segment, from 0
 };
 
 /// Traffic data that a change of the modelling time threw away, for the windows that offer them back. They are no part
@@ -46,7 +79,7 @@ struct CurvaBackup {
 struct BackupTraffico {
     bool BackupComposizioneDisponibile = false;
     TabellaBackup BackupComposizione;
-    std::vector<CurvaBackup> curve;  ///< by leg, from 0
+    std::vector<RamoBackup> rami;  ///< by leg, from 0
 };
 
 }  // namespace kelvo

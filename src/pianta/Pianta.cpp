@@ -13,7 +13,7 @@ namespace kelvo::pianta {
 
 namespace {
 
-constexpr std::array<std::string_view, 19> nomiRuolo{"carreggiata",
+constexpr std::array<std::string_view, 20> nomiRuolo{"carreggiata",
                                                      "anello",
                                                      "corona",
                                                      "isola",
@@ -29,6 +29,7 @@ constexpr std::array<std::string_view, 19> nomiRuolo{"carreggiata",
                                                      "freccia",
                                                      "frecciaAnello",
                                                      "percorso",
+                                                     "flusso",
                                                      "lettera",
                                                      "nome",
                                                      "nota"};
@@ -239,6 +240,7 @@ Pianta costruisci(const DatiPianta& dati, const OpzioniPianta& opzioni) {
     opera.svolta = scelte.vista == Vista::primoPiano ? -pianta.rami[primo].direzione : 0.0;
     disponiRami(opera);
     scegliVista(opera);
+    opera.conFlussi = aggiungiFlussi(opera);
     aggiungiCarreggiata(opera);
     aggiungiSegnaletica(opera);
     aggiungiQuote(opera);

@@ -59,6 +59,10 @@ struct OpzioniPianta {
     bool nomi = true;
     bool lettere = true;
     bool note = true;  ///< the mark and the remarks; without them the caller shows `Pianta::note` beside the picture
+    /// Flows from the leg of a row to the leg of a column, in any unit, drawn as ribbons as wide as they are large;
+    /// none for 0, for what is no number, from a leg to itself. Where there are any, they stand in the place of the
+    /// arrows of lanes and ring, and the ring is drawn as wide as they need.
+    std::vector<std::vector<float>> flussi{};
 };
 
 /// A leg as drawn.

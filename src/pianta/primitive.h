@@ -43,6 +43,7 @@ enum class Ruolo {
     freccia,              ///< area: an arrow of a lane
     frecciaAnello,        ///< area: an arrow of the ring
     percorso,             ///< line: path of a movement, ends in an arrow head
+    flusso,               ///< area: ribbon of the flow of a movement, of its origin, from its entry to its exit
     lettera,              ///< text: letter of a leg
     nome,                 ///< text: name of a leg
     nota,                 ///< text: mark and remarks at the foot of the plan

@@ -65,7 +65,7 @@ void scriviRamo(Costruzione& opera, std::size_t i) {
                                 .punto = posto,
                                 .altezza = 1.45 * h,
                                 .disco = raggio,
-                                .corrente = opera.corrente(i)});
+                                .corrente = opera.corrente(i) || opera.nelMovimento(i)});
         allarga(pianta.vista, posto - Punto{raggio, raggio}, posto + Punto{raggio, raggio});
         oltre += raggio;
     }
@@ -117,6 +117,9 @@ void raccogliNote(Costruzione& opera) {
         if (!sue.empty()) {
             fuori += fmt::format("{}{} {}", fuori.empty() ? "" : "; ", lettera(static_cast<int>(i) + 1), sue);
         }
+    }
+    if (opera.conFlussi) {
+        pianta.note.emplace_back("flussi: larghezza in proporzione al valore, colore del ramo di origine");
     }
     if (!fuori.empty()) {
         pianta.note.push_back("misure non in scala: " + fuori);

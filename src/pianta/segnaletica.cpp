@@ -128,21 +128,6 @@ void frecciaAnello(Costruzione& opera, std::size_t i) {
                 {sulCerchio(raggio - gambo, da), 0}});
 }
 
-/// A smooth way between two points under two directions.
-Tracciato raccordo(Punto da, Punto partenza, Punto a, Punto arrivo) {
-    const double leva = 0.4 * norma(a - da);
-    const Punto c1 = da + partenza * leva;
-    const Punto c2 = a - arrivo * leva;
-    Tracciato via;
-    constexpr int passi = 16;
-    for (int k = 0; k <= passi; ++k) {
-        const double t = static_cast<double>(k) / passi;
-        const double u = 1 - t;
-        via.push_back({da * (u * u * u) + c1 * (3 * u * u * t) + c2 * (3 * u * t * t) + a * (t * t * t), 0});
-    }
-    return via;
-}
-
 void percorso(Costruzione& opera, Movimento movimento) {
     const auto n = static_cast<int>(opera.numero());
     if (movimento.da < 1 || movimento.da > n || movimento.a < 1 || movimento.a > n) {
@@ -151,7 +136,7 @@ void percorso(Costruzione& opera, Movimento movimento) {
     const auto da = static_cast<std::size_t>(movimento.da - 1);
     const auto a = static_cast<std::size_t>(movimento.a - 1);
     const double raggio = opera.pianta.R - opera.pianta.anello / 2;
-    const double fine = opera.pianta.lunghezzaRami - 2.0;
+    const double fine = opera.fineCorsie();
     const Tracciato entra = mezzeria(opera.pianta.rami[da].ingresso, fine, raggio, 0.0);
     const Tracciato esce = mezzeria(opera.pianta.rami[a].uscita, fine, raggio, 0.0);
     double giro = opera.angolo(a) - opera.angolo(da);
@@ -172,6 +157,19 @@ void percorso(Costruzione& opera, Movimento movimento) {
 }
 
 }  // namespace
+
+Tracciato raccordo(Punto da, Punto partenza, Punto a, Punto arrivo) {
+    const double leva = 0.4 * norma(a - da);
+    const Punto c1 = da + partenza * leva;
+    const Punto c2 = a - arrivo * leva;
+    Tracciato via;
+    for (std::size_t k = 0; k <= passiRaccordo; ++k) {
+        const double t = static_cast<double>(k) / static_cast<double>(passiRaccordo);
+        const double u = 1 - t;
+        via.push_back({da * (u * u * u) + c1 * (3 * u * u * t) + c2 * (3 * u * t * t) + a * (t * t * t), 0});
+    }
+    return via;
+}
 
 Tracciato mezzeria(const Ciglio& ciglio, double fine, double raggio, double angolo) {
     const Punto bocca = (ciglio.angolo + ciglio.piede) * 0.5;
@@ -208,10 +206,14 @@ void aggiungiSegnaletica(Costruzione& opera) {
             attraversamento(opera, i, true);
             attraversamento(opera, i, false);
         }
-        frecceCorsie(opera, i);
-        frecciaAnello(opera, i);
+        if (!opera.conFlussi) {
+            frecceCorsie(opera, i);
+            frecciaAnello(opera, i);
+        }
     }
-    if (opera.opzioni.movimento) {
+    const bool conNastro = std::any_of(opera.pianta.aree.begin(), opera.pianta.aree.end(),
+                                       [](const Area& a) { return a.ruolo == Ruolo::flusso && a.corrente; });
+    if (opera.opzioni.movimento && !conNastro) {
         percorso(opera, *opera.opzioni.movimento);
     }
 }

@@ -3,6 +3,11 @@
 #include <memory>
 
 #include "input/frmAnalisiMarginale.h"
+#include "input/frmComposizioneTraffico.h"
+#include "input/frmComposizioneTrafficoST.h"
+#include "input/frmDatiTraffico.h"
+#include "input/frmDatiTrafficoST.h"
+#include "input/frmMatriceSvolte.h"
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
@@ -31,7 +36,18 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmTempoModellazione", crea<frmTempoModellazione>);
     finestre.registra("frmToponomasticaIntersezione", crea<frmToponomasticaIntersezione>);
     finestre.registra("frmAnalisiMarginale", crea<frmAnalisiMarginale>);
+    finestre.registra("frmDatiTraffico", crea<frmDatiTraffico>);
+    finestre.registra("frmDatiTrafficoST", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmDatiTrafficoST>(contorno, &servizi.anteprima);
+    });
+    finestre.registra("frmComposizioneTraffico", crea<frmComposizioneTraffico>);
+    finestre.registra("frmComposizioneTrafficoST", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmComposizioneTrafficoST>(contorno, &servizi.anteprima);
+    });
     finestre.registra("frmOpzioni", crea<frmOpzioni>);
+    finestre.registra("frmMatriceSvolte", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmMatriceSvolte>(contorno, servizi.anteprima);
+    });
     finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
         return std::make_unique<frmParametriRamo>(contorno,
                                                   frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});

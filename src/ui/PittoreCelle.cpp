@@ -121,9 +121,18 @@ int PittoreCelle::larghezza(Posto cella) const {
     return lunga + 2 * margineStretto + 2 + (conSegno ? static_cast<int>(latoSegno) + margineStretto : 0);
 }
 
+int PittoreCelle::lato(Posto cella, int larghezza) const {
+    const int comodo = margineDi(larghezza);
+    if (cella.riga >= griglia_.righeFisse()) {
+        return comodo;
+    }
+    // A heading that fits with the narrow margins alone is not cut for the wide ones.
+    return this->larghezza(cella) + 2 * (comodo - margineStretto) <= larghezza ? comodo : margineStretto;
+}
+
 int PittoreCelle::altezza(Posto cella, int larghezza) const {
     const QFontMetrics& metrica = faccia(cella).metrica;
-    const int libera = std::max(1, larghezza - 2 * margineDi(larghezza) - 1);
+    const int libera = std::max(1, larghezza - 2 * lato(cella, larghezza) - 1);
     const QRect preso = metrica.boundingRect(QRect(0, 0, libera, altezzaSenzaFine), Qt::TextWordWrap, testo(cella));
     return std::max(altezzaRiga(), preso.height() + aria);
 }
@@ -192,7 +201,7 @@ void PittoreCelle::dipingi(QPainter& pittore, const QRect& posto, Posto cella, b
     if (ornato.distintivo && !contenuto.testo.empty()) {
         dipingiDistintivo(pittore, dentro, cella, *ornato.distintivo);
     } else {
-        const int lato = margineDi(posto.width());
+        const int lato = this->lato(cella, posto.width());
         const int modo = static_cast<int>(allineamento(cella)) | (aCapo(cella) ? Qt::TextWordWrap : Qt::TextSingleLine);
         pittore.setPen(penna);
         pittore.drawText(dentro.adjusted(lato, 0.0, -lato, 0.0), modo, testo(cella));

@@ -32,6 +32,8 @@ public:
     Qt::Alignment allineamento(Posto cella) const;
 
 private:
+    /// Room between the text of a cell of that width and its edges.
+    int lato(Posto cella, int larghezza) const;
     /// A face with its measures: both are dear to make and asked for cell by cell.
     struct Faccia {
         explicit Faccia(const QFont& font) : carattere(font), metrica(font) {}

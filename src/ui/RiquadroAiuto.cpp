@@ -48,6 +48,16 @@ QString foglioPagine() {
         .arg(qcolore(tinta::secondario).name());
 }
 
+/// The page: as high as it has to be at least where it stands alone, so that it takes what others leave.
+class Pagina final : public QTextBrowser {
+public:
+    using QTextBrowser::QTextBrowser;
+    bool sola = false;
+    QSize sizeHint() const override {
+        return sola ? QSize(QTextBrowser::sizeHint().width(), minimumHeight()) : QTextBrowser::sizeHint();
+    }
+};
+
 }  // namespace
 
 void cartellaAiuto(const std::string& cartella) {
@@ -59,7 +69,7 @@ RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidge
       aiuto_(aiuto),
       piano_(new QVBoxLayout(this)),
       figura_(new Figura(this)),
-      testo_(new QTextBrowser(this)) {
+      testo_(new Pagina(this)) {
     piano_->setContentsMargins(misura::margine, misura::margineVerticale, misura::margine, misura::margineVerticale);
     auto* testata = new QLabel(titolo, this);
     testata->setObjectName(QStringLiteral("titoloPannello"));
@@ -72,8 +82,7 @@ RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidge
     piano_->addWidget(testata);
     piano_->addWidget(linea());
     piano_->addWidget(figura_, 1);
-    linea_ = linea();
-    piano_->addWidget(linea_);
+    piano_->addWidget(linea());
     testo_->setFixedHeight(misura::aiuto);
     testo_->setFocusPolicy(Qt::NoFocus);
     testo_->setOpenLinks(false);
@@ -117,10 +126,21 @@ void RiquadroAiuto::sopra(QWidget* oggetto) {
     piano_->addLayout(pagina, partePagina);
 }
 
+void RiquadroAiuto::alPosto(QWidget* oggetto) {
+    delete piano_->replaceWidget(figura_, oggetto);
+    piano_->setStretchFactor(oggetto, 1);
+    figura_->hide();
+}
+
 void RiquadroAiuto::soloPagina() {
     figura_->hide();
-    linea_->hide();
-    testo_->setMinimumHeight(misura::note);
+    for (QFrame* linea : findChildren<QFrame*>(QStringLiteral("rigaPannello"), Qt::FindDirectChildrenOnly)) {
+        linea->hide();
+    }
+    piano_->setContentsMargins(misura::margine, misura::spazio, misura::margine, misura::spazio);
+    piano_->setSpacing(misura::canale);
+    static_cast<Pagina*>(testo_)->sola = true;
+    testo_->setMinimumHeight(misura::paginaSola);
     testo_->setMaximumHeight(QWIDGETSIZE_MAX);
     piano_->setStretchFactor(testo_, 1);
 }

@@ -29,7 +29,9 @@ public:
     void segui(Immagine& immagine);
     /// Puts something in the place of the picture, which goes to the right of the page.
     void sopra(QWidget* oggetto);
-    /// The page takes all the room: there is no picture.
+    /// Puts something into the place of the picture, which is shown nowhere then.
+    void alPosto(QWidget* oggetto);
+    /// The pane is its title and the page alone, for the room that other things leave.
     void soloPagina();
 
 private:
@@ -38,7 +40,6 @@ private:
     PannelloAiuto& aiuto_;
     QVBoxLayout* piano_;
     Figura* figura_;
-    QFrame* linea_ = nullptr;  ///< below the picture
     QTextBrowser* testo_;
     std::string risorsa_;
 };

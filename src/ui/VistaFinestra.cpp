@@ -277,7 +277,10 @@ void VistaFinestra::larghezzaColonna(int larghezza) {
     const double altezza = disegnoFinestra.H;
     const double resto = larghezza + misura::margine;
     piano_->sposta(sinistra_, {0.0, 0.0, static_cast<double>(larghezza), altezza});
-    piano_->sposta(lato_, {resto, 0.0, disegnoFinestra.W - resto, altezza});
+    // A column as wide as the window leaves nothing at its right.
+    const bool tutta = resto >= disegnoFinestra.W;
+    piano_->sposta(lato_, tutta ? Rettangolo{0.0, 0.0, disegnoFinestra.W, 0.0}
+                                : Rettangolo{resto, 0.0, disegnoFinestra.W - resto, altezza});
 }
 
 void VistaFinestra::colloca(QWidget* pannello, const Rettangolo& posto) {

@@ -158,6 +158,10 @@ void VistaGriglia::mostra() {
             setColumnHidden(c, griglia_.colonna(c + griglia_.colonneFisse()).nascosta);
         }
         minime_.clear();
+        if (guida_ != nullptr) {
+            guida_->minime_.clear();
+            guida_->disponi();
+        }
         disponi();
     }
     mostraCorrente();
@@ -204,13 +208,16 @@ void VistaGriglia::mostraEditor() {
     editor_->setGeometry(visualRect(indice).adjusted(0, 0, -1, -1));
     editor_->setFont(pittore_.carattere(dove));
     editor_->setAlignment(pittore_.allineamento(dove));
-    const auto massima = griglia_.colonna(dove.colonna).regole.lunghezzaMassima;
+    const auto massima = griglia_.lunghezzaAmmessa();
     const int limite = massima == 0 ? lunghezzaSenzaLimite : static_cast<int>(massima);
     if (editor_->maxLength() != limite) {
         editor_->setMaxLength(limite);  // moves the cursor to the end
     }
     if (editor_->text() != q(griglia_.testoEditor())) {
         editor_->setText(q(griglia_.testoEditor()));
+        if (griglia_.tuttoScelto()) {
+            editor_->selectAll();
+        }
     }
     mostraFallito(*editor_, griglia_.fallita());
     if (editor_->isHidden()) {

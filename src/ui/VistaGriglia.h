@@ -28,6 +28,13 @@ public:
     bool conFuoco() const;
     /// Height of the whole table without scrolling, frame included.
     int altezzaIntera() const;
+    /// Width that the widest column asks for at least.
+    int colonnaMinima();
+    /// Where a cell below the fixed ones is seen, in the coordinates of the view.
+    QRect posto(Posto cella) const;
+    /// The columns of this view stand in line with those of `guida` that are not fixed, which are never narrower than
+    /// the texts of either. `guida` must live as long.
+    void incolonna(VistaGriglia& guida);
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
@@ -46,6 +53,7 @@ private:
     int spazio() const;
     void disponi();
     void stringi(bool stretta);
+    void misuraColonne();
     void disponiLarghezze();
     void disponiAltezze();
     void disponiTestate();
@@ -74,6 +82,8 @@ private:
     std::vector<Misurata> misurate_;
     std::vector<int> minime_;  ///< smallest width of each column, fixed ones too
     std::vector<int> larghezze_;
+    VistaGriglia* guida_ = nullptr;
+    VistaGriglia* seguace_ = nullptr;
     unsigned versione_ = 0;
     bool letta_ = false;
     bool inDisposizione_ = false;

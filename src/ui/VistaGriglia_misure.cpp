@@ -75,6 +75,25 @@ void VistaGriglia::disponi() {
         updateGeometries();
     }
     inDisposizione_ = false;
+    if (seguace_ != nullptr) {
+        seguace_->disponi();
+    }
+}
+
+void VistaGriglia::incolonna(VistaGriglia& guida) {
+    guida_ = &guida;
+    guida.seguace_ = this;
+    guida.minime_.clear();
+    guida.disponi();
+}
+
+int VistaGriglia::colonnaMinima() {
+    misuraColonne();
+    return minime_.empty() ? 0 : *std::max_element(minime_.begin(), minime_.end());
+}
+
+QRect VistaGriglia::posto(Posto cella) const {
+    return visualRect(modello_->indice(cella)).translated(viewport()->pos());
 }
 
 int VistaGriglia::larghezzaDi(Posto cella) {
@@ -91,23 +110,40 @@ int VistaGriglia::larghezzaDi(Posto cella) {
     return misurata.larghezza;
 }
 
+void VistaGriglia::misuraColonne() {
+    const Tabella& tabella = griglia_.tabella();
+    const int colonne = tabella.colonne();
+    if (!minime_.empty()) {
+        return;
+    }
+    const auto celle = static_cast<std::size_t>(tabella.righe()) * static_cast<std::size_t>(colonne);
+    if (misurate_.size() != celle) {
+        misurate_.assign(celle, {});
+    }
+    minime_.assign(static_cast<std::size_t>(colonne), 0);
+    for (int c = 0; c < colonne; ++c) {
+        int& minima = minime_[static_cast<std::size_t>(c)];
+        for (int r = 0; r < tabella.righe(); ++r) {
+            minima = std::max(minima, larghezzaDi({r, c}));
+        }
+        minima = griglia_.colonna(c).aCapo ? std::max(minima, minimaACapo) : minima;
+    }
+    if (seguace_ != nullptr) {
+        seguace_->misuraColonne();
+        auto prima = static_cast<std::size_t>(griglia_.colonneFisse());
+        for (const int altra : seguace_->minime_) {
+            if (prima < minime_.size()) {
+                minime_[prima] = std::max(minime_[prima], altra);
+            }
+            ++prima;
+        }
+    }
+}
+
 void VistaGriglia::disponiLarghezze() {
     const Tabella& tabella = griglia_.tabella();
     const int colonne = tabella.colonne();
-    if (minime_.empty()) {
-        const auto celle = static_cast<std::size_t>(tabella.righe()) * static_cast<std::size_t>(colonne);
-        if (misurate_.size() != celle) {
-            misurate_.assign(celle, {});
-        }
-        minime_.assign(static_cast<std::size_t>(colonne), 0);
-        for (int c = 0; c < colonne; ++c) {
-            int& minima = minime_[static_cast<std::size_t>(c)];
-            for (int r = 0; r < tabella.righe(); ++r) {
-                minima = std::max(minima, larghezzaDi({r, c}));
-            }
-            minima = griglia_.colonna(c).aCapo ? std::max(minima, minimaACapo) : minima;
-        }
-    }
+    misuraColonne();
     std::vector<int> pesi;
     for (int c = 0; c < colonne; ++c) {
         const auto indice = static_cast<std::size_t>(c);
@@ -115,6 +151,12 @@ void VistaGriglia::disponiLarghezze() {
         pesi.push_back(griglia_.colonna(c).nascosta ? 0 : detto > 0 ? detto : pesoComune);
     }
     larghezze_ = dividiSpazio(spazio(), pesi, minime_);
+    if (guida_ != nullptr) {
+        const auto fisse = static_cast<std::size_t>(guida_->griglia_.colonneFisse());
+        for (std::size_t c = 0; c < larghezze_.size() && c + fisse < guida_->larghezze_.size(); ++c) {
+            larghezze_[c] = guida_->larghezze_[c + fisse];
+        }
+    }
     for (int c = griglia_.colonneFisse(); c < colonne; ++c) {
         if (pesi[static_cast<std::size_t>(c)] > 0) {
             setColumnWidth(c - griglia_.colonneFisse(), larghezze_[static_cast<std::size_t>(c)]);

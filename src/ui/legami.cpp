@@ -61,6 +61,18 @@ void suggerisci(const tBox& campo, QWidget& widget) {
     widget.setAccessibleDescription(q(campo.suggerimento));
 }
 
+/// The text of a field in the colour that its window tells.
+void inchiostra(QLineEdit& riga, Colore colore) {
+    QPalette tavolozza = riga.palette();
+    const bool proprio = colore != colori::nero;
+    const QColor voluto = qcolore(proprio ? inchiostroLeggibile(colore, colori::bianco) : tinta::inchiostro);
+    if (tavolozza.color(QPalette::Active, QPalette::Text) != voluto) {
+        tavolozza.setColor(QPalette::Active, QPalette::Text, voluto);
+        tavolozza.setColor(QPalette::Inactive, QPalette::Text, voluto);
+        riga.setPalette(tavolozza);
+    }
+}
+
 QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
     auto* riga = new QLineEdit(genitore);
     preparaCampo(*riga);
@@ -76,6 +88,7 @@ QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
             riga->setCursorPosition(cursore);
         }
         riga->setReadOnly(campo.solaLettura());
+        inchiostra(*riga, campo.aspetto().inchiostro);
         mostraFallito(*riga, campo.fallito());
     });
     QObject::connect(riga, &QLineEdit::textEdited, legame, [&campo, riga](const QString& testo) {

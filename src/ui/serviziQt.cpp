@@ -139,6 +139,13 @@ Risposta MessaggiQt::mostra(const std::string& testo, const std::string& titolo,
     return dialogo.risposta();
 }
 
+Risposta MessaggiQt::mostraSopra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) {
+    DialogoMessaggio dialogo(testo, titolo, icona, pulsanti, QApplication::activeWindow());
+    dialogo.setWindowFlag(Qt::WindowStaysOnTopHint);
+    dialogo.exec();
+    return dialogo.risposta();
+}
+
 std::optional<std::string> DialogoFileQt::apri(const RichiestaFile& richiesta,
                                                const std::function<void(const std::string&)>& alCambio) {
     QFileDialog dialogo(QApplication::activeWindow());

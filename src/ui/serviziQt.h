@@ -16,6 +16,7 @@ namespace kelvo::ui {
 class MessaggiQt final : public FinestraMessaggi {
 public:
     Risposta mostra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) override;
+    Risposta mostraSopra(const std::string& testo, const std::string& titolo, Icona icona, Pulsanti pulsanti) override;
 };
 
 /// The file dialogues of the toolkit.

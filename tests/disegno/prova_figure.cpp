@@ -38,6 +38,19 @@ pianta::OpzioniPianta primoPiano(pianta::Misura misura) {
     return {.vista = pianta::Vista::primoPiano, .ramo = 2, .misura = misura};
 }
 
+/// From each leg most to the one across, none to itself.
+std::vector<std::vector<float>> flussi(int rami) {
+    std::vector<std::vector<float>> tutti;
+    for (int da = 0; da < rami; ++da) {
+        std::vector<float>& riga = tutti.emplace_back();
+        for (int a = 0; a < rami; ++a) {
+            const int giro = (a - da + rami) % rami;
+            riga.push_back(static_cast<float>(20 * std::min(giro, rami - giro) * (1 + da % 3)));
+        }
+    }
+    return tutti;
+}
+
 const std::array figure{
     Figura{"TreRami", 3, ramo(5, 3.75, 20, 25, 25, 40), {}},
     Figura{"QuattroRami", 4, ramo(5, 3.75, 20, 25, 25, 40), {}},
@@ -51,6 +64,8 @@ const std::array figure{
     Figura{"AngoloNullo", 4, ramo(5, 3.75, 20, 0, 25, 40), primoPiano(pianta::Misura::angoloConflitto)},
     Figura{"AngoloMassimo", 4, ramo(5, 3.75, 20, 77, 25, 40), primoPiano(pianta::Misura::angoloConflitto)},
     Figura{"Movimento", 4, ramo(5, 3.75, 20, 25, 25, 40), {.ramo = 1, .movimento = pianta::Movimento{1, 4}}},
+    Figura{"Flussi", 4, ramo(5, 3.75, 20, 25, 25, 40), {.movimento = pianta::Movimento{2, 4}, .flussi = flussi(4)}},
+    Figura{"FlussiSetteRami", 7, ramo(4.5, 3.5, 15, 32, 20, 75), {.flussi = flussi(7)}},
 };
 
 class Figure : public testing::TestWithParam<Figura> {

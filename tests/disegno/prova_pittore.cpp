@@ -110,6 +110,89 @@ TEST_F(Pittura, TheEntryAtHandIsBlueAndNoOther) {
     EXPECT_EQ(q.colore(inA + Punto{0.6, 0}), qcolore(tinta::asfalto));
 }
 
+TEST_F(Pittura, ARibbonHasTheColourOfItsOriginAndSoHasTheLetter) {
+    for (int da = 1; da <= 7; ++da) {
+        std::vector<std::vector<float>> flussi(7, std::vector<float>(7, 0.0F));
+        const int a = da % 7 + 1;
+        flussi[static_cast<std::size_t>(da) - 1][static_cast<std::size_t>(a) - 1] = 40.0F;
+        const Quadro q = dipinto(usuale(7), {.flussi = flussi});
+        const QColor attesa = qcolore(tinta::categorie[static_cast<std::size_t>(da) - 1]);
+        const auto nastro = std::find_if(q.pianta.aree.begin(), q.pianta.aree.end(),
+                                         [](const pianta::Area& x) { return x.ruolo == pianta::Ruolo::flusso; });
+        ASSERT_NE(nastro, q.pianta.aree.end());
+        const Punto inizio = (nastro->contorno.front().p + nastro->contorno.back().p) * 0.5;
+        EXPECT_EQ(q.colore(inizio * 0.97), attesa) << da;
+        for (const pianta::Testo& testo : q.pianta.testi) {
+            if (testo.disco > 0) {
+                EXPECT_EQ(q.colore(testo.punto), qcolore(tinta::categorie[static_cast<std::size_t>(testo.ramo) - 1]));
+            }
+        }
+    }
+}
+
+TEST_F(Pittura, ALightRibbonHasABorderThatIsSeenOnTheAsphalt) {
+    for (std::size_t i = 0; i < tinta::categorie.size(); ++i) {
+        const bool chiara = contrasto(tinta::categorie[i], tinta::asfalto) < 3.0;
+        EXPECT_EQ(chiara, i >= 5) << i;
+    }
+    std::vector<std::vector<float>> flussi(7, std::vector<float>(7, 0.0F));
+    flussi[5][6] = 40.0F;
+    const Quadro q = dipinto(usuale(7), {.flussi = flussi});
+    const auto nastro = std::find_if(q.pianta.aree.begin(), q.pianta.aree.end(),
+                                     [](const pianta::Area& x) { return x.ruolo == pianta::Ruolo::flusso; });
+    int scuro = 255;
+    for (int dx = -1; dx <= 1; ++dx) {
+        for (int dy = -1; dy <= 1; ++dy) {
+            scuro = std::min(scuro, q.immagine.pixelColor(q.punto(nastro->contorno[1].p) + QPoint(dx, dy)).red());
+        }
+    }
+    EXPECT_LT(scuro, 140);
+}
+
+TEST_F(Pittura, WithoutFlowsThePictureIsThatOfThePlanAlone) {
+    const std::vector<std::vector<float>> nessuno(4, std::vector<float>(4, 0.0F));
+    EXPECT_EQ(dipinto(usuale(4), {.flussi = nessuno}).immagine, dipinto(usuale(4), {}).immagine);
+}
+
+TEST_F(Pittura, TheRibbonAtHandIsWiderAndBordered) {
+    const std::vector<std::vector<float>> flussi(4, std::vector<float>(4, 10.0F));
+    const Quadro senza = dipinto(usuale(4), {.flussi = flussi});
+    const Quadro con = dipinto(usuale(4), {.movimento = pianta::Movimento{1, 3}, .flussi = flussi});
+    const auto nastro = std::find_if(con.pianta.aree.begin(), con.pianta.aree.end(), [](const pianta::Area& x) {
+        return x.ruolo == pianta::Ruolo::flusso && x.corrente;
+    });
+    ASSERT_NE(nastro, con.pianta.aree.end());
+    EXPECT_EQ(nastro->nome, "flusso A-C");
+    const auto scuri = [](const Quadro& q) {
+        int quanti = 0;
+        for (int y = 0; y < q.immagine.height(); ++y) {
+            for (int x = 0; x < q.immagine.width(); ++x) {
+                quanti += q.immagine.pixelColor(x, y).lightness() < 40 ? 1 : 0;
+            }
+        }
+        return quanti;
+    };
+    EXPECT_GT(scuri(con), scuri(senza) + 300);
+}
+
+TEST_F(Pittura, FlowsAreInEveryKindOfFile) {
+    DisegnatoreQt disegnatore;
+    const std::vector<std::vector<float>> flussi(4, std::vector<float>(4, 10.0F));
+    const QByteArray arancio = qcolore(tinta::serieSaturazione).name().toUtf8();  // leg B
+    const auto svg = [&](const pianta::OpzioniPianta& opzioni) {
+        return QByteArray::fromStdString(
+            disegnatore.pianta(usuale(4), opzioni, FormatoDisegno::svg, {.larghezza = 900}).dati);
+    };
+    EXPECT_FALSE(svg({}).contains(arancio));
+    EXPECT_TRUE(svg({.flussi = flussi}).contains(arancio));
+    for (const FormatoDisegno formato : {FormatoDisegno::png, FormatoDisegno::pdf}) {
+        const auto senza = disegnatore.pianta(usuale(4), {}, formato, {.larghezza = 900});
+        const auto con = disegnatore.pianta(usuale(4), {.flussi = flussi}, formato, {.larghezza = 900});
+        EXPECT_EQ(con.errore, "");
+        EXPECT_GT(con.dati.size(), senza.dati.size());
+    }
+}
+
 TEST_F(Pittura, TheHighlightedWidthIsDrawnFromTheIslandToTheKerb) {
     const Quadro q = dipinto(
         usuale(4), {.vista = pianta::Vista::primoPiano, .ramo = 1, .misura = pianta::Misura::larghezzaIngresso});

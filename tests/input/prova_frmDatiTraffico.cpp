@@ -2,6 +2,8 @@
 
 #include "input/frmDatiTraffico.h"
 
+#include <set>
+
 #include "base/numeri.h"
 #include "scenaTraffico.h"
 
@@ -223,6 +225,29 @@ TEST_F(ProveCurva, ASegmentOfNoMinutesIsAFaultOfTheConstruction) {
     EXPECT_EQ(errori[0].metodo, "frmDatiTraffico:CostruisciCurva");
     EXPECT_TRUE(scrivi(t2, "08:40")) << "no length can be asked for";
     EXPECT_EQ(finestra.txtIntervalloTempo.testo(), "00");
+}
+
+TEST_F(ProveCurva, KeyboardStartsInTheFirstFieldThatIsTypedInto) {
+    EXPECT_EQ(finestra.fuoco(), &t1);
+    finestra.fuocoSu(q2);
+    apri("keyDatiTraffico2");
+    EXPECT_EQ(finestra.fuoco(), &t1);
+}
+
+TEST_F(ProveCurva, EveryFieldHasItsPage) {
+    std::set<std::string> pagine;
+    for (Controllo* c : finestra.ordine()) {
+        if (auto* campo = dynamic_cast<tBox*>(c)) {
+            EXPECT_NE(campo->paginaAiuto, "") << campo->nome();
+            EXPECT_TRUE(pagine.insert(campo->paginaAiuto).second) << campo->nome();
+            if (campo == &finestra.txtTarget) {
+                finestra.Check2.clicca();
+            }
+            ASSERT_TRUE(finestra.fuocoSu(*campo)) << campo->nome();
+            EXPECT_EQ(finestra.ctlHelp.pagina(), campo->paginaAiuto);
+        }
+    }
+    EXPECT_EQ(pagine.size(), 12U);
 }
 
 TEST_F(ProveCurva, TabOrderFollowsTheReadingOrder) {

@@ -136,6 +136,44 @@ TEST_F(CurvaInFinestra, WithoutATargetOrQ1NothingIsSearched) {
     cerca(",", "600");
 }
 
+TEST_F(CurvaInFinestra, TheFigureThatLacksHasTheFocusWhenTheBoxComesUp) {
+    finestra.Check2.clicca();
+    finestra.fuocoSu(finestra.Command1);
+    const Controllo* mentre = nullptr;
+    messaggi.alMostrare = [&] { mentre = finestra.fuoco(); };
+    finestra.Command1.premi();
+    EXPECT_EQ(mentre, &finestra.txtTarget);
+    EXPECT_EQ(finestra.fuoco(), &finestra.txtTarget);
+    finestra.txtTarget.scrivi("600");
+    scrivi(q1, "0");
+    finestra.fuocoSu(finestra.Command1);
+    finestra.Command1.premi();
+    EXPECT_EQ(mentre, &q1);
+    EXPECT_EQ(finestra.fuoco(), &q1);
+}
+
+TEST_F(CurvaInFinestra, TheButtonHasTheFocusAgainAfterASearchThatItStarted) {
+    finestra.Check2.clicca();
+    finestra.txtTarget.scrivi("600");
+    finestra.fuocoSu(finestra.Command1);
+    int tornato = 0;
+    finestra.fuocoMutato().connect([&] { tornato += finestra.fuoco() == &finestra.Command1 ? 1 : 0; });
+    finestra.Command1.premi();
+    EXPECT_EQ(tornato, 1);
+    EXPECT_EQ(finestra.fuoco(), &finestra.Command1);
+    finestra.fuocoSu(q1);
+    finestra.Command1.premi();  // by its mnemonic
+    EXPECT_EQ(finestra.fuoco(), &q1);
+}
+
+TEST_F(CurvaInFinestra, ACurveWithoutFlowsTellsWhatToDo) {
+    flussi(2, 0.0F, 0.0F, 0.0F);
+    apri("keyDatiTraffico2");
+    EXPECT_NE(finestra.ctlChart.contenuto().nota.find("q1, q2 e q3"), std::string::npos);
+    scrivi(q1, "1");
+    EXPECT_EQ(finestra.ctlChart.contenuto().nota, "");
+}
+
 TEST_F(CurvaInFinestra, ARefusedFieldKeepsTheSearchFromStarting) {
     finestra.Check2.clicca();
     finestra.fuocoSu(finestra.txtTarget);
@@ -222,6 +260,7 @@ TEST_F(CurvaInFinestra, AFoundCurveIsSavedAsItIsShown) {
 TEST_F(CurvaInFinestra, AFaultInTheSearchIsToldAndTheButtonOpensAgain) {
     app.theRotonda().SegmentoTempo(oraDelGiorno(1, 0));
     finestra.Check2.clicca();
+    finestra.scordaFuoco();
     finestra.txtTarget.scrivi("600");
     errori.clear();
     finestra.Command1.premi();

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <functional>
+#include <sstream>
 
 #include "app/nuovoProgetto.h"
 #include "comune/appunti.h"
@@ -149,6 +151,8 @@ TEST_F(ProveMatrice, PerCentHidesTheExitsAndTellsWhatIsMissing) {
     EXPECT_EQ(finestra.lblVeicoliEntrate[1].testo(), "[%]") << "a row of nothing is in order";
     EXPECT_EQ(finestra.lblVeicoliEntrate[2].testo(), "[%]");
     EXPECT_EQ(finestra.lblVeicoliEntrate[3].testo(), "[%] [ sottrarre 5,5]");
+    EXPECT_EQ(finestra.lblVeicoliEntrate[0].aspetto().inchiostro, (Colore{160, 0, 24}));
+    EXPECT_EQ(finestra.lblVeicoliEntrate[1].aspetto().inchiostro, colori::nero);
     const Tabella& totali = finestra.ctlGridEntrate.tabella();
     EXPECT_EQ(totali.cella(0, 0).sfondo, (Colore{255, 140, 140}));
     EXPECT_TRUE(totali.cella(0, 0).grassetto);
@@ -209,6 +213,42 @@ TEST_F(ProveMatrice, AKeyThatIsNotTakenEndsTheEditOfACell) {
     EXPECT_EQ(finestra.ctlGrid.corrente(), (Posto{1, 3}));
     finestra.ctlGrid.scrivi("x");
     EXPECT_EQ(finestra.ctlGrid.testo(1, 3), "11");
+}
+
+TEST_F(ProveMatrice, AFractionThatIsMendedKeepsItsCommaAndIsRoundedToAWholeNumber) {
+    riga(1, 12.5F, 12.5F, 75.0F);
+    apri();
+    finestra.ctlGrid.premiTasto(Tasto::f2);
+    EXPECT_EQ(finestra.ctlGrid.testoEditor(), "12,5");
+    finestra.ctlGrid.correggi("12,56");
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 2), "13");
+    finestra.ctlGrid.premiTasto(Tasto::f2);
+    finestra.ctlGrid.correggi(",");  // all but the comma deleted
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 3), "0");
+    finestra.ctlGrid.corrente({1, 4});
+    finestra.ctlGrid.premiTasto(Tasto::f2);
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_EQ(entrate(0), "88");
+}
+
+TEST_F(ProveMatrice, ArrowsSkipTheDiagonalInTheDirectionOfMotion) {
+    apri();
+    const auto va = [&](Posto da, Tasto tasto) {
+        EXPECT_TRUE(finestra.ctlGrid.corrente(da));
+        finestra.ctlGrid.premiTasto(tasto);
+        return finestra.ctlGrid.corrente();
+    };
+    EXPECT_EQ(va({2, 1}, Tasto::destra), (Posto{2, 3}));
+    EXPECT_EQ(va({2, 3}, Tasto::sinistra), (Posto{2, 1}));
+    EXPECT_EQ(va({1, 2}, Tasto::giu), (Posto{3, 2}));
+    EXPECT_EQ(va({3, 2}, Tasto::su), (Posto{1, 2}));
+    EXPECT_EQ(va({1, 2}, Tasto::sinistra), (Posto{1, 2})) << "nothing lies beyond";
+    EXPECT_EQ(va({3, 4}, Tasto::giu), (Posto{3, 4}));
+    finestra.ctlGrid.corrente({2, 1});
+    finestra.ctlGrid.premiTasto(Tasto::invio, true);  // back along the row, and on to the one before
+    EXPECT_EQ(finestra.ctlGrid.corrente(), (Posto{1, 4}));
 }
 
 TEST_F(ProveMatrice, AValueBeyondSixteenBitsFailsIntoTheHandler) {
@@ -400,6 +440,62 @@ TEST_F(ProveMatrice, TheMovementAtHandIsTold) {
     finestra.ctlGrid.premiTasto(Tasto::invio);
     EXPECT_EQ(finestra.mostrata()[0][2], 50.0F);
     EXPECT_GE(volte, 2);
+}
+
+TEST_F(ProveMatrice, TheMovementAtHandIsToldInWords) {
+    apri();
+    EXPECT_EQ(finestra.lblMovimento.testo(), "Da A verso B: 10 veicoli");
+    finestra.ctlGrid.premiTasto(Tasto::giu);
+    EXPECT_EQ(finestra.lblMovimento.testo(), "Da C verso B: 17 veicoli");
+    finestra.ctlGrid.scrivi("25");
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    finestra.ctlGrid.premiTasto(Tasto::annulla);
+    EXPECT_EQ(finestra.lblMovimento.testo(), "Da C verso B: 17 veicoli");
+    rotonda().TipoMatriceSvolte(1);
+    finestra.ReadData();
+    EXPECT_EQ(finestra.lblMovimento.testo(), "Da C verso B: 17 %");
+}
+
+TEST_F(ProveMatrice, ThePlanShowsTheMovementAtHandAndTheFlowsWhereTheyAreAskedFor) {
+    apri();
+    finestra.ctlGrid.corrente({2, 4});
+    EXPECT_EQ(finestra.piantaMostrata().rami.size(), 4U);
+    ASSERT_TRUE(finestra.opzioniPianta().movimento.has_value());
+    EXPECT_EQ(finestra.opzioniPianta().movimento->da, 2);
+    EXPECT_EQ(finestra.opzioniPianta().movimento->a, 4);
+    EXPECT_TRUE(finestra.opzioniPianta().flussi.empty());
+    int volte = 0;
+    finestra.movimentoMutato().connect([&] { ++volte; });
+    finestra.chkFlussi.clicca();
+    EXPECT_EQ(volte, 1);
+    ASSERT_EQ(finestra.opzioniPianta().flussi.size(), 4U);
+    EXPECT_EQ(finestra.opzioniPianta().flussi[1], (std::vector<float>{13.0F, 0.0F, 14.0F, 15.0F}));
+    finestra.ctlGrid.scrivi("200");
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_EQ(finestra.opzioniPianta().flussi[1][3], 200.0F) << "as typed, before it is saved";
+    EXPECT_EQ(rotonda().MatriceSvolte(2, 4), 15.0F);
+    finestra.chkFlussi.clicca();
+    EXPECT_TRUE(finestra.opzioniPianta().flussi.empty());
+}
+
+TEST_F(ProveMatrice, FieldsBringTheirPagesAndTheKeyboardComesToTheMatrixFirst) {
+    apri();
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "MatriceSvolte.htm");
+    ASSERT_TRUE(finestra.fuocoSu(finestra.chkFlussi));
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "FlussiMatrice.htm");
+    ASSERT_TRUE(finestra.fuocoSu(finestra.txtIngresso[2]));
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "NomiMatrice.htm");
+    EXPECT_FALSE(finestra.ctlGridEntrate.prendeFuoco()) << "totals are there to be read";
+    EXPECT_FALSE(finestra.ctlGridUscite.prendeFuoco());
+    const auto primo = std::find_if(finestra.ordine().begin(), finestra.ordine().end(),
+                                    [](const Controllo* c) { return c->prendeFuoco(); });
+    EXPECT_EQ(*primo, &finestra.ctlGrid);
+    for (const char* pagina : {"MatriceSvolte.htm", "FlussiMatrice.htm", "NomiMatrice.htm"}) {
+        std::ifstream file(std::string{KELVO_SORGENTI "/assets/Support/"} + pagina);
+        std::ostringstream testo;
+        testo << file.rdbuf();
+        EXPECT_GT(testo.str().size(), 300U) << pagina;
+    }
 }
 
 }  // namespace

@@ -305,7 +305,7 @@ TEST_F(ProveTempo, TheMessagesComeAfterTheTimesAreWrittenAndBeforeTheTrafficIsTo
         EXPECT_EQ(rotonda().TempoFinale(), oraDelGiorno(9, 3));
         EXPECT_EQ(dati(1).NumSegmentiTempo(), 4);
         EXPECT_EQ(dati(1).FlussoTempo2(), 7.0F);
-        EXPECT_TRUE(backup().curve.empty());
+        EXPECT_TRUE(backup().rami.empty());
         EXPECT_FALSE(backup().BackupComposizioneDisponibile);
         visti.push_back(fine.testo());
     };
@@ -399,10 +399,10 @@ TEST_F(ProveTempo, TheOldTrafficIsKeptInTheBackup) {
     EXPECT_EQ(copia.cella(1, 3, 2), 7);
     EXPECT_EQ(copia.cella(1, 0, 0), 0);
     EXPECT_EQ(composizione(2).CategoriaSegmento(0, 0), 0.0F);
-    ASSERT_EQ(backup().curve.size(), 3U);
-    EXPECT_EQ(backup().curve[1].FlussoTempo2, 9.5F);
-    EXPECT_EQ(backup().curve[1].Tempo2, picco);
-    EXPECT_EQ(backup().curve[1].conteggi, (std::vector<float>{0.0F, 0.0F, 88.0F, 0.0F}));
+    ASSERT_EQ(backup().rami.size(), 3U);
+    EXPECT_EQ(backup().rami[1].curva.FlussoTempo2, 9.5F);
+    EXPECT_EQ(backup().rami[1].curva.Tempo2, picco);
+    EXPECT_EQ(backup().rami[1].conteggi, (std::vector<float>{0.0F, 0.0F, 88.0F, 0.0F}));
 }
 
 TEST_F(ProveTempo, TheBackupGrowsAndEndsWithTheProject) {
@@ -414,7 +414,7 @@ TEST_F(ProveTempo, TheBackupGrowsAndEndsWithTheProject) {
     EXPECT_EQ(backup().BackupComposizione.ultimoSegmento(), 6);
     EXPECT_EQ(backup().BackupComposizione.cella(1, 1, 4), 3);
     EXPECT_EQ(backup().BackupComposizione.cella(2, 1, 6), 4);
-    EXPECT_EQ(backup().curve.size(), 3U);  // of the last backup alone
+    EXPECT_EQ(backup().rami.size(), 3U);
     creaProgetto(app, 3);
     EXPECT_EQ(backup().BackupComposizione.rami(), 0);
 }

@@ -31,6 +31,7 @@ TEST(Istogramma, IsOneSeriesOfBarsWithoutALegend) {
     EXPECT_EQ(c.x.etichette, (std::vector<std::string>{"08:00-08:15", "08:15-08:30", "08:30-08:45"}));
     EXPECT_EQ(c.x.tacche, 4);
     EXPECT_EQ(c.x.passiPerEtichetta, 1.0);
+    EXPECT_EQ(c.x.posa, Grafico::Posa::centro) << "a label is of its whole bar";
     EXPECT_FALSE(c.legenda);
     EXPECT_TRUE(c.valori);
     EXPECT_FALSE(conValori("4.5*7*2.25").valori);

@@ -202,5 +202,30 @@ TEST_F(ProveGriglia, ANewEditForgetsWhatWasUndoneAndANewTableForgetsAll) {
     EXPECT_FALSE(griglia.modificata());
 }
 
+TEST_F(ProveGriglia, TextsPutThereInTheUsersSteadReachClosedCellsAndCanBeUndone) {
+    griglia.modificabile = [](Posto posto) { return posto.colonna == 1; };
+    griglia.allaConferma = [](Posto, std::string&) { return EsitoUscita::rifiuto(std::string{"no"}); };
+    std::vector<Posto> detti;
+    std::vector<bool> rivisti;
+    griglia.dopoModifica = [&](const std::vector<Posto>& posti) {
+        detti = posti;
+        rivisti.push_back(griglia.inRevisione());
+    };
+    griglia.inserisci({{{1, 1}, "8"}, {{2, 3}, "9"}});
+    EXPECT_EQ(testo(1, 1), "8");
+    EXPECT_EQ(testo(2, 3), "9");
+    EXPECT_EQ(detti, (std::vector<Posto>{{1, 1}, {2, 3}}));
+    EXPECT_TRUE(griglia.modificata());
+    premi({Tasto::annulla});
+    EXPECT_EQ(testo(1, 1), "11");
+    EXPECT_EQ(testo(2, 3), "23");
+    premi({Tasto::ripeti});
+    EXPECT_EQ(testo(2, 3), "9");
+    EXPECT_EQ(rivisti, (std::vector<bool>{false, true, true}));
+    EXPECT_FALSE(griglia.inRevisione());
+    griglia.inserisci({});
+    EXPECT_EQ(rivisti.size(), 3U);
+}
+
 }  // namespace
 }  // namespace kelvo::prove

@@ -49,6 +49,41 @@ TEST_F(ProveEditor, CharactersThatAreNotAllowedFallOutAndNoMoreThanTheLimitAreTa
     EXPECT_FALSE(griglia.inModifica());  // nothing of it opens the editor
 }
 
+TEST_F(ProveEditor, WhatStoodInTheCellStaysWhenItsTextIsMended) {
+    for (int c = 1; c < 4; ++c) {
+        griglia.colonna(c, {.regole = {.caratteri = "0123456789", .esclusoChiude = true}});
+    }
+    griglia.testo({1, 1}, "12,5");
+    premi({Tasto::f2});
+    griglia.correggi("12,56");  // a 6 was typed behind it
+    EXPECT_EQ(griglia.testoEditor(), "12,56");
+    griglia.correggi("12,5,6");  // no more of them than there were
+    EXPECT_EQ(griglia.testoEditor(), "12,56");
+    griglia.correggi("1256");
+    EXPECT_EQ(griglia.testoEditor(), "1256");
+    griglia.correggi("12,56");  // taken back in the editor
+    EXPECT_EQ(griglia.testoEditor(), "12,56");
+    griglia.correggi("12,56x");  // never stood there
+    EXPECT_EQ(griglia.testoEditor(), "12,56");
+    premi({Tasto::indietro, Tasto::invio});
+    EXPECT_EQ(testo(1, 1), "12,5");
+    EXPECT_TRUE(mutati.empty());
+}
+
+TEST_F(ProveEditor, ATextLongerThanTheRulesLosesNothingWhenItIsMended) {
+    griglia.testo({1, 1}, "123456");
+    premi({Tasto::f2});
+    EXPECT_EQ(griglia.lunghezzaAmmessa(), 6U);
+    griglia.correggi("123457");
+    EXPECT_EQ(griglia.testoEditor(), "123457");
+    griglia.correggi("1234578");
+    EXPECT_EQ(griglia.testoEditor(), "123457");
+    premi({Tasto::esc, Tasto::giu});
+    EXPECT_EQ(griglia.lunghezzaAmmessa(), 4U);
+    griglia.colonna(1, {});
+    EXPECT_EQ(griglia.lunghezzaAmmessa(), 0U);
+}
+
 TEST_F(ProveEditor, AKeyThatIsNotAllowedMayEndTheEdit) {
     griglia.versoInvio = Griglia::Verso::destra;
     for (int c = 1; c < 4; ++c) {
@@ -237,6 +272,24 @@ TEST_F(ProveEditor, WhileTheHookAsksTheEditIsNotEndedTwice) {
     EXPECT_TRUE(griglia.lascia());
     EXPECT_EQ(volte, 1);
     EXPECT_EQ(testo(1, 1), "7");
+}
+
+TEST_F(ProveEditor, ARefusalMayPutAnotherTextIntoTheEditor) {
+    griglia.allaConferma = [](Posto, std::string&) {
+        EsitoUscita esito = EsitoUscita::rifiuto(std::string{"no"});
+        esito.rimesso = "5,5";
+        return esito;
+    };
+    griglia.scrivi("7");
+    premi({Tasto::invio});
+    EXPECT_TRUE(griglia.inModifica());
+    EXPECT_EQ(griglia.testoEditor(), "5,5");
+    EXPECT_TRUE(griglia.tuttoScelto());
+    EXPECT_FALSE(griglia.fallita());
+    EXPECT_EQ(testo(1, 1), "11");
+    griglia.correggi("8");
+    EXPECT_FALSE(griglia.convalida());
+    EXPECT_EQ(griglia.testoEditor(), "5,5");
 }
 
 }  // namespace

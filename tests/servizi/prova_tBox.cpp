@@ -352,5 +352,29 @@ TEST(FacceCampo, ThereAreFive) {
     EXPECT_TRUE(libero.lascia());
 }
 
+TEST(VirgolaCampo, TheKeyOfASecondCommaIsPassedOverAndAPastedTextIsNotMended) {
+    tBox campo("campo", tBox::maskedit);
+    campo.caratteriAmmessi = "0123456789,";
+    campo.unaVirgola = true;
+    int giri = 0;
+    campo.dopoTasto = [&] { ++giri; };
+    campo.scrivi("1,5");
+    campo.scrivi("1,5,");
+    campo.scrivi("1,,5");
+    campo.scrivi(",1,5");
+    EXPECT_EQ(campo.testo(), "1,5");
+    EXPECT_EQ(giri, 1);
+    campo.scrivi("1,55");
+    EXPECT_EQ(campo.testo(), "1,55");
+    campo.scrivi("1,234,567");
+    EXPECT_EQ(campo.testo(), "1,234,567");
+    campo.scrivi("1,234,5678");
+    EXPECT_EQ(campo.testo(), "1,234,5678");
+    tBox libero("campo", tBox::maskedit);
+    libero.scrivi("1,5");
+    libero.scrivi("1,5,");
+    EXPECT_EQ(libero.testo(), "1,5,");
+}
+
 }  // namespace
 }  // namespace kelvo::prove

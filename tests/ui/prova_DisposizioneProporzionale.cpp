@@ -111,8 +111,9 @@ TEST_F(ProveViste, PanelsOfEveryWindowStandBesideEachOtherAndHoldTheirContent) {
     FabbricaFinestre fabbrica;
     registraFinestre(fabbrica, servizi.servizi());
     navigazione.corrente = "keyRamo1";
-    for (const char* nome : {"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista",
-                             "frmTempoModellazione", "frmParametriRamo"}) {
+    for (const char* nome :
+         {"frmEmptyForm", "frmAnagraficaRotonda", "frmCommittenteProfessionista", "frmTempoModellazione",
+          "frmParametriRamo", "frmComposizioneTraffico", "frmComposizioneTrafficoST"}) {
         Finestra* finestra = &fabbrica.finestra(nome, contorno());
         const std::unique_ptr<ui::VistaFinestra> vista(ui::creaVista(*finestra, nullptr));
         ASSERT_NE(vista, nullptr) << finestra->nome();

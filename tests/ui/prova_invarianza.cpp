@@ -117,6 +117,10 @@ TEST_P(Invarianza, SoDoesAProjectWhoseEveryPropertyIsItsOwn) {
         progetto.Ramo(i).AngoloConflitto(passo / 13.0F);
         progetto.Ramo(i).RaggioIngresso(1234.567F / passo);
         progetto.Ramo(i).DiametroInscritto(13.5F + passo / 17.0F);
+        DatiTraffico& traffico = progetto.Ramo(i).theDatiTraffico();
+        traffico.Tempo1(oraDelGiorno(7, 30, 20));
+        traffico.Tempo2(oraDelGiorno(8, 0, 10));
+        traffico.Tempo3(oraDelGiorno(8, 30, 0));
     }
     std::string messaggio;
     bool esito = false;
@@ -129,12 +133,21 @@ TEST_P(Invarianza, SoDoesAProjectWhoseEveryPropertyIsItsOwn) {
 TEST_P(Invarianza, FiveHundredSwitchesLeaveNoMoreObjectsThanTen) {
     banco.mostra();
     banco.nuovo(7);
+    Rotonda& progetto = banco.app.theRotonda();
+    for (std::int16_t i = 1; i <= progetto.NumeroRami(); ++i) {
+        // Times within the study: every window lets go at once.
+        progetto.Ramo(i).theDatiTraffico().Tempo1(progetto.TempoIniziale());
+        progetto.Ramo(i).theDatiTraffico().Tempo2(progetto.TempoIniziale());
+        progetto.Ramo(i).theDatiTraffico().Tempo3(progetto.TempoFinale());
+    }
     const std::vector<std::string> chiavi = nodiAperti(banco);
     const auto scambi = [&](std::size_t quanti) {
         for (std::size_t i = 0; i < quanti; ++i) {
             gesti::clicNodo(banco.albero(), chiavi[i % chiavi.size()]);
         }
+        gesti::clicNodo(banco.albero(), chiavi.front());
         smaltisci();
+        smaltisci();  // what the last layout of the frame has left is deleted too
     };
     const auto memoria = [] {
         std::ifstream stato("/proc/self/statm");

@@ -88,6 +88,25 @@ TEST_P(Box, ShowsWordsIconAndButtonsAndAnswersEnterAndEscape) {
     }
 }
 
+TEST(BoxSopra, StandsOverAllWindowsAndAnswersAsTheOthersDo) {
+    for (const bool sopra : {true, false}) {
+        bool inCima = !sopra;
+        QString testo;
+        AlModale risponde("messaggio", [&](QWidget& finestra) {
+            inCima = finestra.windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+            testo = finestra.findChild<QLabel*>(QStringLiteral("testoMessaggio"))->text();
+            QTest::keyClick(&finestra, Qt::Key_Return);
+        });
+        ui::MessaggiQt messaggi;
+        const Risposta data = sopra ? messaggi.mostraSopra("Uno\rdue", "KELVO 2014", Icona::critica, Pulsanti::ok)
+                                    : messaggi.mostra("Uno\rdue", "KELVO 2014", Icona::critica, Pulsanti::ok);
+        EXPECT_EQ(data, Risposta::ok);
+        EXPECT_EQ(inCima, sopra);
+        EXPECT_EQ(testo, QStringLiteral("Uno\ndue"));
+        EXPECT_TRUE(risponde.avvenuto());
+    }
+}
+
 TEST_P(Box, EachButtonAnswersForItself) {
     const std::map<std::string, Risposta> tutti{
         {"cmdOk", Risposta::ok}, {"cmdAnnulla", Risposta::annulla}, {"cmdSi", Risposta::si}, {"cmdNo", Risposta::no}};

@@ -23,7 +23,8 @@ const std::vector<Nodo>& nodiAperti() {
                                         {"keyAnagraficaRotonda", "frmAnagraficaRotonda"},
                                         {"keyAnagraficaProfessionista", "frmCommittenteProfessionista"},
                                         {"keyTempoModellazione", "frmTempoModellazione"},
-                                        {"keyRamo1", "frmParametriRamo"}};
+                                        {"keyRamo1", "frmParametriRamo"},
+                                        {"keyComposizioneTraffico1", "frmComposizioneTraffico"}};
     return nodi;
 }
 

@@ -4,6 +4,7 @@
 #include <QtGui/QDropEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <filesystem>
 
 #include "ui/banco.h"
@@ -38,8 +39,8 @@ bool lascia(QWidget& oggetto, QPoint posto, const QMimeData& carico) {
 class Trascina : public testing::TestWithParam<int> {
 protected:
     Trascina() {
-        // Nodes of traffic and composition are open where their windows stand.
-        for (const char* nome : {"frmDatiTraffico", "frmComposizioneTraffico"}) {
+        // Nodes of the composition are open where its window stands.
+        for (const char* nome : {"frmComposizioneTraffico"}) {
             banco.cornice.finestre.registra(nome, [nome](const Contorno& contorno) {
                 return std::make_unique<shell::FinestraFinta>(contorno, nome, true);
             });
@@ -145,10 +146,16 @@ TEST_P(Trascina, ATextFromElsewhereIsRefused) {
 }
 
 TEST_P(Trascina, AnOpenTargetShowsTheCopiedData) {
+    for (std::int16_t i = 1; i <= 3; ++i) {
+        DatiTraffico& dati = banco.app.theRotonda().Ramo(i).theDatiTraffico();
+        dati.Tempo1(banco.app.theRotonda().TempoIniziale());
+        dati.Tempo2(banco.app.theRotonda().TempoIniziale());
+        dati.Tempo3(banco.app.theRotonda().TempoFinale());
+    }
     banco.vai("keyDatiTraffico2");
-    const std::size_t letta = dynamic_cast<shell::FinestraFinta*>(banco.cornice.gestione.corrente())->lette.size();
+    EXPECT_EQ(banco.oggetto<QLineEdit>("txtFlussoTempo2").text(), QStringLiteral("0"));
     EXPECT_TRUE(trascina("keyDatiTraffico1", "keyDatiTraffico2"));
-    EXPECT_EQ(dynamic_cast<shell::FinestraFinta*>(banco.cornice.gestione.corrente())->lette.size(), letta + 1);
+    EXPECT_EQ(banco.oggetto<QLineEdit>("txtFlussoTempo2").text(), QStringLiteral("9,25"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Disposizioni, Trascina, testing::Values(0, 1),

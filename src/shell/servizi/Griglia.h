@@ -78,6 +78,11 @@ public:
     bool modificata(Posto posto) const;
     /// What stands there has been written back.
     void salvata();
+    /// Puts texts there in the user's stead, in closed cells too: nothing is asked, the owner is told, and it can be
+    /// undone.
+    void inserisci(const std::vector<TestoCella>& celle) { scriviCelle(celle); }
+    /// `dopoModifica` is told of something undone or redone: all cells stand as they stood then.
+    bool inRevisione() const { return inRevisione_; }
 
     // How the grid behaves: data and hooks of its owner.
     Verso versoInvio = Verso::giu;
@@ -87,7 +92,8 @@ public:
     std::function<bool(Posto)> salta;
     /// What stands in a cell beside its text.
     std::function<OrnamentoCella(Posto)> ornamento;
-    /// A typed text is to go into a cell, which may mend or refuse it; refused, the editor stays open.
+    /// A typed text is to go into a cell, which may mend or refuse it; refused, the editor stays open, with what the
+    /// outcome puts in the place of the text.
     std::function<EsitoUscita(Posto, std::string&)> allaConferma;
     /// A block is to go into cells, all of which may be typed into; they are mended or refused as a whole, before any
     /// of them changes. Where it is not set, every text must keep the rules of its column.
@@ -130,6 +136,9 @@ public:
     bool tuttoScelto() const { return editor_ && editor_->tutto; }
     /// The column of the cursor takes the character.
     bool ammette(std::string_view carattere) const;
+    /// Characters that the text in the editor may have: those of the rules of the column, more where the cell already
+    /// has more; 0 for no limit.
+    std::size_t lunghezzaAmmessa() const;
     /// The last text was refused.
     bool fallita() const { return fallita_; }
     /// The selected cells as text: tabs between cells, CR LF between rows; with the fixed ones that belong to them.
@@ -142,7 +151,8 @@ public:
     bool premiTasto(Tasto tasto, bool estendi = false);
     /// Types characters one after the other; the first opens the editor, in place of what stands in the cell.
     void scrivi(std::string_view testo);
-    /// The text in the open editor is another one; what the column does not take falls out.
+    /// The text in the open editor is another one; what the column does not take falls out, unless it already stood in
+    /// the cell.
     void correggi(std::string_view testo);
     /// A click on a cell; with the shift key the selection reaches as far as it. False if the cursor could not leave
     /// its cell or there is no such cell.
@@ -159,7 +169,8 @@ public:
     bool riempi(std::vector<TestoCella> celle);
     bool lascia() override;
     bool convalida() override;
-    bool prendeFuoco() const override { return raggiungibile(); }
+    /// A grid in which the cursor can stop nowhere takes no focus.
+    bool prendeFuoco() const override { return raggiungibile() && (tabella_.righe() == 0 || corrente_.riga >= 0); }
 
 private:
     struct Editor {
@@ -199,6 +210,7 @@ private:
     bool conferma();
     void batti(const std::string& carattere);
     void giudica(const EsitoUscita& esito);
+    void rimetti(const EsitoUscita& esito);
 
     void cancella();
     void copia(bool conIntestazioni);
@@ -221,6 +233,7 @@ private:
     std::optional<Editor> editor_;
     bool fallita_ = false;
     bool inConferma_ = false;
+    bool inRevisione_ = false;
     unsigned versione_ = 0;
     std::vector<Passo> fatti_;
     std::vector<Passo> disfatti_;

@@ -240,9 +240,11 @@ void Griglia::rivedi(const std::vector<TestoCella>& celle) {
         }
     }
     ++versione_;
+    inRevisione_ = true;
     if (dopoModifica) {
         dopoModifica(posti);
     }
+    inRevisione_ = false;
     if (!posti.empty()) {
         vai(posti.front());
     }

@@ -27,6 +27,15 @@ void Griglia::giudica(const EsitoUscita& esito) {
     }
 }
 
+void Griglia::rimetti(const EsitoUscita& esito) {
+    if (editor_ && esito.rimesso) {
+        editor_->testo = *esito.rimesso;
+        editor_->tutto = true;
+        fallita_ = false;
+        cambiato().emit();
+    }
+}
+
 bool Griglia::conferma() {
     if (!editor_) {
         return true;
@@ -56,6 +65,7 @@ bool Griglia::conferma() {
         fallita_ = true;
         cambiato().emit();  // the place is marked before the message comes up
         giudica(esito);
+        rimetti(esito);
         return false;
     }
     chiudi();
@@ -83,12 +93,20 @@ bool Griglia::convalida() {
         cambiato().emit();
     }
     giudica(esito);
+    if (!esito.accettato) {
+        rimetti(esito);
+    }
     return esito.accettato;
 }
 
 bool Griglia::ammette(std::string_view carattere) const {
     const std::string& caratteri = colonna(corrente_.colonna).regole.caratteri;
     return caratteri.empty() || caratteri.find(carattere) != std::string::npos;
+}
+
+std::size_t Griglia::lunghezzaAmmessa() const {
+    const std::size_t massima = colonna(corrente_.colonna).regole.lunghezzaMassima;
+    return massima == 0 ? 0 : std::max(massima, lunghezza(testo(corrente_.riga, corrente_.colonna)));
 }
 
 void Griglia::batti(const std::string& carattere) {
@@ -125,11 +143,21 @@ void Griglia::correggi(std::string_view testo) {
     if (!editor_ || !raggiungibile()) {
         return;
     }
-    const std::size_t massima = colonna(corrente_.colonna).regole.lunghezzaMassima;
+    const std::size_t massima = lunghezzaAmmessa();
+    // What stood in the cell may stay, each character as often as it stood there.
+    std::vector<std::string> stavano = caratteri(this->testo(corrente_.riga, corrente_.colonna));
+    const auto resta = [&](const std::string& carattere) {
+        const auto posto = std::find(stavano.begin(), stavano.end(), carattere);
+        if (posto == stavano.end()) {
+            return false;
+        }
+        stavano.erase(posto);
+        return true;
+    };
     std::string nuovo;
     std::size_t presi = 0;
     for (const std::string& carattere : caratteri(testo)) {
-        if (ammette(carattere) && (massima == 0 || presi < massima)) {
+        if ((massima == 0 || presi < massima) && (ammette(carattere) || resta(carattere))) {
             nuovo += carattere;
             ++presi;
         }

@@ -180,9 +180,17 @@ void tBox::digita(const std::string& testo) {
 }
 
 void tBox::scrivi(std::string_view testo) {
-    if (raggiungibile() && !solaLettura_) {
-        digita(filtrato(testo));
+    if (!raggiungibile() || solaLettura_) {
+        return;
     }
+    const std::string nuovo = filtrato(testo);
+    const bool unTasto = nuovo.size() == testo_.size() + 1;
+    if (unaVirgola && unTasto && std::count(testo_.begin(), testo_.end(), ',') == 1 &&
+        std::count(nuovo.begin(), nuovo.end(), ',') == 2) {
+        cambiato().emit();  // the view shows again what stands there
+        return;
+    }
+    digita(nuovo);
 }
 
 void tBox::scegli(int indice) {

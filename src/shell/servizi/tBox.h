@@ -69,6 +69,9 @@ public:
 
     /// The user types the decimal comma: the rules of the tag read it as the point, and a typed point becomes one.
     bool virgola = false;
+    /// The key of a second comma is passed over. A pasted text stays as it is: without one of its commas it would be
+    /// another number.
+    bool unaVirgola = false;
     /// Words of the box that comes up when the rules of the tag refuse the text; empty for none.
     std::string rifiuto;
     /// What the field is called in the status bar when it refuses; empty for nothing.

@@ -56,9 +56,11 @@ inline constexpr double quotaSecondaria = 1.0;
 inline constexpr double asse = 1.5;
 inline constexpr double percorso = 3.5;
 inline constexpr double disco = 1.5;
-inline constexpr double assi = 1.5;     ///< axes of a chart
-inline constexpr double griglia = 1.0;  ///< grid and ticks of a chart
-inline constexpr double serie = 2.0;    ///< line of a chart
+inline constexpr double flusso = 0.75;         ///< border of the flows of an origin
+inline constexpr double flussoCorrente = 1.5;  ///< what the flow at hand is wider than it would be
+inline constexpr double assi = 1.5;            ///< axes of a chart
+inline constexpr double griglia = 1.0;         ///< grid and ticks of a chart
+inline constexpr double serie = 2.0;           ///< line of a chart
 }  // namespace tratto
 
 /// Families of the faces, the first that a system has.

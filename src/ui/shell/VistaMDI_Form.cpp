@@ -52,6 +52,7 @@ QList<QKeySequence> sequenze(const std::string& tasti) {
 VistaMDI_Form::VistaMDI_Form() {
     setObjectName(QStringLiteral("MDI_Form"));
     setAcceptDrops(true);
+    setAnimated(false);  // nothing moves on its own
     setMinimumSize(misura::larghezzaMinima, misura::altezzaMinima);
     resize(1280, 800);
     auto* telaio = new QWidget(this);

@@ -17,16 +17,22 @@ struct VoceVista {
 constexpr std::array viste{
     VoceVista{"frmAnagraficaRotonda", vista_frmAnagraficaRotonda},
     VoceVista{"frmCommittenteProfessionista", vista_frmCommittenteProfessionista},
+    VoceVista{"frmDatiTraffico", vista_frmDatiTraffico},
+    VoceVista{"frmDatiTrafficoST", vista_frmDatiTrafficoST},
     VoceVista{"frmEmptyForm", vista_frmEmptyForm},
     VoceVista{"frmInputNumeroRami", vista_frmInputNumeroRami},
     VoceVista{"frmINFO", vista_frmINFO},
+    VoceVista{"frmMatriceSvolte", vista_frmMatriceSvolte},
     VoceVista{"frmParametriRamo", vista_frmParametriRamo},
+    VoceVista{"frmPreviewMatriceSvolte", vista_frmPreviewMatriceSvolte},
     VoceVista{"frmPreviewRami", vista_frmPreviewRami},
     VoceVista{"frmSplash", vista_frmSplash},
     VoceVista{"frmTempoModellazione", vista_frmTempoModellazione},
     VoceVista{"frmToponomasticaIntersezione", vista_frmToponomasticaIntersezione},
     VoceVista{"frmAnalisiMarginale", vista_frmAnalisiMarginale},
     VoceVista{"frmImportaCSV", vista_frmImportaCSV},
+    VoceVista{"frmComposizioneTraffico", vista_frmComposizioneTraffico},
+    VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
 };
 

@@ -7,16 +7,22 @@ namespace kelvo::ui {
 
 VistaFinestra* vista_frmAnagraficaRotonda(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmCommittenteProfessionista(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmDatiTraffico(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmDatiTrafficoST(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmEmptyForm(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmInputNumeroRami(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmINFO(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmMatriceSvolte(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmParametriRamo(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmPreviewMatriceSvolte(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmPreviewRami(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmSplash(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmTempoModellazione(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmToponomasticaIntersezione(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmAnalisiMarginale(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmImportaCSV(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmComposizioneTraffico(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmComposizioneTrafficoST(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmOpzioni(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui

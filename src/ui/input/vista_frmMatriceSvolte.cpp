@@ -1,0 +1,77 @@
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+#include "input/frmMatriceSvolte.h"
+#include "ui/RiquadroAiuto.h"
+#include "ui/VistaPianta.h"
+#include "ui/input/QuadroMatrice.h"
+#include "ui/legami.h"
+#include "ui/shell/viste.h"
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+class Vista final : public VistaFinestra {
+public:
+    Vista(frmMatriceSvolte& f, QWidget* genitore) : VistaFinestra(f, genitore), f_(f) {
+        larghezzaColonna(misura::colonnaMatrice);
+        auto* nomi = new Pannello({}, corpo());
+        nomi->fitto();
+        for (std::size_t i = 0; i < f.txtIngresso.size(); ++i) {
+            nomi->riga(f.lblIngresso[i], collega(f.txtIngresso[i], nomi));
+        }
+        colonna()->addWidget(nomi);
+        auto* valori = new Pannello({}, corpo());
+        auto* percento = collega(f.lblPercentualeROSSO, valori);
+        percento->setFont(forte(punti::gruppo));
+        valori->larga(percento);
+        valori->larga(new QuadroMatrice(f, valori));
+        colonna()->addWidget(valori);
+        colonna()->addWidget(collega(f.cmdImportaCSV, corpo()), 0, Qt::AlignLeft);
+        aggiungiAiuto(QStringLiteral("Svolta e flussi"))->alPosto(pianta());
+        chiudiDisposizione();
+    }
+    ~Vista() override { legamePianta_.disconnect(); }
+    Vista(const Vista&) = delete;
+    Vista& operator=(const Vista&) = delete;
+
+private:
+    /// The plan below a line with the movement in words and the button of the flows.
+    QWidget* pianta() {
+        auto* insieme = new QWidget(corpo());
+        auto* piano = new QVBoxLayout(insieme);
+        piano->setContentsMargins(0, 0, 0, 0);
+        auto* riga = new QHBoxLayout;
+        auto* parole = collega(f_.lblMovimento, insieme);
+        parole->setFont(dati(punti::corpo));
+        riga->addWidget(parole, 1);
+        riga->addWidget(collega(f_.chkFlussi, insieme));
+        piano->addLayout(riga);
+        auto* pianta = new VistaPianta([this] { return soggetto(); }, insieme);
+        piano->addWidget(pianta, 1);
+        legamePianta_ = f_.movimentoMutato().connect([pianta] { pianta->aggiorna(); });
+        return insieme;
+    }
+
+    VistaPianta::Soggetto soggetto() const {
+        if (f_.ctlGrid.tabella().righe() == 0) {
+            return {};  // the window has not come up yet
+        }
+        return {.dati = f_.piantaMostrata(), .opzioni = f_.opzioniPianta()};
+    }
+
+    frmMatriceSvolte& f_;
+    sigc::connection legamePianta_;
+};
+
+}  // namespace
+
+VistaFinestra* vista_frmMatriceSvolte(Finestra& finestra, QWidget* genitore) {
+    return new Vista(dynamic_cast<frmMatriceSvolte&>(finestra), genitore);
+}
+
+}  // namespace kelvo::ui
