@@ -207,6 +207,10 @@ TEST_F(ProveVistaGriglia, BlocksGoThroughTheClipboard) {
     EXPECT_EQ(griglia.testo(2, 2), "22");
     tasto(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(griglia.testo(2, 2), "10");
+    tasto(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(griglia.testo(2, 2), "22");
+    tasto(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(griglia.testo(2, 2), "10");
     tasto(Qt::Key_A, Qt::ControlModifier);
     tasto(Qt::Key_Delete);
     EXPECT_EQ(griglia.testo(3, 3), "");
@@ -243,6 +247,10 @@ TEST_F(ProveVistaGriglia, TheMenuComesUpAtTheKeyAndTheRightButton) {
     EXPECT_TRUE(chiede(QContextMenuEvent::Keyboard));
     QTest::mouseClick(vista->viewport(), Qt::RightButton, {}, posto(2, 1).center());
     EXPECT_EQ(destro, (Posto{2, 1}));
+    EXPECT_EQ(griglia.corrente(), (Posto{2, 1}));
+    griglia.alTastoDestro = nullptr;
+    QTest::mouseClick(vista->viewport(), Qt::RightButton, {}, posto(3, 2).center());
+    EXPECT_EQ(griglia.corrente(), (Posto{3, 2}));
 }
 
 TEST_F(ProveVistaGriglia, CellsArePaintedInTheColoursOfTheTable) {

@@ -159,7 +159,8 @@ public:
     /// its cell or there is no such cell.
     bool clic(int riga, int colonna, bool estendi = false);
     void doppioClic(int riga, int colonna);
-    /// True if the right button was taken; else the context menu is its business.
+    /// The right button: the cursor goes to a cell outside the selection, which stays where the cell lies in it. True
+    /// if the button was taken; else the context menu is its business.
     bool tastoDestro(int riga, int colonna);
     void scorri(int riga);
     /// Puts a block there, from the top left cell of the selection on; what reaches beyond the table falls away. A
