@@ -162,6 +162,7 @@ void VistaGriglia::collegaGesti() {
 }
 
 void VistaGriglia::mostra() {
+    setFocusPolicy(griglia_.prendeFuoco() ? Qt::StrongFocus : Qt::NoFocus);
     if (!letta_ || versione_ != griglia_.versione()) {
         letta_ = true;
         versione_ = griglia_.versione();

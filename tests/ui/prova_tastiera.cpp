@@ -19,7 +19,7 @@ struct Nodo {
     std::int16_t tipoAnalisi = 0;
     std::int16_t tipoFlusso = 0;
 };
-/// A node of every window that stands.
+/// A node of the windows that start in the first field of their order.
 const std::vector<Nodo>& nodiAperti() {
     static const std::vector<Nodo> nodi{{"keyMyProject", "frmEmptyForm"},
                                         {"keyAnagraficaRotonda", "frmAnagraficaRotonda"},
@@ -27,6 +27,7 @@ const std::vector<Nodo>& nodiAperti() {
                                         {"keyTempoModellazione", "frmTempoModellazione"},
                                         {"keyRamo1", "frmParametriRamo"},
                                         {"keyComposizioneTraffico1", "frmComposizioneTraffico"},
+                                        {"keyMatriceSvolte", "frmMatriceSvolte"},
                                         {"keyDatiTraffico1", "frmDatiTrafficoST", 2, 0},
                                         {"keyComposizioneTraffico1", "frmComposizioneTrafficoST", 2, 1}};
     return nodi;
