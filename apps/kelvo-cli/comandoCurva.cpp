@@ -69,9 +69,9 @@ public:
                 "--obiettivo",
                 [this](const std::string& testo) {
                     obiettivo_ = leggiNumero(testo, Separatore::virgolaOPunto);
-                    if (!obiettivo_ || !(*obiettivo_ > 0.0)) {
+                    if (!obiettivo_ || !(*obiettivo_ >= 0.0)) {
                         throw CLI::ValidationError(
-                            "--obiettivo", fmt::format("serve un numero di veicoli sopra 0, non {}", citato(testo)));
+                            "--obiettivo", fmt::format("serve un numero di veicoli, 0 o più, non {}", citato(testo)));
                     }
                 },
                 "flusso totale in veicoli: cerca il picco q2, e q3, che lo danno a partire da q1")
@@ -98,7 +98,7 @@ private:
         const bool riuscito = contesto.errori().empty();
         if (comuni_.json) {
             stampa(riga(json(contesto, file, ramoTrovato ? &risposta : nullptr)));
-        } else if (riuscito) {
+        } else if (riuscito || risposta.ricerca) {
             stampa(testo(contesto, risposta));
         }
         return riuscito;
@@ -185,6 +185,8 @@ private:
             righe.emplace_back("Obiettivo [veic]", testoNumero(*obiettivo_));
             righe.emplace_back("Ricerca", nome(risposta.ricerca->esito).parole);
             righe.emplace_back("Passi", testoNumero(risposta.ricerca->passi));
+        }
+        if (risposta.scarto) {
             righe.emplace_back("Approssimazione applicata", formatta(*risposta.scarto, "0.0000") + "%");
         }
         std::string tutto = fmt::format("Curva di traffico: {}", rotonda.Ramo(ramo_).Descrizione());
@@ -244,7 +246,9 @@ private:
                         {"esito", nome(risposta.ricerca->esito).chiave}};
         ricerca["differenzaAnomala"] =
             risposta.ricerca->esito == EsitoRicerca::trovata && piccoAnomalo(risposta.dati.q1, risposta.dati.q2);
-        ricerca["approssimazione"] = numero(*risposta.scarto);
+        if (risposta.scarto) {
+            ricerca["approssimazione"] = numero(*risposta.scarto);
+        }
         return ricerca;
     }
 

@@ -53,6 +53,19 @@ std::string senzaUltimi(std::string_view testo, std::size_t quanti) {
     return std::string{testo.substr(0, inizioUltimi(testo, quanti))};
 }
 
+std::string accorciato(std::string_view testo, std::size_t quanti) {
+    constexpr unsigned maschera = 0xC0;
+    constexpr unsigned seguito = 0x80;
+    std::size_t fine = 0;
+    for (std::size_t presi = 0; fine < testo.size(); ++fine) {
+        const bool nuovo = (static_cast<unsigned char>(testo[fine]) & maschera) != seguito;
+        if (nuovo && presi++ == quanti) {
+            return std::string{testo.substr(0, fine)} + "…";
+        }
+    }
+    return std::string{testo};
+}
+
 std::size_t parteValida(std::string_view testo) {
     const char* const inizio = testo.data();
     return static_cast<std::size_t>(utf8::find_invalid(inizio, inizio + testo.size()) - inizio);

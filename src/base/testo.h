@@ -18,6 +18,9 @@ std::vector<std::string> caratteri(std::string_view testo);
 std::string ultimiCaratteri(std::string_view testo, std::size_t quanti);
 /// The text less its last `quanti` characters; empty if it is shorter.
 std::string senzaUltimi(std::string_view testo, std::size_t quanti);
+/// The text, or its first `quanti` characters and "…" where it is longer. `quanti` is no less than 0; what lies behind
+/// them is not looked at.
+std::string accorciato(std::string_view testo, std::size_t quanti);
 /// Number of bytes before the first that is no valid UTF-8: the size of the text if there is none.
 std::size_t parteValida(std::string_view testo);
 /// The text with every wrong byte sequence replaced by U+FFFD.

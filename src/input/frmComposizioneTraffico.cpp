@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -24,16 +26,60 @@ constexpr const char* diversi = "≠ coefficiente diverso dal riferimento";
 constexpr const char* nelCalcolo = "Il calcolo usa i coefficienti di riferimento, che si cambiano nelle Opzioni.";
 }  // namespace testi
 
+constexpr const char* metodoCampi = "frmComposizioneTraffico:Campi";
 constexpr const char* numerico = "Type:Numeric";
 constexpr const char* paginaEquivalenti = "CoefficienteEquivalenza.htm";
 constexpr const char* paginaRiferimento = "CoefficienteRiferimento.htm";
 constexpr std::size_t ultima = numeroClassi - 1;
-constexpr float intero = 100.0F;
-/// Singles that stand for decimals leave less than half of this where the decimals add up.
-constexpr double grana = 1e-4;
+constexpr double intero = 100.0;
+/// Decimals that a total is rounded to: as many as its shares have, within these. Cars are kept as a single: what is
+/// asked of them is asked to the fewest.
+constexpr int decimaliMinimi = 4;
+constexpr int decimaliMassimi = 7;
 
-double arrotondato(double valore) {
-    return std::round(valore / grana) * grana;
+double arrotondato(double valore, int decimali) {
+    const double potenza = std::pow(10.0, decimali);
+    return std::round(valore * potenza) / potenza;
+}
+
+int decimaliDi(std::string_view testo) {
+    const auto virgola = testo.find(',');
+    return virgola == std::string_view::npos ? 0 : static_cast<int>(testo.size() - virgola - 1);
+}
+
+using Quote = std::array<std::string, ultima>;
+
+int decimaliDi(const Quote& quote) {
+    int decimali = decimaliMinimi;
+    for (const std::string& quota : quote) {
+        decimali = std::max(decimali, decimaliDi(quota));
+    }
+    return std::min(decimali, decimaliMassimi);
+}
+
+bool staInUnSingolo(double valore) {
+    return std::fabs(valore) <= static_cast<double>(std::numeric_limits<float>::max());
+}
+
+/// What the six shares leave of 100; nothing where one is no number, or where no single holds it.
+std::optional<double> restoDi(const Quote& quote) {
+    double r = intero;
+    for (const std::string& quota : quote) {
+        if (!leggiSingolo(quota)) {
+            return std::nullopt;
+        }
+        r -= leggiNumero(quota).value_or(0.0);
+    }
+    return staInUnSingolo(r) ? std::optional{arrotondato(r, decimaliDi(quote))} : std::nullopt;
+}
+
+template <class Testo>
+Quote seiQuote(Testo testo) {
+    Quote quote;
+    for (std::size_t i = 0; i < ultima; ++i) {
+        quote[i] = testo(i);
+    }
+    return quote;
 }
 
 frmComposizioneTraffico::Riga riga(std::size_t i) {
@@ -85,29 +131,30 @@ void frmComposizioneTraffico::prepara(std::size_t i) {
     r.txtRiferimento.paginaAiuto = paginaRiferimento;
     r.txtRiferimento.solaLettura(true);
     r.txtEquivalenti.controllo = [this, i] { return controllaEquivalenti(i); };
-    r.txtEquivalenti.dopoTasto = [this] { mostraDiversi(); };
-    r.txtEquivalenti.dopoUscita = [this] { confronta(); };
+    r.txtEquivalenti.dopoTasto = [this] { gestisci(metodoCampi, [this] { mostraDiversi(); }); };
+    r.txtEquivalenti.dopoUscita = [this] { gestisci(metodoCampi, [this] { confronta(); }); };
     if (i == ultima) {
         r.txtPercento.solaLettura(true);
         return;
     }
     r.txtPercento.controllo = [this, i] { return controllaPercento(i); };
-    r.txtPercento.dopoTasto = [this] { mostraTotale(); };
-    r.txtPercento.dopoUscita = [this] { dopoPercento(); };
+    r.txtPercento.dopoTasto = [this] { gestisci(metodoCampi, [this] { mostraTotale(); }); };
+    r.txtPercento.dopoUscita = [this] { gestisci(metodoCampi, [this] { dopoPercento(); }); };
 }
 
 void frmComposizioneTraffico::ReadData() {
-    const CoefficientiVeicoli riferimenti = app().configurazione.coefficienti();
-    for (std::size_t i = 0; i < righe.size(); ++i) {
-        const CategoriaTraffico& c = categorieTraffico[i];
-        righe[i].txtPercento.testo(testoNumero((composizione().*c.leggi)()));
-        righe[i].txtEquivalenti.testo(testoNumero((composizione().*c.leggiVE)()));
-        righe[i].txtRiferimento.testo(testoNumero(riferimenti[i]));
-    }
-    mostraTotale();
-    mostraDiversi();
-    RefreshGraph();
-    DatiAllineati(true);
+    gestisci("frmComposizioneTraffico:ReadData", [this] {
+        const CoefficientiVeicoli riferimenti = app().configurazione.coefficienti();
+        for (std::size_t i = 0; i < righe.size(); ++i) {
+            righe[i].txtPercento.testo(tenuto(i));
+            righe[i].txtEquivalenti.testo(testoNumero((composizione().*categorieTraffico[i].leggiVE)()));
+            righe[i].txtRiferimento.testo(testoNumero(riferimenti[i]));
+        }
+        mostraTotale();
+        mostraDiversi();
+        RefreshGraph();
+        DatiAllineati(true);
+    });
 }
 
 void frmComposizioneTraffico::SaveData() {
@@ -136,16 +183,49 @@ bool frmComposizioneTraffico::toccata() const {
     return std::any_of(righe.begin(), righe.end(), [](const Riga& r) { return r.txtPercento.modificato(); });
 }
 
-std::optional<float> frmComposizioneTraffico::residuo() const {
-    float r = intero;
-    for (std::size_t i = 0; i < ultima; ++i) {
-        const tBox& campo = righe[i].txtPercento;
-        if (mascheraVuota(campo) || !leggiSingolo(campo.testo())) {
-            return std::nullopt;
-        }
-        r = aSingolo(static_cast<double>(r) - static_cast<double>(singoloDi(campo)));
+std::string frmComposizioneTraffico::tenuto(std::size_t i) const {
+    return testoNumero((composizione().*categorieTraffico[i].leggi)());
+}
+
+std::optional<double> frmComposizioneTraffico::resto() const {
+    return restoDi(seiQuote([this](std::size_t i) { return righe[i].txtPercento.testo(); }));
+}
+
+std::optional<double> frmComposizioneTraffico::restoTenuto() const {
+    return restoDi(seiQuote([this](std::size_t i) { return tenuto(i); }));
+}
+
+/// A mix that the project holds past 100 is mended share by share: none may rise meanwhile.
+bool frmComposizioneTraffico::abbassata(std::size_t i) const {
+    return restoTenuto().value_or(-intero) < 0.0 && leggiNumero(righe[i].txtPercento.testo()) <= leggiNumero(tenuto(i));
+}
+
+/// Text of the cars beside the shares as they stand, which are numbers.
+std::string frmComposizioneTraffico::autovetture() const {
+    const std::optional<double> r = resto();
+    if (!toccata()) {
+        return righe[ultima].txtPercento.testo();
     }
-    return aSingolo(arrotondato(static_cast<double>(r)));
+    if (!r || *r < 0.0) {
+        return tenuto(ultima);
+    }
+    bool comeTenute = true;
+    for (std::size_t i = 0; i < ultima; ++i) {
+        comeTenute = comeTenute && leggiNumero(righe[i].txtPercento.testo()) == leggiNumero(tenuto(i));
+    }
+    const double scarto = *r - leggiNumero(tenuto(ultima)).value_or(0.0);
+    return comeTenute && arrotondato(scarto, decimaliMinimi) == 0.0 ? tenuto(ultima) : testoNumero(aSingolo(*r));
+}
+
+/// What is missing in the total, below 0 what is too much, where the six shares leave `mancante`.
+double frmComposizioneTraffico::differenza(double mancante) const {
+    const double vetture = leggiNumero(autovetture()).value_or(0.0);
+    if (mancante >= 0.0) {
+        return toccata() ? 0.0 : arrotondato(mancante - vetture, decimaliMinimi);
+    }
+    // Cars that would follow go down to 0; beside shares that the project holds past 100 they stay.
+    const bool seguono = toccata() && restoTenuto().value_or(-intero) >= 0.0;
+    return seguono ? mancante : arrotondato(mancante - std::max(0.0, vetture), decimaliMassimi);
 }
 
 EsitoUscita frmComposizioneTraffico::controllaPercento(std::size_t i) {
@@ -155,7 +235,7 @@ EsitoUscita frmComposizioneTraffico::controllaPercento(std::size_t i) {
     }
     RefreshGraph();
     // A mix that nobody touched stays as the project holds it, whatever it adds up to.
-    if (!toccata() || residuo().value_or(0.0F) >= 0.0F) {
+    if (!toccata() || resto().value_or(-intero) >= 0.0 || abbassata(i)) {
         return EsitoUscita::bene();
     }
     const bool detto = std::any_of(righe.begin(), righe.end(), [&](const Riga& altra) {
@@ -182,9 +262,8 @@ EsitoUscita frmComposizioneTraffico::controllaEquivalenti(std::size_t i) const {
 }
 
 void frmComposizioneTraffico::dopoPercento() {
-    const std::optional<float> resto = residuo();
-    if (toccata() && resto) {
-        righe[ultima].txtPercento.modifica(testoNumero(*resto));
+    if (toccata()) {
+        righe[ultima].txtPercento.modifica(autovetture());
         RefreshGraph();
     }
     mostraTotale();
@@ -192,24 +271,22 @@ void frmComposizioneTraffico::dopoPercento() {
 }
 
 void frmComposizioneTraffico::mostraTotale() {
-    const std::optional<float> resto = residuo();
-    const double mancante = static_cast<double>(resto.value_or(0.0F));
-    const double autovetture = leggiNumero(righe[ultima].txtPercento.testo()).value_or(0.0);
-    // What was typed moves the last class as soon as its field is left.
-    const double differenza = toccata() ? std::min(0.0, mancante) : arrotondato(mancante - autovetture);
+    const bool numeri = std::all_of(righe.begin(), righe.end(),
+                                    [](const Riga& r) { return leggiSingolo(r.txtPercento.testo()).has_value(); });
+    const std::optional<double> mancante = resto();
+    const double scarto = mancante ? differenza(*mancante) : 0.0;
     std::string errore;
-    if (!resto) {
+    if (!numeri) {
         errore = testi::nonNumerico;
-    } else if (differenza < 0.0) {
-        errore = "Totale " + testoNumero(aSingolo(100.0 - differenza)) + " %: " + testoNumero(aSingolo(-differenza)) +
-                 " % di troppo";
-    } else if (differenza > 0.0) {
-        errore = "Totale " + testoNumero(aSingolo(100.0 - differenza)) + " %: manca il " +
-                 testoNumero(aSingolo(differenza)) + " %";
+    } else if (!mancante) {
+        errore = testi::oltreCento;
+    } else if (scarto != 0.0) {
+        errore = "Totale " + testoNumero(arrotondato(intero - scarto, decimaliMassimi)) +
+                 " %: " + testoNumero(std::fabs(scarto)) + (scarto < 0.0 ? " % di troppo" : " % in meno");
     }
     lblErroreTotale.testo(errore);
     lblErroreTotale.visibile(!errore.empty());
-    lblTotale.testo("Totale 100 %, di cui autovetture " + testoNumero(aSingolo(std::max(0.0, mancante))) + " %");
+    lblTotale.testo("Totale 100 %, di cui autovetture " + autovetture() + " %");
     lblTotale.visibile(errore.empty());
 }
 
@@ -227,16 +304,16 @@ void frmComposizioneTraffico::mostraDiversi() {
 }
 
 void frmComposizioneTraffico::confronta() {
+    const auto diverso = [](const tBox& campo, float tenuto) {
+        return campo.modificato() && leggiSingolo(campo.testo()) != tenuto;
+    };
+    bool allineati = true;
     for (std::size_t i = 0; i < righe.size(); ++i) {
         const CategoriaTraffico& c = categorieTraffico[i];
-        const auto diverso = [&](const tBox& campo, float tenuto) {
-            return campo.modificato() && leggiSingolo(campo.testo()) != tenuto;
-        };
-        if (diverso(righe[i].txtPercento, (composizione().*c.leggi)()) ||
-            diverso(righe[i].txtEquivalenti, (composizione().*c.leggiVE)())) {
-            DatiAllineati(false);
-        }
+        allineati = allineati && !diverso(righe[i].txtPercento, (composizione().*c.leggi)()) &&
+                    !diverso(righe[i].txtEquivalenti, (composizione().*c.leggiVE)());
     }
+    DatiAllineati(allineati);
 }
 
 std::string frmComposizioneTraffico::valoriGrafico() const {

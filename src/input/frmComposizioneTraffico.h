@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 
 #include "input/categorieTraffico.h"
 #include "shell/servizi/FinestraRamo.h"
@@ -45,7 +46,13 @@ private:
     EsitoUscita controllaEquivalenti(std::size_t i) const;
     void dopoPercento();
     bool toccata() const;
-    std::optional<float> residuo() const;
+    /// Text of a share as the project holds it.
+    std::string tenuto(std::size_t i) const;
+    std::optional<double> resto() const;
+    std::optional<double> restoTenuto() const;
+    bool abbassata(std::size_t i) const;
+    std::string autovetture() const;
+    double differenza(double mancante) const;
     void mostraTotale();
     void mostraDiversi();
     void confronta();

@@ -33,12 +33,13 @@ constexpr const char* senzaFlusso = "Flusso in ingresso nullo: inserire prima i 
 constexpr const char* senzaDomanda =
     "Flusso in ingresso nullo: il tipo di analisi scelto nelle Opzioni non ha dati di traffico";
 constexpr const char* eccedenza =
-    "Segmento di tempo '{}': numero veicoli inseriti > numero di veicoli in ingresso [{} veic.]";
+    "Segmento di tempo '{}': numero veicoli inseriti > numero di veicoli in ingresso [{} veic].";
 }  // namespace testi
 
 constexpr const char* cifre = "0123456789";
 constexpr double massimo = 999999999.0;
 constexpr const char* paginaBlocco = "BloccoCategoria.htm";
+constexpr const char* paginaImporta = "ImportaCSV.htm";
 constexpr const char* paginaTotale = "TotaleSegmento.htm";
 constexpr const char* paginaFlusso = "FlussoIngresso.htm";
 
@@ -59,11 +60,13 @@ frmComposizioneTrafficoST::frmComposizioneTrafficoST(const Contorno& contorno, D
       chkLock(caselle(std::make_index_sequence<numeroClassi>())),
       cmdImportaCSV("cmdImportaCSV", bottoneImportaCSV) {
     cmdImportaCSV.visibile(dialogo != nullptr);
-    cmdImportaCSV.allaPressione = [this, dialogo] { importa(*dialogo); };
+    cmdImportaCSV.allaPressione = [this, dialogo] {
+        gestisci("frmComposizioneTrafficoST:cmdImportaCSV", [&] { importa(*dialogo); });
+    };
     std::vector<Controllo*> controlli{&ctlGrid, &lblBlocca};
     for (std::size_t i = 0; i < chkLock.size(); ++i) {
         controlli.push_back(&chkLock[i]);
-        chkLock[i].alClic = [this, i] { spunta(i); };
+        chkLock[i].alClic = [this, i] { gestisci("frmComposizioneTrafficoST:chkLock", [&] { spunta(i); }); };
     }
     controlli.insert(controlli.end(), {&lblSegmento, &lblStato, &lblErroreStato, &cmdImportaCSV});
     ordina(controlli);
@@ -105,7 +108,7 @@ void frmComposizioneTrafficoST::ReadBackUpData() {
     for (int r = 1; r < ctlGrid.tabella().righe(); ++r) {
         if (const auto& riga = (*tabella)[static_cast<std::size_t>(r) - 1]) {
             for (int c = col::prima; c <= col::ultima; ++c) {
-                celle.push_back({{r, c}, testoNumero((*riga)[static_cast<std::size_t>(c - col::prima)])});
+                celle.push_back({{r, c}, testoVeicoli((*riga)[static_cast<std::size_t>(c - col::prima)])});
             }
         }
     }
@@ -140,6 +143,7 @@ void frmComposizioneTrafficoST::ReadData() {
         for (Casella& casella : chkLock) {
             casella.abilitato(ctlGrid.tabella().righe() > 1);
         }
+        cmdImportaCSV.abilitato(ctlGrid.tabella().righe() > 1);
         coloraBloccata();
         mostraSegmento();
         mostraStato();
@@ -306,7 +310,7 @@ OrnamentoCella frmComposizioneTrafficoST::ornamento(Posto posto) const {
     }
     if (posto.colonna == col::totale) {
         const EsitoSegmento esito = esitoSegmento(tabella, posto.riga);
-        if (esito == EsitoSegmento::piu || esito == EsitoSegmento::negativo) {
+        if (segnalato(esito)) {
             ornato.segno = OrnamentoCella::Segno::attenzione;
         } else if (esito == EsitoSegmento::uguale) {
             ornato.barra = tinta::verde;
@@ -344,8 +348,10 @@ void frmComposizioneTrafficoST::mostraAiuto() {
         } else {
             ctlHelp.pagina(colonna == col::totale ? paginaTotale : paginaFlusso);
         }
+    } else if (fuoco() == &cmdImportaCSV) {
+        ctlHelp.pagina(paginaImporta);
     } else if (fuoco() != nullptr) {
-        ctlHelp.pagina(paginaBlocco);
+        ctlHelp.pagina(paginaBlocco);  // the locks are all that is left
     }
 }
 

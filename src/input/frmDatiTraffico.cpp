@@ -120,7 +120,14 @@ void frmDatiTraffico::collega() {
         campo.dopoUscita = [this] { dopoTempo(); };
     }
     Check1.alClic = [this] { DoTheChart(); };
-    Check2.alClic = [this] { cambiaModo(); };
+    Check2.alClic = [this] {
+        // A key reaches the box while a field that refuses to be left has the focus.
+        if (lasciaFuoco()) {
+            cambiaModo();
+        } else {
+            Check2.spuntata(!Check2.spuntata());
+        }
+    };
     Command1.allaPressione = [this] {
         if (lasciaFuoco()) {
             CalcolaCurva();
@@ -175,8 +182,11 @@ void frmDatiTraffico::ReadBackUpData() {
 }
 
 void frmDatiTraffico::rileggi() {
+    curva_ = {};
     ReadData();
     mostraDaCapo();
+    txtFlussoTempo2.abilitato(!Check2.spuntata());
+    txtFlussoTempo3.abilitato(!Check2.spuntata());
 }
 
 void frmDatiTraffico::mostraDaCapo() {
@@ -215,10 +225,15 @@ void frmDatiTraffico::segnaSalvati() {
 }
 
 void frmDatiTraffico::SaveData() {
-    gestisci("frmDatiTraffico:SaveData", [this] {
+    bool fatto = false;
+    gestisci("frmDatiTraffico:SaveData", [this, &fatto] {
         if (modificata()) {
             if (!convalida()) {
                 return;
+            }
+            if (mascheraVuota(txtFlussoTempo1) || mascheraVuota(txtFlussoTempo2) || mascheraVuota(txtFlussoTempo3)) {
+                CostruisciCurva();  // what was left empty counts as 0, in the totals too
+                DoTheChart();
             }
             // What reads as the leg would show it stays as the leg has it, which may be more than a text holds.
             for (const LegameNumero& legame : legamiNumeri) {
@@ -236,7 +251,11 @@ void frmDatiTraffico::SaveData() {
             segnaSalvati();
         }
         DatiAllineati(true);
+        fatto = true;
     });
+    if (!fatto) {
+        stato().convalidaFallita = true;  // the window stays, with what was typed
+    }
 }
 
 }  // namespace kelvo

@@ -22,22 +22,22 @@ public:
     tBox txtIntervalloTempo{"txtIntervalloTempo", tBox::textbox, "Type:Numeric"};  ///< minutes of a segment, read-only
     tBox txtTempo1{"txtTempo1", tBox::dtpicker};                                   ///< t1, start of the curve
     tBox txtTempo2{"txtTempo2", tBox::dtpicker};                                   ///< t2, time of the peak
-    tBox txtTempo3{"txtTempo3", tBox::dtpicker};                                   ///< t3, end; closed on a flat curve
-    tBox txtFlussoTempo1{"txtFlussoTempo1", tBox::maskedit, "Type:Numeric"};       ///< q1, veic/min
-    tBox txtFlussoTempo2{"txtFlussoTempo2", tBox::maskedit, "Type:Numeric"};       ///< q2, the peak, veic/min
-    tBox txtFlussoTempo3{"txtFlussoTempo3", tBox::maskedit, "Type:Numeric"};       ///< q3, veic/min
-    tBox txtFlussoTotale{"txtFlussoTotale", tBox::textbox, "Type:Numeric"};        ///< vehicles, read-only
-    tBox txtFlussoMedio{"txtFlussoMedio", tBox::textbox, "Type:Numeric"};          ///< veic/min, read-only
-    tBox txtFlussoOrario{"txtFlussoOrario", tBox::textbox, "Type:Numeric"};        ///< veic/h, read-only
-    Casella Check1;                                                                ///< figures over the bars
-    Casella Check2;                                                                ///< the curve is searched, not typed
-    Etichetta lblTarget;                                                           ///< what `txtTarget` is
-    tBox txtTarget{"txtTarget", tBox::maskedit, "Type:Numeric"};  ///< vehicles that the search is to bring
-    Etichetta lblUnitaTarget;                                     ///< its unit
-    Bottone Command1;                                             ///< starts the search
-    BarraProgresso prgCurva{"prgCurva", 0, passiMassimiRicerca};  ///< how far the search has come
-    Etichetta lblApprox{"lblApprox"};                             ///< how near the search came
-    Grafico ctlChart{"ctlChart"};                                 ///< the bars, veic/min by time segment
+    tBox txtTempo3{"txtTempo3", tBox::dtpicker};  ///< t3, end; closed on a flat curve that t2 can end
+    tBox txtFlussoTempo1{"txtFlussoTempo1", tBox::maskedit, "Type:Numeric"};  ///< q1, veic/min
+    tBox txtFlussoTempo2{"txtFlussoTempo2", tBox::maskedit, "Type:Numeric"};  ///< q2, the peak, veic/min
+    tBox txtFlussoTempo3{"txtFlussoTempo3", tBox::maskedit, "Type:Numeric"};  ///< q3, veic/min
+    tBox txtFlussoTotale{"txtFlussoTotale", tBox::textbox, "Type:Numeric"};   ///< vehicles, read-only
+    tBox txtFlussoMedio{"txtFlussoMedio", tBox::textbox, "Type:Numeric"};     ///< veic/min, read-only
+    tBox txtFlussoOrario{"txtFlussoOrario", tBox::textbox, "Type:Numeric"};   ///< veic/h, read-only
+    Casella Check1;                                                           ///< figures over the bars
+    Casella Check2;                                                           ///< the curve is searched, not typed
+    Etichetta lblTarget;                                                      ///< what `txtTarget` is
+    tBox txtTarget{"txtTarget", tBox::maskedit, "Type:Numeric"};              ///< vehicles that the search is to bring
+    Etichetta lblUnitaTarget;                                                 ///< its unit
+    Bottone Command1;                                                         ///< starts the search
+    BarraProgresso prgCurva{"prgCurva", 0, passiMassimiRicerca};              ///< how far the search has come
+    Etichetta lblApprox{"lblApprox"};                                         ///< how near the search came
+    Grafico ctlChart{"ctlChart"};                                             ///< the bars, veic/min by time segment
 
     /// What stands beside a field.
     struct Riga {
@@ -59,8 +59,9 @@ public:
     void ReadBackUpData();
     /// Writes the parameters and totals to the leg. With nothing changed by the user it writes nothing.
     void SaveData() override;
-    /// Builds the bars and the totals from the fields, and closes t3 and q3 on a flat curve. Where the times give no
-    /// segment bars and totals stay as they were.
+    /// Builds the bars and the totals from the fields, and closes q3 on a flat curve; t3 too, unless it lies outside
+    /// the study or no earlier t2 could open it again. Where the times give no segment bars and totals stay as they
+    /// were.
     void CostruisciCurva();
     /// Shows the bars.
     void DoTheChart();
@@ -107,6 +108,7 @@ private:
     double flusso(const tBox& campo) const;
     DataOra tempo(std::size_t quale) const;
     int minutiSegmento() const;
+    bool soloTempo3Riapre() const;
     DatiCurva datiMostrati() const;
     void mostraTotali();
     void disegna();

@@ -30,8 +30,6 @@ constexpr const char* veicoli = "[veicoli]";
 constexpr const char* motivoNumero = "Scrivere un numero.";
 constexpr const char* motivoGrande = "Il numero è troppo grande.";
 // Of a cell that was pasted.
-constexpr const char* nonNumero = "non è un numero";
-constexpr const char* dueModi = "si può leggere in due modi, con i decimali o con le migliaia";
 constexpr const char* negativo = "è minore di 0";
 constexpr const char* grande = "è troppo grande";
 constexpr const char* senzaConteggi = "Scrivere nella tabella i veicoli contati in ogni segmento di tempo.";
@@ -40,6 +38,7 @@ constexpr const char* senzaSegmenti = "Nessun segmento di tempo: impostare prima
 
 /// Handler of what is done when a cell is left.
 constexpr const char* metodoCella = "frmMatriceSvolte:Immagini";
+constexpr const char* metodoSalva = "frmDatiTrafficoST:SaveData";
 constexpr const char* paginaConteggi = "FlussoSegmento.htm";
 constexpr int colonnaTempo = 0;
 constexpr int colonnaFlusso = 1;
@@ -141,15 +140,13 @@ void frmDatiTrafficoST::ReadBackUpData() {
     if (!conteggi || !chiediRecupero(app(), indiceRamo(), DatoTraffico::conteggi)) {
         return;
     }
-    ctlGrid.modifica([&](Tabella& tabella) {
-        for (int r = 1; r < tabella.righe(); ++r) {
-            if (const auto& valore = (*conteggi)[static_cast<std::size_t>(r) - 1]) {
-                tabella.cella(r, colonnaFlusso).testo = testoNumero(*valore);
-            }
+    std::vector<TestoCella> celle;
+    for (int r = 1; r < ctlGrid.tabella().righe(); ++r) {
+        if (const auto& valore = (*conteggi)[static_cast<std::size_t>(r) - 1]) {
+            celle.push_back({{r, colonnaFlusso}, testoNumero(*valore)});
         }
-    });
-    DatiAllineati(!ctlGrid.modificata());
-    cellaLasciata();
+    }
+    ctlGrid.inserisci(celle);
 }
 
 void frmDatiTrafficoST::rileggi() {
@@ -219,8 +216,7 @@ EsitoUscita frmDatiTrafficoST::esaminaBlocco(std::vector<TestoCella>& celle) con
     for (TestoCella& cella : celle) {
         const std::optional<double> numero = numeroIncollato(cella.testo);
         if (!numero) {
-            const bool doppio = leggiNumero(cella.testo, Separatore::virgolaOPunto).has_value();
-            return rifiutoBlocco(ctlGrid, cella, doppio ? testi::dueModi : testi::nonNumero);
+            return rifiutoBlocco(ctlGrid, cella, motivoNonNumero(cella.testo));
         }
         if (*numero < 0.0) {
             return rifiutoBlocco(ctlGrid, cella, testi::negativo);
@@ -279,13 +275,13 @@ void frmDatiTrafficoST::aggiornaDati() {
 }
 
 void frmDatiTrafficoST::salva(bool sempre) {
-    gestisci("frmDatiTrafficoST:SaveData", [&] {
+    gestisci(metodoSalva, [&] {
         if (!ctlGrid.lascia()) {
             stato().convalidaFallita = true;
             return;
         }
         if (sempre || ctlGrid.modificata()) {
-            AggiornaTotali();
+            gestisci(metodoSalva, [this] { AggiornaTotali(); });  // counts are kept whatever becomes of their totals
             scriviRamo();
             DoTheChart();
         }

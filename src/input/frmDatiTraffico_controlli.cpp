@@ -108,16 +108,13 @@ EsitoUscita frmDatiTraffico::esaminaTempo3() const {
 }
 
 void frmDatiTraffico::dopoFlusso(const tBox& campo) {
-    if (mascheraVuota(campo)) {
-        return;
+    if (campo.testo() != ",") {
+        dopoTempo();
     }
-    confronta();
-    CostruisciCurva();
-    DoTheChart();
 }
 
 void frmDatiTraffico::dopoTempo() {
-    confronta();
+    gestisci("frmDatiTraffico:Controlli", [this] { confronta(); });
     CostruisciCurva();
     DoTheChart();
 }

@@ -28,7 +28,8 @@ constexpr const char* fallita =
     "Controllare i valori inseriti\r - Ridurre il valore assegnato a q1\re ricalcolare la curva di traffico.";
 constexpr const char* approssimazione = "Approssimazione applicata :  ";
 constexpr const char* asse = "[veicoli]/[min]";
-constexpr const char* senzaFlussi = "Scrivere i flussi q1, q2 e q3, oppure far calcolare la curva da un flusso totale.";
+constexpr const char* senzaFlussi =
+    "Scrivere i flussi q1, q2 e q3, oppure scrivere q1 e far calcolare la curva da un flusso totale.";
 constexpr const char* nonCostruibile =
     "La curva non si può costruire: serve almeno un segmento di tempo tra t1 e t2 e tra t2 e t3.";
 }  // namespace testi
@@ -78,7 +79,7 @@ void frmDatiTraffico::CostruisciCurva() {
     costruita_ = false;
     gestisci("frmDatiTraffico:CostruisciCurva", [this] {
         costruita_ = kelvo::CostruisciCurva(datiMostrati(), curva_);
-        txtTempo3.abilitato(!curva_.piatto);
+        txtTempo3.abilitato(!curva_.piatto || soloTempo3Riapre());
         if (curva_.piatto) {
             txtFlussoTempo3.abilitato(false);
             txtFlussoTempo3.modifica(txtFlussoTempo2.testo());
@@ -87,6 +88,12 @@ void frmDatiTraffico::CostruisciCurva() {
             mostraTotali();
         }
     });
+}
+
+bool frmDatiTraffico::soloTempo3Riapre() const {
+    // With t2 as early as it can stand the curve would still be flat.
+    return segmentiTra(tempo(0), tempo(2), minutiSegmento(), -1) <= 1 ||
+           minutiTra(app().theRotonda().TempoFinale(), tempo(2)) > 0;
 }
 
 void frmDatiTraffico::mostraTotali() {

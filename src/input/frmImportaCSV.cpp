@@ -7,6 +7,7 @@
 #include "app/percorsi.h"
 #include "base/file.h"
 #include "base/numeri.h"
+#include "shell/servizi/incolla.h"
 #include "shell/servizi/tinte.h"
 
 namespace kelvo {
@@ -17,9 +18,11 @@ namespace testi {
 constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* scegli = "Selezionare un file CSV per vederne il contenuto.";
 constexpr const char* nessuna = "(nessuna)";
-constexpr const char* vuoto = "Il file non contiene righe di dati.";
 constexpr const char* nessunaScelta = "Scegliere almeno una colonna da importare.";
 constexpr const char* nulla = "Non è stato importato nulla.";
+constexpr std::string_view incollato = "incollato";
+constexpr std::string_view importato = "importato";
+constexpr const char* nullaImportato = ": non è stato importato nulla.";
 }  // namespace testi
 
 namespace pagina {
@@ -27,8 +30,6 @@ constexpr const char* file = "ImportaCSV.htm";
 constexpr const char* separatore = "SeparatoreCSV.htm";
 constexpr const char* colonna = "ColonnaCSV.htm";
 }  // namespace pagina
-
-constexpr int righeTestate = 2;
 
 template <std::size_t... I>
 std::array<Etichetta, sizeof...(I)> etichette(std::index_sequence<I...> /*indici*/) {
@@ -42,8 +43,20 @@ std::array<tBox, sizeof...(I)> caselle(std::index_sequence<I...> /*indici*/) {
 
 constexpr auto indici = std::make_index_sequence<frmImportaCSV::massime>();
 
-std::string quante(std::size_t numero, const char* una, const char* molte) {
-    return std::to_string(numero) + " " + (numero == 1 ? una : molte);
+/// Why the grid refuses a cell of a block: the words between the place that it names and its end. Nothing where its
+/// message has another form.
+std::string motivoDelRifiuto(const Griglia& griglia, const TestoCella& cella, const std::string& messaggio) {
+    constexpr std::string_view segno = "<motivo>";
+    const std::string forma = rifiutoBlocco(griglia, cella, segno).messaggio.value_or(MessaggioCampo{}).testo;
+    const std::size_t taglio = forma.rfind(segno);
+    if (taglio == std::string::npos) {
+        return {};
+    }
+    const std::string_view prima = std::string_view{forma}.substr(0, taglio);
+    const std::string_view dopo = std::string_view{forma}.substr(taglio + segno.size());
+    const bool uguale =
+        messaggio.size() > prima.size() + dopo.size() && messaggio.starts_with(prima) && messaggio.ends_with(dopo);
+    return uguale ? messaggio.substr(prima.size(), messaggio.size() - prima.size() - dopo.size()) : std::string{};
 }
 
 }  // namespace
@@ -79,7 +92,7 @@ frmImportaCSV::frmImportaCSV(const Contorno& contorno, const BersaglioCSV& bersa
     bersaglio_.colonne.resize(std::min(bersaglio_.colonne.size(), massime));
     for (std::size_t i = 0; i < massime; ++i) {
         const bool usata = i < bersaglio_.colonne.size();
-        lblColonna[i].testo(usata ? bersaglio_.colonne[i].titolo + ":" : std::string{});
+        lblColonna[i].testo(usata ? testoBreveCSV(bersaglio_.colonne[i].titolo) + ":" : std::string{});
         lblColonna[i].visibile(usata);
         txtColonna[i].visibile(usata);
         txtColonna[i].paginaAiuto = pagina::colonna;
@@ -107,15 +120,12 @@ void frmImportaCSV::collega() {
             rileggi();
         }
     };
-    chkIntestazioni.alClic = [this] {
-        scelta_.intestazioni = chkIntestazioni.spuntata();
-        scelta_.colonne = colonneProposte(righe_, scelta_.intestazioni, bersaglio_.colonne);
-        mostraScelta();
-    };
+    chkIntestazioni.alClic = [this] { cambiaIntestazioni(); };
     for (std::size_t i = 0; i < massime; ++i) {
         txtColonna[i].dopoTasto = [this, i] {
             if (i < scelta_.colonne.size()) {
                 scelta_.colonne[i] = txtColonna[i].scelta() - 1;
+                aMano_[i] = true;
                 mostraAnteprima();
                 mostraAvviso();
             }
@@ -137,6 +147,7 @@ void frmImportaCSV::svuota(const std::string& motivo) {
     righe_.clear();
     testo_ = {};
     scelta_ = {};
+    aMano_.clear();
     txtSeparatore.testo({});
     txtSeparatore.abilitato(false);
     chkIntestazioni.spuntata(false);
@@ -156,35 +167,62 @@ void frmImportaCSV::selezionato(const std::string& percorso) {
     if (percorso.empty() || std::filesystem::is_directory(percorsoDaTesto(percorso), errore)) {
         return;  // a folder on the way to a file
     }
-    if (!percorso_.empty()) {
-        viste_[percorso_] = scelta_;
+    if (!percorso_.empty() && !righe_.empty()) {
+        viste_[percorso_] = {.scelta = scelta_, .aMano = aMano_};
     }
     percorso_.clear();
     svuota(testi::scegli);
+    bool mostrato = false;
     gestisci("frmImportaCSV:selezionato", [&] {
         TestoCSV letto = leggiTestoCSV(percorso);
         if (!letto.errore.empty()) {
             svuota(letto.errore);
-            return;
+        } else {
+            percorso_ = percorso;
+            testo_ = std::move(letto);
+            proponi();
         }
-        percorso_ = percorso;
-        testo_ = std::move(letto);
-        proponi();
+        mostrato = true;
     });
+    if (!mostrato) {
+        percorso_.clear();  // a choice that is half made is none
+        svuota(testi::scegli);
+    }
 }
 
 void frmImportaCSV::proponi() {
     const auto vista = viste_.find(percorso_);
-    const auto nota =
-        vista != viste_.end() ? std::optional{vista->second} : memoria_.adatta(testo_.testo, bersaglio_.colonne.size());
-    if (nota) {
-        scelta_ = *nota;
-        righe_ = celleCSV(testo_.testo, scelta_.separatore).righe;
-        mostraScelta();
+    if (vista != viste_.end() && riprendi(vista->second)) {
+        return;
+    }
+    viste_.erase(percorso_);  // what stands in it now has not been seen
+    const auto nota = memoria_.adatta(testo_.testo, bersaglio_.colonne.size());
+    if (nota && riprendi({.scelta = *nota, .aMano = std::vector<bool>(nota->colonne.size(), true)})) {
         return;
     }
     scelta_.separatore = separatoreProbabile(testo_.testo);
     rileggi();
+}
+
+bool frmImportaCSV::riprendi(const Vista& vista) {
+    CelleCSV celle = celleCSV(testo_.testo, vista.scelta.separatore);
+    const auto quante = static_cast<int>(colonneCSV(celle.righe));
+    const std::vector<int>& colonne = vista.scelta.colonne;
+    if (!celle.errore.empty() || std::any_of(colonne.begin(), colonne.end(), [&](int c) { return c >= quante; })) {
+        return false;
+    }
+    scelta_ = vista.scelta;
+    aMano_ = vista.aMano;
+    righe_ = std::move(celle.righe);
+    mostraScelta();
+    return true;
+}
+
+void frmImportaCSV::cambiaIntestazioni() {
+    scelta_.intestazioni = chkIntestazioni.spuntata();
+    scelta_.colonne =
+        colonneRiproposte(scelta_.colonne, aMano_, colonneProposte(righe_, scelta_.intestazioni, bersaglio_.colonne));
+    mostraScelta();
 }
 
 void frmImportaCSV::rileggi() {
@@ -192,6 +230,7 @@ void frmImportaCSV::rileggi() {
     righe_ = celle.righe;
     scelta_.intestazioni = primaRigaDiTesti(righe_);
     scelta_.colonne = colonneProposte(righe_, scelta_.intestazioni, bersaglio_.colonne);
+    aMano_.assign(scelta_.colonne.size(), false);
     mostraScelta();
     if (!celle.errore.empty()) {
         lblAvviso.testo(celle.errore);
@@ -246,120 +285,8 @@ std::size_t frmImportaCSV::righeTabella() const {
     return 0;
 }
 
-std::string frmImportaCSV::nomeColonna(int colonna) const {
-    const std::string intestazione = scelta_.intestazioni ? cella(0, colonna) : std::string{};
-    return "Colonna " + std::to_string(colonna + 1) + (intestazione.empty() ? "" : ": " + intestazione);
-}
-
-int frmImportaCSV::bersaglioDi(int colonna) const {
-    const auto trovato = std::find(scelta_.colonne.begin(), scelta_.colonne.end(), colonna);
-    return trovato == scelta_.colonne.end() ? -1 : static_cast<int>(trovato - scelta_.colonne.begin());
-}
-
-std::string frmImportaCSV::cella(std::size_t riga, int colonna) const {
-    const auto c = static_cast<std::size_t>(colonna);
-    return riga < righe_.size() && colonna >= 0 && c < righe_[riga].size() ? righe_[riga][c] : std::string{};
-}
-
-void frmImportaCSV::intesta(Tabella& tabella, int quante) const {
-    for (int c = 0; c <= quante; ++c) {
-        const int quale = c == 0 ? -1 : bersaglioDi(c - 1);
-        const std::string destinazione =
-            quale < 0 ? std::string{} : "→ " + bersaglio_.colonne[static_cast<std::size_t>(quale)].titolo;
-        const std::string intestazione = scelta_.intestazioni ? cella(0, c - 1) : std::string{};
-        tabella.cella(0, c).testo = c == 0 ? "Riga" : intestazione.empty() ? std::to_string(c) : intestazione;
-        tabella.cella(1, c).testo = destinazione;
-        for (int r = 0; r < righeTestate; ++r) {
-            tabella.cella(r, c).sfondo = colori::intestazione;
-            tabella.cella(r, c).inchiostro = colori::bianco;
-            tabella.cella(r, c).grassetto = true;
-        }
-    }
-}
-
-void frmImportaCSV::mostraAnteprima() {
-    const auto quante = static_cast<int>(colonneCSV(righe_));
-    const auto mostrate = static_cast<int>(std::min(righeDati(), righeTesta));
-    if (quante == 0) {
-        ctlGrid.tabella({});
-        return;
-    }
-    Tabella tabella(mostrate + righeTestate, quante + 1);
-    intesta(tabella, quante);
-    for (int r = 0; r < mostrate; ++r) {
-        const std::size_t riga = static_cast<std::size_t>(r) + primaDiDati();
-        const bool dentro = static_cast<std::size_t>(r) < righeTabella();
-        Cella& numero = tabella.cella(r + righeTestate, 0);
-        numero.testo = std::to_string(riga + 1);
-        numero.sfondo = colori::dati;
-        for (int c = 0; c < quante; ++c) {
-            Cella& posta = tabella.cella(r + righeTestate, c + 1);
-            const bool presa = dentro && bersaglioDi(c) >= 0;
-            posta.testo = cella(riga, c);
-            posta.sfondo = !presa ? tinta::barra : motivoCella(riga, c).empty() ? colori::bianco : tinta::fondoErrore;
-            posta.inchiostro = presa ? tinta::inchiostro : tinta::secondario;
-        }
-    }
-    ctlGrid.tabella(std::move(tabella));
-}
-
-std::string frmImportaCSV::motivoCella(std::size_t riga, int colonna) const {
-    const int quale = bersaglioDi(colonna);
-    const int rigaTabella = bersaglio_.primaRiga + static_cast<int>(riga - primaDiDati());
-    const std::string testo = cella(riga, colonna);
-    // What a cell that takes nothing would get is not looked at.
-    if (quale < 0 ||
-        !bersaglio_.griglia.puoModificare({rigaTabella, bersaglio_.colonne[static_cast<std::size_t>(quale)].colonna})) {
-        return {};
-    }
-    const LetturaCSV letta = leggiCellaCSV(testo);
-    if (letta.numero) {
-        return {};
-    }
-    return "Il testo '" + testo + "' (riga " + std::to_string(riga + 1) + ", '" + nomeColonna(colonna) + "') " +
-           (letta.ambigua ? "si può leggere in due modi, con o senza decimali." : "non è un numero.");
-}
-
-std::string frmImportaCSV::primoErrore() const {
-    const std::size_t fine = primaDiDati() + std::min(righeDati(), righeTabella());
-    for (std::size_t r = primaDiDati(); r < fine; ++r) {
-        for (int c = 0; c < static_cast<int>(colonneCSV(righe_)); ++c) {
-            if (std::string motivo = motivoCella(r, c); !motivo.empty()) {
-                return motivo;
-            }
-        }
-    }
-    return {};
-}
-
-std::string frmImportaCSV::parole() const {
-    const std::size_t dati = righeDati();
-    const std::size_t tabella = righeTabella();
-    std::string testo = quante(dati, "riga di dati", "righe di dati");
-    if (testo_.daWindows1252) {
-        testo += " (testo Windows-1252)";
-    }
-    if (dati > tabella) {
-        return testo + ": la tabella ne ha " + std::to_string(tabella) + ", le ultime " +
-               std::to_string(dati - tabella) + " del file non verranno importate.";
-    }
-    if (dati < tabella) {
-        return testo + ": la tabella ne ha " + std::to_string(tabella) + ", le altre resteranno come sono.";
-    }
-    return testo + ", quante ne ha la tabella.";
-}
-
-void frmImportaCSV::mostraAvviso() {
-    if (righeDati() == 0) {
-        lblAvviso.testo(testi::vuoto);
-        return;
-    }
-    const std::string errore = primoErrore();
-    lblAvviso.testo(errore.empty() ? parole() : errore);
-}
-
 std::string frmImportaCSV::motivoRifiuto() const {
-    if (percorso_.empty() || righeDati() == 0) {
+    if (percorso_.empty() || righeDati() == 0 || righeTabella() == 0) {
         return lblAvviso.testo();
     }
     std::vector<int> scelte = scelta_.colonne;
@@ -372,28 +299,68 @@ std::string frmImportaCSV::motivoRifiuto() const {
         return "La '" + nomeColonna(*doppia) + "' del file è scelta due volte.";
     }
     const std::string errore = primoErrore();
-    return errore.empty() ? errore : errore + "\n" + testi::nulla;
+    return errore.empty() ? rifiutoTabella(celleScelte()) : errore + "\n" + testi::nulla;
 }
 
-std::vector<TestoCella> frmImportaCSV::celleScelte() const {
-    std::vector<TestoCella> celle;
-    for (std::size_t r = 0; r < std::min(righeDati(), righeTabella()); ++r) {
+std::vector<frmImportaCSV::CellaScelta> frmImportaCSV::celleScelte() const {
+    std::vector<CellaScelta> celle;
+    const std::size_t prese = righePrese();
+    for (std::size_t r = 0; r < prese; ++r) {
         for (std::size_t i = 0; i < scelta_.colonne.size(); ++i) {
-            if (scelta_.colonne[i] >= 0) {
-                const LetturaCSV letta = leggiCellaCSV(cella(r + primaDiDati(), scelta_.colonne[i]));
-                celle.push_back({{bersaglio_.primaRiga + static_cast<int>(r), bersaglio_.colonne[i].colonna},
-                                 testoNumero(letta.numero.value_or(0.0))});
+            const Posto posto{bersaglio_.primaRiga + static_cast<int>(r), bersaglio_.colonne[i].colonna};
+            if (scelta_.colonne[i] >= 0 && bersaglio_.griglia.puoModificare(posto)) {
+                const std::size_t riga = r + primaDiDati();
+                const LetturaCSV letta = leggiCellaCSV(cella(riga, scelta_.colonne[i]), scelta_.separatore);
+                celle.push_back({.cella = {posto, testoNumero(letta.numero.value_or(0.0))},
+                                 .riga = riga,
+                                 .colonna = scelta_.colonne[i]});
             }
         }
     }
     return celle;
 }
 
+std::string frmImportaCSV::rifiutoTabella(const std::vector<CellaScelta>& scelte) const {
+    if (!bersaglio_.griglia.allIncolla || scelte.empty()) {
+        return {};
+    }
+    std::vector<TestoCella> tutte;
+    for (const CellaScelta& scelta : scelte) {
+        tutte.push_back(scelta.cella);
+    }
+    const auto giudizio = [&](std::size_t da, std::size_t a) {
+        std::vector<TestoCella> celle(tutte.begin() + static_cast<std::ptrdiff_t>(da),
+                                      tutte.begin() + static_cast<std::ptrdiff_t>(a));
+        const EsitoUscita esito = bersaglio_.griglia.allIncolla(celle);
+        const std::string testo = esito.messaggio ? esito.messaggio->testo : esito.motivo;
+        return esito.accettato ? std::string{} : testo;
+    };
+    std::string detto = giudizio(0, tutte.size());
+    if (detto.empty()) {
+        return detto;
+    }
+    // The first cell that is refused ends the shortest block that is.
+    std::size_t bene = 0;
+    std::size_t male = tutte.size();
+    while (male - bene > 1) {
+        const std::size_t mezzo = bene + (male - bene) / 2;
+        (giudizio(0, mezzo).empty() ? bene : male) = mezzo;
+    }
+    const CellaScelta& prima = scelte[bene];
+    const std::string motivo = motivoDelRifiuto(bersaglio_.griglia, prima.cella, giudizio(bene, male));
+    if (!motivo.empty()) {
+        return luogo(prima.riga, prima.colonna, motivo + testi::nullaImportato);
+    }
+    if (const std::size_t dove = detto.rfind(testi::incollato); dove != std::string::npos) {
+        detto.replace(dove, testi::incollato.size(), testi::importato);
+    }
+    return detto;
+}
+
 bool frmImportaCSV::conferma(const std::string& percorso) {
     if (percorso != percorso_) {
-        const bool vista = viste_.contains(percorso);
         selezionato(percorso);  // a name that was typed
-        if (!vista && percorso == percorso_ && righeDati() > 0) {
+        if (!viste_.contains(percorso) && percorso == percorso_ && righeDati() > 0) {
             return false;  // its columns have not been seen yet
         }
     }
@@ -406,7 +373,11 @@ bool frmImportaCSV::conferma(const std::string& percorso) {
             Risposta::ok) {
         return false;
     }
-    if (!bersaglio_.griglia.riempi(celleScelte())) {
+    std::vector<TestoCella> celle;
+    for (const CellaScelta& scelta : celleScelte()) {
+        celle.push_back(scelta.cella);
+    }
+    if (!bersaglio_.griglia.riempi(std::move(celle))) {
         return false;
     }
     memoria_.ricorda(scelta_, righe_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <string>
@@ -46,6 +47,7 @@ class frmImportaCSV final : public FinestraAnteprima {
 public:
     static constexpr std::size_t massime = 7;      ///< columns that a table takes
     static constexpr std::size_t righeTesta = 40;  ///< rows that are shown
+    static constexpr int righeTestate = 2;         ///< headings above them
 
     frmImportaCSV(const Contorno& contorno, const BersaglioCSV& bersaglio);
 
@@ -64,21 +66,32 @@ public:
     PannelloAiuto ctlHelp{"ctlHelp"};
     PannelloAiuto* aiuto() override { return &ctlHelp; }
 
-    /// Shows a file, with what was chosen for it where it has been shown before; a folder changes nothing.
+    /// Shows a file, with what was chosen for it where it has been shown before and still has those columns; a folder
+    /// changes nothing.
     void selezionato(const std::string& percorso) override;
     /// Fills the grid of the window. False, with a word on why, where a cell is no number or could be read in two ways,
     /// no column or one twice is chosen, the user does not want the file clipped, or the grid refuses: then nothing has
     /// changed.
+    ///
+    /// What the grid refuses is told by the row and column of the file.
     bool conferma(const std::string& percorso) override;
 
     /// What would be taken as things stand.
     const SceltaCSV& scelta() const { return scelta_; }
 
 private:
+    /// A choice, and which of its columns the user made himself.
+    struct Vista {
+        SceltaCSV scelta;
+        std::vector<bool> aMano;
+    };
+
     void collega();
     void svuota(const std::string& motivo);
     void proponi();
+    bool riprendi(const Vista& vista);
     void rileggi();
+    void cambiaIntestazioni();
     void mostraScelta();
     void mostraAnteprima();
     void intesta(Tabella& tabella, int quante) const;
@@ -87,23 +100,33 @@ private:
     std::size_t primaDiDati() const { return scelta_.intestazioni ? 1 : 0; }
     std::size_t righeDati() const;
     std::size_t righeTabella() const;
+    std::size_t righePrese() const { return std::min(righeDati(), righeTabella()); }
     std::string nomeColonna(int colonna) const;
     int bersaglioDi(int colonna) const;
     bool accolta(std::size_t colonna) const;
     std::string cella(std::size_t riga, int colonna) const;
+    std::string luogo(std::size_t riga, int colonna, const std::string& motivo) const;
     std::string motivoCella(std::size_t riga, int colonna) const;
     std::string primoErrore() const;
     std::string parole() const;
     std::string motivoRifiuto() const;
-    std::vector<TestoCella> celleScelte() const;
+    /// A cell of the table and that of the file which goes there.
+    struct CellaScelta {
+        TestoCella cella;
+        std::size_t riga = 0;
+        int colonna = 0;
+    };
+    std::vector<CellaScelta> celleScelte() const;
+    std::string rifiutoTabella(const std::vector<CellaScelta>& scelte) const;
 
     BersaglioCSV bersaglio_;
     MemoriaCSV memoria_;
     std::string percorso_;
-    std::map<std::string, SceltaCSV> viste_;  ///< files that were shown before, with what was chosen for them
+    std::map<std::string, Vista> viste_;  ///< files that were shown before, with what was chosen for them
     TestoCSV testo_;
     RigheCSV righe_;
     SceltaCSV scelta_;
+    std::vector<bool> aMano_;  ///< of the columns of `scelta_`
 };
 
 }  // namespace kelvo

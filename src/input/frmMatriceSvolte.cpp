@@ -275,7 +275,10 @@ void frmMatriceSvolte::mostraMovimento() {
     if (cella.riga > 0) {
         const std::string& valore = ctlGrid.testo(cella.riga, cella.colonna);
         parole = "Da " + ctlGrid.testo(cella.riga, 0) + " verso " + ctlGrid.testo(0, cella.colonna) + ": " +
-                 (valore.empty() ? "0" : valore) + (percentuale() ? " %" : " veicoli");
+                 (valore.empty() ? "0" : valore) +
+                 (percentuale()   ? " %"
+                  : valore == "1" ? " veicolo"
+                                  : " veicoli");
     }
     lblMovimento.testo(parole);
     movimentoMutato_.emit();
@@ -306,10 +309,13 @@ void frmMatriceSvolte::entrato(Controllo& campo) {
 }
 
 EsitoUscita frmMatriceSvolte::confermaCella(std::string& testo) {
-    EsitoUscita esito = EsitoUscita::rifiuto("Il valore di una svolta va da 0 a 32767");
+    EsitoUscita esito = EsitoUscita::rifiuto("Il valore di una svolta va da 0 a 32767.");
+    const std::optional<double> numero = numeroIncollato(testo);
+    if (!numero || *numero < 0.0) {
+        return esito;
+    }
     gestisci("frmMatriceSvolte:Immagini", [&] {
-        const double numero = numeroIncollato(testo).value_or(0.0);
-        testo = testoNumero(static_cast<int>(aIntero16(arrotondaPari(numero))));
+        testo = testoNumero(static_cast<int>(aIntero16(arrotondaPari(*numero))));
         esito = EsitoUscita::bene();
     });
     return esito;
@@ -319,7 +325,7 @@ EsitoUscita frmMatriceSvolte::esaminaBlocco(std::vector<TestoCella>& celle) cons
     for (TestoCella& cella : celle) {
         const std::optional<double> numero = numeroIncollato(cella.testo);
         if (!numero) {
-            return rifiutoBlocco(ctlGrid, cella, "non è un numero");
+            return rifiutoBlocco(ctlGrid, cella, motivoNonNumero(cella.testo));
         }
         if (*numero < 0.0 || *numero > massimoCella) {
             return rifiutoBlocco(ctlGrid, cella, "non sta tra 0 e 32767");
@@ -348,19 +354,16 @@ void frmMatriceSvolte::CaricaDaProgetto() {
             return;
         }
         const int rami = ctlGrid.tabella().righe() - 1;
-        Tabella nuova = ctlGrid.tabella();
+        std::vector<TestoCella> celle;
         for (int i = 1; i <= rami; ++i) {
             for (int j = 1; j <= rami; ++j) {
-                nuova.cella(i, j).testo = i == j ? std::string{}
-                                                 : testoNumero(static_cast<int>(anteprima.GetMatriceSvolte(
-                                                       static_cast<std::int16_t>(i), static_cast<std::int16_t>(j))));
+                celle.push_back({{i, j},
+                                 i == j ? std::string{}
+                                        : testoNumero(static_cast<int>(anteprima.GetMatriceSvolte(
+                                              static_cast<std::int16_t>(i), static_cast<std::int16_t>(j))))});
             }
         }
-        ctlGrid.modifica([&](Tabella& t) { t = std::move(nuova); });
-        DatiAllineati(!ctlGrid.modificata());
-        AggiornaTotali();
-        AggiornaEsitoRighe();
-        mostraMovimento();
+        ctlGrid.inserisci(celle);  // totals and corrections follow
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <span>
 
 #include "base/date.h"
 
@@ -23,6 +24,10 @@ const RamoBackup* copia(const Rotonda& rotonda, std::int16_t ramo) {
     const auto& rami = rotonda.backupTraffico().rami;
     const bool presente = ramo >= 1 && static_cast<std::size_t>(ramo) <= rami.size();
     return presente ? &rami[static_cast<std::size_t>(ramo) - 1] : nullptr;
+}
+
+bool vuoti(std::span<const float> valori) {
+    return std::all_of(valori.begin(), valori.end(), [](float valore) { return valore == 0.0F; });
 }
 
 bool daOffrire(const OrigineBackup& origine) {
@@ -74,6 +79,10 @@ std::optional<CurvaBackup> curvaRecuperabile(const Rotonda& rotonda, std::int16_
     if (salvato == nullptr || !daOffrire(salvato->origineCurva)) {
         return std::nullopt;
     }
+    const DatiTraffico& dati = rotonda.Ramo(ramo).theDatiTraffico();
+    if (dati.FlussoTempo1() != 0.0F || dati.FlussoTempo2() != 0.0F || dati.FlussoTempo3() != 0.0F) {
+        return std::nullopt;
+    }
     const CurvaBackup& c = salvato->curva;
     const int minuti = minutoCampo(rotonda.SegmentoTempo());
     const bool dentro =
@@ -88,7 +97,11 @@ std::optional<std::vector<std::optional<float>>> conteggiRecuperabili(const Roto
     if (salvato == nullptr || !daOffrire(salvato->origineConteggi)) {
         return std::nullopt;
     }
-    const SerieSegmenti nuovi = tempiDelProgetto(rotonda, rotonda.Ramo(ramo).theDatiTraffico().NumSegmentiTempo());
+    const std::vector<float>& presenti = rotonda.Ramo(ramo).theDatiTraffico().FlussiSegmento();
+    if (!vuoti(presenti)) {
+        return std::nullopt;
+    }
+    const SerieSegmenti nuovi = tempiDelProgetto(rotonda, static_cast<std::int16_t>(presenti.size()));
     return ritrovati<float>(salvato->origineConteggi.tempi, nuovi, [&](const TrattoSegmenti& t) {
         const auto primo = salvato->conteggi.begin() + t.primo;
         return std::accumulate(primo, primo + t.quanti, 0.0F);
@@ -102,7 +115,11 @@ std::optional<std::vector<std::optional<PerClasse>>> composizioneRecuperabile(co
     if (!tutto.BackupComposizioneDisponibile || salvato == nullptr || !daOffrire(salvato->origineComposizione)) {
         return std::nullopt;
     }
-    const std::int16_t righe = rotonda.Ramo(ramo).theComposizioneTraffico().NumSegmentiTempo();
+    const TabellaCategorie& presenti = rotonda.Ramo(ramo).theComposizioneTraffico().Categorie();
+    if (!std::all_of(presenti.begin(), presenti.end(), [](const PerClasse& riga) { return vuoti(riga); })) {
+        return std::nullopt;
+    }
+    const auto righe = static_cast<std::int16_t>(presenti.size());
     return ritrovati<PerClasse>(
         salvato->origineComposizione.tempi, tempiDelProgetto(rotonda, righe), [&](const TrattoSegmenti& t) {
             PerClasse somme{};
@@ -119,9 +136,11 @@ std::optional<std::vector<std::optional<PerClasse>>> composizioneRecuperabile(co
 bool chiediRecupero(Applicazione& app, std::int16_t ramo, DatoTraffico dato) {
     Rotonda& rotonda = app.theRotonda();
     auto& rami = rotonda.backupTraffico().rami;
-    origine(rami.at(static_cast<std::size_t>(ramo) - 1), dato).offerto = true;
-    return app.messaggi.mostra(testoDomanda(rotonda.Ramo(ramo).Descrizione(), dato), titolo, Icona::domanda,
-                               Pulsanti::siNo) == Risposta::si;
+    const bool accettato = app.messaggi.mostra(testoDomanda(rotonda.Ramo(ramo).Descrizione(), dato), titolo,
+                                               Icona::domanda, Pulsanti::siNo) == Risposta::si;
+    // What is taken back and saved is there and not offered again; discarded before that, it still can be.
+    origine(rami.at(static_cast<std::size_t>(ramo) - 1), dato).offerto = !accettato;
+    return accettato;
 }
 
 }  // namespace kelvo

@@ -16,8 +16,8 @@ enum class DatoTraffico { curva, conteggi, composizione };
 /// Start, segment length and segments of `numero` legs' rows as the project's times stand.
 SerieSegmenti tempiDelProgetto(const Rotonda& rotonda, std::int16_t numero);
 
-// What is offered back to a leg, from 1: nothing where none was kept, where the user has been asked already, or where
-// nothing of it fits the times as they stand.
+// What is offered back to a leg, from 1: nothing where none was kept, where the user has declined, where nothing of it
+// fits the times as they stand, or where the leg has data of the kind.
 
 /// A curve fits where its times lie in the modelling window, each a whole number of segments from the next.
 std::optional<CurvaBackup> curvaRecuperabile(const Rotonda& rotonda, std::int16_t ramo);
@@ -28,7 +28,7 @@ std::optional<std::vector<std::optional<float>>> conteggiRecuperabili(const Roto
 std::optional<std::vector<std::optional<PerClasse>>> composizioneRecuperabile(const Rotonda& rotonda,
                                                                               std::int16_t ramo);
 
-/// Asks the user whether to take the data of a leg back, and remembers that it was asked.
+/// Asks the user whether to take the data of a leg back, and remembers a No.
 bool chiediRecupero(Applicazione& app, std::int16_t ramo, DatoTraffico dato);
 
 }  // namespace kelvo

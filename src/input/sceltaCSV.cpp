@@ -23,6 +23,22 @@ bool cifra(std::string_view testo) {
     return haCifre(testo) && soliSegni;
 }
 
+/// "1,234" and the like: one comma, three digits behind it and one to three before it, the first of them no 0.
+bool migliaiaInglesi(std::string_view testo) {
+    constexpr std::size_t gruppo = 3;
+    if (!testo.empty() && (testo.front() == '-' || testo.front() == '+')) {
+        testo.remove_prefix(1);
+    }
+    const std::size_t virgola = testo.find(',');
+    if (virgola == 0 || virgola > gruppo || testo.size() != virgola + 1 + gruppo || testo.front() == '0') {
+        return false;
+    }
+    const auto cifre = [](std::string_view parte) {
+        return parte.find_first_not_of("0123456789") == std::string_view::npos;
+    };
+    return cifre(testo.substr(0, virgola)) && cifre(testo.substr(virgola + 1));
+}
+
 const std::string& cella(const std::vector<std::string>& riga, std::size_t colonna) {
     static const std::string vuota;
     return colonna < riga.size() ? riga[colonna] : vuota;
@@ -80,6 +96,10 @@ std::vector<int> numeri(std::string_view testo) {
 
 }  // namespace
 
+std::string testoBreveCSV(std::string_view testo) {
+    return accorciato(testo, caratteriMostratiCSV);
+}
+
 bool primaRigaDiTesti(const RigheCSV& righe) {
     if (righe.empty()) {
         return false;
@@ -115,7 +135,24 @@ std::vector<int> colonneProposte(const RigheCSV& righe, bool intestazioni, const
     return scelte;
 }
 
-LetturaCSV leggiCellaCSV(std::string_view testo) {
+std::vector<int> colonneRiproposte(const std::vector<int>& scelte, const std::vector<bool>& aMano,
+                                   std::vector<int> proposte) {
+    const std::size_t quante = std::min({scelte.size(), aMano.size(), proposte.size()});
+    for (std::size_t i = 0; i < quante; ++i) {
+        if (aMano[i]) {
+            std::replace(proposte.begin(), proposte.end(), scelte[i], -1);
+        }
+    }
+    for (std::size_t i = 0; i < quante; ++i) {
+        proposte[i] = aMano[i] ? scelte[i] : proposte[i];
+    }
+    return proposte;
+}
+
+LetturaCSV leggiCellaCSV(std::string_view testo, SeparatoreCSV separatore) {
+    if (separatore == SeparatoreCSV::virgola && migliaiaInglesi(rifila(testo))) {
+        return {.numero = std::nullopt, .ambigua = true};
+    }
     const std::optional<double> numero = numeroIncollato(testo);
     const bool soliSegni = rifila(testo).find_first_not_of("0123456789+-.,") == std::string_view::npos;
     // One point with three digits behind it: thousands or decimals.

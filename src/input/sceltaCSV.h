@@ -33,12 +33,22 @@ bool primaRigaDiTesti(const RigheCSV& righe);
 /// where none is equal, or there are none, by position. A first column that names its rows is passed over.
 std::vector<int> colonneProposte(const RigheCSV& righe, bool intestazioni, const std::vector<ColonnaCSV>& colonne);
 
+/// Characters of a text that are shown or quoted.
+inline constexpr std::size_t caratteriMostratiCSV = 60;
+/// A text as it is shown or quoted: what is too long of it gives way to "…".
+std::string testoBreveCSV(std::string_view testo);
+
 /// What a text in a cell of the file is.
 struct LetturaCSV {
     std::optional<double> numero;  ///< empty: it is refused
     bool ambigua = false;          ///< it is a number that could be read in two ways
 };
-LetturaCSV leggiCellaCSV(std::string_view testo);
+/// Where cells are parted by commas, "1,234" may be thousands in the English way or decimals: it is refused as well.
+LetturaCSV leggiCellaCSV(std::string_view testo, SeparatoreCSV separatore = SeparatoreCSV::puntoEVirgola);
+/// The columns proposed anew, but for those that the user chose himself (`aMano`, as many as `scelte`), which stay; a
+/// column of the file that one of them holds is proposed for no other.
+std::vector<int> colonneRiproposte(const std::vector<int>& scelte, const std::vector<bool>& aMano,
+                                   std::vector<int> proposte);
 
 /// The choice that was made for the last file of a kind, in the settings of the user.
 class MemoriaCSV {

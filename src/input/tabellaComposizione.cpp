@@ -36,12 +36,6 @@ void intesta(Cella& cella, std::string testo) {
         .testo = std::move(testo), .sfondo = colori::intestazione, .inchiostro = colori::bianco, .grassetto = true};
 }
 
-/// Whole vehicles with all their digits, past those of a single too.
-std::string testoVeicoli(float valore) {
-    const auto esatto = static_cast<double>(valore);
-    return esatto == std::floor(esatto) ? testoNumero(esatto) : testoNumero(valore);
-}
-
 std::string intervallo(const Rotonda& rotonda, int segmento) {
     const int minuti = minutoCampo(rotonda.SegmentoTempo());
     const auto ora = [&](int quanti) { return testoHHNN(rotonda.TempoIniziale() + quanti * minuti / minutiGiorno); };
@@ -74,6 +68,11 @@ Tabella tabellaComposizione(const Rotonda& rotonda, const Ramo& ramo, const std:
     return tabella;
 }
 
+std::string testoVeicoli(float valore) {
+    const auto esatto = static_cast<double>(valore);
+    return esatto == std::floor(esatto) ? testoNumero(esatto) : testoNumero(valore);
+}
+
 double veicoli(const Tabella& tabella, int riga, int colonna) {
     return leggiNumero(tabella.testo(riga, colonna)).value_or(0.0);
 }
@@ -90,23 +89,32 @@ void mostraTotaleSegmento(Tabella& tabella, int riga) {
     Cella& cella = tabella.cella(riga, col::totale);
     cella.testo = testoNumero(sommaCategorie(tabella, riga));
     const EsitoSegmento esito = esitoSegmento(tabella, riga);
-    const bool oltre = esito == EsitoSegmento::piu || esito == EsitoSegmento::negativo;
-    cella.sfondo = oltre ? rosso : colori::dati;
-    cella.grassetto = oltre || esito == EsitoSegmento::uguale;
+    cella.sfondo = segnalato(esito) ? rosso : colori::dati;
+    cella.grassetto = segnalato(esito) || esito == EsitoSegmento::uguale;
 }
 
 EsitoSegmento esitoSegmento(const Tabella& tabella, int riga) {
-    for (int c = col::prima; c <= col::ultima; ++c) {
-        if (veicoli(tabella, riga, c) < 0.0) {
-            return EsitoSegmento::negativo;
-        }
-    }
     const double somma = sommaCategorie(tabella, riga);
     const double flusso = veicoli(tabella, riga, col::flusso);
+    bool sottoZero = false;
+    for (int c = col::prima; c <= col::ultima; ++c) {
+        const double classe = veicoli(tabella, riga, c);
+        if (classe < 0.0 && somma - classe > flusso) {
+            return EsitoSegmento::negativo;
+        }
+        sottoZero = sottoZero || classe < 0.0;
+    }
+    if (sottoZero) {
+        return EsitoSegmento::sottoZero;
+    }
     if (somma == flusso) {
         return flusso == 0.0 ? EsitoSegmento::nessuno : EsitoSegmento::uguale;
     }
     return somma < flusso ? EsitoSegmento::meno : EsitoSegmento::piu;
+}
+
+bool segnalato(EsitoSegmento esito) {
+    return esito == EsitoSegmento::piu || esito == EsitoSegmento::negativo || esito == EsitoSegmento::sottoZero;
 }
 
 std::string paroleSegmento(const Tabella& tabella, int riga) {
@@ -114,8 +122,8 @@ std::string paroleSegmento(const Tabella& tabella, int riga) {
     const double flusso = veicoli(tabella, riga, col::flusso);
     const std::string& ore = tabella.testo(riga, 0);
     const std::string scarto = testoNumero(std::fabs(somma - flusso));
-    const std::string figure = fmt::format("{}: {} {} su {}", ore, testoNumero(somma),
-                                           somma == 1.0 ? "veicolo" : "veicoli", testoNumero(flusso));
+    std::string figure = fmt::format("{}: {} {} su {}", ore, testoNumero(somma), somma == 1.0 ? "veicolo" : "veicoli",
+                                     testoNumero(flusso));
     switch (esitoSegmento(tabella, riga)) {
         case EsitoSegmento::nessuno:
             return ore + ": nessun veicolo in ingresso";
@@ -125,6 +133,8 @@ std::string paroleSegmento(const Tabella& tabella, int riga) {
             return figure + ", " + scarto + " di troppo";
         case EsitoSegmento::negativo:
             return figure + ", una categoria è negativa: le altre superano il flusso in ingresso";
+        case EsitoSegmento::sottoZero:
+            return figure + ", una categoria è negativa";
         case EsitoSegmento::uguale:
             break;
     }
@@ -137,7 +147,7 @@ EsitoTabella esitoTabella(const Tabella& tabella) {
         const EsitoSegmento riga = esitoSegmento(tabella, r);
         ++esito.segmenti;
         esito.uguali += riga == EsitoSegmento::uguale || riga == EsitoSegmento::nessuno ? 1 : 0;
-        esito.meno += riga == EsitoSegmento::meno ? 1 : 0;
+        esito.meno += riga == EsitoSegmento::meno || riga == EsitoSegmento::sottoZero ? 1 : 0;
         esito.piu += riga == EsitoSegmento::piu || riga == EsitoSegmento::negativo ? 1 : 0;
         esito.conFlusso = esito.conFlusso || veicoli(tabella, r, col::flusso) != 0.0;
     }

@@ -48,7 +48,7 @@ std::vector<TrattoSegmenti> segmentiCorrispondenti(const SerieSegmenti& vecchi, 
 struct OrigineBackup {
     SerieSegmenti tempi;    ///< those that the data belonged to
     bool presente = false;  ///< there was something to keep
-    bool offerto = false;   ///< the user has been asked whether to take it back
+    bool offerto = false;   ///< the user was asked whether to take it back, and declined
 };
 
 /// Parameters of the demand curve of a leg as they were.

@@ -11,6 +11,7 @@
 #include "disegno/DisegnatoreQt.h"
 #include "shell/Main.h"
 #include "shell/registroFinestre.h"
+#include "ui/ApplicazioneQt.h"
 #include "ui/RiquadroAiuto.h"
 #include "ui/icone.h"
 #include "ui/legami.h"
@@ -46,7 +47,7 @@ void preparaApplicazione(const std::string& cartellaProgramma) {
 
 int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    const QApplication qt(argc, argv);
+    ApplicazioneQt qt(argc, argv);
     preparaApplicazione(piattaforma.cartellaProgramma);
 
     MessaggiQt messaggi;
@@ -60,6 +61,9 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     CronometroQt cronometro;
     AttesaQt attesa;
     Applicazione app(piattaforma.cartellaProgramma, piattaforma.cartellaLavoro, {messaggi, orologio, piattaforma.file});
+    qt.alGuasto = [&app](const Guasto& guasto) {
+        app.comune.erroreLog(guasto.codice(), "Kelvo", guasto.descrizione(), true);
+    };
     AppuntiQt appunti;
     app.appunti = &appunti;
     AppuntiImmaginiQt immagini;

@@ -1,8 +1,11 @@
 #include "ui/DialogoMessaggio.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -72,7 +75,8 @@ DialogoMessaggio::DialogoMessaggio(const std::string& testo, const std::string& 
     piano->addWidget(piede(pulsanti));
     // A title tells where a fault came from: there is room for it, with the system's buttons beside it.
     const QFontMetrics metrica(forte(punti::corpo));
-    piano->addSpacerItem(new QSpacerItem(metrica.horizontalAdvance(windowTitle() + QStringLiteral("MMMMMMMM")), 0));
+    const int titoloLargo = metrica.horizontalAdvance(windowTitle() + QStringLiteral("MMMMMMMM"));
+    piano->addSpacerItem(new QSpacerItem(std::min(titoloLargo, screen()->availableSize().width() / 2), 0));
 }
 
 void DialogoMessaggio::reject() {
@@ -105,7 +109,18 @@ QWidget* DialogoMessaggio::corpo(const std::string& testo, Icona icona) {
     const int larga = std::clamp(lunga, misura::figura, misura::testoMessaggio);
     parole->setFixedSize(larga, std::max(misura::segno, parole->heightForWidth(larga)));
     parole->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    riga->addWidget(parole, 1);
+    // What is too long for the screen is read by scrolling: the answers below it stay in sight.
+    const int massima = screen()->availableSize().height() / 2;
+    if (parole->height() <= massima) {
+        riga->addWidget(parole, 1);
+        return corpo;
+    }
+    auto* scorre = new QScrollArea(corpo);
+    scorre->setFrameShape(QFrame::NoFrame);
+    scorre->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scorre->setWidget(parole);
+    scorre->setFixedSize(larga + scorre->verticalScrollBar()->sizeHint().width(), massima);
+    riga->addWidget(scorre, 1);
     return corpo;
 }
 

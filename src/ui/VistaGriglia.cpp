@@ -73,6 +73,18 @@ const VoceTasto* voceDi(const QKeyEvent& evento) {
     return voce == tasti.end() ? nullptr : voce;
 }
 
+/// What a key is with the shift key, where it is not the same.
+Tasto conMaiuscole(Tasto tasto) {
+    switch (tasto) {
+        case Tasto::copia:
+            return Tasto::copiaConIntestazioni;
+        case Tasto::annulla:
+            return Tasto::ripeti;
+        default:
+            return tasto;
+    }
+}
+
 /// The character of a key; empty for a key that types none.
 QString carattereDi(const QKeyEvent& evento) {
     const QString testo = evento.text();
@@ -150,6 +162,7 @@ void VistaGriglia::collegaGesti() {
 }
 
 void VistaGriglia::mostra() {
+    setFocusPolicy(griglia_.prendeFuoco() ? Qt::StrongFocus : Qt::NoFocus);
     if (!letta_ || versione_ != griglia_.versione()) {
         letta_ = true;
         versione_ = griglia_.versione();
@@ -297,8 +310,7 @@ void VistaGriglia::keyPressEvent(QKeyEvent* evento) {
     const bool maiuscole = evento->modifiers().testFlag(Qt::ShiftModifier);
     bool preso = false;
     if (const VoceTasto* voce = voceDi(*evento)) {
-        const bool conTestate = voce->griglia == Tasto::copia && maiuscole;
-        preso = griglia_.premiTasto(conTestate ? Tasto::copiaConIntestazioni : voce->griglia, maiuscole);
+        preso = griglia_.premiTasto(maiuscole ? conMaiuscole(voce->griglia) : voce->griglia, maiuscole);
     } else if (const QString carattere = carattereDi(*evento); !carattere.isEmpty()) {
         griglia_.scrivi(s(carattere));
         preso = true;

@@ -272,6 +272,7 @@ QString testoBottone(const QAbstractButton& bottone, const std::string& testo) {
 
 QLabel* collega(Etichetta& etichetta, QWidget* genitore) {
     auto* label = new QLabel(genitore);
+    label->setTextFormat(Qt::PlainText);
     label->setFont(leggero(corpo));
     auto* legame = new Legame(etichetta, *label);
     legame->mostra([&etichetta, label] {

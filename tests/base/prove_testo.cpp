@@ -153,6 +153,15 @@ TEST(FineRiga, IsCarriageReturnAndLineFeed) {
     EXPECT_EQ(fineRiga, "\x0D\x0A");
 }
 
+TEST(Accorciato, CutsBehindSoManyCharactersAndSaysSo) {
+    EXPECT_EQ(accorciato("abc", 3), "abc");
+    EXPECT_EQ(accorciato("abcd", 3), "abc…");
+    EXPECT_EQ(accorciato("à€è", 3), "à€è");
+    EXPECT_EQ(accorciato("à€èx", 3), "à€è…");
+    EXPECT_EQ(accorciato("", 0), "");
+    EXPECT_EQ(accorciato("a", 0), "…");
+}
+
 TEST(Testo, CharactersComeOneByOne) {
     EXPECT_EQ(caratteri("aè€"), (std::vector<std::string>{"a", "è", "€"}));
     EXPECT_EQ(caratteri("a\xFF"), (std::vector<std::string>{"a", "\xEF\xBF\xBD"}));

@@ -80,7 +80,22 @@ TEST(Curva, SearchThatFailsIsAFailureWithItsFigures) {
                                 ": la ricerca non è riuscita: il picco scenderebbe sotto q1; conviene ridurre q1\n");
     const Esito testo = kelvoCli({"curva", "--ramo", "1", "--obiettivo", "300", esempio(mulini)});
     EXPECT_EQ(testo.codice, 1);
-    EXPECT_EQ(testo.uscita, "");
+    EXPECT_EQ(testo.errori, esito.errori);
+    for (const char* parte : {"Curva di traffico: SP 57 nord\r\n", "  07:30-07:45", "  08:45-09:00", "q2 [veic/min]",
+                              "\t3,99 ", "\t300 ", "\tnon riuscita ", "Passi", "Approssimazione applicata"}) {
+        EXPECT_NE(testo.uscita.find(parte), std::string::npos) << parte << testo.uscita;
+    }
+}
+
+TEST(Curva, ATargetOfZeroIsSearchedAndHasNoApproximation) {
+    const Esito testo = kelvoCli({"curva", "--ramo", "1", "--obiettivo", "0", esempio(mulini)});
+    EXPECT_EQ(testo.codice, 1) << "the peak would fall below q1";
+    EXPECT_NE(testo.uscita.find("\tnon riuscita"), std::string::npos) << testo.uscita;
+    EXPECT_EQ(testo.uscita.find("Approssimazione"), std::string::npos);
+    const Json risultato =
+        Json::parse(kelvoCli({"curva", "--json", "--ramo", "1", "--obiettivo", "0", esempio(mulini)}).uscita);
+    EXPECT_EQ(risultato["ricerca"]["obiettivo"], 0);
+    EXPECT_FALSE(risultato["ricerca"].contains("approssimazione"));
 }
 
 TEST(Curva, StepsThatEndAndPeaksThatLookWrongAreTold) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/guasto.h"
 #include "input/graficiComposizione.h"
 #include "input/scenaComposizione.h"
 
@@ -148,16 +149,29 @@ TEST_F(ProveComposizione, TheResidualIsToldWithoutTheNoiseOfSingles) {
     EXPECT_EQ(autovetture().testo(), "73,4");
 }
 
-TEST_F(ProveComposizione, FourDecimalsCountAndTheFifthDoesNot) {
+TEST_F(ProveComposizione, EveryDecimalUpToTheSeventhCounts) {
     apri();
     EXPECT_TRUE(scrivi(percento(0), "99,9999"));
     EXPECT_EQ(autovetture().testo(), "0,0001");
     EXPECT_TRUE(scrivi(percento(1), "0,0001"));
     EXPECT_EQ(autovetture().testo(), "0");
-    EXPECT_TRUE(scrivi(percento(2), "0,00002"));
-    EXPECT_EQ(autovetture().testo(), "0");
-    EXPECT_FALSE(scrivi(percento(2), "0,0001"));
+    EXPECT_FALSE(scrivi(percento(2), "0,00002"));
     unMessaggio(oltreCento);
+    EXPECT_EQ(finestra.lblErroreTotale.testo(), "Totale 100,00002 %: 0,00002 % di troppo");
+    messaggi.mostrati.clear();
+    EXPECT_FALSE(scrivi(percento(2), "0,0000001"));
+    unMessaggio(oltreCento);
+    EXPECT_TRUE(scrivi(percento(2), "0,00000001"));
+    EXPECT_EQ(autovetture().testo(), "0");
+}
+
+TEST_F(ProveComposizione, TheResidualHasTheDecimalsOfTheShares) {
+    apri();
+    ASSERT_TRUE(scrivi(percento(0), "33,33333"));
+    EXPECT_EQ(autovetture().testo(), "66,66667");
+    ASSERT_TRUE(scrivi(percento(0), "99,1234567"));
+    EXPECT_EQ(autovetture().testo(), "0,8765433");
+    EXPECT_EQ(finestra.lblTotale.testo(), "Totale 100 %, di cui autovetture 0,8765433 %");
 }
 
 TEST_F(ProveComposizione, AHundredthPastHundredIsRefusedAndCarsStayAsTheyWere) {
@@ -362,8 +376,9 @@ TEST_F(ProveComposizione, OnlyTheFieldsThatWereChangedAreWritten) {
     EXPECT_EQ(composizione(1).Camper(), 0.1234567F);
     EXPECT_EQ(composizione(1).VECamper(), 1.0F / 3.0F);
     EXPECT_EQ(composizione(1).Autoarticolati(), 5.0F);
-    EXPECT_EQ(finestra.righe[6].txtPercento.testo(), "94,8765");
-    EXPECT_EQ(composizione(1).Autovetture(), 94.8765F);
+    // 100 - 5 - 0,1234567 = 94,8765433, of which a single shows seven digits.
+    EXPECT_EQ(finestra.righe[6].txtPercento.testo(), "94,87654");
+    EXPECT_EQ(composizione(1).Autovetture(), 94.87654F);
 }
 
 TEST_F(ProveComposizione, AChangeTakenBackGivesTheCarsBack) {
@@ -377,6 +392,123 @@ TEST_F(ProveComposizione, AChangeTakenBackGivesTheCarsBack) {
     EXPECT_EQ(salva("a.klv"), prima);
 }
 
+TEST_F(ProveComposizione, AChangeTakenBackGivesCarsBackThatTheResidualDoesNotMake) {
+    composizione(1).Autotreni(100.0F / 3.0F);
+    composizione(1).Autovetture(200.0F / 3.0F);
+    apri();
+    ASSERT_EQ(percento(1).testo(), "33,33333");
+    ASSERT_EQ(autovetture().testo(), "66,66666");  // 100 - 33,33333 is 66,66667
+    const std::string prima = salva("a.klv");
+    ASSERT_TRUE(scrivi(percento(0), "7"));
+    ASSERT_EQ(autovetture().testo(), "59,66667");
+    EXPECT_FALSE(finestra.DatiAllineati());
+    ASSERT_TRUE(scrivi(percento(0), "0"));
+    EXPECT_EQ(autovetture().testo(), "66,66666");
+    EXPECT_EQ(finestra.lblTotale.testo(), "Totale 100 %, di cui autovetture 66,66666 %");
+    EXPECT_TRUE(finestra.DatiAllineati());
+    finestra.SaveData();
+    EXPECT_EQ(salva("a.klv"), prima);
+}
+
+TEST_F(ProveComposizione, ACoefficientTakenBackIsThatOfTheProjectAgain) {
+    apri();
+    ASSERT_TRUE(scrivi(coefficiente(2), "3"));
+    EXPECT_FALSE(finestra.DatiAllineati());
+    ASSERT_TRUE(scrivi(percento(2), "3"));
+    ASSERT_TRUE(scrivi(coefficiente(2), "1,8"));
+    EXPECT_FALSE(finestra.DatiAllineati());  // the share still differs
+    ASSERT_TRUE(scrivi(percento(2), "0"));
+    EXPECT_TRUE(finestra.DatiAllineati());
+}
+
+TEST_F(ProveComposizione, AMixFarPastHundredIsMendedShareByShare) {
+    composizione(1).Autotreni(90.0F);
+    composizione(1).Camper(80.0F);
+    composizione(1).Autovetture(25.0F);
+    apri();
+    EXPECT_EQ(finestra.lblErroreTotale.testo(), "Totale 195 %: 95 % di troppo");
+    EXPECT_TRUE(scrivi(percento(1), "60"));
+    EXPECT_EQ(autovetture().testo(), "25");
+    EXPECT_EQ(finestra.lblErroreTotale.testo(), "Totale 165 %: 65 % di troppo");
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_FALSE(scrivi(percento(3), "80,01"));  // none may rise
+    unMessaggio(oltreCento);
+    messaggi.mostrati.clear();
+    EXPECT_TRUE(scrivi(percento(3), "70"));
+    finestra.SaveData();
+    EXPECT_EQ(composizione(1).Autotreni(), 60.0F);
+    EXPECT_EQ(composizione(1).Camper(), 70.0F);
+    EXPECT_EQ(composizione(1).Autovetture(), 25.0F);
+    EXPECT_TRUE(scrivi(percento(3), "10"));
+    EXPECT_EQ(autovetture().testo(), "30");
+    EXPECT_EQ(finestra.lblTotale.testo(), "Totale 100 %, di cui autovetture 30 %");
+    EXPECT_TRUE(finestra.lblTotale.visibile());
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    finestra.SaveData();
+    EXPECT_FALSE(scrivi(percento(3), "45"));  // the project is whole again: the bound holds as ever
+    unMessaggio(oltreCento);
+}
+
+TEST_F(ProveComposizione, SharesThatNoSingleAddsUpAreToldAndCanBeMended) {
+    composizione(1).Autotreni(3e38F);
+    composizione(1).Camper(3e38F);
+    apri();
+    EXPECT_EQ(finestra.lblErroreTotale.testo(), oltreCento);
+    EXPECT_TRUE(finestra.lblErroreTotale.visibile());
+    const std::string prima = salva("a.klv");
+    for (std::size_t i = 0; i < 6; ++i) {
+        EXPECT_TRUE(finestra.fuocoSu(percento(i)));
+        EXPECT_TRUE(finestra.fuocoSu(coefficiente(i)));
+    }
+    finestra.SaveData();
+    EXPECT_EQ(salva("a.klv"), prima);
+    finestra.fuocoSu(percento(0));
+    percento(0).scrivi("5");
+    EXPECT_EQ(finestra.lblErroreTotale.testo(), oltreCento);
+    EXPECT_FALSE(finestra.lasciaFuoco());
+    unMessaggio(oltreCento);
+    messaggi.mostrati.clear();
+    percento(0).scrivi("0");
+    EXPECT_TRUE(scrivi(percento(1), "4"));
+    EXPECT_EQ(autovetture().testo(), "100");
+    EXPECT_TRUE(scrivi(percento(3), "6"));
+    EXPECT_EQ(autovetture().testo(), "90");
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_TRUE(errori.empty());
+}
+
+TEST_F(ProveComposizione, CarsThatNoSingleHoldsStayAsTheyAre) {
+    composizione(1).Autotreni(-3e38F);
+    composizione(1).Camper(-3e38F);
+    apri();
+    EXPECT_EQ(finestra.lblErroreTotale.testo(), oltreCento);
+    finestra.fuocoSu(percento(1));
+    percento(1).scrivi("5");
+    finestra.lasciaFuoco();
+    EXPECT_TRUE(errori.empty());
+}
+
+TEST_F(ProveComposizione, AFaultOfOneChartIsRecordedAndTheOtherFollowsAllTheSame) {
+    apri();
+    const auto guasto = [] { throw Guasto(NumeroGuasto::overflow, "disegno"); };
+    sigc::connection torta = finestra.ctlGraphPie.cambiato().connect(guasto);
+    ASSERT_TRUE(scrivi(percento(0), "10"));
+    ASSERT_FALSE(errori.empty());
+    for (const ErroreRegistrato& errore : errori) {
+        EXPECT_EQ(errore.metodo, "DoCtlGraphPie");
+    }
+    EXPECT_EQ(valori(finestra.ctlGraphBar), (std::vector<double>{10, 0, 0, 0, 0, 0, 90}));
+    torta.disconnect();
+    errori.clear();
+    finestra.ctlGraphBar.cambiato().connect(guasto);
+    ASSERT_TRUE(scrivi(percento(0), "20"));
+    ASSERT_FALSE(errori.empty());
+    for (const ErroreRegistrato& errore : errori) {
+        EXPECT_EQ(errore.metodo, "frmComposizioneTraffico:RefreshGraph");
+    }
+    EXPECT_EQ(valori(finestra.ctlGraphPie), (std::vector<double>{20, 0, 0, 0, 0, 0, 80}));
+}
+
 TEST_F(ProveComposizione, AMixThatTheProjectHoldsWrongIsToldAndCanBeLeft) {
     composizione(1).Autotreni(60.0F);
     composizione(1).Camper(50.0F);
@@ -384,7 +516,7 @@ TEST_F(ProveComposizione, AMixThatTheProjectHoldsWrongIsToldAndCanBeLeft) {
     apri(1);
     EXPECT_EQ(finestra.lblErroreTotale.testo(), "Totale 210 %: 110 % di troppo");
     EXPECT_TRUE(passa(2));
-    EXPECT_EQ(finestra.lblErroreTotale.testo(), "Totale 96 %: manca il 4 %");
+    EXPECT_EQ(finestra.lblErroreTotale.testo(), "Totale 96 %: 4 % in meno");
     EXPECT_TRUE(messaggi.mostrati.empty());
     ASSERT_TRUE(scrivi(percento(0), "1"));
     EXPECT_EQ(autovetture().testo(), "99");

@@ -114,8 +114,12 @@ TEST_F(ProveTabella, ATableWithoutSegmentsSaysWhatToDoFirst) {
         EXPECT_FALSE(casella.spuntata());
     }
     EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_FALSE(finestra.cmdImportaCSV.abilitato());
     finestra.SaveData();
     EXPECT_TRUE(errori.empty());
+    segmenti(1, 1);
+    apri();
+    EXPECT_TRUE(finestra.cmdImportaCSV.abilitato());
 }
 
 TEST_F(ProveTabella, OtherTimesBringATableOfThatManyRows) {
@@ -230,7 +234,7 @@ TEST_F(ProveTabella, ARowPastItsFlowIsToldAndKept) {
     scrivi(1, 7, "40");
     ASSERT_EQ(messaggi.mostrati.size(), 1U);
     EXPECT_EQ(messaggi.mostrati[0].testo,
-              "Segmento di tempo '08:00 - 08:15': numero veicoli inseriti > numero di veicoli in ingresso [60 veic.]");
+              "Segmento di tempo '08:00 - 08:15': numero veicoli inseriti > numero di veicoli in ingresso [60 veic].");
     EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
     EXPECT_EQ(messaggi.mostrati[0].icona, Icona::esclamazione);
     EXPECT_EQ(riga(1), "1 2 3 4 5 6 40 61 60");
@@ -372,6 +376,42 @@ TEST_F(ProveTabella, TheHelpFollowsTheColumn) {
     EXPECT_EQ(finestra.ctlHelp.pagina(), "BloccoCategoria.htm");
     finestra.fuocoSu(griglia);
     EXPECT_EQ(finestra.ctlHelp.pagina(), "FlussoIngresso.htm");
+}
+
+/// A dialogue that is never opened.
+class DialogoChiuso final : public DialogoAnteprima {
+public:
+    bool apri(const RichiestaFile& /*richiesta*/, FinestraAnteprima& /*anteprima*/) override { return false; }
+};
+
+TEST_F(ProveTabella, TheImportHasAPageOfItsOwn) {
+    DialogoChiuso dialogo;
+    frmComposizioneTrafficoST conImportazione(contorno(), &dialogo);
+    navigazione.corrente = "keyComposizioneTraffico1";
+    conImportazione.attivata();
+    ASSERT_TRUE(conImportazione.fuocoSu(conImportazione.cmdImportaCSV));
+    EXPECT_EQ(conImportazione.ctlHelp.pagina(), "ImportaCSV.htm");
+    ASSERT_TRUE(conImportazione.fuocoSu(conImportazione.chkLock[0]));
+    EXPECT_EQ(conImportazione.ctlHelp.pagina(), "BloccoCategoria.htm");
+}
+
+TEST_F(ProveTabella, AClassBelowZeroBesideOthersWithinTheFlowIsNoExcess) {
+    composizione(1).CategoriaSegmento(40.0F, 0, 0);
+    composizione(1).CategoriaSegmento(-5.0F, 0, 6);
+    composizione(1).CategoriaSegmento(60.0F, 1, 0);
+    composizione(1).CategoriaSegmento(46.0F, 1, 1);  // 106 beside 105
+    composizione(1).CategoriaSegmento(-2.0F, 1, 6);
+    apri();
+    EXPECT_EQ(finestra.lblSegmento.testo(), "08:00 - 08:15: 35 veicoli su 60, una categoria è negativa");
+    griglia.corrente({2, 1});
+    EXPECT_EQ(finestra.lblSegmento.testo(),
+              "08:15 - 08:30: 104 veicoli su 105, una categoria è negativa: le altre superano il flusso in ingresso");
+    EXPECT_EQ(finestra.lblErroreStato.testo(),
+              "Segmenti con totale uguale al flusso in ingresso: 0 su 6; inferiore: 5; superiore: 1");
+    for (const int r : {1, 2}) {
+        EXPECT_EQ(griglia.ornamento({r, 8}).segno, OrnamentoCella::Segno::attenzione);
+        EXPECT_EQ(griglia.tabella().cella(r, 8).sfondo, (Colore{255, 140, 140}));
+    }
 }
 
 TEST_F(ProveTabella, TheWindowHasNoImport) {

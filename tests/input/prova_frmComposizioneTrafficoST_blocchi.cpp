@@ -258,7 +258,7 @@ TEST_F(ProveBlocchi, OfABlockPastTheFlowsTheFirstSegmentIsTold) {
     griglia.premiTasto(Tasto::incolla);
     ASSERT_EQ(messaggi.mostrati.size(), 1U);
     EXPECT_EQ(messaggi.mostrati[0].testo,
-              "Segmento di tempo '08:15 - 08:30': numero veicoli inseriti > numero di veicoli in ingresso [105 veic.]");
+              "Segmento di tempo '08:15 - 08:30': numero veicoli inseriti > numero di veicoli in ingresso [105 veic].");
     EXPECT_EQ(griglia.testo(3, 1), "151");
     EXPECT_EQ(griglia.tabella().cella(3, 8).sfondo, (Colore{255, 140, 140}));
 }

@@ -150,6 +150,16 @@ TEST_F(ProveCurva, ALoneCommaIsSavedAsZero) {
     scrivi(q3, ",");
     finestra.SaveData();
     EXPECT_EQ(dati(1).FlussoTempo3(), 0.0F);
+    // 4, 7, 10, 6.667, 3.333 and 0 by 15 minutes: the totals are those of the flows that are saved.
+    EXPECT_EQ(dati(1).FlussoTotale(), 465.0F);
+}
+
+TEST_F(ProveCurva, RefreshOpensTheThirdFlowAgain) {
+    ASSERT_TRUE(scrivi(t2, "09:00"));
+    ASSERT_FALSE(q3.abilitato());
+    finestra.ctlToolbar.premi("Refresh");
+    EXPECT_TRUE(q3.abilitato());
+    EXPECT_TRUE(q2.abilitato());
 }
 
 TEST_F(ProveCurva, RefreshDiscardsWhatWasTypedAndBuildsTheCurveOfTheLeg) {
@@ -258,10 +268,10 @@ TEST_F(ProveCurva, TabOrderFollowsTheReadingOrder) {
             nomi.push_back(c->nome());
         }
     }
-    EXPECT_EQ(nomi, (std::vector<std::string>{"txtDescrizioneRamo", "txtIntervalloTempo", "txtTempo1", "txtTempo2",
-                                              "txtTempo3", "txtFlussoTempo1", "txtFlussoTotale", "txtFlussoMedio",
-                                              "txtFlussoOrario", "Check1", "Check2", "txtTarget", "Command1",
-                                              "ctlChart"}));
+    EXPECT_EQ(nomi,
+              (std::vector<std::string>{"txtDescrizioneRamo", "txtIntervalloTempo", "txtTempo1", "txtTempo2",
+                                        "txtTempo3", "txtFlussoTempo1", "txtFlussoTotale", "txtFlussoMedio",
+                                        "txtFlussoOrario", "Check1", "Check2", "txtTarget", "Command1", "ctlChart"}));
 }
 
 }  // namespace

@@ -513,7 +513,7 @@ TEST_F(ProveConteggi, KeyboardStartsInTheTableAndGoesOnToTheTotals) {
         }
     }
     EXPECT_EQ(nomi, (Testi{"ctlGrid", "txtDescrizioneRamo", "txtIntervalloTempo", "txtFlussoTotale", "txtFlussoMedio",
-                           "txtFlussoOrario", "Check1"}));
+                           "txtFlussoOrario", "Check1", "ctlChart"}));
 }
 
 }  // namespace

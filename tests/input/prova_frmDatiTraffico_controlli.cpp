@@ -139,7 +139,7 @@ TEST_F(ControlliCurva, T3PassesWhereItMeetsT2AndNothingIsBuilt) {
     EXPECT_TRUE(scrivi(t3, "08:30"));
     EXPECT_EQ(totali(), "525 5,83 350,00");
     EXPECT_TRUE(messaggi.mostrati.empty());
-    EXPECT_FALSE(t3.abilitato()) << "flat all the same";
+    EXPECT_TRUE(t3.abilitato()) << "flat, but no earlier t2 could open it again";
     EXPECT_EQ(q3.testo(), "10");
 }
 
@@ -207,12 +207,54 @@ TEST_F(ControlliCurva, AFlowThatDiffersClearsTheMarkAndIsBuiltAndDrawn) {
 }
 
 TEST_F(ControlliCurva, ALoneCommaDoesNothing) {
-    for (const char* vuoto : {",", ".", ""}) {
+    for (const char* vuoto : {",", "."}) {
         EXPECT_TRUE(scrivi(q2, vuoto)) << vuoto;
         EXPECT_TRUE(finestra.DatiAllineati()) << vuoto;
         EXPECT_EQ(totali(), "525 5,83 350,00") << vuoto;
         EXPECT_EQ(barre().valori[2], 10.0) << vuoto;
     }
+    EXPECT_TRUE(errori.empty());
+}
+
+TEST_F(ControlliCurva, AnEmptiedFlowCountsAsZero) {
+    EXPECT_TRUE(scrivi(q2, ""));
+    EXPECT_FALSE(finestra.DatiAllineati());
+    EXPECT_EQ(finestra.curva().FlussiSegmento[2], 0.0F);
+    EXPECT_EQ(barre().valori[2], 0.0);
+}
+
+TEST_F(ControlliCurva, T3StaysOpenWhereNoEarlierT2CouldOpenItAgain) {
+    EXPECT_TRUE(scrivi(t2, "08:45"));
+    EXPECT_TRUE(scrivi(t3, "09:15"));
+    EXPECT_FALSE(t3.abilitato()) << "t2 at 08:15 or before opens it";
+    EXPECT_TRUE(scrivi(t2, "08:15"));
+    EXPECT_TRUE(t3.abilitato());
+    EXPECT_TRUE(scrivi(t3, "08:30"));
+    EXPECT_TRUE(t3.abilitato()) << "two segments in all";
+    EXPECT_TRUE(scrivi(t3, "09:30"));
+    EXPECT_EQ(q3.testo(), "10");
+    EXPECT_EQ(finestra.curva().FlussiSegmento.size(), 6U);
+}
+
+TEST_F(ControlliCurva, T3OfAFlatCurveStaysOpenWhileItLiesOutsideTheStudy) {
+    EXPECT_TRUE(scrivi(t2, "09:00"));
+    EXPECT_FALSE(t3.abilitato());
+    finestra.SaveData();
+    app.theRotonda().TempoFinale(oraDelGiorno(9, 15));
+    riapri("keyDatiTraffico1");
+    EXPECT_TRUE(t3.abilitato());
+    EXPECT_FALSE(scrivi(t3, "09:45"));
+    EXPECT_TRUE(scrivi(t3, "09:15"));
+}
+
+TEST_F(ControlliCurva, TheModeDoesNotChangeWhileAFieldRefusesToBeLeft) {
+    finestra.fuocoSu(q2);
+    q2.scrivi("1,2,3");
+    finestra.Check2.clicca();
+    EXPECT_FALSE(finestra.Check2.spuntata());
+    EXPECT_TRUE(q2.abilitato());
+    EXPECT_FALSE(finestra.txtTarget.visibile());
+    EXPECT_TRUE(q2.fallito());
     EXPECT_TRUE(errori.empty());
 }
 

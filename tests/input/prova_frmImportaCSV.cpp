@@ -261,8 +261,83 @@ TEST_F(ProveImportaCSV, EmptyAndMissingCellsCountAsZero) {
 
 TEST_F(ProveImportaCSV, WhatTheTableRefusesIsToldAsAWholeAndTheDialogueStaysOpen) {
     EXPECT_FALSE(importa("B;C\n1;2\n3;100\n"));
-    EXPECT_EQ(ultimo(), "Il testo '100' (riga 'S2', colonna 'C') supera 99: non è stato incollato nulla.");
+    EXPECT_EQ(ultimo(), "Il testo '100' (riga 3, 'Colonna 2: C') supera 99: non è stato importato nulla.");
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
     EXPECT_EQ(finestra.celle(), "5 5|5 5|5 5|5 5");
+}
+
+TEST_F(ProveImportaCSV, ARefusalOfAnotherFormIsToldAsTheTableTellsIt) {
+    finestra.ctlGrid.allIncolla = [](std::vector<TestoCella>& /*celle*/) {
+        return EsitoUscita::rifiuto("Oggi no: non è stato incollato nulla.");
+    };
+    EXPECT_FALSE(importa("B;C\n1;2\n"));
+    EXPECT_EQ(ultimo(), "Oggi no: non è stato importato nulla.");
+    EXPECT_EQ(finestra.celle(), "5 5|5 5|5 5|5 5");
+}
+
+TEST_F(ProveImportaCSV, OneRowTooManyOrTooFewIsToldInTheSingular) {
+    const auto detto = [&](const std::string& testo) {
+        std::string avviso;
+        messaggi.risposta = Risposta::annulla;
+        importa(testo, [&](frmImportaCSV& vista) { avviso = vista.lblAvviso.testo(); });
+        return avviso;
+    };
+    EXPECT_EQ(detto("1;1\n2;2\n3;3\n4;4\n5;5\n"),
+              "5 righe di dati: la tabella ne ha 4, l'ultima riga del file non verrà importata.");
+    EXPECT_EQ(ultimo(), "Il file ha 5 righe di dati: la tabella ne ha 4, l'ultima riga del file non verrà importata.");
+    EXPECT_EQ(detto("1;1\n2;2\n3;3\n"), "3 righe di dati: la tabella ne ha 4, l'altra resterà com'è.");
+    EXPECT_EQ(detto("1;1\n2;2\n"), "2 righe di dati: la tabella ne ha 4, le altre resteranno come sono.");
+}
+
+TEST_F(ProveImportaCSV, ATableWithoutRowsIsSaidPlainly) {
+    finestra.ctlGrid.tabella(Tabella(1, 4));
+    EXPECT_FALSE(importa("B;C\n1;2\n", [](frmImportaCSV& vista) {
+        EXPECT_EQ(vista.lblAvviso.testo(), "Nessun segmento di tempo");
+        EXPECT_EQ(riga(vista, 2), "2|1|2") << "the file is shown all the same";
+    }));
+    EXPECT_EQ(ultimo(), "Nessun segmento di tempo");
+}
+
+TEST_F(ProveImportaCSV, ATickOfTheHeadingsKeepsTheColumnsChosenByHand) {
+    importa("C;x;B\n1;2;3\n", [](frmImportaCSV& vista) {
+        EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{2, 0, -1}));
+        vista.txtColonna[0].scegli(2);
+        vista.chkIntestazioni.clicca();
+        EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{1, -1, -1}))
+            << "by position, but not the one that is taken";
+        vista.chkIntestazioni.clicca();
+        EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{1, 0, -1}));
+        vista.txtSeparatore.scegli(1);
+        vista.txtSeparatore.scegli(0);
+        EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{2, 0, -1})) << "other columns: proposed anew";
+    });
+}
+
+TEST_F(ProveImportaCSV, BetweenCommasAThousandsCommaIsRefused) {
+    EXPECT_FALSE(importa("B,C\n\"1,234\",2\n"));
+    EXPECT_EQ(ultimo(),
+              "Il testo '1,234' (riga 2, 'Colonna 1: B') si può leggere in due modi, con o senza decimali.\n"
+              "Non è stato importato nulla.");
+    EXPECT_EQ(finestra.celle(), "5 5|5 5|5 5|5 5");
+    EXPECT_TRUE(importa("B;C\n1,234;2\n")) << ultimo();
+    EXPECT_EQ(finestra.celle(), "1,234 2|5 5|5 5|5 5");
+}
+
+TEST_F(ProveImportaCSV, LongTextsAreShownShortened) {
+    const std::string lungo(1000, 'x');
+    const std::string breve = std::string(60, 'x') + "…";
+    EXPECT_FALSE(importa(lungo + ";C\n" + lungo + ";2\n", [&](frmImportaCSV& vista) {
+        vista.txtColonna[0].scegli(1);
+        EXPECT_EQ(vista.txtColonna[0].testo(), "Colonna 1: " + breve);
+        EXPECT_EQ(riga(vista, 0), "Riga|" + breve + "|C");
+        EXPECT_EQ(riga(vista, 2), "2|" + breve + "|2");
+        EXPECT_EQ(vista.lblAvviso.testo(),
+                  "Il testo '" + breve + "' (riga 2, 'Colonna 1: " + breve + "') non è un numero.");
+    }));
+    BersaglioCSV lunghi = bersaglio();
+    lunghi.colonne[0].titolo = lungo;
+    const frmImportaCSV vista(completo(), lunghi);
+    EXPECT_EQ(vista.lblColonna[0].testo(), breve + ":");
 }
 
 TEST_F(ProveImportaCSV, NoColumnOrOneTwiceIsRefused) {
@@ -328,6 +403,45 @@ TEST_F(ProveImportaCSV, WhatWasChosenForAFileStandsWhenItComesBack) {
     vista.selezionato(due);
     EXPECT_TRUE(vista.conferma(uno)) << "seen before: it is taken as it was chosen";
     EXPECT_EQ(finestra.celle(), "5 3|5 5|5 5|5 5");
+}
+
+TEST_F(ProveImportaCSV, AFileThatLostColumnsIsProposedAnew) {
+    frmImportaCSV vista(completo(), bersaglio());
+    const std::string uno = scrivi("B;x;C\n1;2;3\n4;5;6\n", "uno.csv");
+    const std::string due = scrivi("7;8\n", "due.csv");
+    vista.selezionato(uno);
+    EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{0, 2, -1}));
+    vista.selezionato(due);
+    scrivi("9\n8\n", "uno.csv");
+    EXPECT_FALSE(vista.conferma(uno)) << "what stands in it now has not been seen";
+    EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{0, -1, -1}));
+    EXPECT_EQ(vista.txtColonna[0].testo(), "Colonna 1");
+    EXPECT_TRUE(messaggi.mostrati.empty()) << ultimo();
+    EXPECT_EQ(finestra.celle(), "5 5|5 5|5 5|5 5");
+    EXPECT_TRUE(vista.conferma(uno));
+    EXPECT_EQ(finestra.celle(), "9 5|8 5|5 5|5 5") << "no 0 for a column that is not there";
+}
+
+TEST_F(ProveImportaCSV, AFileThatCannotBeReadSaysSoAgainAndIsProposedOnceItCan) {
+    frmImportaCSV vista(completo(), bersaglio());
+    const std::string rotto = scrivi("B;\"C\n1;2\n", "rotto.csv");
+    const std::string sano = scrivi("7;8\n", "sano.csv");
+    const std::string errore = "Il file non è un CSV leggibile: le virgolette aperte nella riga 1 non si chiudono.";
+    for (int volta = 0; volta < 2; ++volta) {
+        vista.selezionato(sano);
+        vista.selezionato(rotto);
+        EXPECT_EQ(vista.lblAvviso.testo(), errore) << volta;
+        EXPECT_FALSE(vista.conferma(rotto));
+        EXPECT_EQ(ultimo(), errore);
+    }
+    vista.selezionato(sano);
+    scrivi("B;C\n1;2\n", "rotto.csv");
+    vista.selezionato(rotto);
+    EXPECT_EQ(vista.scelta().colonne, (std::vector<int>{0, 1, -1}));
+    vista.selezionato(sano);
+    scrivi("B;\"C\n1;2\n", "rotto.csv");
+    vista.selezionato(rotto);
+    EXPECT_EQ(vista.lblAvviso.testo(), errore) << "it was well when it was last seen";
 }
 
 TEST_F(ProveImportaCSV, ATypedNameIsShownBeforeItIsTaken) {

@@ -130,6 +130,12 @@ TEST_F(ProveMatrice, TotalsAreThoseOfRowsAndColumns) {
         EXPECT_EQ(finestra.ctlGridEntrate.tabella().cella(static_cast<int>(i), 0).sfondo, colori::bianco);
     }
     EXPECT_FALSE(finestra.lblVeicoliEntrate[4].visibile());
+    rotonda().TipoMatriceSvolte(1);
+    finestra.ReadData();
+    EXPECT_EQ(finestra.lblVeicoliUscite[0].testo(), "[%]");
+    EXPECT_FALSE(finestra.frmTotaleUscite.visibile());
+    rotonda().TipoMatriceSvolte(0);
+    finestra.ReadData();
     EXPECT_FALSE(finestra.lblPercentualeROSSO.visibile());
     EXPECT_TRUE(finestra.frmTotaleUscite.visibile());
 }
@@ -400,6 +406,37 @@ TEST_F(ProveMatrice, ASmallerMatrixFillsItsOwnPart) {
     EXPECT_EQ(finestra.ctlGrid.testo(1, 3), "4");
     EXPECT_EQ(finestra.ctlGrid.testo(1, 4), "0");
     EXPECT_EQ(finestra.ctlGrid.testo(4, 1), "0");
+}
+
+TEST_F(ProveMatrice, AnImportIsUndoneAndDoneAgainInOneStep) {
+    dialogo.selezione = salvaAltro(4, [](Rotonda& r) { r.MatriceSvolte(99.0F, 1, 2); });
+    apri();
+    finestra.ctlGrid.scrivi("7");
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    finestra.CaricaDaProgetto();
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 2), "99");
+    EXPECT_EQ(entrate(0), "99");
+    EXPECT_FALSE(finestra.DatiAllineati());
+    finestra.ctlGrid.premiTasto(Tasto::annulla);
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 2), "7");
+    EXPECT_EQ(finestra.ctlGrid.testo(4, 3), "21");
+    EXPECT_EQ(entrate(0), "30");
+    finestra.ctlGrid.premiTasto(Tasto::ripeti);
+    EXPECT_EQ(entrate(0), "99");
+}
+
+TEST_F(ProveMatrice, ATextThatIsNoNumberIsRefusedAndNotReadAsZero) {
+    riga(1, -5.0F, 11.0F, 12.0F);
+    apri();
+    finestra.ctlGrid.premiTasto(Tasto::f2);
+    finestra.ctlGrid.correggi("5-");
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_TRUE(finestra.ctlGrid.inModifica());
+    finestra.ctlGrid.correggi("-6");
+    finestra.ctlGrid.premiTasto(Tasto::invio);
+    EXPECT_TRUE(finestra.ctlGrid.inModifica());
+    finestra.ctlGrid.premiTasto(Tasto::esc);
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 2), "-5");
 }
 
 TEST_F(ProveMatrice, ACancelledOrBrokenImportChangesNothing) {

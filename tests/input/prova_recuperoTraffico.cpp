@@ -198,10 +198,21 @@ TEST_F(ProveRecupero, EachKindIsAskedForOnceALeg) {
     messaggi.risposta = Risposta::si;
     EXPECT_TRUE(chiediRecupero(app, 2, DatoTraffico::composizione));
     EXPECT_NE(messaggi.mostrati[1].testo.find("i veicoli per categoria"), std::string::npos);
-    EXPECT_FALSE(composizioneRecuperabile(rotonda(), 2));
-    EXPECT_TRUE(curvaRecuperabile(rotonda(), 2));
-    EXPECT_TRUE(chiediRecupero(app, 2, DatoTraffico::curva));
+    EXPECT_TRUE(composizioneRecuperabile(rotonda(), 2));  // nothing has been saved yet
+    messaggi.risposta = Risposta::no;
+    EXPECT_FALSE(chiediRecupero(app, 2, DatoTraffico::curva));
     EXPECT_FALSE(curvaRecuperabile(rotonda(), 2));
+}
+
+TEST_F(ProveRecupero, ALegThatHasDataIsOfferedNothing) {
+    tempi("08:00", "15", "09:30");
+    dati(2).FlussoSegmento(1.0F, 5, 0);
+    EXPECT_FALSE(conteggiRecuperabili(rotonda(), 2));
+    dati(2).FlussoTempo3(1.0F);
+    EXPECT_FALSE(curvaRecuperabile(rotonda(), 2));
+    EXPECT_TRUE(composizioneRecuperabile(rotonda(), 2));
+    composizione(2).CategoriaSegmento(1.0F, 5, 6);
+    EXPECT_FALSE(composizioneRecuperabile(rotonda(), 2));
 }
 
 TEST_F(ProveRecupero, AnotherChangeOfTheTimesOffersAnew) {
@@ -233,6 +244,24 @@ TEST_F(ProveRecupero, TheWindowOfTheCountsOffersThemOnceAndSavesWhatCameBack) {
     navigazione.corrente = "keyDatiTraffico1";
     conteggi.attivata();  // this leg had nothing
     EXPECT_EQ(messaggi.mostrati.size(), 1U);
+}
+
+TEST_F(ProveRecupero, CountsTakenBackCanBeUndoneAndOnesDiscardedAreOfferedAgain) {
+    tempi("08:00", "15", "09:30");
+    messaggi.risposta = Risposta::si;
+    frmDatiTrafficoST conteggi{contorno()};
+    navigazione.corrente = "keyDatiTraffico2";
+    conteggi.attivata();
+    EXPECT_TRUE(conteggi.ctlGrid.premiTasto(Griglia::Tasto::annulla));
+    EXPECT_EQ(conteggi.ctlGrid.testo(1, 1), "0");
+    EXPECT_TRUE(conteggi.ctlGrid.premiTasto(Griglia::Tasto::ripeti));
+    EXPECT_EQ(conteggi.ctlGrid.testo(1, 1), "10");
+    conteggi.ctlToolbar.premi("Refresh");
+    EXPECT_EQ(conteggi.ctlGrid.testo(1, 1), "0");
+    messaggi.mostrati.clear();
+    conteggi.attivata();
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(conteggi.ctlGrid.testo(1, 1), "10");
 }
 
 TEST_F(ProveRecupero, WhoAnswersNoKeepsTheEmptyTable) {

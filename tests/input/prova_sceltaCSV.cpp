@@ -75,6 +75,33 @@ TEST(LeggiCellaCSV, WhatCouldBeReadInTwoWaysIsNoNumber) {
     EXPECT_FALSE(leggiCellaCSV("12").ambigua);
 }
 
+TEST(LeggiCellaCSV, BetweenCommasAThousandsCommaIsRefusedAsReadableInTwoWays) {
+    for (const char* testo : {"1,234", "12,345", "-123,456", "+1,000"}) {
+        EXPECT_TRUE(leggiCellaCSV(testo, virgola).ambigua) << testo;
+        EXPECT_FALSE(leggiCellaCSV(testo, virgola).numero) << testo;
+    }
+    EXPECT_EQ(leggiCellaCSV("0,125", virgola).numero, 0.125);
+    EXPECT_EQ(leggiCellaCSV("12,5", virgola).numero, 12.5);
+    EXPECT_EQ(leggiCellaCSV("1,2345", virgola).numero, 1.2345);
+    EXPECT_EQ(leggiCellaCSV("1234,567", virgola).numero, 1234.567);
+    EXPECT_EQ(leggiCellaCSV("1,234.5", virgola).numero, 1234.5);
+    EXPECT_FALSE(leggiCellaCSV(",234", virgola).ambigua);
+    EXPECT_FALSE(leggiCellaCSV("1,2a4", virgola).ambigua);
+    EXPECT_EQ(leggiCellaCSV("1,234", puntoEVirgola).numero, 1.234);
+    EXPECT_EQ(leggiCellaCSV("1,234", SeparatoreCSV::tabulazione).numero, 1.234);
+}
+
+TEST(ColonneRiproposte, WhatWasChosenByHandStaysAndIsProposedForNoOther) {
+    EXPECT_EQ(colonneRiproposte({2, 1, -1}, {true, false, false}, {0, 1, 2}), (std::vector<int>{2, 1, -1}));
+    EXPECT_EQ(colonneRiproposte({0, -1, 2}, {false, true, false}, {3, 1, 2}), (std::vector<int>{3, -1, 2}));
+    EXPECT_EQ(colonneRiproposte({0, 1}, {false, false}, {1, 2}), (std::vector<int>{1, 2}));
+}
+
+TEST(TestoBreveCSV, HasSixtyCharactersAtMost) {
+    EXPECT_EQ(testoBreveCSV(std::string(60, 'x')), std::string(60, 'x'));
+    EXPECT_EQ(testoBreveCSV(std::string(61, 'x')), std::string(60, 'x') + "…");
+}
+
 struct ProveMemoriaCSV : testing::Test {
     ImpostazioniFinte impostazioni;
     MemoriaCSV memoria{&impostazioni, "Matrice"};

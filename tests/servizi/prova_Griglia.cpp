@@ -145,7 +145,25 @@ TEST_F(ProveGriglia, TheRightButtonIsTakenWhereSomethingIsToldOfIt) {
     griglia.alTastoDestro = [&](Posto p) { premuto = p; };
     EXPECT_TRUE(griglia.tastoDestro(2, 1));
     EXPECT_EQ(premuto, (Posto{2, 1}));
-    EXPECT_EQ(griglia.corrente(), (Posto{1, 1}));
+}
+
+TEST_F(ProveGriglia, TheRightButtonMovesTheCursorToACellOutsideTheSelection) {
+    std::vector<Posto> clic;
+    griglia.alClic = [&](Posto p) { clic.push_back(p); };
+    griglia.clic(1, 1);
+    griglia.clic(2, 2, true);
+    clic.clear();
+    griglia.tastoDestro(2, 1);
+    EXPECT_EQ(griglia.selezione(), (AreaCelle{{1, 1}, {2, 2}}));
+    EXPECT_FALSE(griglia.tastoDestro(3, 3));
+    EXPECT_EQ(griglia.corrente(), (Posto{3, 3}));
+    EXPECT_EQ(griglia.selezione(), (AreaCelle{{3, 3}, {3, 3}}));
+    griglia.tastoDestro(0, 2);
+    EXPECT_EQ(griglia.corrente(), (Posto{3, 3})) << "a heading";
+    EXPECT_TRUE(clic.empty());
+    griglia.abilitato(false);
+    griglia.tastoDestro(1, 1);
+    EXPECT_EQ(griglia.corrente(), (Posto{3, 3}));
 }
 
 TEST_F(ProveGriglia, TheTopRowStaysInTheTable) {

@@ -42,11 +42,35 @@ TEST_F(ProveEditor, TypingReplacesWhatStandsInTheCellAndEnterStoresIt) {
 TEST_F(ProveEditor, CharactersThatAreNotAllowedFallOutAndNoMoreThanTheLimitAreTaken) {
     griglia.scrivi("x1a2-3.4,567");
     EXPECT_EQ(griglia.testoEditor(), "1234");
-    griglia.correggi("9x,87654");
+    griglia.correggi("9x,8");
+    EXPECT_EQ(griglia.testoEditor(), "1234") << "another number without the sign that falls out";
+    griglia.correggi("9,8765");
+    EXPECT_EQ(griglia.testoEditor(), "1234") << "or without its last figures";
+    griglia.correggi("9,87");
     EXPECT_EQ(griglia.testoEditor(), "9,87");
     premi({Tasto::esc});
     griglia.scrivi("abc");
     EXPECT_FALSE(griglia.inModifica());  // nothing of it opens the editor
+}
+
+TEST_F(ProveEditor, APastedTextThatTakesTheWholeCellIsReadAsABlock) {
+    griglia.allIncolla = [](std::vector<TestoCella>& celle) {
+        if (celle.front().testo != "2.5") {
+            return EsitoUscita::rifiuto(std::string{"no"});
+        }
+        celle.front().testo = "2,5";
+        return EsitoUscita::bene();
+    };
+    griglia.testo({1, 1}, "");
+    premi({Tasto::f2});
+    griglia.correggi("2.5");
+    EXPECT_EQ(griglia.testoEditor(), "2,5");
+    griglia.correggi("2,52.5");  // it would stand beside other figures
+    EXPECT_EQ(griglia.testoEditor(), "2,5");
+    griglia.correggi("");
+    griglia.correggi("2.x");
+    EXPECT_EQ(griglia.testoEditor(), "");
+    EXPECT_TRUE(griglia.inModifica());
 }
 
 TEST_F(ProveEditor, WhatStoodInTheCellStaysWhenItsTextIsMended) {

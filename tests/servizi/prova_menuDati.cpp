@@ -65,8 +65,8 @@ struct ProveMenuDati : testing::Test, ScenaFinestre {
 };
 
 TEST_F(ProveMenuDati, ATableHasItsEntries) {
-    EXPECT_EQ(testi(tabella()),
-              (std::vector<std::string>{"Copia", "Copia con intestazioni", "-", "Salva come CSV..."}));
+    EXPECT_EQ(testi(tabella()), (std::vector<std::string>{"Copia", "Copia con intestazioni", "Incolla (chiusa)", "-",
+                                                          "Salva come CSV..."}));
     EXPECT_EQ(tabella().voce("mnuXDatiCopia").scorciatoia, "Ctrl+C");
     EXPECT_EQ(tabella().voce("mnuXDatiCopiaIntestazioni").scorciatoia, "Ctrl+Shift+C");
 }
@@ -106,6 +106,23 @@ TEST_F(ProveMenuDati, TheSelectionIsCopied) {
     EXPECT_EQ(blocco.testo, "21\t22\r\n31\t32");
     scegli(tabella(), "Copia con intestazioni");
     EXPECT_EQ(blocco.testo, "C0\tC1\tC2\r\nR2\t21\t22\r\nR3\t31\t32");
+}
+
+TEST_F(ProveMenuDati, ATextIsPastedWhereTheCellMayBeTypedInto) {
+    EXPECT_EQ(tabella().voce("mnuXDatiIncolla").nota, "La cella non si può modificare");
+    finestra.ctlGrid.modificabile = [](Posto p) { return p.colonna == 2; };
+    finestra.ctlGrid.clic(1, 1);
+    EXPECT_FALSE(tabella().voce("mnuXDatiIncolla").abilitata);
+    finestra.ctlGrid.clic(1, 2);
+    EXPECT_TRUE(tabella().voce("mnuXDatiIncolla").abilitata);
+    EXPECT_EQ(tabella().voce("mnuXDatiIncolla").scorciatoia, "Ctrl+V");
+    blocco.testo = "7\r\n8";
+    scegli(tabella(), "Incolla");
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 2), "7");
+    EXPECT_EQ(finestra.ctlGrid.testo(2, 2), "8");
+    app.appunti = nullptr;
+    EXPECT_EQ(tabella().voce("mnuXDatiIncolla").nota, "Non disponibile");
+    EXPECT_FALSE(tabella().voce("mnuXDatiIncolla").abilitata);
 }
 
 TEST_F(ProveMenuDati, OfATableWithoutACursorAllIsCopied) {
@@ -205,7 +222,7 @@ TEST_F(ProveMenuDati, EntriesOfTheGridsOwnStandInFrontAndWork) {
     proprio.alClic = [&](const std::string& chiave) { premute.push_back(chiave); };
     finestra.ctlGrid.menuContesto = &proprio;
     EXPECT_EQ(testi(tabella()), (std::vector<std::string>{"Legenda", "Altro", "-", "Copia", "Copia con intestazioni",
-                                                          "-", "Salva come CSV..."}));
+                                                          "Incolla (chiusa)", "-", "Salva come CSV..."}));
     EXPECT_EQ(tabella().figli("mnuXAltro").at(0)->testo, "Sotto");
     tabella().premi("mnuXLegenda");
     tabella().premi("mnuXSotto");

@@ -5,11 +5,11 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QLocale>
-#include <QtWidgets/QApplication>
 #include <clocale>
 #include <filesystem>
 
 #include "comune/cartella.h"
+#include "ui/ApplicazioneQt.h"
 #include "ui/icone.h"
 #include "ui/stile.h"
 
@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QApplication applicazione(argc, argv);
+    kelvo::ui::ApplicazioneQt applicazione(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     QApplication::setQuitOnLastWindowClosed(false);  // every test closes windows, none ends the program

@@ -115,6 +115,22 @@ TEST_F(ComposizioneVista, TheKeyOfASecondCommaShowsNothing) {
     EXPECT_EQ(banco.oggetto<QLineEdit>("txtAutoarticolati").text(), QStringLiteral("1,25"));
 }
 
+TEST_F(ComposizioneVista, SharesThatNoSingleAddsUpAreShownAndMendedByTheKeyboard) {
+    composizione(1).Autoarticolati(3e38F);
+    composizione(1).Autotreni(3e38F);
+    apri(0);
+    EXPECT_TRUE(banco.oggetto<QLabel>("lblErroreTotale").isVisible());
+    for (const char* quota : {"4", "6"}) {
+        digita(quota);
+        tasto(Qt::Key_Tab);
+        smaltisci();
+    }
+    EXPECT_EQ(gesti::fuoco(), "txtPullman");
+    EXPECT_EQ(banco.oggetto<QLineEdit>("txtAutovetture").text(), QStringLiteral("90"));
+    EXPECT_FALSE(banco.oggetto<QLabel>("lblErroreTotale").isVisible());
+    EXPECT_TRUE(banco.messaggi.mostrati.empty()) << banco.ultimo();
+}
+
 TEST_F(ComposizioneVista, TheTableIsEnteredByTheKeyboardAlone) {
     apri(1);
     ASSERT_TRUE(attendi([] { return gesti::fuoco() == "ctlGrid"; })) << gesti::fuoco();

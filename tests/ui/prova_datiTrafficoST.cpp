@@ -148,6 +148,8 @@ TEST_F(DatiTrafficoSTVista, ATextThatIsNoNumberKeepsTheWindow) {
 TEST_F(DatiTrafficoSTVista, TheTabKeyLeavesTheTableAtItsEndAndTheBoxShowsTheFigures) {
     tasto(Qt::Key_End, Qt::ControlModifier);
     tasto(Qt::Key_Tab);
+    EXPECT_EQ(fuoco(), "cmdImportaCSV");
+    tasto(Qt::Key_Tab);
     EXPECT_EQ(fuoco(), "txtDescrizioneRamo");
     for (int i = 0; i < 8 && fuoco() != "Check1"; ++i) {
         tasto(Qt::Key_Tab);

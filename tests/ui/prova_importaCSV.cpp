@@ -1,3 +1,4 @@
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFileDialog>
@@ -162,6 +163,39 @@ TEST_F(ImportaCSV, TheChoiceOfColumnsIsRememberedInTheSettings) {
         EXPECT_EQ(scelta(dialogo, "txtColonna4").currentText(), QStringLiteral("Colonna 5: D"));
     });
 }
+
+/// A window that takes figures of a file, and what the project must be for it.
+struct FinestraCSV {
+    const char* chiave;
+    const char* nome;
+};
+class BottoneCSV : public testing::TestWithParam<FinestraCSV> {};
+
+TEST_P(BottoneCSV, StandsInTheWindowAndOpensTheDialogue) {
+    constexpr std::int16_t analisiTabella = 2;
+    Banco banco;
+    banco.mostra();
+    banco.nuovo(3);
+    banco.app.theRotonda().TipoAnalisi(analisiTabella);
+    banco.app.theRotonda().TipoFlusso(1);
+    banco.cornice.SetUpOpzioni();
+    banco.vai(GetParam().chiave);
+    ASSERT_EQ(banco.nomeCorrente(), GetParam().nome);
+    auto& bottone = banco.oggetto<QAbstractButton>("cmdImportaCSV");
+    EXPECT_EQ(bottone.text().remove(QLatin1Char('&')), QStringLiteral("Importa da CSV..."));
+    ASSERT_TRUE(bottone.isVisible());
+    ASSERT_TRUE(bottone.isEnabled());
+    gesti::AlModale dialogo("dialogoFile", [](QWidget& modale) { dynamic_cast<QFileDialog&>(modale).reject(); });
+    gesti::clic(bottone);
+    EXPECT_TRUE(dialogo.avvenuto());
+    EXPECT_FALSE(dialogo.rimasto());
+}
+
+INSTANTIATE_TEST_SUITE_P(Finestre, BottoneCSV,
+                         testing::Values(FinestraCSV{"keyMatriceSvolte", "frmMatriceSvolte"},
+                                         FinestraCSV{"keyDatiTraffico1", "frmDatiTrafficoST"},
+                                         FinestraCSV{"keyComposizioneTraffico1", "frmComposizioneTrafficoST"}),
+                         [](const auto& p) { return std::string{p.param.nome}; });
 
 }  // namespace
 }  // namespace kelvo::prove

@@ -100,12 +100,16 @@ TEST_F(ProveVistaGriglia, TheEditorTakesWhatTheColumnAllows) {
     EXPECT_EQ(fuoco(), "ctlGrid");
 }
 
-TEST_F(ProveVistaGriglia, APasteIntoTheEditorIsFilteredToo) {
+TEST_F(ProveVistaGriglia, APasteIntoTheEditorThatTheCellDoesNotTakeChangesNothing) {
     tasto(Qt::Key_F2);
+    const std::string stava = ui::s(editor().text());
     QGuiApplication::clipboard()->setText(QStringLiteral("a1b2"));
     tasto(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(ui::s(editor().text()), "12");
-    EXPECT_EQ(griglia.testoEditor(), "12");
+    EXPECT_EQ(ui::s(editor().text()), stava);
+    EXPECT_EQ(griglia.testoEditor(), stava);
+    QGuiApplication::clipboard()->setText(QStringLiteral("12"));
+    tasto(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(griglia.testoEditor(), "12");  // F2 selects the whole text
 }
 
 TEST_F(ProveVistaGriglia, AKeyThatIsNotAllowedMayEndTheEdit) {
@@ -203,6 +207,10 @@ TEST_F(ProveVistaGriglia, BlocksGoThroughTheClipboard) {
     EXPECT_EQ(griglia.testo(2, 2), "22");
     tasto(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(griglia.testo(2, 2), "10");
+    tasto(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(griglia.testo(2, 2), "22");
+    tasto(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(griglia.testo(2, 2), "10");
     tasto(Qt::Key_A, Qt::ControlModifier);
     tasto(Qt::Key_Delete);
     EXPECT_EQ(griglia.testo(3, 3), "");
@@ -239,6 +247,10 @@ TEST_F(ProveVistaGriglia, TheMenuComesUpAtTheKeyAndTheRightButton) {
     EXPECT_TRUE(chiede(QContextMenuEvent::Keyboard));
     QTest::mouseClick(vista->viewport(), Qt::RightButton, {}, posto(2, 1).center());
     EXPECT_EQ(destro, (Posto{2, 1}));
+    EXPECT_EQ(griglia.corrente(), (Posto{2, 1}));
+    griglia.alTastoDestro = nullptr;
+    QTest::mouseClick(vista->viewport(), Qt::RightButton, {}, posto(3, 2).center());
+    EXPECT_EQ(griglia.corrente(), (Posto{3, 2}));
 }
 
 TEST_F(ProveVistaGriglia, CellsArePaintedInTheColoursOfTheTable) {

@@ -1,4 +1,5 @@
 #include <QtWidgets/QFrame>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
@@ -230,6 +231,17 @@ TEST_F(ScenaLegami, AMenuComesUpAtAPointAndTellsItsEntryAfterIt) {
     QApplication::processEvents();
     EXPECT_EQ(premuta, "mnuXCopia");
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(ScenaLegami, ALabelShowsItsTextAsItIsWritten) {
+    Etichetta etichetta{"lblTesto"};
+    QLabel* label = ui::collega(etichetta, &finestra);
+    etichetta.testo("x");
+    const int stretta = label->sizeHint().width();
+    etichetta.testo("<b>x</b>");
+    EXPECT_EQ(label->text(), QStringLiteral("<b>x</b>"));
+    EXPECT_GT(label->sizeHint().width(), 3 * stretta) << "all eight characters are seen";
+    delete label;
 }
 
 }  // namespace

@@ -95,9 +95,12 @@ TEST_F(MenuDatiVero, TheMenuKeyOfATableSavesIt) {
     griglia->setFocus();
     QMenu* tendina = menu();
     ASSERT_NE(tendina, nullptr);
-    EXPECT_EQ(voci(*tendina), (std::vector<std::string>{"Copia", "Copia con intestazioni", "-", "Salva come CSV..."}));
+    EXPECT_EQ(voci(*tendina),
+              (std::vector<std::string>{"Copia", "Copia con intestazioni", "Incolla", "-", "Salva come CSV..."}));
     banco.dialogo.scelte = {banco.cartella.file("t.csv")};
-    scegli(3);
+    tasto(Qt::Key_Up);  // the last entry
+    tasto(Qt::Key_Return);
+    smaltisci();
     ASSERT_EQ(banco.dialogo.richieste.size(), 1U);
     EXPECT_EQ(banco.dialogo.richieste[0].nome, "Due.csv");
     EXPECT_EQ(contenuto(banco.cartella.file("t.csv")), "\xEF\xBB\xBF;Flusso\r\n08:00;12,5\r\n");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QEvent>
+#include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialogButtonBox>
@@ -10,6 +11,7 @@
 #include <QtWidgets/QListView>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
 #include <algorithm>
 #include <filesystem>
 #include <map>
@@ -105,6 +107,26 @@ TEST(BoxSopra, StandsOverAllWindowsAndAnswersAsTheOthersDo) {
         EXPECT_EQ(testo, QStringLiteral("Uno\ndue"));
         EXPECT_TRUE(risponde.avvenuto());
     }
+}
+
+TEST(BoxLungo, AVeryLongTextIsScrolledAndTheAnswersStayOnTheScreen) {
+    std::string lungo;
+    for (int i = 0; i < 500; ++i) {
+        lungo += "Riga " + std::to_string(i) + "\n";
+    }
+    const ui::DialogoMessaggio breve("Due parole", "KELVO 2014", Icona::esclamazione, Pulsanti::ok, nullptr);
+    EXPECT_EQ(breve.findChild<QScrollArea*>(), nullptr);
+    ui::DialogoMessaggio box(lungo, std::string(2000, 'T'), Icona::esclamazione, Pulsanti::okAnnulla, nullptr);
+    box.show();
+    const QSize schermo = box.screen()->availableSize();
+    EXPECT_LT(box.height(), schermo.height());
+    EXPECT_LE(box.width(), schermo.width());
+    const auto* bottone = box.findChild<QPushButton*>(QStringLiteral("cmdOk"));
+    ASSERT_NE(bottone, nullptr);
+    EXPECT_TRUE(box.rect().contains(QRect(bottone->mapTo(&box, QPoint(0, 0)), bottone->size())));
+    const auto* parole = box.findChild<QLabel*>(QStringLiteral("testoMessaggio"));
+    EXPECT_EQ(parole->text(), QString::fromStdString(lungo));
+    EXPECT_GT(parole->height(), box.height()) << "all of it is there to be scrolled to";
 }
 
 TEST_P(Box, EachButtonAnswersForItself) {

@@ -27,6 +27,7 @@ struct Barre {
     std::vector<std::string> etichette;
     std::vector<float> valori;
     const char* unita = "";
+    bool conteggi = false;  ///< counts, whose figures stand as they are
 };
 
 /// The bars of the curve of a leg; nothing where it cannot be built.
@@ -35,7 +36,7 @@ std::optional<Barre> barreCurva(const Rotonda& rotonda, const Ramo& ramo) {
     if (!CostruisciCurva(datiCurvaDi(rotonda, ramo), curva)) {
         return std::nullopt;
     }
-    return Barre{.etichette = curva.EtichetteSegmento, .valori = curva.FlussiSegmento, .unita = "[veic/min]"};
+    return Barre{.etichette = curva.EtichetteSegmento, .valori = curva.FlussiSegmento, .unita = "[veicoli]/[min]"};
 }
 
 /// The counts of a leg; nothing where the time of modelling has no segment.
@@ -46,7 +47,7 @@ std::optional<Barre> barreTabella(const Rotonda& rotonda, const Ramo& ramo) {
     if (segmenti <= 0) {
         return std::nullopt;
     }
-    Barre barre{.etichette = {}, .valori = {}, .unita = "[veicoli]"};
+    Barre barre{.etichette = {}, .valori = {}, .unita = "[veicoli]", .conteggi = true};
     for (std::int16_t i = 0; i < segmenti; ++i) {
         barre.etichette.push_back(testoHHNN(inizio + i * minuti / minutiGiorno) + "-" +
                                   testoHHNN(inizio + (i + 1) * minuti / minutiGiorno));
@@ -135,6 +136,9 @@ private:
                                                            .unita = barre.unita,
                                                            .colore = tinta::principale,
                                                            .mostraValori = valori_});
+        if (barre.conteggi) {
+            contenuto.serie.at(0).testi = valori;
+        }
         contenuto.titolo = titolo;
         return contenuto;
     }

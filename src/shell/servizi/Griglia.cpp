@@ -270,10 +270,17 @@ void Griglia::doppioClic(int riga, int colonna) {
 }
 
 bool Griglia::tastoDestro(int riga, int colonna) {
-    if (!raggiungibile() || !alTastoDestro || !dentro({riga, colonna}) || !conferma()) {
+    const Posto posto{riga, colonna};
+    if (!raggiungibile() || !dentro(posto) || (editor_ && posto == corrente_ && !alTastoDestro) || !conferma()) {
         return false;
     }
-    alTastoDestro({riga, colonna});
+    if (!selezione().contiene(posto) && fermata(posto)) {
+        vai(posto);
+    }
+    if (!alTastoDestro) {
+        return false;
+    }
+    alTastoDestro(posto);
     return true;
 }
 

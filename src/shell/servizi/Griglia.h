@@ -151,14 +151,16 @@ public:
     bool premiTasto(Tasto tasto, bool estendi = false);
     /// Types characters one after the other; the first opens the editor, in place of what stands in the cell.
     void scrivi(std::string_view testo);
-    /// The text in the open editor is another one; what the column does not take falls out, unless it already stood in
-    /// the cell.
+    /// The text in the open editor is another one. What its column does not take, and did not stand in the cell, is
+    /// judged as a block that is pasted if it takes the place of the whole text; else, and where that is refused, the
+    /// text stays as it was.
     void correggi(std::string_view testo);
     /// A click on a cell; with the shift key the selection reaches as far as it. False if the cursor could not leave
     /// its cell or there is no such cell.
     bool clic(int riga, int colonna, bool estendi = false);
     void doppioClic(int riga, int colonna);
-    /// True if the right button was taken; else the context menu is its business.
+    /// The right button: the cursor goes to a cell outside the selection, which stays where the cell lies in it. True
+    /// if the button was taken; else the context menu is its business.
     bool tastoDestro(int riga, int colonna);
     void scorri(int riga);
     /// Puts a block there, from the top left cell of the selection on; what reaches beyond the table falls away. A
@@ -209,6 +211,7 @@ private:
     void chiudi();
     bool conferma();
     void batti(const std::string& carattere);
+    bool traduci(std::string& testo);
     void giudica(const EsitoUscita& esito);
     void rimetti(const EsitoUscita& esito);
 

@@ -6,6 +6,12 @@
 
 namespace kelvo {
 
+namespace {
+
+constexpr const char* nonAmmesso = "Il testo incollato ha caratteri che la cella non ammette.";
+
+}  // namespace
+
 void Griglia::apri(Editor editor) {
     editor_ = std::move(editor);
     ancora_ = corrente_;
@@ -154,18 +160,32 @@ void Griglia::correggi(std::string_view testo) {
         stavano.erase(posto);
         return true;
     };
-    std::string nuovo;
-    std::size_t presi = 0;
-    for (const std::string& carattere : caratteri(testo)) {
-        if ((massima == 0 || presi < massima) && (ammette(carattere) || resta(carattere))) {
-            nuovo += carattere;
-            ++presi;
-        }
+    const std::vector<std::string> nuovi = caratteri(testo);
+    const bool ammesso = (massima == 0 || nuovi.size() <= massima) &&
+                         std::all_of(nuovi.begin(), nuovi.end(), [&](const std::string& carattere) {
+                             return ammette(carattere) || resta(carattere);
+                         });
+    std::string nuovo{testo};
+    // Keys are looked at one by one: more than that was pasted, and a number without its sign is another number.
+    if (!ammesso && !traduci(nuovo)) {
+        cambiato().emit();
+        return;
     }
     fallita_ = false;
     editor_->testo = nuovo;
     editor_->tutto = false;
     cambiato().emit();
+}
+
+bool Griglia::traduci(std::string& testo) {
+    std::vector<TestoCella> celle{{corrente_, testo}};
+    const bool intero = editor_->tutto || editor_->testo.empty();
+    const EsitoUscita esito = intero && allIncolla ? allIncolla(celle) : EsitoUscita::rifiuto(std::string{nonAmmesso});
+    giudica(esito);
+    if (esito.accettato) {
+        testo = celle.front().testo;
+    }
+    return esito.accettato;
 }
 
 bool Griglia::premiConEditor(Tasto tasto, bool estendi) {

@@ -70,6 +70,12 @@ std::optional<double> numeroIncollato(std::string_view testo) {
     return pulito && !pulito->empty() ? leggiNumero(segno + *pulito) : std::nullopt;
 }
 
+std::string_view motivoNonNumero(std::string_view testo) {
+    return leggiNumero(rifila(testo), Separatore::virgolaOPunto)
+               ? "si può leggere in due modi, con i decimali o con le migliaia"
+               : "non è un numero";
+}
+
 EsitoUscita rifiutoBlocco(const Griglia& griglia, const TestoCella& cella, std::string_view motivo) {
     const std::string testo = "Il testo '" + cella.testo + "' (riga '" + griglia.testo(cella.posto.riga, 0) +
                               "', colonna '" + griglia.testo(0, cella.posto.colonna) + "') " + std::string{motivo} +

@@ -13,6 +13,9 @@ namespace kelvo {
 /// no number or could be read in two ways, as "1.234".
 std::optional<double> numeroIncollato(std::string_view testo);
 
+/// Why such a text is no number, in the words of a refusal: none at all, or one that could be read in two ways.
+std::string_view motivoNonNumero(std::string_view testo);
+
 /// Refuses a pasted block for one of its cells, which the message names by the headings of its row and column.
 EsitoUscita rifiutoBlocco(const Griglia& griglia, const TestoCella& cella, std::string_view motivo);
 

@@ -14,6 +14,7 @@ namespace chiave {
 constexpr const char* radice = "mnuXDati";
 constexpr const char* copia = "mnuXDatiCopia";
 constexpr const char* copiaIntestazioni = "mnuXDatiCopiaIntestazioni";
+constexpr const char* incolla = "mnuXDatiIncolla";
 constexpr const char* csv = "mnuXDatiCSV";
 constexpr const char* copiaImmagine = "mnuXDatiCopiaImmagine";
 constexpr const char* png = "mnuXDatiPNG";
@@ -26,6 +27,7 @@ constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* tabellaVuota = "La tabella è vuota";
 constexpr const char* graficoVuoto = "Il grafico non ha dati";
 constexpr const char* nonDisponibile = "Non disponibile";
+constexpr const char* cellaChiusa = "La cella non si può modificare";
 constexpr const char* nonCopiata = "Impossibile copiare l'immagine: ";
 constexpr const char* appuntiChiusi = "gli appunti non la accettano";
 }  // namespace testi
@@ -142,6 +144,7 @@ MenuTabella::MenuTabella(Finestra& finestra, const Contorno& contorno, Griglia& 
 std::vector<MenuDati::Voce> MenuTabella::voci() const {
     return {{chiave::copia, "Copia", "Ctrl+C"},
             {chiave::copiaIntestazioni, "Copia con intestazioni", "Ctrl+Shift+C"},
+            {chiave::incolla, "Incolla", "Ctrl+V"},
             {"mnuXDatiLinea", "-", ""},
             {chiave::csv, "Salva come CSV...", ""}};
 }
@@ -151,11 +154,28 @@ std::string MenuTabella::chiusa(std::string_view chiave) const {
         return testi::tabellaVuota;
     }
     const bool puo = chiave == chiave::csv ? contorno().servizi.dialogo != nullptr : contorno().app.appunti != nullptr;
+    if (puo && chiave == chiave::incolla && !siIncolla()) {
+        return testi::cellaChiusa;
+    }
     return puo ? std::string{} : testi::nonDisponibile;
 }
 
+bool MenuTabella::siIncolla() const {
+    const AreaCelle area = griglia_.selezione();
+    for (int r = area.da.riga; r <= area.a.riga; ++r) {
+        for (int c = area.da.colonna; c <= area.a.colonna; ++c) {
+            if (griglia_.puoModificare({r, c})) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 void MenuTabella::esegui(std::string_view chiave) {
-    if (chiave == chiave::csv) {
+    if (chiave == chiave::incolla) {
+        griglia_.incolla(contorno().app.appunti->leggi());
+    } else if (chiave == chiave::csv) {
         salva("csv", [this] { return EsitoDisegno{.dati = csvDiTabella(griglia_), .errore = {}}; });
     } else {
         copia(chiave == chiave::copiaIntestazioni);

@@ -51,7 +51,8 @@ private:
     MenuChiavi menu_;
 };
 
-/// "Copia", "Copia con intestazioni", "Salva come CSV...". Where no cell is selected all of them are copied.
+/// "Copia", "Copia con intestazioni", "Incolla", "Salva come CSV...". Where no cell is selected all of them are copied;
+/// nothing is pasted where none of the selected cells may be typed into.
 class MenuTabella final : public MenuDati {
 public:
     MenuTabella(Finestra& finestra, const Contorno& contorno, Griglia& griglia);
@@ -62,6 +63,7 @@ private:
     std::string chiusa(std::string_view chiave) const override;
     void esegui(std::string_view chiave) override;
     void copia(bool conIntestazioni);
+    bool siIncolla() const;
 
     Griglia& griglia_;
 };
