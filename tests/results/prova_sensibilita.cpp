@@ -398,7 +398,7 @@ TEST_F(AnalisiSensibilita, TheProjectIsNeverAlteredAndItsRecordsAreStampedWhatIf
         EXPECT_EQ(rotonda().TestoFile(), prima);
         EXPECT_EQ(rotonda().revisione().tutto, revisione);
         EXPECT_EQ(rotonda().timbro().forma, FormaCalcolo::ipotesi) << tipo;
-        EXPECT_FALSE(rotonda().risultatiAttuali());
+        EXPECT_FALSE(finta.app.risultatiAttuali());
     }
 }
 
