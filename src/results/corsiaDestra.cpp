@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/guasto.h"
 #include "base/numeri.h"
@@ -95,8 +96,12 @@ std::string flussoSvolta(const Rotonda& rotonda, std::size_t posizione) {
     }
     const float valore =
         matrice[static_cast<std::size_t>(svolta.origine - 1)][static_cast<std::size_t>(svolta.destinazione - 1)];
-    return percento ? testoNumero(aSingolo(static_cast<double>(valore) * 100.0)) + " [%]"
-                    : testoNumero(valore) + " [veic.]";
+    if (!percento) {
+        return testoNumero(valore) + " [veic.]";
+    }
+    // The share was rounded to a single when it was divided: beyond the fourth decimal of its hundredfold is noise.
+    const double cento = std::round(static_cast<double>(valore) * 1e6) / 1e4;
+    return testoNumero(aSingolo(cento)) + " [%]";
 }
 
 TotaliDX totaliDX(const Rotonda& rotonda) {

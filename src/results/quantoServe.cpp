@@ -66,6 +66,7 @@ StatoIngresso statoDi(const DatiTraffico& traffico) {
         const Iterazione r = traffico.GetIterazione(k);
         stato.saturazione = std::max(stato.saturazione, static_cast<double>(r.Coeff_Sat));
         stato.ritardo = std::max(stato.ritardo, static_cast<double>(r.Ritardo));
+        stato.conFlusso = stato.conFlusso || r.Flusso > 0.0F;
         stato.regolare = stato.regolare && (!(r.Flusso > 0.0F) || r.Capacita > 0.0F);
     }
     return stato;
@@ -142,6 +143,9 @@ private:
         ++prove_;
         r.prima = statoDi(ramo_.theDatiTraffico());
         r.dopo = r.prima;
+        if (!r.prima.conFlusso) {
+            return EsitoQuantoServe::senzaFlusso;
+        }
         if (raggiunto(r.prima, obiettivo_)) {
             return EsitoQuantoServe::giaRaggiunto;
         }
@@ -212,10 +216,15 @@ std::string paroleQuantoServe(const QuantoServe& risposta, std::size_t parametro
                                formatta(risposta.misura, "#0.00"), unita, formatta(risposta.variazione(), "#+0.00"),
                                unita, meta);
         case EsitoQuantoServe::nessuno:
-            return fmt::format("{}: nessun valore {} porta l'ingresso a {}", p.nome, testoLimiti(risposta, unita),
-                               meta);
+            if (risposta.minimo > risposta.massimo) {
+                return fmt::format("{}: con le altre misure dell'ingresso nessun valore è ammesso", p.nome);
+            }
+            return fmt::format("{}: nessun valore {} porta l'ingresso {}", p.nome, testoLimiti(risposta, unita),
+                               obiettivo.livello.empty() ? "a " + meta : "al" + meta.substr(2));  // "il livello ..."
         case EsitoQuantoServe::senzaDomanda:
             return "L'analisi della sola saturazione non ha una domanda nel tempo: non c'è un obiettivo da raggiungere";
+        case EsitoQuantoServe::senzaFlusso:
+            return "L'ingresso non ha flussi nel tempo: non c'è un obiettivo da raggiungere";
         case EsitoQuantoServe::interrotto:
             return "Il calcolo del progetto così com'è non riesce";
     }

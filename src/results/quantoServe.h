@@ -25,6 +25,7 @@ struct Obiettivo {
 struct StatoIngresso {
     double saturazione = 0.0;  ///< the largest of the segments
     double ritardo = 0.0;      ///< the largest of the segments, s/veic
+    bool conFlusso = false;    ///< there is a segment with demand
     bool regolare = true;      ///< no segment has demand without capacity (0 or below)
 };
 StatoIngresso statoDi(const DatiTraffico& traffico);
@@ -36,6 +37,7 @@ enum class EsitoQuantoServe {
     trovato,       ///< a change of the measure reaches it
     nessuno,       ///< none within the limits does
     senzaDomanda,  ///< the project has no demand over time: there is nothing to be reached
+    senzaFlusso,   ///< no vehicle enters there: there is nothing to be reached
     interrotto,    ///< a fault ended the calculation of the project as it stands; the engine has reported it
 };
 

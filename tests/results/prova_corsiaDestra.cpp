@@ -65,6 +65,11 @@ TEST_F(CorsiaDestra, TheFlowOfATurnIsShownAsItWasEntered) {
     rotonda().TipoMatriceSvolte(1);
     EXPECT_EQ(flussoSvolta(rotonda(), 0), "12,5 [%]");
     EXPECT_EQ(flussoSvolta(rotonda(), 3), "33,33 [%]");
+    for (int decimi = 1; decimi <= 1000; ++decimi) {
+        const float scritto = static_cast<float>(decimi) / 10.0F;
+        rotonda().MatriceSvolte(scritto, 1, 2);
+        EXPECT_EQ(flussoSvolta(rotonda(), 0), testoNumero(scritto) + " [%]");
+    }
     prove::creaStudio(finta, 3, 1);
     EXPECT_EQ(prove::numeroGuasto([&] { flussoSvolta(rotonda(), 2); }), 9);
     EXPECT_EQ(prove::numeroGuasto([&] { flussoSvolta(rotonda(), 1); }), 0);

@@ -122,6 +122,15 @@ TEST_F(RicercaQuantoServe, FindsWhatAScanOfEveryHundredthFinds) {
     EXPECT_GT(nessuno, 15);
 }
 
+TEST_F(RicercaQuantoServe, AnEntryWithoutFlowHasNothingToReach) {
+    for (const auto tipo : std::initializer_list<std::int16_t>{1, 2}) {
+        studio(tipo, 0.0F);
+        const QuantoServe r = cerca(larghezza, {});
+        EXPECT_EQ(r.esito, EsitoQuantoServe::senzaFlusso) << tipo;
+        EXPECT_EQ(r.misura, r.attuale);
+    }
+}
+
 TEST_F(RicercaQuantoServe, TheHundredthBeforeDoesNotReachTheGoal) {
     studio(1, 1.5F);
     const Obiettivo obiettivo;
@@ -289,6 +298,10 @@ TEST(ParoleQuantoServe, SayWhatIsNeeded) {
     EXPECT_EQ(paroleQuantoServe(r, 0, {}),
               "Larghezza ingresso: nessun valore tra 3,10 m e 16,20 m porta l'ingresso a un coefficiente di "
               "saturazione di 0,85");
+    EXPECT_EQ(paroleQuantoServe(r, 0, {.livello = "C"}),
+              "Larghezza ingresso: nessun valore tra 3,10 m e 16,20 m porta l'ingresso al livello di servizio C");
+    EXPECT_EQ(paroleQuantoServe({.esito = EsitoQuantoServe::nessuno, .minimo = 20.01, .massimo = 16.2}, 0, {}),
+              "Larghezza ingresso: con le altre misure dell'ingresso nessun valore è ammesso");
     EXPECT_EQ(paroleQuantoServe({.esito = EsitoQuantoServe::nessuno, .minimo = 1.0, .massimo = 1e8}, 2, {}),
               "Lunghezza svasatura: nessun valore da 1,00 m in su porta l'ingresso a un coefficiente di saturazione di "
               "0,85");
@@ -297,6 +310,8 @@ TEST(ParoleQuantoServe, SayWhatIsNeeded) {
     r.esito = EsitoQuantoServe::senzaDomanda;
     EXPECT_EQ(paroleQuantoServe(r, 0, {}),
               "L'analisi della sola saturazione non ha una domanda nel tempo: non c'è un obiettivo da raggiungere");
+    r.esito = EsitoQuantoServe::senzaFlusso;
+    EXPECT_EQ(paroleQuantoServe(r, 0, {}), "L'ingresso non ha flussi nel tempo: non c'è un obiettivo da raggiungere");
     r.esito = EsitoQuantoServe::interrotto;
     EXPECT_EQ(paroleQuantoServe(r, 0, {}), "Il calcolo del progetto così com'è non riesce");
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 #include "comune/guasti.h"
 #include "progettoAnalisi.h"
@@ -83,7 +84,9 @@ TEST_F(AnalisiSensibilita, MessagesAndOptionsAreWorded) {
     EXPECT_EQ(voce(Prestazione::capacita).opzione, "CAPACITA'");
     EXPECT_EQ(voce(Prestazione::coda).opzione, "LUNGHEZZA CODA ");
     EXPECT_EQ(voce(Prestazione::ritardo).opzione, "RITARDO");
+    EXPECT_EQ(voce(Prestazione::capacita).nomeRelazione, "Capacità");
     EXPECT_EQ(voce(Prestazione::coda).nomeRelazione, "Lunghezza coda");
+    EXPECT_EQ(voce(Prestazione::ritardo).nomeRelazione, "Ritardo");
 }
 
 TEST_F(AnalisiSensibilita, OpeningShowsStepsAndMeasuresWithoutResults) {
@@ -374,6 +377,23 @@ TEST_F(AnalisiSensibilita, EachFlagAndStepBelongsToItsMeasure) {
         EXPECT_EQ(tabella(i).testo(0, 5), passi[i]);
         EXPECT_EQ(tabella(i).testo(1, riferimento), misure[i]);
         EXPECT_EQ(analisi.attivo(i), i == 0);
+    }
+}
+
+TEST_F(AnalisiSensibilita, EachFlagSwitchesItsOwnMeasureOn) {
+    using Scrittura = void (AnalisiMarginale::*)(bool);
+    const std::array<Scrittura, 6> flag{
+        &AnalisiMarginale::UsaLarghezzaIngresso,  &AnalisiMarginale::UsaSemiLarghezza,
+        &AnalisiMarginale::UsaLunghezzaSvasatura, &AnalisiMarginale::UsaAngoloConflitto,
+        &AnalisiMarginale::UsaRaggioCurvatura,    &AnalisiMarginale::UsaDiametroInscritto};
+    for (std::size_t acceso = 0; acceso < flag.size(); ++acceso) {
+        for (std::size_t i = 0; i < flag.size(); ++i) {
+            (marginale().*flag.at(i))(i == acceso);
+        }
+        analisi.imposta(rotonda(), 2);
+        for (std::size_t i = 0; i < flag.size(); ++i) {
+            EXPECT_EQ(analisi.attivo(i), i == acceso) << acceso << " " << i;
+        }
     }
 }
 
