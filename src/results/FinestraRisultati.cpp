@@ -78,6 +78,7 @@ FinestraRisultati::FinestraRisultati(const Contorno& contorno, const ServiziRisu
     cmdCalcola.allaPressione = [this] { ctlToolbar.premi("keyCalcola"); };
     ctlInVigore.visibile(false);
     cmdInVigore.alClic = [this] { ctlInVigore.visibile(cmdInVigore.spuntata()); };
+    ctlInVigore.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlInVigore.colonna(1, {.allineamento = AllineamentoCella::sinistra, .aCapo = true});
     if (!servizi_.relazione) {
         ctlToolbar.abilita("keyRelazione", false);
