@@ -155,6 +155,7 @@ void FinestraRisultati::simula() {
     } else if (tipo == "2") {
         motore_.Calcola_Tempo_Flusso_ST(flusso);
     }
+    fallita_ = !motore_.riuscita();
 }
 
 std::string FinestraRisultati::motivoVecchi() const {
@@ -176,7 +177,7 @@ std::string FinestraRisultati::motivoVecchi() const {
         case FormaCalcolo::corsiaDestra:
             return testi::ipotesi;
         case FormaCalcolo::piana:
-            return testi::datiCambiati;
+            return fallita_ ? testi::nonRiuscito : testi::datiCambiati;
         case FormaCalcolo::nessuna:
         case FormaCalcolo::bilanciamento:
             break;

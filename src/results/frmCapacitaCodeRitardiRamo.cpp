@@ -262,7 +262,7 @@ std::string frmCapacitaCodeRitardiRamo::testoAnteprima() {
 }
 
 std::string frmCapacitaCodeRitardiRamo::motivoFlussi() const {
-    return notaFlussi(app(), indice_);
+    return figureDelProgetto() ? notaFlussi(app(), indice_) : std::string{};
 }
 
 void frmCapacitaCodeRitardiRamo::premuto2(const std::string& chiave) {
@@ -289,9 +289,10 @@ void frmCapacitaCodeRitardiRamo::Aggiuntivi() {
 }
 
 void frmCapacitaCodeRitardiRamo::tornato(bool visualizza) {
-    ctlToolbar2.abilita(chiaveVisualizza, visualizza);
     ritorno_ = true;
-    servizi().finestre.mostra(*this);
+    if (servizi().finestre.mostra(*this)) {
+        ctlToolbar2.abilita(chiaveVisualizza, visualizza);
+    }
     ritorno_ = false;
 }
 

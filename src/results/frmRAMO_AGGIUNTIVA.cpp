@@ -27,7 +27,7 @@ constexpr const char* livelloMancante = "Attenzione! Selezionare un valore corre
 constexpr const char* azzera = "Azzera soglie";
 constexpr const char* inferiore = "Valore INFERIORE";
 constexpr const char* superiore = "Valore SUPERIORE";
-constexpr const char* senzaNome = "un progetto senza nome";
+constexpr const char* senzaSoglie = "Questo ingresso non può avere soglie: sono previste per gli ingressi da 1 a {}.";
 }  // namespace testi
 
 constexpr std::size_t postoLivello = 5;
@@ -48,8 +48,12 @@ std::string testoLimiti(double minimo, double massimo) {
     return ": MINIMO = " + testoNumero(minimo) + "; MASSIMO = " + testoNumero(massimo);
 }
 
-std::string nomeProgetto(const std::string& nome) {
-    return nome.empty() ? testi::senzaNome : "\"" + nome + "\"";
+/// Tells in which project thresholds were set: the one at hand or another one.
+std::string testoProgetto(const std::string& nome, bool altro) {
+    if (nome.empty()) {
+        return altro ? "Soglie impostate in un altro progetto, senza nome." : "Soglie impostate in questo progetto.";
+    }
+    return fmt::format("Soglie impostate in {}\"{}\".", altro ? "un altro progetto: " : "", nome);
 }
 
 }  // namespace
@@ -148,6 +152,7 @@ void frmRAMO_AGGIUNTIVA::collega(std::size_t posto) {
     }
     for (tBox* campo : {&soglia.minimo, &soglia.massimo}) {
         campo->caratteriAmmessi = cifre;
+        campo->tuttoONiente = true;
         campo->nomeCampo = vociSoglia[posto].etichetta;
         campo->controllo = [campo] {
             return leggiNumero(campo->testo())
@@ -166,7 +171,7 @@ void frmRAMO_AGGIUNTIVA::attivata() {
     try {
         leggiSoglie();
     } catch (const Guasto& guasto) {
-        chiudiSoglie(guasto.descrizione());
+        chiudiSoglie();
         // Whoever did not ask for thresholds is not stopped by a box.
         app().comune.erroreLog(guasto.codice(), metodoApertura, guasto.descrizione(), apertura_.marker);
     }
@@ -202,7 +207,8 @@ void frmRAMO_AGGIUNTIVA::leggiSoglie() {
     mostraProgetto();
 }
 
-void frmRAMO_AGGIUNTIVA::chiudiSoglie(const std::string& motivo) {
+void frmRAMO_AGGIUNTIVA::chiudiSoglie() {
+    frRIASSUNTO.mostraContenuto(true);
     for (Soglia& soglia : soglie) {
         soglia.spunta.spuntata(false);
         soglia.spunta.abilitato(false);
@@ -212,7 +218,7 @@ void frmRAMO_AGGIUNTIVA::chiudiSoglie(const std::string& motivo) {
     abilita();
     lblProgetto.visibile(false);
     cmdAzzera.visibile(false);
-    lblSenzaSoglie.testo("Questo ingresso non può avere soglie: " + motivo + ".");
+    lblSenzaSoglie.testo(fmt::format(testi::senzaSoglie, TabellaMarker::ingressi));
     lblSenzaSoglie.visibile(apertura_.marker);
 }
 
@@ -236,11 +242,11 @@ void frmRAMO_AGGIUNTIVA::abilita() {
 void frmRAMO_AGGIUNTIVA::mostraProgetto() {
     const Marker& m = app().risultati.marker;
     const bool attivi = m.attivi(apertura_.ramo);
-    const std::string& nome = m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1];
-    const bool altro = nome != app().theRotonda().NomeFile();
-    lblProgetto.testo(
-        !attivi ? std::string{}
-                : fmt::format("Soglie impostate in {}{}.", altro ? "un altro progetto: " : "", nomeProgetto(nome)));
+    const Marker::Progetto& progetto = m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1];
+    const bool altro = progetto.numero != app().numeroProgetto();
+    // A project that was given another name since is still the same one.
+    lblProgetto.testo(attivi ? testoProgetto(altro ? progetto.nome : app().theRotonda().NomeFile(), altro)
+                             : std::string{});
     lblProgetto.visibile(attivi && apertura_.marker);
     cmdAzzera.visibile(apertura_.marker);
     cmdAzzera.abilitato(attivi);
@@ -352,7 +358,7 @@ void frmRAMO_AGGIUNTIVA::registra() {
         m.MarkerMassimo(apertura_.ramo, q) = sopra;
         m.MarkerMinimo(apertura_.ramo, q) = sotto;
     }
-    m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1] = rotonda().NomeFile();
+    m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1] = {app().numeroProgetto(), rotonda().NomeFile()};
 }
 
 void frmRAMO_AGGIUNTIVA::torna(bool visualizza) {
@@ -376,6 +382,7 @@ void frmRAMO_AGGIUNTIVA::premuto(const std::string& chiave) {
     if (!lasciaFuoco()) {
         return;
     }
+    cornice().avviso({});
     if (chiave == "Anteprima") {
         anteprima();
         return;

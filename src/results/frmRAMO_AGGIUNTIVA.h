@@ -73,7 +73,7 @@ private:
     const Ramo& ramo() const { return app().theRotonda().Ramo(apertura_.ramo); }
     void riempiRiassunto();
     void leggiSoglie();
-    void chiudiSoglie(const std::string& motivo);
+    void chiudiSoglie();
     void abilita();
     void mostraProgetto();
     void collega(std::size_t posto);
