@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/Tabella.h"
+#include "model/Rotonda.h"
+#include "shell/servizi/CellaGriglia.h"
+
+namespace kelvo {
+
+/// The empty map of the levels of service: a row for each entry, a column for each interval of the modelling window,
+/// names and intervals as headings; the names alone for a window without intervals or with segments of 0 minutes.
+Tabella mappaLivelliVuota(const Rotonda& rotonda);
+
+/// The map with the level of every record, on the ground that its badge has. Fault 9 if an entry has more segments than
+/// the window has intervals.
+Tabella mappaLivelli(const Rotonda& rotonda);
+
+/// A moment on the time axis of the map.
+struct OraMappa {
+    double posto = 0.0;  ///< from the left edge of the first segment, in segments
+    std::string testo;   ///< "HH:NN"
+    friend bool operator==(const OraMappa&, const OraMappa&) = default;
+};
+
+/// Start of the window and every whole hour in it, its end included; none for a window without intervals.
+std::vector<OraMappa> oreMappa(const Rotonda& rotonda);
+
+/// A filled cell of the map in words: entry, interval, level.
+std::string parolaMappa(const Tabella& mappa, Posto posto);
+
+}  // namespace kelvo
