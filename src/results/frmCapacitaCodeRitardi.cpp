@@ -1,5 +1,6 @@
 #include "results/frmCapacitaCodeRitardi.h"
 
+#include <array>
 #include <filesystem>
 #include <initializer_list>
 #include <utility>
@@ -24,6 +25,7 @@ constexpr const char* fileSintesi = "Sintesi.txt";
 constexpr const char* scegliCella = "Il livello di servizio di ogni ingresso, segmento per segmento.";
 }  // namespace testi
 
+constexpr std::array pagineAiuto{"SintesiNodo.htm", "MappaLivelli.htm"};
 constexpr const char* chiaveFoglio = "keyExcel";
 constexpr const char* metodoFoglio = "Esporta dati XLS:";
 constexpr const char* fileFoglio = "xls\\Risultati.txt";
@@ -96,6 +98,8 @@ void frmCapacitaCodeRitardi::mostraScheda() {
     mostra(scheda == 1, {&ctlSintesi, &lblPeggiore, &lblOra, &lblFigure, &cmdAnteprimaSintesi});
     lblSaturazione.visibile(scheda == 1 && !lblSaturazione.testo().empty());
     mostra(scheda == 2, {&ctlMappa, &lblCella});
+    ctlHelp.visibile(scheda != 0);
+    ctlHelp.pagina(scheda == 2 ? pagineAiuto[1] : pagineAiuto[0]);
 }
 
 void frmCapacitaCodeRitardi::attivata() {
@@ -116,6 +120,7 @@ void frmCapacitaCodeRitardi::svuotaSchede() {
         parola->testo({});
     }
     mostraCella();
+    mostraScheda();
 }
 
 void frmCapacitaCodeRitardi::riempiSchede() {
@@ -133,17 +138,20 @@ void frmCapacitaCodeRitardi::riempiSchede() {
     mostraScheda();
 }
 
-void frmCapacitaCodeRitardi::mostraCella() {
-    const std::string parola = parolaMappa(ctlMappa.tabella(), ctlMappa.corrente());
+std::string frmCapacitaCodeRitardi::parolaCella(Posto cella) const {
+    const std::string parola = parolaMappa(ctlMappa.tabella(), cella);
     if (parola.empty()) {
-        lblCella.testo(testi::scegliCella);
-        return;
+        return parola;
     }
     // The table holds the delay that the level was read from: an interval is a band row and a row for each entry.
-    const auto [ingresso, segmento] = ctlMappa.corrente();
-    const int riga = (segmento - 1) * ctlMappa.tabella().righe() + ingresso + 1;
-    lblCella.testo(parola + ", ritardo " + ctlGrid.testo(riga, colonnaRitardo) + " s/veic, saturazione " +
-                   ctlGrid.testo(riga, colonnaSaturazione));
+    const int riga = (cella.colonna - 1) * ctlMappa.tabella().righe() + cella.riga + 1;
+    return parola + ", ritardo " + ctlGrid.testo(riga, colonnaRitardo) + " s/veic, saturazione " +
+           ctlGrid.testo(riga, colonnaSaturazione);
+}
+
+void frmCapacitaCodeRitardi::mostraCella() {
+    const std::string parola = parolaCella(ctlMappa.corrente());
+    lblCella.testo(parola.empty() ? testi::scegliCella : parola);
 }
 
 void frmCapacitaCodeRitardi::calcola() {

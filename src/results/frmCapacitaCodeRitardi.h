@@ -31,10 +31,15 @@ public:
     Griglia ctlMappa{"ctlMappa"};  ///< an entry a row, a segment a column
     Etichetta lblCella;            ///< the cell of the map's cursor in words
 
+    PannelloAiuto ctlHelp{"ctlHelp"};  ///< how to read the tab in view; the table has none
+    PannelloAiuto* aiuto() override { return &ctlHelp; }
+
     /// Shows the empty tables at the first time; those that are filled stay as they are.
     void attivata() override;
     /// Marks of the time axis of the map, as the window shows it.
     const std::vector<OraMappa>& ore() const { return ore_; }
+    /// A cell of the map in words, with delay and saturation; empty where it has no level.
+    std::string parolaCella(Posto cella) const;
 
 protected:
     void calcola() override;

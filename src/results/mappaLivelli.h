@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Tabella.h"
@@ -16,6 +18,20 @@ Tabella mappaLivelliVuota(const Rotonda& rotonda);
 /// The map with the level of every record, on the ground that its badge has. Fault 9 if an entry has more segments than
 /// the window has intervals.
 Tabella mappaLivelli(const Rotonda& rotonda);
+
+/// A level of the map and the delays that it stands for, s/veic.
+struct FasciaLivello {
+    std::string_view livello;
+    std::string_view ritardo;
+};
+inline constexpr std::string_view titoloFasce = "Ritardo [s/veic]";
+inline constexpr std::array<FasciaLivello, 7> fasceLivelli{{{"A", "fino a 10"},
+                                                            {"B", "fino a 15"},
+                                                            {"C", "fino a 25"},
+                                                            {"D", "fino a 35"},
+                                                            {"E", "fino a 50"},
+                                                            {"F", "oltre 50"},
+                                                            {"-", "nessuno"}}};
 
 /// A moment on the time axis of the map.
 struct OraMappa {
