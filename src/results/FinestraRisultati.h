@@ -39,6 +39,10 @@ public:
     void attivata() override { aggiornaNote(); }
     /// The window shows figures.
     bool conFigure() const { return timbro_.has_value(); }
+    /// The window shows figures, and no input of the project was changed since: what the project holds explains them.
+    bool figureDelProgetto() const {
+        return conFigure() && timbro_->revisione == app().theRotonda().revisione().calcolo;
+    }
 
 protected:
     /// Calculates and fills the window.
@@ -89,6 +93,7 @@ private:
     modCalcolo motore_;
     AnteprimaTesto anteprima_;
     std::optional<Timbro> timbro_;
+    bool fallita_ = false;  ///< the last calculation that the window asked for failed
 };
 
 }  // namespace kelvo

@@ -12,6 +12,7 @@
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
 #include "results/frmCapacitaCodeRitardi.h"
+#include "results/frmCapacitaCodeRitardiRamo.h"
 #include "results/frmCapacitaUltima.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
@@ -63,6 +64,7 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     });
     finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi));
     finestre.registra("frmCapacitaCodeRitardi", creaRisultati<frmCapacitaCodeRitardi>(servizi));
+    finestre.registra("frmCapacitaCodeRitardiRamo", creaRisultati<frmCapacitaCodeRitardiRamo>(servizi));
 }
 
 }  // namespace kelvo

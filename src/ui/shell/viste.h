@@ -26,5 +26,9 @@ VistaFinestra* vista_frmComposizioneTrafficoST(Finestra& finestra, QWidget* geni
 VistaFinestra* vista_frmOpzioni(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmCapacitaUltima(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmCapacitaCodeRitardi(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmCapacitaCodeRitardiRamo(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmLEGENDA(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmRAMO_AGGIUNTIVA(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmAnteprimaTesto(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui
