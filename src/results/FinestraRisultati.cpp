@@ -202,6 +202,15 @@ void FinestraRisultati::anteprima() {
     }
 }
 
+void FinestraRisultati::apriTesto(const std::string& nomeFile, const std::string& testo) {
+    cornice().avviso({});
+    try {
+        anteprima_.apri(nomeFile, testo);
+    } catch (const Guasto& guasto) {
+        anteprimaFallita(guasto);
+    }
+}
+
 void FinestraRisultati::anteprimaFallita(const Guasto& guasto) {
     tracciaGuasto(nome() + ":Anteprima", guasto);
 }

@@ -77,6 +77,9 @@ protected:
     }
     void tracciaGuasto(const std::string& metodo, const Guasto& guasto);
     void anteprima();
+    /// Writes a text of the window's own into the folder for temporary files and shows it; what fails is told as that
+    /// of the preview.
+    void apriTesto(const std::string& nomeFile, const std::string& testo);
     /// The controls that all result windows have, in tab order.
     std::vector<Controllo*> comuni();
     const ServiziRisultati& servizi() const { return servizi_; }

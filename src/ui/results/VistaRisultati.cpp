@@ -143,10 +143,14 @@ void VistaRisultati::secondaBarra(BarraStrumenti& barra) {
 
 VistaGriglia* VistaRisultati::tabella(Griglia& griglia, QWidget* genitore) {
     VistaGriglia* vista = collega(griglia, genitore);
-    auto* invito = qobject_cast<QPushButton*>(collega(f_.cmdCalcola, vista));
-    invito->setDefault(true);
-    new InMezzo(*vista, *invito);
+    invita(*vista);
     return vista;
+}
+
+void VistaRisultati::invita(QWidget& sotto) {
+    auto* invito = qobject_cast<QPushButton*>(collega(f_.cmdCalcola, &sotto));
+    invito->setDefault(true);
+    new InMezzo(sotto, *invito);
 }
 
 QWidget* VistaRisultati::note() {

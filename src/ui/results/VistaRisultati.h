@@ -26,6 +26,8 @@ protected:
     void secondaBarra(BarraStrumenti& barra);
     /// Binds a table; the button that calculates stands in its middle while there are no figures.
     VistaGriglia* tabella(Griglia& griglia, QWidget* genitore);
+    /// Puts the button that calculates in the middle of a widget; it is there while there are no figures.
+    void invita(QWidget& sotto);
     /// Closes the layout: lines below the figures, tab order.
     void chiudi();
 

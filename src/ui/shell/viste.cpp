@@ -35,6 +35,7 @@ constexpr std::array viste{
     VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
     VoceVista{"frmCapacitaUltima", vista_frmCapacitaUltima},
+    VoceVista{"frmCapacitaCodeRitardi", vista_frmCapacitaCodeRitardi},
     VoceVista{"frmCapacitaCodeRitardiRamo", vista_frmCapacitaCodeRitardiRamo},
     VoceVista{"frmLEGENDA", vista_frmLEGENDA},
     VoceVista{"frmRAMO_AGGIUNTIVA", vista_frmRAMO_AGGIUNTIVA},
