@@ -64,6 +64,7 @@ std::unique_ptr<Comando> comandoCurva(CLI::App& radice);
 std::unique_ptr<Comando> comandoControllo(CLI::App& radice);
 std::unique_ptr<Comando> comandoCorsiaDx(CLI::App& radice);
 std::unique_ptr<Comando> comandoSensibilita(CLI::App& radice);
+std::unique_ptr<Comando> comandoSintesi(CLI::App& radice);
 /// The commands that draw; none in a program that was built without the desktop's libraries.
 std::vector<std::unique_ptr<Comando>> comandiDisegno(CLI::App& radice);
 

@@ -14,6 +14,15 @@ std::string impedimentoAnalisi(const Rotonda& rotonda) {
     return {};
 }
 
+std::string impedimentoSintesi(const Rotonda& rotonda) {
+    if (const std::string motivo = impedimentoAnalisi(rotonda); !motivo.empty()) {
+        return motivo;
+    }
+    return rotonda.TipoAnalisi() == analisi::saturazione
+               ? "un'analisi della sola saturazione non ha risultati nel tempo: l'ora di punta non si trova"
+               : "";
+}
+
 std::string impedimentoCorsie(const Rotonda& rotonda) {
     if (const std::string motivo = impedimentoAnalisi(rotonda); !motivo.empty()) {
         return motivo;

@@ -10,6 +10,8 @@ namespace kelvo::cli {
 
 /// For any calculation: the kind of analysis.
 std::string impedimentoAnalisi(const Rotonda& rotonda);
+/// For the peak hours: the kind of analysis.
+std::string impedimentoSintesi(const Rotonda& rotonda);
 /// For right-turn lanes: kind of analysis and number of legs.
 std::string impedimentoCorsie(const Rotonda& rotonda);
 

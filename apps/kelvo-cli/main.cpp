@@ -37,7 +37,7 @@ int esegui(std::vector<std::string> argomenti) {
 
     std::vector<std::unique_ptr<Comando>> comandi;
     for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica,
-                            comandoCurva, comandoCorsiaDx, comandoSensibilita, comandoControllo}) {
+                            comandoCurva, comandoCorsiaDx, comandoSensibilita, comandoSintesi, comandoControllo}) {
         comandi.push_back(crea(radice));
     }
     for (auto& comando : comandiDisegno(radice)) {

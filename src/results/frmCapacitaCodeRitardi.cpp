@@ -1,12 +1,16 @@
 #include "results/frmCapacitaCodeRitardi.h"
 
+#include <array>
 #include <filesystem>
+#include <initializer_list>
+#include <utility>
 
 #include "base/file.h"
 #include "base/guasto.h"
 #include "results/grandezze.h"
 #include "results/inVigore.h"
 #include "results/livelloServizio.h"
+#include "results/sintesiNodo.h"
 #include "results/tabellaVerifiche.h"
 #include "shell/servizi/nonAncora.h"
 
@@ -17,8 +21,11 @@ namespace {
 namespace testi {
 constexpr const char* didascalia = "Risultati: Verifiche prestazionali";
 constexpr const char* primaCalcola = "Disponibile dopo Calcola";
+constexpr const char* fileSintesi = "Sintesi.txt";
+constexpr const char* scegliCella = "Il livello di servizio di ogni ingresso, segmento per segmento.";
 }  // namespace testi
 
+constexpr std::array pagineAiuto{"SintesiNodo.htm", "MappaLivelli.htm"};
 constexpr const char* chiaveFoglio = "keyExcel";
 constexpr const char* metodoFoglio = "Esporta dati XLS:";
 constexpr const char* fileFoglio = "xls\\Risultati.txt";
@@ -42,8 +49,18 @@ OrnamentoCella ornamento(const Tabella& tabella, Posto posto) {
 
 frmCapacitaCodeRitardi::frmCapacitaCodeRitardi(const Contorno& contorno, const ServiziRisultati& servizi)
     : FinestraRisultati(contorno, servizi, "frmCapacitaCodeRitardi", testi::didascalia),
-      Cmd_EXCEL("Cmd_EXCEL", "Excel") {
-    std::vector<Controllo*> controlli{&ctlGrid, &Cmd_EXCEL};
+      ctlTab("ctlTab", {"Risultati", "Sintesi nodo", "Mappa dei livelli"}),
+      Cmd_EXCEL("Cmd_EXCEL", "Excel"),
+      lblExcel("lblExcel", servizi.foglio ? testi::primaCalcola : std::string{notaNonAncora}, "GREY"),
+      lblSaturazione("lblSaturazione", {}, "ROSSO"),
+      lblPeggiore("lblPeggiore"),
+      lblOra("lblOra", {}, "GREY"),
+      lblFigure("lblFigure", std::string{notaFigureSintesi}, "GREY"),
+      cmdAnteprimaSintesi("cmdAnteprimaSintesi", "Anteprima della sintesi"),
+      lblCella("lblCella") {
+    std::vector<Controllo*> controlli{&ctlTab,         &ctlGrid,     &Cmd_EXCEL, &lblExcel,  &ctlSintesi,
+                                      &lblSaturazione, &lblPeggiore, &lblOra,    &lblFigure, &cmdAnteprimaSintesi,
+                                      &ctlMappa,       &lblCella};
     for (Controllo* c : comuni()) {
         controlli.push_back(c);
     }
@@ -53,17 +70,88 @@ frmCapacitaCodeRitardi::frmCapacitaCodeRitardi(const Contorno& contorno, const S
                          .suggerimento = "Porta la tabella in un foglio di calcolo",
                          .icona = "Excel",
                          .abilitato = false,
-                         .nota = servizi.foglio ? testi::primaCalcola : std::string{notaNonAncora}});
+                         .nota = lblExcel.testo()});
     Cmd_EXCEL.abilitato(false);
+    cmdAnteprimaSintesi.abilitato(false);
+    collega();
+}
+
+void frmCapacitaCodeRitardi::collega() {
     Cmd_EXCEL.allaPressione = [this] { esportaFoglio(); };
+    cmdAnteprimaSintesi.allaPressione = [this] { anteprimaSintesi(); };
     ctlGrid.ornamento = [this](Posto posto) { return ornamento(ctlGrid.tabella(), posto); };
+    ctlSintesi.ornamento = [this](Posto posto) { return ornamentoSintesi(ctlSintesi.tabella(), posto); };
+    ctlMappa.colonna(0, {.allineamento = AllineamentoCella::sinistra});
+    ctlMappa.alMovimento = [this](Posto /*posto*/) { mostraCella(); };
+    ctlTab.alCambio = [this](int /*scheda*/) { mostraScheda(); };
+    mostraScheda();
+}
+
+void frmCapacitaCodeRitardi::mostraScheda() {
+    const int scheda = ctlTab.corrente();
+    const auto mostra = [](bool valore, std::initializer_list<Controllo*> controlli) {
+        for (Controllo* c : controlli) {
+            c->visibile(valore);
+        }
+    };
+    mostra(scheda == 0, {&ctlGrid, &Cmd_EXCEL, &lblExcel});
+    mostra(scheda == 1, {&ctlSintesi, &lblPeggiore, &lblOra, &lblFigure, &cmdAnteprimaSintesi});
+    lblSaturazione.visibile(scheda == 1 && !lblSaturazione.testo().empty());
+    mostra(scheda == 2, {&ctlMappa, &lblCella});
+    ctlHelp.visibile(scheda != 0);
+    ctlHelp.pagina(scheda == 2 ? pagineAiuto[1] : pagineAiuto[0]);
 }
 
 void frmCapacitaCodeRitardi::attivata() {
     if (!conFigure()) {
         ctlGrid.tabella(tabellaVerificheVuota(rotonda()));
+        svuotaSchede();
     }
     FinestraRisultati::attivata();
+}
+
+void frmCapacitaCodeRitardi::svuotaSchede() {
+    ctlSintesi.tabella(tabellaSintesiVuota(rotonda()));
+    ore_ = oreMappa(rotonda());
+    ctlMappa.tabella(mappaLivelliVuota(rotonda()));
+    cmdAnteprimaSintesi.abilitato(false);
+    parole_.clear();
+    for (Etichetta* parola : {&lblSaturazione, &lblPeggiore, &lblOra}) {
+        parola->testo({});
+    }
+    mostraCella();
+    mostraScheda();
+}
+
+void frmCapacitaCodeRitardi::riempiSchede() {
+    svuotaSchede();
+    const SintesiNodo sintesi = sintesiNodo(rotonda());
+    Tabella mappa = mappaLivelli(rotonda());
+    ctlSintesi.tabella(tabellaSintesi(rotonda(), sintesi));
+    ctlMappa.tabella(std::move(mappa));
+    cmdAnteprimaSintesi.abilitato(true);
+    parole_ = paroleSintesi(rotonda(), sintesi);
+    lblSaturazione.testo(avvisoSaturazione(rotonda(), sintesi));
+    lblPeggiore.testo(ingressoPeggiore(rotonda(), sintesi));
+    lblOra.testo(notaOraDiPunta(sintesi));
+    mostraCella();
+    mostraScheda();
+}
+
+std::string frmCapacitaCodeRitardi::parolaCella(Posto cella) const {
+    const std::string parola = parolaMappa(ctlMappa.tabella(), cella);
+    if (parola.empty()) {
+        return parola;
+    }
+    // The table holds the delay that the level was read from: an interval is a band row and a row for each entry.
+    const int riga = (cella.colonna - 1) * ctlMappa.tabella().righe() + cella.riga + 1;
+    return parola + ", ritardo " + ctlGrid.testo(riga, colonnaRitardo) + " s/veic, saturazione " +
+           ctlGrid.testo(riga, colonnaSaturazione);
+}
+
+void frmCapacitaCodeRitardi::mostraCella() {
+    const std::string parola = parolaCella(ctlMappa.corrente());
+    lblCella.testo(parola.empty() ? testi::scegliCella : parola);
 }
 
 void frmCapacitaCodeRitardi::calcola() {
@@ -74,9 +162,11 @@ void frmCapacitaCodeRitardi::calcola() {
     figureDi(rotonda().timbro());
     if (servizi().foglio) {
         Cmd_EXCEL.abilitato(true);
+        lblExcel.testo({});
         ctlToolbar.abilita(chiaveFoglio, true);
         ctlToolbar.annota(chiaveFoglio, {});
     }
+    riempiSchede();
 }
 
 std::string frmCapacitaCodeRitardi::testoAnteprima() {
@@ -91,6 +181,11 @@ void frmCapacitaCodeRitardi::altroTasto(const std::string& chiave) {
     if (chiave == chiaveFoglio) {
         esportaFoglio();
     }
+}
+
+void frmCapacitaCodeRitardi::anteprimaSintesi() {
+    apriTesto(testi::fileSintesi,
+              testoSintesi(ctlSintesi.tabella(), parole_, rotonda().NomeFile(), app().orologio.adesso()));
 }
 
 void frmCapacitaCodeRitardi::esportaFoglio() {

@@ -36,6 +36,8 @@ frmCapacitaUltima::frmCapacitaUltima(const Contorno& contorno, const ServiziRisu
         controlli.push_back(c);
     }
     ordina(controlli);
+    ctlHelp.pagina("CapacitaUltima.htm");
+    ctlGrid.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlToolbar.abilita("keyRelazione", false);
     ctlToolbar.annota("keyRelazione", testi::senzaRelazione);
 }

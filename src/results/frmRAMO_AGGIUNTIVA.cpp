@@ -25,6 +25,8 @@ constexpr const char* coppia = "Attenzione! valore MASSIMO < valore MINIMO  ";
 constexpr const char* livelli = "Selezionare un LOS coerente!";
 constexpr const char* livelloMancante = "Attenzione! Selezionare un valore corretto per i livelli di servizio (L.O.S.)";
 constexpr const char* azzera = "Azzera soglie";
+constexpr const char* inferiore = "Valore INFERIORE";
+constexpr const char* superiore = "Valore SUPERIORE";
 constexpr const char* senzaSoglie = "Questo ingresso non può avere soglie: sono previste per gli ingressi da 1 a {}.";
 }  // namespace testi
 
@@ -58,18 +60,19 @@ std::string testoProgetto(const std::string& nome, bool altro) {
 
 const std::array<VoceSoglia, 6> vociSoglia{{
     {"chFLUSSO", "txtvalMIN1", "txtvalMAX1", "Flusso [veic./min]", "#0.00", "Attenzione! valori ammessi per il FLUSSO",
-     "Attenzione! valore MASSIMO FLUSSO non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO FLUSSO non coerente con valore MINIMO", "SogliaFlusso.htm"},
     {"chCAPACITA", "txtvalMIN2", "txtvalMAX2", "Capacità [veic./h]", "#0.00",
      "Attenzione! valori ammessi per la CAPACITA'",
-     "Attenzione! valore MASSIMO CAPACITA non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO CAPACITA non coerente con valore MINIMO", "SogliaCapacita.htm"},
     {"chSATURAZIONE", "txtvalMIN3", "txtvalMAX3", "Coeff. Saturazione", "#0.000",
      "Attenzione! valori ammessi per il COEFF. SATURAZIONE",
-     "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO non coerente con valore MINIMO", "SogliaSaturazione.htm"},
     {"chCODA", "txtvalMIN4", "txtvalMAX4", "Coda  [veic.]", "#0.0", "Attenzione! valori ammessi per la CODA",
-     "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO non coerente con valore MINIMO", "SogliaCoda.htm"},
     {"chRITARDO", "txtvalMIN5", "txtvalMAX5", "Ritardo [sec./veic.]", "#0.0",
-     "Attenzione! valori ammessi per il RITARDO", "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
-    {"chLOS", "comboLOSmin", "comboLOSmax", "L.O.S.", "#0", "", ""},
+     "Attenzione! valori ammessi per il RITARDO", "Attenzione! valore MASSIMO non coerente con valore MINIMO",
+     "SogliaRitardo.htm"},
+    {"chLOS", "comboLOSmin", "comboLOSmax", "L.O.S.", "#0", "", "", "SogliaLivello.htm"},
 }};
 
 frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRisultati& servizi)
@@ -82,22 +85,27 @@ frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRi
                                 {.chiave = "Ritorno",
                                  .testo = "Ritorno",
                                  .suggerimento = "Registra le soglie e torna ai risultati dell'ingresso",
-                                 .icona = "Ritorno"}}),
+                                 .icona = "Ritorno",
+                                 .scorciatoia = "Ctrl+Enter"}}),
       frRIASSUNTO("frRIASSUNTO", testi::didascalia, {&ctlGRID1, &lblMinLOS, &txtminLOS, &lblMaxLOS, &txtmaxLOS}),
       lblMinLOS("lblMinLOS", "L.O.S. minimo"),
       lblMaxLOS("lblMaxLOS", "L.O.S. massimo"),
       frMARKER("frMARKER", testi::marker, {}),
+      lblInferiore("lblInferiore", testi::inferiore, "GREY"),
+      lblSuperiore("lblSuperiore", testi::superiore, "GREY"),
       soglie(creaSoglie(std::make_index_sequence<6>())),
       cmdAzzera("cmdAzzera", testi::azzera),
       servizi_(servizi),
       anteprima_(contorno, servizi_.finestre, servizi_.documenti) {
-    std::vector<Controllo*> controlli{&frRIASSUNTO, &ctlGRID1,  &lblMinLOS, &txtminLOS,
-                                      &lblMaxLOS,   &txtmaxLOS, &frMARKER};
+    std::vector<Controllo*> controlli{&frRIASSUNTO, &ctlGRID1, &lblMinLOS,    &txtminLOS,   &lblMaxLOS,
+                                      &txtmaxLOS,   &frMARKER, &lblInferiore, &lblSuperiore};
     for (Soglia& soglia : soglie) {
         controlli.insert(controlli.end(), {&soglia.spunta, &soglia.minimo, &soglia.massimo});
     }
     controlli.insert(controlli.end(), {&lblProgetto, &cmdAzzera, &lblSenzaSoglie});
     ordina(controlli);
+    txtminLOS.paginaAiuto = "LivelloMinimo.htm";
+    txtmaxLOS.paginaAiuto = "LivelloMassimo.htm";
     txtminLOS.solaLettura(true);
     txtmaxLOS.solaLettura(true);
     ctlToolbar.allaPressione = [this](const std::string& chiave) { premuto(chiave); };
@@ -115,6 +123,7 @@ frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRi
             }
         }
     });
+    ctlGRID1.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlGRID1.ornamento = [this](Posto posto) {
         OrnamentoCella ornamento;
         const std::string& testo = ctlGRID1.testo(posto.riga, posto.colonna);
@@ -131,6 +140,8 @@ frmRAMO_AGGIUNTIVA::~frmRAMO_AGGIUNTIVA() {
 
 void frmRAMO_AGGIUNTIVA::collega(std::size_t posto) {
     Soglia& soglia = soglie[posto];
+    soglia.minimo.paginaAiuto = vociSoglia[posto].pagina;
+    soglia.massimo.paginaAiuto = vociSoglia[posto].pagina;
     soglia.spunta.alClic = [this] { abilita(); };
     if (posto == postoLivello) {
         std::vector<std::string> voci(livelliServizio.begin(), livelliServizio.end());
@@ -154,6 +165,7 @@ void frmRAMO_AGGIUNTIVA::collega(std::size_t posto) {
 
 void frmRAMO_AGGIUNTIVA::attivata() {
     sottotitolo.testo(ramo().Descrizione());
+    ctlHelp.pagina("DatiRiassuntivi.htm");
     riempiRiassunto();
     frRIASSUNTO.mostraContenuto(apertura_.riassunto || !apertura_.marker);
     try {

@@ -48,6 +48,7 @@ inline constexpr int colonnaMatrice = 548;    ///< of the matrix with its totals
 inline constexpr int anteprimaMatrice = 220;  ///< height of a matrix beside the files of a dialogue
 inline constexpr int elenco = 376;            ///< least width of a list with columns
 inline constexpr int campoCorto = 96;         ///< field of a number or a time
+inline constexpr int campoValore = 84;        ///< of a figure that is only shown
 inline constexpr int campoBreve = 68;         ///< of a number of few digits
 inline constexpr int aiuto = 112;             ///< text of the help pane
 inline constexpr int paginaSola = 92;         ///< the same without a picture
@@ -70,7 +71,10 @@ inline constexpr int spazioSpunte = 2;  ///< between rows of check boxes with a 
 inline constexpr int lineaRamo = 18;    ///< between title and leg in the caption panel
 inline constexpr int avanzamento = 360;
 inline constexpr int note = 84;
-inline constexpr int grafico = 480;  ///< usual width of a chart; 5 wide to 3 high
+inline constexpr int barraSeconda = 38;
+inline constexpr int colonnaRisultati = 240;  ///< at the right of the figures
+inline constexpr int inVigore = 200;          ///< height of what is in force, once it is asked for
+inline constexpr int grafico = 480;           ///< usual width of a chart; 5 wide to 3 high
 inline constexpr int graficoMinimo = 240;
 }  // namespace misura
 
@@ -90,6 +94,8 @@ QColor qcolore(Colore colore);
 QFont leggero(double punti);
 QFont dati(double punti);
 QFont forte(double punti);
+/// Letters of one width.
+QFont fisso(double punti);
 
 /// Loads the faces from the program's folder or the system and dresses the application.
 void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri);

@@ -11,8 +11,14 @@
 #include "schermate/Richiesta.h"
 #include "schermate/serviziMuti.h"
 #include "shell/MDI_Form.h"
+#include "ui/results/FinestreCollegateQt.h"
 #include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
+
+namespace kelvo {
+class FinestraRisultati;
+class frmCapacitaCodeRitardiRamo;
+}  // namespace kelvo
 
 namespace kelvo::schermate {
 
@@ -31,6 +37,10 @@ private:
     void messaggi();
     std::string progetto(const std::string& percorso, bool primo);
     void finestre(const std::string& progetto);
+    /// A result window with its figures, after its first picture.
+    void calcolata(Finestra& finestra, const std::string& nome);
+    void ingressoCalcolato(frmCapacitaCodeRitardiRamo& finestra, const std::string& nome);
+    void anteprimaTesto(FinestraRisultati& finestra, const std::string& nome);
     void disposizioniAlbero();
     void menu();
     void campoRifiutato();
@@ -55,6 +65,7 @@ private:
     Applicazione app_;
     StatoFinestre stato_;
     ui::VistaMDI_Form vista_;
+    ui::FinestreCollegateQt collegate_{vista_};
     MDI_Form cornice_;
     Fotografo fotografo_;
     std::set<std::string> mostrate_;  ///< names of the windows that were seen in the work area

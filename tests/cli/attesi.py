@@ -396,6 +396,94 @@ def steps_json(file, project, number, measures):
     return json.dumps(run, ensure_ascii=False, separators=(",", ":")) + "\n"
 
 
+SUMMARY = ("", "Ora di punta", "Flusso [veic/h]", "Capacità [veic/h]", "Riserva 1 - x", "Riserva [veic/h]",
+           "Saturazione massima", "nel segmento", "Ritardo medio [s/veic]", "L.O.S.")
+SUMMARY_IN_JSON = ("Rotatoria_Via_dei_Mulini", "Rotatoria_Aurelia_Sette_Strade")
+
+
+def peak_of(series, size):
+    """The hour of some entries together: first segment, flow, capacity, delay; nothing where nothing flows."""
+    hourly = [60 * math.fsum(entry[k][0] for entry in series for k in range(s, s + size)) / size
+              for s in range(len(series[0]) - size + 1)]
+    seen = [number_of(shown(motore.single(flow), 2)) for flow in hourly]
+    first = seen.index(max(seen))
+    if not seen[first]:
+        return None
+    hour = [record for entry in series for record in entry[first:first + size]]
+    flows = math.fsum(record[0] for record in hour)
+    return (first, hourly[first], math.fsum(record[1] for record in hour) / size,
+            math.fsum(record[0] * record[4] for record in hour) / flows)
+
+
+def worst_of(series):
+    """Entry, segment and saturation of the largest saturation as it is shown, the first of equal ones."""
+    places = [(number_of(shown(record[2], 3)), -e, -s) for e, entry in enumerate(series)
+              for s, record in enumerate(entry)]
+    value, e, s = max(places)
+    return (-e, -s, series[-e][-s][2]) if value else None
+
+
+def summary_of(file, records):
+    """Rows of the table, and entry by entry, the junction last, peak and worst segment."""
+    start, step = minutes(file["TempoIniziale"]), motore.STEP
+    size = min(60 // step, len(records))
+    entries = [[record[i] for record in records] for i in range(file["NumeroRami"])]
+    rows, found = [list(SUMMARY)], []
+    for name, series in [(leg["Descrizione"], [entries[i]]) for i, leg in enumerate(file["Rami"])] + [("Nodo", entries)]:
+        peak, worst = peak_of(series, size), worst_of(series)
+        span = lambda first, count: "%s - %s" % (clock(start + first * step), clock(start + (first + count) * step))
+        hour, flow, capacity, delay = (None, 0.0, 0.0, 0.0) if not peak else (span(peak[0], size),) + peak[1:]
+        flow, capacity, share, rest, delay = (motore.single(x) for x in (
+            flow, capacity, 1 - flow / capacity if capacity > 0 else 0.0, capacity - flow, delay))
+        place = span(worst[1], 1) if worst else None
+        letter = level(number_of(shown(delay, 1)))
+        high = bool(worst) and number_of(shown(worst[2], 3)) > 0.85
+        rows.append([name, hour or "-", shown(flow, 2), shown(capacity, 2) if hour else "-",
+                     shown(share, 3) if capacity > 0 else "-", shown(rest, 2) if hour else "-",
+                     shown(worst[2] if worst else 0.0, 3), place or "-", shown(delay, 1) if hour else "-", letter])
+        figures = {"oraDiPunta": hour, "Flusso": plain_single(flow), "Capacita": plain_single(capacity),
+                   "riserva": plain_single(share), "riservaVeicoli": plain_single(rest),
+                   "Coeff_Sat": plain_single(worst[2]), "segmentoSat": place, "saturazioneAlta": high,
+                   "Ritardo": plain_single(delay), "LOS": letter} if hour and worst else None
+        found.append((worst, high, place, figures))
+    return rows, found, size
+
+
+def summary_words(file, found, size):
+    high = ["%s %s (%s)" % (leg["Descrizione"], shown(worst[2], 3), place)
+            for leg, (worst, above, place, _) in zip(file["Rami"], found) if above]
+    words = ["Saturazione oltre 0,85: %s." % "; ".join(high)] if high else []
+    worst, _, place, _ = found[-1]
+    if worst:
+        words.append("Ingresso peggiore: %s, saturazione %s nel segmento %s." % (
+            file["Rami"][worst[0]]["Descrizione"], shown(worst[2], 3), place))
+    assert size * motore.STEP == 60, "the examples have whole hours"
+    words.append("Ora di punta di ogni ingresso e del nodo: %d segmenti consecutivi, in tutto 60 minuti, con il flusso "
+                 "maggiore." % size)
+    words.append("Flusso, capacità, riserva e ritardo (media pesata sui flussi) sono dell'ora di punta, la saturazione "
+                 "massima è di tutto lo studio. La capacità del nodo è la somma di quelle degli ingressi nella sua ora "
+                 "di punta, non la capacità ultima.")
+    return words
+
+
+def summary_text(file, records):
+    rows, found, size = summary_of(file, records)
+    return ("Risultati: Sintesi nodo\r\n\r\n" + table_text(rows, True, lambda row: False) + "\r\n" +
+            "\r\n".join(summary_words(file, found, size)) + "\r\n" + closing(file))
+
+
+def summary_json(file, records):
+    rows, found, size = summary_of(file, records)
+    legs = [dict({"Key": leg["Key"], "Descrizione": leg["Descrizione"]}, **found[i][3],
+                 livelli=[level(number_of(shown(record[i][4], 1))) for record in records])
+            for i, leg in enumerate(file["Rami"])]
+    run = {"file": "%s.klv" % file["NomeFile"], "NomeFile": file["NomeFile"], "TipoAnalisi": file["TipoAnalisi"],
+           "TipoFlusso": file["TipoFlusso"], "minutiSegmento": motore.STEP, "segmentiOra": size, "ingressi": legs,
+           "nodo": dict(found[-1][3], ingressoPeggiore=file["Rami"][found[-1][0][0]]["Key"]), "tabella": rows,
+           "errori": []}
+    return json.dumps(run, ensure_ascii=False, separators=(",", ":")) + "\n"
+
+
 # What of the two analyses is written: project, lanes; project, leg, measures (none: those chosen in the project).
 LANE_CASES = (("Rotatoria_Tangenziale_est", (0, 2)), ("Rotatoria_Viale_della_Stazione", (0, 1, 2, 3)))
 STEP_CASES = (("Rotatoria_Viale_della_Stazione", 1, ()), ("Rotatoria_Aurelia_Sette_Strade", 2, ()),
@@ -433,6 +521,10 @@ def main():
         if path.stem == IN_JSON:
             write("%s.calcola.json" % path.stem, run_json(file, ultimate, records))
             write("%s.curva.json" % path.stem, curve_json(file, 3, "500"))
+        if analysis in (1, 2):
+            write("%s.sintesi.txt" % path.stem, summary_text(file, records))
+        if path.stem in SUMMARY_IN_JSON:
+            write("%s.sintesi.json" % path.stem, summary_json(file, records))
         write_analyses(path.stem, file, project)
         if analysis == 1:
             write("%s.curva.txt" % path.stem, curve_text(file, 1, ""))

@@ -34,6 +34,12 @@ constexpr std::array viste{
     VoceVista{"frmComposizioneTraffico", vista_frmComposizioneTraffico},
     VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
+    VoceVista{"frmCapacitaUltima", vista_frmCapacitaUltima},
+    VoceVista{"frmCapacitaCodeRitardi", vista_frmCapacitaCodeRitardi},
+    VoceVista{"frmCapacitaCodeRitardiRamo", vista_frmCapacitaCodeRitardiRamo},
+    VoceVista{"frmLEGENDA", vista_frmLEGENDA},
+    VoceVista{"frmRAMO_AGGIUNTIVA", vista_frmRAMO_AGGIUNTIVA},
+    VoceVista{"frmAnteprimaTesto", vista_frmAnteprimaTesto},
 };
 
 }  // namespace

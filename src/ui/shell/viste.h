@@ -24,5 +24,11 @@ VistaFinestra* vista_frmImportaCSV(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmComposizioneTraffico(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmComposizioneTrafficoST(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmOpzioni(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmCapacitaUltima(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmCapacitaCodeRitardi(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmCapacitaCodeRitardiRamo(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmLEGENDA(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmRAMO_AGGIUNTIVA(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmAnteprimaTesto(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui
