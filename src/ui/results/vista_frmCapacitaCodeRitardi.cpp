@@ -133,7 +133,7 @@ private:
 
     /// How to read a tab, at its foot.
     void aiuto(const Pagina& p) {
-        auto* riquadro = new RiquadroAiuto(f_.ctlHelp, QStringLiteral("Come si legge"), p.foglio);
+        auto* riquadro = new RiquadroAiuto(f_.ctlHelp, QStringLiteral("Che cosa si legge"), p.foglio);
         riquadro->soloPagina();
         p.piano->addStretch(1);
         p.piano->addWidget(riquadro);
