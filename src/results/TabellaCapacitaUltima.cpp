@@ -41,6 +41,7 @@ void vesti(Tabella& tabella, int n) {
         for (int c = 0; c < tabella.colonne(); ++c) {
             if (intestazione || (riga == n + 3 && c == 0)) {
                 colora(tabella.cella(riga, c), colori::intestazione, colori::bianco);
+                tabella.cella(riga, c).grassetto = true;
             } else if (riga <= n && c == 0) {
                 colora(tabella.cella(riga, c), colori::nomeIngresso, colori::bianco);
             } else {

@@ -155,6 +155,15 @@ void VistaGriglia::collegaGesti() {
             [this](int sezione) { griglia_.clic(0, sezione + griglia_.colonneFisse()); });
     connect(verticalHeader(), &QHeaderView::sectionClicked, this,
             [this](int sezione) { griglia_.clic(sezione + griglia_.righeFisse(), 0); });
+    for (QHeaderView* testata : {horizontalHeader(), verticalHeader()}) {
+        testata->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(testata, &QWidget::customContextMenuRequested, this, [this, testata](QPoint dove) {
+            const bool sopra = testata == horizontalHeader();
+            const int sezione = testata->logicalIndexAt(dove);
+            griglia_.tastoDestro(sopra ? 0 : sezione + griglia_.righeFisse(),
+                                 sopra ? sezione + griglia_.colonneFisse() : 0);
+        });
+    }
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int valore) {
         rigaAlta_ = valore + griglia_.righeFisse();
         griglia_.scorri(rigaAlta_);

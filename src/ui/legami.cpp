@@ -21,6 +21,8 @@
 #include <QtWidgets/QTimeEdit>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolButton>
+#include <memory>
+#include <utility>
 
 #include "ui/Figura.h"
 #include "ui/icone.h"
@@ -91,9 +93,19 @@ QWidget* collegaRiga(tBox& campo, QWidget* genitore) {
         inchiostra(*riga, campo.aspetto().inchiostro);
         mostraFallito(*riga, campo.fallito());
     });
-    QObject::connect(riga, &QLineEdit::textEdited, legame, [&campo, riga](const QString& testo) {
+    // What was selected before an edit: the selection is told behind the text.
+    auto scelto = std::make_shared<std::pair<int, int>>(-1, 0);
+    QObject::connect(riga, &QLineEdit::selectionChanged, legame, [riga, scelto] {
+        *scelto = {riga->selectionStart(), static_cast<int>(riga->selectedText().size())};
+    });
+    QObject::connect(riga, &QLineEdit::textEdited, legame, [&campo, riga, scelto](const QString& testo) {
+        const std::string prima = campo.testo();
+        const auto [inizio, quanti] = *scelto;
         campo.scrivi(s(testo));
-        if (riga->text() != q(campo.testo())) {
+        if (campo.testo() == prima && inizio >= 0 && testo != q(prima)) {
+            riga->setText(q(prima));
+            riga->setSelection(inizio, quanti);  // a key that is not taken changes nothing
+        } else if (riga->text() != q(campo.testo())) {
             // What the field does not take falls out, the cursor stays behind what was typed.
             const auto persi = testo.size() - q(campo.testo()).size();
             const auto cursore = riga->cursorPosition() - static_cast<int>(persi);
@@ -355,7 +367,6 @@ QProgressBar* collega(BarraProgresso& barra, QWidget* genitore) {
 
 QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto, FondoBarra fondo) {
     auto* strumenti = new QToolBar(genitore);
-    strumenti->setProperty("chiara", fondo == FondoBarra::chiaro);
     strumenti->setIconSize({lato, lato});
     strumenti->setMovable(false);
     strumenti->setToolButtonStyle(conTesto ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);

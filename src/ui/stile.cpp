@@ -116,12 +116,12 @@ QToolBar QToolButton:pressed { background: {principalePremuto}; }
 QToolBar QToolButton:focus { border: 2px solid white; } QToolBar QToolButton:disabled { color: {spentoSuBlu}; }
 QToolBar QToolButton:checked { background: white; color: {principale}; }
 QFrame#secondaFascia { background: {barra}; border: none; border-bottom: 1px solid {bordo}; }
-QToolBar[chiara="true"] { background: {barra}; padding: 0px; }
-QToolBar[chiara="true"] QToolButton { color: {inchiostro}; }
-QToolBar[chiara="true"] QToolButton:hover { background: {sfiorato}; }
-QToolBar[chiara="true"] QToolButton:pressed { background: {scelto}; }
-QToolBar[chiara="true"] QToolButton:focus { border: 2px solid {principale}; }
-QToolBar[chiara="true"] QToolButton:disabled { color: {spento}; }
+QFrame#secondaFascia QToolBar { background: {barra}; padding: 0px; }
+QFrame#secondaFascia QToolButton { color: {inchiostro}; }
+QFrame#secondaFascia QToolButton:hover { background: {sfiorato}; }
+QFrame#secondaFascia QToolButton:pressed { background: {scelto}; }
+QFrame#secondaFascia QToolButton:focus { border: 2px solid {principale}; }
+QFrame#secondaFascia QToolButton:disabled { color: {spento}; }
 QFrame#note { background: {fondoErrore}; border: none; border-left: 3px solid {errore}; }
 QWidget[accanto="true"] { background: white; border: 1px solid {bordoCampo}; }
 QTreeView { background: white; border: none; outline: none; show-decoration-selected: 1; }

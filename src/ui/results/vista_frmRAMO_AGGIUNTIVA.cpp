@@ -19,7 +19,7 @@ namespace {
 
 /// Lets a table be as high as its rows.
 void intera(VistaGriglia& tabella, int righe) {
-    tabella.setMinimumHeight(righe * (QFontMetrics(dati(punti::corpo)).height() + misura::spazioRighe));
+    tabella.setFixedHeight(righe * (QFontMetrics(dati(punti::corpo)).height() + misura::spazioRighe));
 }
 
 class Vista final : public VistaFinestra {
@@ -93,17 +93,11 @@ private:
                 piano->addWidget(valore, linea, posto++);
             }
         }
+        constexpr int ultima = 4;
+        piano->addWidget(collega(f_.cmdAzzera, tavola), linea, ultima, Qt::AlignRight);
         pannello->larga(tavola);
         pannello->avviso(f_.lblSenzaSoglie);
-        auto* piede = new QWidget(pannello);
-        auto* riga = new QHBoxLayout(piede);
-        riga->setContentsMargins(0, 0, 0, 0);
-        QLabel* progetto = collega(f_.lblProgetto, piede);
-        progetto->setFont(dati(punti::nota));
-        progetto->setWordWrap(true);
-        riga->addWidget(progetto, 1);
-        riga->addWidget(collega(f_.cmdAzzera, piede), 0, Qt::AlignRight);
-        pannello->larga(piede);
+        pannello->avviso(f_.lblProgetto);
         return pannello;
     }
 
