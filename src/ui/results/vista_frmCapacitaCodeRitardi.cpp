@@ -144,7 +144,9 @@ private:
         p.piano->addWidget(collega(f_.ctlGrid, p.foglio), 1);
         auto* piede = new QHBoxLayout;
         piede->setSpacing(misura::spazioStretto);
-        piede->addWidget(parola(f_.lblExcel, p.foglio, true), 1);
+        QLabel* perche = parola(f_.lblExcel, p.foglio, true);
+        perche->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        piede->addWidget(perche, 1);
         piede->addWidget(collega(f_.Cmd_EXCEL, p.foglio));
         p.piano->addLayout(piede);
         return p.foglio;
