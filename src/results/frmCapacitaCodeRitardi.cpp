@@ -81,7 +81,9 @@ void frmCapacitaCodeRitardi::collega() {
     cmdAnteprimaSintesi.allaPressione = [this] { anteprimaSintesi(); };
     ctlGrid.ornamento = [this](Posto posto) { return ornamento(ctlGrid.tabella(), posto); };
     ctlSintesi.ornamento = [this](Posto posto) { return ornamentoSintesi(ctlSintesi.tabella(), posto); };
-    ctlMappa.colonna(0, {.allineamento = AllineamentoCella::sinistra});
+    for (Griglia* griglia : {&ctlGrid, &ctlSintesi, &ctlMappa}) {
+        griglia->colonna(0, {.allineamento = AllineamentoCella::sinistra});
+    }
     ctlMappa.alMovimento = [this](Posto /*posto*/) { mostraCella(); };
     ctlTab.alCambio = [this](int /*scheda*/) { mostraScheda(); };
     mostraScheda();
