@@ -7,7 +7,7 @@ namespace kelvo {
 void Applicazione::caricaRotonda(const std::string& percorso, std::string& messaggio, bool& esito) {
     rotonda_->Load(percorso, messaggio, esito);
     if (esito) {
-        theRamoCorrente = nullptr;
+        altroProgetto();
     }
 }
 

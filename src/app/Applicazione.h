@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -53,12 +54,19 @@ public:
     const Rotonda& theRotonda() const { return *rotonda_; }
     /// Releases the project and makes a fresh one.
     void nuovaRotonda() {
-        theRamoCorrente = nullptr;
+        altroProgetto();
         rotonda_ = std::make_unique<Rotonda>(file, [this] { return giorno(); });
     }
     /// Replaces the content of the project from a file, as Rotonda::Load. If that succeeds no leg is the current one
     /// any more: the old ones are gone. If it fails, project and current leg stay.
     void caricaRotonda(const std::string& percorso, std::string& messaggio, bool& esito);
+    /// The project at hand becomes another one: its legs go.
+    void altroProgetto() {
+        theRamoCorrente = nullptr;
+        ++numeroProgetto_;
+    }
+    /// Tells projects apart: another one for each that was made or loaded while the program runs, whatever its name.
+    std::uint64_t numeroProgetto() const { return numeroProgetto_; }
     /// What a calculation would read beside the project at this moment.
     AmbienteCalcolo ambienteCalcolo() const {
         const std::int16_t notte = rotonda_->CondizioniNotturne() ? theAmbiente.PercentualeNotturna() : std::int16_t{0};
@@ -72,6 +80,7 @@ public:
 private:
     DataOra giorno() const;
     std::unique_ptr<Rotonda> rotonda_;
+    std::uint64_t numeroProgetto_ = 0;
 };
 
 }  // namespace kelvo

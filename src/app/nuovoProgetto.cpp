@@ -7,7 +7,7 @@ namespace kelvo {
 void creaProgetto(Applicazione& app, std::int16_t numeroRami) {
     Rotonda& rotonda = app.theRotonda();
     const Configurazione& configurazione = app.configurazione;
-    app.theRamoCorrente = nullptr;  // its project's legs go
+    app.altroProgetto();
     rotonda.Clear();
     rotonda.NumeroRami(numeroRami);
     for (int i = 1; i <= numeroRami; ++i) {

@@ -41,7 +41,7 @@ void Marker::azzera(int ingresso) {
         MarkerMassimo(ingresso, q) = 0.0;
         MarkerMinimo(ingresso, q) = 0.0;
     }
-    progetto[static_cast<std::size_t>(ingresso) - 1].clear();
+    progetto[static_cast<std::size_t>(ingresso) - 1] = {};
 }
 
 }  // namespace kelvo

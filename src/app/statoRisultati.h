@@ -48,8 +48,13 @@ struct Marker {
     TabellaMarker MarkerAttivo;   ///< 1 where the threshold is on, else 0
     TabellaMarker MarkerMassimo;  ///< what a value may not exceed; 0 for none
     TabellaMarker MarkerMinimo;   ///< what a value may not go below; 0 for none
-    /// Name of the project in which an entry's thresholds were set; empty for a project without a name.
-    std::array<std::string, TabellaMarker::ingressi> progetto{};
+    /// A project in which thresholds were set.
+    struct Progetto {
+        std::uint64_t numero = 0;  ///< see Applicazione::numeroProgetto
+        std::string nome{};        ///< its name at that moment; may be empty
+    };
+    /// By entry, 1 standing at 0.
+    std::array<Progetto, TabellaMarker::ingressi> progetto{};
 
     /// True if a threshold of an entry is on. Fault 9 for an entry without a row.
     bool attivi(int ingresso) const;

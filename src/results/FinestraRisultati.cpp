@@ -78,6 +78,7 @@ FinestraRisultati::FinestraRisultati(const Contorno& contorno, const ServiziRisu
     cmdCalcola.allaPressione = [this] { ctlToolbar.premi("keyCalcola"); };
     ctlInVigore.visibile(false);
     cmdInVigore.alClic = [this] { ctlInVigore.visibile(cmdInVigore.spuntata()); };
+    ctlInVigore.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlInVigore.colonna(1, {.allineamento = AllineamentoCella::sinistra, .aCapo = true});
     if (!servizi_.relazione) {
         ctlToolbar.abilita("keyRelazione", false);
@@ -157,6 +158,7 @@ void FinestraRisultati::simula() {
     } else if (tipo == "2") {
         motore_.Calcola_Tempo_Flusso_ST(flusso);
     }
+    fallita_ = !motore_.riuscita();
 }
 
 std::string FinestraRisultati::motivoVecchi() const {
@@ -178,7 +180,7 @@ std::string FinestraRisultati::motivoVecchi() const {
         case FormaCalcolo::corsiaDestra:
             return testi::ipotesi;
         case FormaCalcolo::piana:
-            return testi::datiCambiati;
+            return fallita_ ? testi::nonRiuscito : testi::datiCambiati;
         case FormaCalcolo::nessuna:
         case FormaCalcolo::bilanciamento:
             break;

@@ -39,6 +39,10 @@ public:
     void attivata() override { aggiornaNote(); }
     /// The window shows figures.
     bool conFigure() const { return timbro_.has_value(); }
+    /// The window shows figures, and no input of the project was changed since: what the project holds explains them.
+    bool figureDelProgetto() const {
+        return conFigure() && timbro_->revisione == app().theRotonda().revisione().calcolo;
+    }
 
 protected:
     /// A key of the tool bar was pressed: true if it may run. A window that says no has told the user why.
@@ -90,6 +94,7 @@ private:
     modCalcolo motore_;
     AnteprimaTesto anteprima_;
     std::optional<Timbro> timbro_;
+    bool fallita_ = false;  ///< the last calculation that the window asked for failed
 };
 
 }  // namespace kelvo

@@ -84,7 +84,7 @@ std::string frmCapacitaCodeRitardi::testoAnteprima() {
 }
 
 std::string frmCapacitaCodeRitardi::motivoFlussi() const {
-    return notaFlussi(app());
+    return figureDelProgetto() ? notaFlussi(app()) : std::string{};
 }
 
 void frmCapacitaCodeRitardi::altroTasto(const std::string& chiave) {

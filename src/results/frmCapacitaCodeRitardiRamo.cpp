@@ -15,10 +15,12 @@ namespace testi {
 constexpr const char* didascalia = "Risultati: Verifiche prestazionali";
 constexpr const char* legenda = "Premi tasto Dx del Mouse per visualizzare legenda valori e colori.";
 constexpr const char* valori = "Valori riassuntivi";
+constexpr const char* voceLegenda = "Legenda valori e colori";
 }  // namespace testi
 
 constexpr const char* chiaveVisualizza = "Visualizza";
 constexpr const char* chiaveAggiuntivi = "Aggiuntivi";
+constexpr const char* chiaveLegenda = "mnuXLegenda";
 constexpr const char* metodoGrafici = "frmCapacitaCodeRitardiRamo:DoTheChart";
 constexpr std::size_t graficoLOS = 4;
 constexpr int formaLinee = 0;
@@ -65,12 +67,14 @@ frmCapacitaCodeRitardiRamo::frmCapacitaCodeRitardiRamo(const Contorno& contorno,
                                    .testo = "Visualizza",
                                    .suggerimento = "Colora i valori oltre le soglie",
                                    .icona = "Visualizza",
-                                   .abilitato = false},
+                                   .abilitato = false,
+                                   .scorciatoia = "F8"},
                                   {.chiave = chiaveAggiuntivi,
                                    .testo = "Aggiuntivi",
                                    .suggerimento = "Apre i dati riassuntivi e le soglie dell'ingresso",
                                    .icona = "Aggiuntivi",
-                                   .abilitato = false}}),
+                                   .abilitato = false,
+                                   .scorciatoia = "F7"}}),
       ctlTab("ctlTab", titoliSchede()),
       lblLegenda("lblLegenda", testi::legenda, "GREY"),
       grafici{Grafico{std::string{graficiGrandezze[0].nome}}, Grafico{std::string{graficiGrandezze[1].nome}},
@@ -122,6 +126,12 @@ void frmCapacitaCodeRitardiRamo::collega() {
     ctlToolbar2.allaPressione = [this](const std::string& chiave) { premuto2(chiave); };
     ctlTab.alCambio = [this](int /*scheda*/) { mostraScheda(); };
     ctlGrid.alTastoDestro = [this](Posto /*posto*/) { mostraLegenda(); };
+    menuTabella.aggiungiMenu("mnuXTabella", {});
+    menuTabella.aggiungi({.padre = "mnuXTabella", .testo = testi::voceLegenda, .chiave = chiaveLegenda});
+    menuTabella.alClic = [this](const std::string& /*chiave*/) { mostraLegenda(); };
+    ctlGrid.menuContesto = &menuTabella;
+    ctlGrid.colonna(0, {.allineamento = AllineamentoCella::centro});
+    ctlGrid.colonna(colonnaLivello, {.allineamento = AllineamentoCella::centro});
     ctlGrid.ornamento = [this](Posto posto) { return ornamentoRamo(ctlGrid.tabella(), statistiche_, posto); };
     cmdMARKER.alClic = [this] { legenda.mostraColori(cmdMARKER.spuntata()); };
     chkValori.alClic = [this] { ridisegna(); };
@@ -135,6 +145,7 @@ void frmCapacitaCodeRitardiRamo::collega() {
 void frmCapacitaCodeRitardiRamo::attivata() {
     if (ritorno_) {
         ritorno_ = false;
+        primoFuoco();
         return;
     }
     const std::string chiave = navigazione().chiaveCorrente();
@@ -152,6 +163,16 @@ void frmCapacitaCodeRitardiRamo::attivata() {
     ctlToolbar2.abilita(chiaveVisualizza, false);
     ctlToolbar2.abilita(chiaveAggiuntivi, false);
     FinestraRisultati::attivata();
+    primoFuoco();
+}
+
+/// The keyboard starts where the work is: on the table or chart in view, or on the button that fills it.
+void frmCapacitaCodeRitardiRamo::primoFuoco() {
+    if (ctlTab.corrente() != 0) {
+        fuocoSu(grafici[static_cast<std::size_t>(ctlTab.corrente()) - 1]);
+    } else if (!fuocoSu(cmdCalcola)) {
+        fuocoSu(ctlGrid);
+    }
 }
 
 void frmCapacitaCodeRitardiRamo::nascosta() {
@@ -168,6 +189,9 @@ void frmCapacitaCodeRitardiRamo::svuota() {
 
 void frmCapacitaCodeRitardiRamo::mostraScheda() {
     const int scheda = ctlTab.corrente();
+    if (scheda != 0) {
+        servizi().finestre.chiudi(legenda);  // it tells the table
+    }
     ctlGrid.visibile(scheda == 0);
     lblLegenda.visibile(scheda == 0);
     for (Controllo* c : std::initializer_list<Controllo*>{&frVALORI, &lblMINIMO, &lblMASSIMO, &lblMEDIO}) {
@@ -238,7 +262,7 @@ std::string frmCapacitaCodeRitardiRamo::testoAnteprima() {
 }
 
 std::string frmCapacitaCodeRitardiRamo::motivoFlussi() const {
-    return notaFlussi(app(), indice_);
+    return figureDelProgetto() ? notaFlussi(app(), indice_) : std::string{};
 }
 
 void frmCapacitaCodeRitardiRamo::premuto2(const std::string& chiave) {
@@ -265,9 +289,10 @@ void frmCapacitaCodeRitardiRamo::Aggiuntivi() {
 }
 
 void frmCapacitaCodeRitardiRamo::tornato(bool visualizza) {
-    ctlToolbar2.abilita(chiaveVisualizza, visualizza);
     ritorno_ = true;
-    servizi().finestre.mostra(*this);
+    if (servizi().finestre.mostra(*this)) {
+        ctlToolbar2.abilita(chiaveVisualizza, visualizza);
+    }
     ritorno_ = false;
 }
 

@@ -9,6 +9,7 @@
 #include "results/frmRAMO_AGGIUNTIVA.h"
 #include "results/graficiRamo.h"
 #include "shell/servizi/Grafico.h"
+#include "shell/servizi/MenuChiavi.h"
 #include "shell/servizi/scelte.h"
 #include "shell/servizi/tBox.h"
 
@@ -36,7 +37,8 @@ public:
     BarraStrumenti ctlToolbar2;  ///< Visualizza, Aggiuntivi
     Schede ctlTab;               ///< table, four quantities, level of service
     Griglia ctlGrid{"ctlGrid"};
-    Etichetta lblLegenda;  ///< how to bring up the legend
+    MenuChiavi menuTabella{"menuTabella"};  ///< own entry of the table's menu: the legend
+    Etichetta lblLegenda;                   ///< how to bring up the legend
     std::array<Grafico, numeroGrafici> grafici;
     Riquadro frVALORI;
     Etichetta lblMINIMO;
@@ -80,6 +82,7 @@ private:
     void Aggiuntivi();
     void tornato(bool visualizza);
     void mostraLegenda();
+    void primoFuoco();
 
     std::int16_t indice_ = 0;
     bool ritorno_ = false;

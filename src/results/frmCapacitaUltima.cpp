@@ -1,5 +1,7 @@
 #include "results/frmCapacitaUltima.h"
 
+#include <utility>
+
 #include "base/guasto.h"
 #include "results/inVigore.h"
 
@@ -34,20 +36,29 @@ frmCapacitaUltima::frmCapacitaUltima(const Contorno& contorno, const ServiziRisu
         controlli.push_back(c);
     }
     ordina(controlli);
+    ctlHelp.pagina("CapacitaUltima.htm");
     ctlGrid.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlToolbar.abilita("keyRelazione", false);
     ctlToolbar.annota("keyRelazione", testi::senzaRelazione);
 }
 
 void frmCapacitaUltima::riempi() {
-    figureDi(rotonda().timbro());
-    tabella_.riempi(rotonda());
+    // The index of the last filling goes on in the next one; a filling that fails leaves everything as it was.
+    TabellaCapacitaUltima nuova = tabella_;
+    nuova.riempi(rotonda());
+    tabella_ = std::move(nuova);
     ctlGrid.tabella(tabella_.tabella());
+    figureDi(rotonda().timbro());
     ctlGrid.righeVisibili = ctlGrid.tabella().righe();
 }
 
 void frmCapacitaUltima::attivata() {
-    riempi();
+    try {
+        riempi();
+    } catch (const Guasto&) {
+        FinestraRisultati::attivata();  // what the table still shows is told to be old
+        throw;
+    }
     FinestraRisultati::attivata();
 }
 
@@ -65,7 +76,10 @@ void frmCapacitaUltima::anteprimaFallita(const Guasto& guasto) {
 }
 
 std::string frmCapacitaUltima::motivoVecchi() const {
-    const Timbro& timbro = app().theRotonda().timbro();
+    if (!conFigure()) {
+        return testi::maiCalcolate;
+    }
+    const Timbro& timbro = timbroFigure();
     switch (timbro.forma) {
         case FormaCalcolo::nessuna:
             return testi::maiCalcolate;

@@ -11,6 +11,8 @@ public:
     frmCapacitaUltima(const Contorno& contorno, const ServiziRisultati& servizi);
 
     Griglia ctlGrid{"ctlGrid"};
+    PannelloAiuto ctlHelp{"ctlHelp"};
+    PannelloAiuto* aiuto() override { return &ctlHelp; }
 
     /// Fills the table from what the legs hold, without a calculation.
     void attivata() override;

@@ -25,7 +25,9 @@ constexpr const char* coppia = "Attenzione! valore MASSIMO < valore MINIMO  ";
 constexpr const char* livelli = "Selezionare un LOS coerente!";
 constexpr const char* livelloMancante = "Attenzione! Selezionare un valore corretto per i livelli di servizio (L.O.S.)";
 constexpr const char* azzera = "Azzera soglie";
-constexpr const char* senzaNome = "un progetto senza nome";
+constexpr const char* inferiore = "Valore INFERIORE";
+constexpr const char* superiore = "Valore SUPERIORE";
+constexpr const char* senzaSoglie = "Questo ingresso non può avere soglie: sono previste per gli ingressi da 1 a {}.";
 }  // namespace testi
 
 constexpr std::size_t postoLivello = 5;
@@ -46,26 +48,31 @@ std::string testoLimiti(double minimo, double massimo) {
     return ": MINIMO = " + testoNumero(minimo) + "; MASSIMO = " + testoNumero(massimo);
 }
 
-std::string nomeProgetto(const std::string& nome) {
-    return nome.empty() ? testi::senzaNome : "\"" + nome + "\"";
+/// Tells in which project thresholds were set: the one at hand or another one.
+std::string testoProgetto(const std::string& nome, bool altro) {
+    if (nome.empty()) {
+        return altro ? "Soglie impostate in un altro progetto, senza nome." : "Soglie impostate in questo progetto.";
+    }
+    return fmt::format("Soglie impostate in {}\"{}\".", altro ? "un altro progetto: " : "", nome);
 }
 
 }  // namespace
 
 const std::array<VoceSoglia, 6> vociSoglia{{
     {"chFLUSSO", "txtvalMIN1", "txtvalMAX1", "Flusso [veic./min]", "#0.00", "Attenzione! valori ammessi per il FLUSSO",
-     "Attenzione! valore MASSIMO FLUSSO non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO FLUSSO non coerente con valore MINIMO", "SogliaFlusso.htm"},
     {"chCAPACITA", "txtvalMIN2", "txtvalMAX2", "Capacità [veic./h]", "#0.00",
      "Attenzione! valori ammessi per la CAPACITA'",
-     "Attenzione! valore MASSIMO CAPACITA non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO CAPACITA non coerente con valore MINIMO", "SogliaCapacita.htm"},
     {"chSATURAZIONE", "txtvalMIN3", "txtvalMAX3", "Coeff. Saturazione", "#0.000",
      "Attenzione! valori ammessi per il COEFF. SATURAZIONE",
-     "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO non coerente con valore MINIMO", "SogliaSaturazione.htm"},
     {"chCODA", "txtvalMIN4", "txtvalMAX4", "Coda  [veic.]", "#0.0", "Attenzione! valori ammessi per la CODA",
-     "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
+     "Attenzione! valore MASSIMO non coerente con valore MINIMO", "SogliaCoda.htm"},
     {"chRITARDO", "txtvalMIN5", "txtvalMAX5", "Ritardo [sec./veic.]", "#0.0",
-     "Attenzione! valori ammessi per il RITARDO", "Attenzione! valore MASSIMO non coerente con valore MINIMO"},
-    {"chLOS", "comboLOSmin", "comboLOSmax", "L.O.S.", "#0", "", ""},
+     "Attenzione! valori ammessi per il RITARDO", "Attenzione! valore MASSIMO non coerente con valore MINIMO",
+     "SogliaRitardo.htm"},
+    {"chLOS", "comboLOSmin", "comboLOSmax", "L.O.S.", "#0", "", "", "SogliaLivello.htm"},
 }};
 
 frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRisultati& servizi)
@@ -78,22 +85,27 @@ frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRi
                                 {.chiave = "Ritorno",
                                  .testo = "Ritorno",
                                  .suggerimento = "Registra le soglie e torna ai risultati dell'ingresso",
-                                 .icona = "Ritorno"}}),
+                                 .icona = "Ritorno",
+                                 .scorciatoia = "Ctrl+Enter"}}),
       frRIASSUNTO("frRIASSUNTO", testi::didascalia, {&ctlGRID1, &lblMinLOS, &txtminLOS, &lblMaxLOS, &txtmaxLOS}),
       lblMinLOS("lblMinLOS", "L.O.S. minimo"),
       lblMaxLOS("lblMaxLOS", "L.O.S. massimo"),
       frMARKER("frMARKER", testi::marker, {}),
+      lblInferiore("lblInferiore", testi::inferiore, "GREY"),
+      lblSuperiore("lblSuperiore", testi::superiore, "GREY"),
       soglie(creaSoglie(std::make_index_sequence<6>())),
       cmdAzzera("cmdAzzera", testi::azzera),
       servizi_(servizi),
       anteprima_(contorno, servizi_.finestre, servizi_.documenti) {
-    std::vector<Controllo*> controlli{&frRIASSUNTO, &ctlGRID1,  &lblMinLOS, &txtminLOS,
-                                      &lblMaxLOS,   &txtmaxLOS, &frMARKER};
+    std::vector<Controllo*> controlli{&frRIASSUNTO, &ctlGRID1, &lblMinLOS,    &txtminLOS,   &lblMaxLOS,
+                                      &txtmaxLOS,   &frMARKER, &lblInferiore, &lblSuperiore};
     for (Soglia& soglia : soglie) {
         controlli.insert(controlli.end(), {&soglia.spunta, &soglia.minimo, &soglia.massimo});
     }
     controlli.insert(controlli.end(), {&lblProgetto, &cmdAzzera, &lblSenzaSoglie});
     ordina(controlli);
+    txtminLOS.paginaAiuto = "LivelloMinimo.htm";
+    txtmaxLOS.paginaAiuto = "LivelloMassimo.htm";
     txtminLOS.solaLettura(true);
     txtmaxLOS.solaLettura(true);
     ctlToolbar.allaPressione = [this](const std::string& chiave) { premuto(chiave); };
@@ -111,6 +123,7 @@ frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRi
             }
         }
     });
+    ctlGRID1.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlGRID1.ornamento = [this](Posto posto) {
         OrnamentoCella ornamento;
         const std::string& testo = ctlGRID1.testo(posto.riga, posto.colonna);
@@ -127,6 +140,8 @@ frmRAMO_AGGIUNTIVA::~frmRAMO_AGGIUNTIVA() {
 
 void frmRAMO_AGGIUNTIVA::collega(std::size_t posto) {
     Soglia& soglia = soglie[posto];
+    soglia.minimo.paginaAiuto = vociSoglia[posto].pagina;
+    soglia.massimo.paginaAiuto = vociSoglia[posto].pagina;
     soglia.spunta.alClic = [this] { abilita(); };
     if (posto == postoLivello) {
         std::vector<std::string> voci(livelliServizio.begin(), livelliServizio.end());
@@ -137,6 +152,7 @@ void frmRAMO_AGGIUNTIVA::collega(std::size_t posto) {
     }
     for (tBox* campo : {&soglia.minimo, &soglia.massimo}) {
         campo->caratteriAmmessi = cifre;
+        campo->tuttoONiente = true;
         campo->nomeCampo = vociSoglia[posto].etichetta;
         campo->controllo = [campo] {
             return leggiNumero(campo->testo())
@@ -149,12 +165,13 @@ void frmRAMO_AGGIUNTIVA::collega(std::size_t posto) {
 
 void frmRAMO_AGGIUNTIVA::attivata() {
     sottotitolo.testo(ramo().Descrizione());
+    ctlHelp.pagina("DatiRiassuntivi.htm");
     riempiRiassunto();
     frRIASSUNTO.mostraContenuto(apertura_.riassunto || !apertura_.marker);
     try {
         leggiSoglie();
     } catch (const Guasto& guasto) {
-        chiudiSoglie(guasto.descrizione());
+        chiudiSoglie();
         // Whoever did not ask for thresholds is not stopped by a box.
         app().comune.erroreLog(guasto.codice(), metodoApertura, guasto.descrizione(), apertura_.marker);
     }
@@ -190,7 +207,8 @@ void frmRAMO_AGGIUNTIVA::leggiSoglie() {
     mostraProgetto();
 }
 
-void frmRAMO_AGGIUNTIVA::chiudiSoglie(const std::string& motivo) {
+void frmRAMO_AGGIUNTIVA::chiudiSoglie() {
+    frRIASSUNTO.mostraContenuto(true);
     for (Soglia& soglia : soglie) {
         soglia.spunta.spuntata(false);
         soglia.spunta.abilitato(false);
@@ -200,7 +218,7 @@ void frmRAMO_AGGIUNTIVA::chiudiSoglie(const std::string& motivo) {
     abilita();
     lblProgetto.visibile(false);
     cmdAzzera.visibile(false);
-    lblSenzaSoglie.testo("Questo ingresso non può avere soglie: " + motivo + ".");
+    lblSenzaSoglie.testo(fmt::format(testi::senzaSoglie, TabellaMarker::ingressi));
     lblSenzaSoglie.visibile(apertura_.marker);
 }
 
@@ -224,11 +242,11 @@ void frmRAMO_AGGIUNTIVA::abilita() {
 void frmRAMO_AGGIUNTIVA::mostraProgetto() {
     const Marker& m = app().risultati.marker;
     const bool attivi = m.attivi(apertura_.ramo);
-    const std::string& nome = m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1];
-    const bool altro = nome != app().theRotonda().NomeFile();
-    lblProgetto.testo(
-        !attivi ? std::string{}
-                : fmt::format("Soglie impostate in {}{}.", altro ? "un altro progetto: " : "", nomeProgetto(nome)));
+    const Marker::Progetto& progetto = m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1];
+    const bool altro = progetto.numero != app().numeroProgetto();
+    // A project that was given another name since is still the same one.
+    lblProgetto.testo(attivi ? testoProgetto(altro ? progetto.nome : app().theRotonda().NomeFile(), altro)
+                             : std::string{});
     lblProgetto.visibile(attivi && apertura_.marker);
     cmdAzzera.visibile(apertura_.marker);
     cmdAzzera.abilitato(attivi);
@@ -340,7 +358,7 @@ void frmRAMO_AGGIUNTIVA::registra() {
         m.MarkerMassimo(apertura_.ramo, q) = sopra;
         m.MarkerMinimo(apertura_.ramo, q) = sotto;
     }
-    m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1] = rotonda().NomeFile();
+    m.progetto[static_cast<std::size_t>(apertura_.ramo) - 1] = {app().numeroProgetto(), rotonda().NomeFile()};
 }
 
 void frmRAMO_AGGIUNTIVA::torna(bool visualizza) {
@@ -364,6 +382,7 @@ void frmRAMO_AGGIUNTIVA::premuto(const std::string& chiave) {
     if (!lasciaFuoco()) {
         return;
     }
+    cornice().avviso({});
     if (chiave == "Anteprima") {
         anteprima();
         return;

@@ -40,12 +40,17 @@ public:
     Etichetta lblMaxLOS;
     tBox txtmaxLOS{"txtmaxLOS", tBox::textbox};  ///< level of the largest one, read-only
     Riquadro frMARKER;
+    Etichetta lblInferiore;  ///< over the lower values
+    Etichetta lblSuperiore;  ///< over the upper values
     std::array<Soglia, 6> soglie;
     /// In which project the thresholds were set; hidden while none is on.
     Etichetta lblProgetto{"lblProgetto"};
     Bottone cmdAzzera;  ///< takes the thresholds of the entry away
     /// Tells that the entry has no thresholds, and why; else hidden.
     Etichetta lblSenzaSoglie{"lblSenzaSoglie", {}, "ROSSO"};
+
+    PannelloAiuto ctlHelp{"ctlHelp"};
+    PannelloAiuto* aiuto() override { return &ctlHelp; }
 
     /// What the window is opened for.
     struct Apertura {
@@ -68,7 +73,7 @@ private:
     const Ramo& ramo() const { return app().theRotonda().Ramo(apertura_.ramo); }
     void riempiRiassunto();
     void leggiSoglie();
-    void chiudiSoglie(const std::string& motivo);
+    void chiudiSoglie();
     void abilita();
     void mostraProgetto();
     void collega(std::size_t posto);
@@ -108,6 +113,7 @@ struct VoceSoglia {
     Formato formato = "#0";            ///< of its values; the level of service has none
     std::string_view fuoriIntervallo;  ///< how its range is told when going back
     std::string_view incoerente;       ///< what is told there of an upper value below the lower one
+    std::string_view pagina;           ///< of the help pane
 };
 
 /// The quantities in their order.

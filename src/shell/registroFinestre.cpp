@@ -11,6 +11,7 @@
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
+#include "results/frmCapacitaCodeRitardiRamo.h"
 #include "results/frmCapacitaUltima.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
@@ -61,6 +62,7 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
                                                   frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});
     });
     finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi));
+    finestre.registra("frmCapacitaCodeRitardiRamo", creaRisultati<frmCapacitaCodeRitardiRamo>(servizi));
 }
 
 }  // namespace kelvo

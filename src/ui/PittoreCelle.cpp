@@ -127,8 +127,11 @@ int PittoreCelle::lato(Posto cella, int larghezza) const {
     if (cella.riga >= griglia_.righeFisse()) {
         return comodo;
     }
-    // A heading that fits with the narrow margins alone is not cut for the wide ones.
-    return this->larghezza(cella) + 2 * (comodo - margineStretto) <= larghezza ? comodo : margineStretto;
+    // A heading that fits, or stands in one line, with the narrow margins alone is not cut for the wide ones.
+    const int intera = faccia(cella).metrica.horizontalAdvance(testo(cella)) + 1;
+    const bool soloStretta = intera + 2 * margineStretto <= larghezza && intera + 2 * comodo > larghezza;
+    const bool basta = this->larghezza(cella) + 2 * (comodo - margineStretto) <= larghezza;
+    return basta && !soloStretta ? comodo : margineStretto;
 }
 
 int PittoreCelle::altezza(Posto cella, int larghezza) const {

@@ -79,6 +79,8 @@ public:
     Forma forma() const { return forma_; }
     /// The dialogue has no frame of the system.
     virtual bool senzaCornice() const { return false; }
+    /// The user may size the dialogue.
+    virtual bool ridimensionabile() const { return false; }
     /// Puts the keyboard on the control that has the focus of the window, else on the first one of the tab order.
     void fuocoIniziale();
     /// Puts the keyboard on a control, all its text selected.

@@ -75,6 +75,10 @@ QPushButton:default:hover { background: {principaleScuro}; }
 QPushButton:default:pressed { background: {principalePremuto}; }
 QPushButton:default:focus { border: 2px solid {principalePremuto}; }
 QPushButton:disabled { color: {spento}; border-color: {bordoSpento}; background: {fondo}; }
+QPushButton[aSinistra="true"] { text-align: left; padding: 0px 14px; }
+QPushButton[aSinistra="true"]:focus { padding: 0px 13px; }
+QPushButton[basso="true"] { min-height: 22px; padding: 0px 10px; }
+QPushButton[basso="true"]:focus { min-height: 20px; padding: 0px 9px; }
 QCheckBox, QRadioButton { border: 2px solid transparent; border-radius: 2px; padding: 0px 4px; spacing: 8px; }
 QCheckBox:focus, QRadioButton:focus { border-color: {principale}; }
 QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid {bordoCampo}; border-radius: 2px; background: white; }
@@ -111,7 +115,8 @@ QToolBar QToolButton:hover { background: {principaleScuro}; }
 QToolBar QToolButton:pressed { background: {principalePremuto}; }
 QToolBar QToolButton:focus { border: 2px solid white; } QToolBar QToolButton:disabled { color: {spentoSuBlu}; }
 QToolBar QToolButton:checked { background: white; color: {principale}; }
-QToolBar[chiara="true"] { background: {barra}; border-bottom: 1px solid {bordo}; padding: 0px 8px; }
+QFrame#secondaFascia { background: {barra}; border: none; border-bottom: 1px solid {bordo}; }
+QToolBar[chiara="true"] { background: {barra}; padding: 0px; }
 QToolBar[chiara="true"] QToolButton { color: {inchiostro}; }
 QToolBar[chiara="true"] QToolButton:hover { background: {sfiorato}; }
 QToolBar[chiara="true"] QToolButton:pressed { background: {scelto}; }
@@ -253,6 +258,13 @@ QFont dati(double punti) {
 
 QFont forte(double punti) {
     return famiglie({famigliaForteSistema, "Open Sans Semibold", "Open Sans SemiBold", "Open Sans"}, punti);
+}
+
+QFont fisso(double punti) {
+    QFont carattere = famiglie({"Consolas", "Liberation Mono", "DejaVu Sans Mono", "Courier New"}, punti);
+    carattere.setStyleHint(QFont::Monospace);
+    carattere.setFixedPitch(true);
+    return carattere;
 }
 
 void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri) {

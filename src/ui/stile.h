@@ -48,6 +48,7 @@ inline constexpr int colonnaMatrice = 548;    ///< of the matrix with its totals
 inline constexpr int anteprimaMatrice = 220;  ///< height of a matrix beside the files of a dialogue
 inline constexpr int elenco = 376;            ///< least width of a list with columns
 inline constexpr int campoCorto = 96;         ///< field of a number or a time
+inline constexpr int campoValore = 84;        ///< of a figure that is only shown
 inline constexpr int campoBreve = 68;         ///< of a number of few digits
 inline constexpr int aiuto = 112;             ///< text of the help pane
 inline constexpr int paginaSola = 92;         ///< the same without a picture
@@ -93,6 +94,8 @@ QColor qcolore(Colore colore);
 QFont leggero(double punti);
 QFont dati(double punti);
 QFont forte(double punti);
+/// Letters of one width.
+QFont fisso(double punti);
 
 /// Loads the faces from the program's folder or the system and dresses the application.
 void applicaStile(QApplication& applicazione, const QString& cartellaCaratteri);

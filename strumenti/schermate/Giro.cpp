@@ -146,6 +146,7 @@ void Giro::finestre(const std::string& progetto) {
             fatte.insert(nome);
             mostrate_.insert(nome);
             fotografo_.scatta(vista_, nome + "-" + progetto);
+            calcolata(*cornice_.finestre.viva(nome), nome + "-" + progetto);
         }
     }
 }

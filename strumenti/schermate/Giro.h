@@ -15,6 +15,11 @@
 #include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
 
+namespace kelvo {
+class FinestraRisultati;
+class frmCapacitaCodeRitardiRamo;
+}  // namespace kelvo
+
 namespace kelvo::schermate {
 
 /// The round through the program: every window, dialogue and message, each in a picture of its own.
@@ -32,6 +37,10 @@ private:
     void messaggi();
     std::string progetto(const std::string& percorso, bool primo);
     void finestre(const std::string& progetto);
+    /// A result window with its figures, after its first picture.
+    void calcolata(Finestra& finestra, const std::string& nome);
+    void ingressoCalcolato(frmCapacitaCodeRitardiRamo& finestra, const std::string& nome);
+    void anteprimaTesto(FinestraRisultati& finestra, const std::string& nome);
     void disposizioniAlbero();
     void menu();
     void campoRifiutato();

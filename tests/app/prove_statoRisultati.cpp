@@ -49,17 +49,18 @@ TEST(StatoRisultati, ThresholdsOfOneEntryGoAlone) {
     marker.MarkerMassimo(2, 6) = 20.0;
     marker.MarkerMinimo(2, 1) = 3.0;
     marker.MarkerAttivo(3, 1) = 1.0;
-    marker.progetto[1] = "uno";
-    marker.progetto[2] = "due";
+    marker.progetto[1] = {3, "uno"};
+    marker.progetto[2] = {4, "due"};
     EXPECT_FALSE(marker.attivi(1));
     EXPECT_TRUE(marker.attivi(2));
     marker.azzera(2);
     EXPECT_FALSE(marker.attivi(2));
     EXPECT_EQ(marker.MarkerMassimo(2, 6), 0.0);
     EXPECT_EQ(marker.MarkerMinimo(2, 1), 0.0);
-    EXPECT_EQ(marker.progetto[1], "");
+    EXPECT_EQ(marker.progetto[1].nome, "");
+    EXPECT_EQ(marker.progetto[1].numero, 0U);
     EXPECT_TRUE(marker.attivi(3));
-    EXPECT_EQ(marker.progetto[2], "due");
+    EXPECT_EQ(marker.progetto[2].nome, "due");
 }
 
 TEST(AmbienteCalcolo, FiguresAreOlderThanAChangedNightPercentageWhileNightConditionsAreOn) {

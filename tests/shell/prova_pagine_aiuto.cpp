@@ -63,6 +63,29 @@ TEST(PagineAiuto, EveryPageThatAFieldNamesStandsAndSaysSomething) {
     }
 }
 
+TEST(PagineAiuto, EveryPageThatAPaneBeginsWithStandsAndSaysSomething) {
+    ScenaFinestre scena;
+    shell::ServiziFinestreFinti servizi;
+    FabbricaFinestre finestre;
+    registraFinestre(finestre, servizi.servizi());
+    int proprie = 0;
+    for (const std::string& nome : finestre.nomi()) {
+        const PannelloAiuto* aiuto = finestre.finestra(nome, scena.contorno()).aiuto();
+        if (aiuto != nullptr && aiuto->pagina() != paginaAiutoVuota) {
+            ++proprie;
+            ASSERT_TRUE(fs::exists(cartellaPagine + aiuto->pagina())) << nome;
+            EXPECT_GT(testoVisibile(contenuto(cartellaPagine + aiuto->pagina())).size(), 40U) << nome;
+        }
+    }
+    EXPECT_GE(proprie, 1);
+    for (const char* aperta :
+         {"DatiRiassuntivi.htm", "SogliaFlusso.htm", "SogliaCapacita.htm", "SogliaSaturazione.htm", "SogliaCoda.htm",
+          "SogliaRitardo.htm", "SogliaLivello.htm", "LivelloMinimo.htm", "LivelloMassimo.htm"}) {
+        ASSERT_TRUE(fs::exists(cartellaPagine + aperta)) << aperta;
+        EXPECT_GT(testoVisibile(contenuto(cartellaPagine + aperta)).size(), 40U) << aperta;
+    }
+}
+
 TEST(PagineAiuto, TheBlankPageStandsAndIsBlank) {
     const std::string vuota = cartellaPagine + std::string{paginaAiutoVuota};
     ASSERT_TRUE(fs::exists(vuota));

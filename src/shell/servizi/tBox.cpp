@@ -184,6 +184,10 @@ void tBox::scrivi(std::string_view testo) {
         return;
     }
     const std::string nuovo = filtrato(testo);
+    if (tuttoONiente && nuovo != testo) {
+        cambiato().emit();  // the view shows again what stands there
+        return;
+    }
     const bool unTasto = nuovo.size() == testo_.size() + 1;
     if (unaVirgola && unTasto && std::count(testo_.begin(), testo_.end(), ',') == 1 &&
         std::count(nuovo.begin(), nuovo.end(), ',') == 2) {

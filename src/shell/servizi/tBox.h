@@ -72,6 +72,9 @@ public:
     /// The key of a second comma is passed over. A pasted text stays as it is: without one of its commas it would be
     /// another number.
     bool unaVirgola = false;
+    /// A key or a pasted text with a character that the field does not take changes nothing, instead of falling out: no
+    /// figure loses a sign in silence.
+    bool tuttoONiente = false;
     /// Words of the box that comes up when the rules of the tag refuse the text; empty for none.
     std::string rifiuto;
     /// What the field is called in the status bar when it refuses; empty for nothing.

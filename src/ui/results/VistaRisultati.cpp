@@ -2,6 +2,7 @@
 
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
@@ -121,8 +122,22 @@ QVBoxLayout* VistaRisultati::lato() {
 }
 
 void VistaRisultati::secondaBarra(BarraStrumenti& barra) {
-    QToolBar* striscia = collega(barra, this, misura::icona, true, FondoBarra::chiaro);
+    auto* striscia = new QFrame(this);
+    striscia->setObjectName(QStringLiteral("secondaFascia"));
     striscia->setFixedHeight(misura::barraSeconda);
+    auto* riga = new QHBoxLayout(striscia);
+    riga->setContentsMargins(misura::spazio, 0, misura::spazio, 0);
+    QToolBar* strumenti = collega(barra, striscia, misura::icona, true, FondoBarra::chiaro);
+    strumenti->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    riga->addWidget(strumenti);
+    riga->addStretch(1);
+    for (const BarraStrumenti::Tasto& tasto : barra.tasti()) {
+        if (!tasto.scorciatoia.empty()) {
+            auto* scorciatoia = new QShortcut(QKeySequence(q(tasto.scorciatoia)), this);
+            QObject::connect(scorciatoia, &QShortcut::activated, this,
+                             [&barra, chiave = tasto.chiave] { barra.premi(chiave); });
+        }
+    }
     qobject_cast<QVBoxLayout*>(layout())->insertWidget(1, striscia);
 }
 
@@ -155,7 +170,13 @@ QWidget* VistaRisultati::piede() {
     auto* riga = new QHBoxLayout(piede);
     riga->setContentsMargins(0, 0, 0, 0);
     riga->setSpacing(misura::spazioStretto);
-    riga->addWidget(collega(f_.cmdInVigore, piede));
+    const auto basso = [](QAbstractButton* bottone) {
+        bottone->setProperty("basso", true);
+        bottone->setFixedHeight(misura::rigaAlbero);
+        bottone->setFont(dati(punti::nota));
+        return bottone;
+    };
+    riga->addWidget(basso(collega(f_.cmdInVigore, piede)));
     auto* inVigore = new RigaTagliata(piede);
     inVigore->setFont(dati(punti::nota));
     inVigore->setProperty("quieta", true);
@@ -165,7 +186,7 @@ QWidget* VistaRisultati::piede() {
         inVigore->setToolTip(inVigore->text());
     });
     riga->addWidget(inVigore, 1);
-    QAbstractButton* bottone = collega(f_.cmdDati, piede);
+    QAbstractButton* bottone = basso(collega(f_.cmdDati, piede));
     f_.cmdDati.allaPressione = [this, bottone] {
         if (MenuChiavi* menu = f_.menuDati()) {
             mostraContesto(*menu, *bottone, bottone->rect().bottomLeft());

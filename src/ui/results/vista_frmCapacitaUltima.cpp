@@ -1,6 +1,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "results/frmCapacitaUltima.h"
+#include "ui/RiquadroAiuto.h"
 #include "ui/VistaGriglia.h"
 #include "ui/results/VistaRisultati.h"
 #include "ui/shell/viste.h"
@@ -13,6 +14,11 @@ class Vista final : public VistaRisultati {
 public:
     Vista(frmCapacitaUltima& f, QWidget* genitore) : VistaRisultati(f, genitore) {
         figure()->addWidget(tabella(f.ctlGrid, corpo()), 1);
+        auto* aiuto = new RiquadroAiuto(f.ctlHelp, QStringLiteral("Che cosa si legge"), corpo());
+        aiuto->soloPagina();
+        aiuto->setMinimumWidth(0);
+        constexpr int tutto = 100;  // of the height
+        lato()->addWidget(aiuto, tutto);
         chiudi();
     }
 };

@@ -78,6 +78,13 @@ VistaAlbero::~VistaAlbero() {
     legame_.disconnect();
 }
 
+bool VistaAlbero::conNodoAperto(const Albero::Nodo& nodo) const {
+    return std::any_of(nodo.figli.begin(), nodo.figli.end(), [this](const std::string& chiave) {
+        const Albero::Nodo& figlio = logica_.ctlTree.nodo(chiave);
+        return figlio.ForeColor == logica_.nodiDisabilitati.ColoreAbilitato() || conNodoAperto(figlio);
+    });
+}
+
 void VistaAlbero::aggiungi(const std::string& chiave, QTreeWidgetItem* padre) {
     const Albero::Nodo& nodo = logica_.ctlTree.nodo(chiave);
     auto* riga = padre == nullptr ? new QTreeWidgetItem(this) : new QTreeWidgetItem(padre);
@@ -88,7 +95,13 @@ void VistaAlbero::aggiungi(const std::string& chiave, QTreeWidgetItem* padre) {
     const bool aperto = nodo.ForeColor == logica_.nodiDisabilitati.ColoreAbilitato();
     riga->setForeground(0, qcolore(aperto ? tinta::inchiostro : nodo.ForeColor));
     if (!aperto) {
-        riga->setFlags(riga->flags() & ~Qt::ItemIsEnabled & ~Qt::ItemIsSelectable);
+        // The toolkit closes what stands below a closed row: one with an open row below it only looks closed.
+        const bool tutto = !conNodoAperto(nodo);
+        riga->setFlags(riga->flags() & ~Qt::ItemIsSelectable & ~(tutto ? Qt::ItemIsEnabled : Qt::NoItemFlags));
+        if (!tutto) {
+            const QSize lato(misura::icona, misura::icona);
+            riga->setIcon(0, QIcon(riga->icon(0).pixmap(lato, devicePixelRatioF(), QIcon::Disabled)));
+        }
     }
     for (const std::string& figlio : nodo.figli) {
         aggiungi(figlio, riga);

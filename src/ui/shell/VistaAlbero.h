@@ -37,6 +37,7 @@ protected:
 private:
     void prenota();
     void aggiorna();
+    bool conNodoAperto(const Albero::Nodo& nodo) const;
     void aggiungi(const std::string& chiave, QTreeWidgetItem* padre);
     void scegli(QTreeWidgetItem* nodo);
     void aperto(QTreeWidgetItem* nodo, bool valore);

@@ -312,7 +312,7 @@ void VistaMDI_Form::apriSopra(Finestra& finestra) {
     if (contenuto->senzaCornice()) {
         dialogo->setWindowFlag(Qt::FramelessWindowHint);
     }
-    if (contenuto->forma() == VistaFinestra::Forma::dialogo) {
+    if (contenuto->forma() == VistaFinestra::Forma::dialogo && !contenuto->ridimensionabile()) {
         piano->setSizeConstraint(QLayout::SetFixedSize);
     }
     sopra_[&finestra] = dialogo;

@@ -35,6 +35,10 @@ constexpr std::array viste{
     VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
     VoceVista{"frmCapacitaUltima", vista_frmCapacitaUltima},
+    VoceVista{"frmCapacitaCodeRitardiRamo", vista_frmCapacitaCodeRitardiRamo},
+    VoceVista{"frmLEGENDA", vista_frmLEGENDA},
+    VoceVista{"frmRAMO_AGGIUNTIVA", vista_frmRAMO_AGGIUNTIVA},
+    VoceVista{"frmAnteprimaTesto", vista_frmAnteprimaTesto},
 };
 
 }  // namespace

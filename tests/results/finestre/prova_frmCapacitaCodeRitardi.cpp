@@ -161,6 +161,29 @@ TEST_F(ProveVerifiche, FiguresOfOtherFormsAreTold) {
     EXPECT_EQ(nota(FormaCalcolo::bilanciamento), "Il calcolo non è riuscito: le cifre non sono quelle del progetto.");
 }
 
+TEST_F(ProveVerifiche, AFailedCalculationIsNotToldAsOlderData) {
+    apriVerifiche();
+    calcola();
+    ramo(1).RaggioIngresso(0.0F);
+    calcola();
+    EXPECT_EQ(finestra.lblVecchi.testo(), "Il calcolo non è riuscito: le cifre non sono quelle del progetto.");
+    ramo(1).RaggioIngresso(20.0F);
+    calcola();
+    EXPECT_FALSE(finestra.lblVecchi.visibile());
+}
+
+TEST_F(ProveVerifiche, FiguresOfOtherDataAreNotExplainedByTheDataAtHand) {
+    apriVerifiche();
+    calcola();
+    ASSERT_EQ(finestra.ctlGrid.testo(2, 1).find("0,00"), std::string::npos);
+    for (int i = 1; i <= 3; ++i) {
+        ramo(i).theDatiTraffico().NumSegmentiTempo(6);
+    }
+    apriVerifiche();
+    EXPECT_FALSE(finestra.lblFlussi.visibile()) << "the table still shows flows";
+    EXPECT_TRUE(finestra.lblVecchi.visibile());
+}
+
 TEST_F(ProveVerifiche, ShowsWhatIsInForceAndWarnsOfANightWithoutIncidence) {
     r().CondizioniNotturne(true);
     apriVerifiche();

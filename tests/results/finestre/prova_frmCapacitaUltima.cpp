@@ -73,16 +73,32 @@ TEST_F(ProveCapacitaUltima, TellsHowOldTheCapacitiesAre) {
               "Calcola (F9).");
     for (const FormaCalcolo forma : {FormaCalcolo::piana, FormaCalcolo::corsiaDestra, FormaCalcolo::bilanciamento}) {
         r().timbra(forma);
-        finestra.aggiornaNote();
+        apriUltima();
         EXPECT_FALSE(finestra.lblVecchi.visibile());
     }
     for (const FormaCalcolo forma : {FormaCalcolo::ipotesi, FormaCalcolo::interrotta}) {
         r().timbra(forma);
-        finestra.aggiornaNote();
+        apriUltima();
         EXPECT_EQ(finestra.lblVecchi.testo(),
                   "L'ultimo calcolo è di un'ipotesi o si è interrotto: le capacità possono non essere quelle del "
                   "progetto. Premere Calcola (F9).");
     }
+}
+
+TEST_F(ProveCapacitaUltima, AFillingThatFailsLeavesTheFiguresTheirTextAndTheirAge) {
+    apriUltima();
+    finestra.ctlToolbar.premi("keyCalcola");
+    const std::string primo = finestra.ctlGrid.testo(1, 1);
+    ramo(1).LarghezzaIngresso(9.0F);
+    ramo(1).CapacitaUltima(1e39);
+    EXPECT_FALSE(gestione.corrente() == nullptr);
+    apriUltima();
+    ASSERT_FALSE(messaggi.mostrati.empty());
+    EXPECT_NE(messaggi.mostrati.back().testo.find("Overflow"), std::string::npos);
+    EXPECT_EQ(finestra.ctlGrid.testo(1, 1), primo);
+    EXPECT_TRUE(finestra.lblVecchi.visibile());
+    finestra.ctlToolbar.premi("keyAnteprima");
+    EXPECT_NE(file("Risultati.txt").find(primo), std::string::npos);
 }
 
 TEST_F(ProveCapacitaUltima, TellsWhyThereAreNoFlows) {

@@ -151,8 +151,13 @@ TEST_F(ProveAggiuntiva, DigitsAndTheCommaPassAndOnlyNumbersCanBeLeft) {
     conFigure(1);
     apriAggiuntiva();
     s(2).spunta.clicca();
-    s(2).minimo.scrivi("6-00.,5a0 ");
+    s(2).minimo.scrivi("600,50");
     EXPECT_EQ(s(2).minimo.testo(), "600,50");
+    // A key that is not taken changes nothing, nor does a pasted text: without its point it would be another figure.
+    for (const char* testo : {"600,5.0", "600,50a", "0.85", "-1", " 12", "."}) {
+        s(2).minimo.scrivi(testo);
+        EXPECT_EQ(s(2).minimo.testo(), "600,50") << testo;
+    }
     for (const char* testo : {"", ",", "1,2,3"}) {
         messaggi.mostrati.clear();
         EXPECT_FALSE(scrivi(s(2).minimo, testo)) << testo;
@@ -424,11 +429,16 @@ TEST_F(ProveAggiuntiva, TellsInWhichProjectTheThresholdsWereSetAndTakesThemAway)
     EXPECT_TRUE(a.lblProgetto.visibile());
     EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in \"Nodo nord\".");
     ritorno();
+    r().NomeFile("Nodo nord bis");
+    apriAggiuntiva(true);
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in \"Nodo nord bis\".") << "the same project under another name";
+    ritorno();
     progetto(3);
+    r().NomeFile("Nodo nord");
     r().TipoAnalisi(0);
     conFigure(1);
     apriAggiuntiva(true);
-    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un altro progetto: \"Nodo nord\".");
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un altro progetto: \"Nodo nord bis\".");
     EXPECT_TRUE(s(1).spunta.spuntata()) << "they last as long as the program runs";
     EXPECT_EQ(a.cmdAzzera.testo(), "Azzera soglie");
     a.cmdAzzera.premi();
@@ -440,7 +450,37 @@ TEST_F(ProveAggiuntiva, TellsInWhichProjectTheThresholdsWereSetAndTakesThemAway)
     soglia(1, "3", "7");
     ritorno();
     apriAggiuntiva(true);
-    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un progetto senza nome.");
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in \"Nodo nord\".");
+    ritorno();
+    progetto(3);
+    r().NomeFile("Nodo nord");
+    r().TipoAnalisi(0);
+    conFigure(1);
+    apriAggiuntiva(true);
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un altro progetto: \"Nodo nord\".") << "of equal name";
+}
+
+TEST_F(ProveAggiuntiva, ThresholdsOfAProjectWithoutANameAreTold) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    soglia(1, "3", "7");
+    ritorno();
+    apriAggiuntiva(true);
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in questo progetto.");
+    ritorno();
+    progetto(3);
+    r().TipoAnalisi(0);
+    conFigure(1);
+    apriAggiuntiva(true);
+    EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un altro progetto, senza nome.");
+}
+
+TEST_F(ProveAggiuntiva, APreviewThatSucceedsTakesAnOlderWarningAway) {
+    conFigure(1);
+    apriAggiuntiva(true);
+    cornice.avviso("Impossibile scrivere");
+    a.ctlToolbar.premi("Anteprima");
+    EXPECT_EQ(cornice.avvisato, "");
 }
 
 TEST_F(ProveAggiuntiva, ASeventhEntryHasNoThresholdsAndIsTold) {
@@ -454,8 +494,10 @@ TEST_F(ProveAggiuntiva, ASeventhEntryHasNoThresholdsAndIsTold) {
     EXPECT_EQ(messaggi.mostrati[0].testo, motivo);
     EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014frmRAMO_AGGIUNTIVA:Form_Load");
     EXPECT_TRUE(a.lblSenzaSoglie.visibile());
-    EXPECT_EQ(a.lblSenzaSoglie.testo(), "Questo ingresso non può avere soglie: " + motivo + ".");
-    EXPECT_EQ(a.ctlGRID1.testo(1, 1), "2,00") << "the summary stands";
+    EXPECT_EQ(a.lblSenzaSoglie.testo(),
+              "Questo ingresso non può avere soglie: sono previste per gli ingressi da 1 a 6.");
+    EXPECT_TRUE(a.ctlGRID1.visibile()) << "the summary stands, asked for or not";
+    EXPECT_EQ(a.ctlGRID1.testo(1, 1), "2,00");
     for (const auto& soglia : a.soglie) {
         EXPECT_FALSE(soglia.spunta.abilitato());
         EXPECT_FALSE(soglia.minimo.abilitato());
