@@ -13,6 +13,8 @@
 #include "input/frmToponomasticaIntersezione.h"
 #include "results/frmCapacitaCodeRitardiRamo.h"
 #include "results/frmCapacitaUltima.h"
+#include "results/frmDX.h"
+#include "results/frmRisultatiAnalisiMarginale.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
 #include "shell/frmEmptyForm.h"
@@ -63,6 +65,8 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     });
     finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi));
     finestre.registra("frmCapacitaCodeRitardiRamo", creaRisultati<frmCapacitaCodeRitardiRamo>(servizi));
+    finestre.registra("frmDX", creaRisultati<frmDX>(servizi));
+    finestre.registra("frmRisultatiAnalisiMarginale", creaRisultati<frmRisultatiAnalisiMarginale>(servizi));
 }
 
 }  // namespace kelvo

@@ -18,6 +18,8 @@
 namespace kelvo {
 class FinestraRisultati;
 class frmCapacitaCodeRitardiRamo;
+class frmDX;
+class frmRisultatiAnalisiMarginale;
 }  // namespace kelvo
 
 namespace kelvo::schermate {
@@ -41,6 +43,10 @@ private:
     void calcolata(Finestra& finestra, const std::string& nome);
     void ingressoCalcolato(frmCapacitaCodeRitardiRamo& finestra, const std::string& nome);
     void anteprimaTesto(FinestraRisultati& finestra, const std::string& nome);
+    /// A what-if window with its figures, after its first picture; false for any other window.
+    bool ipotesi(Finestra& finestra, const std::string& nome);
+    void confrontoCorsie(frmDX& finestra, const std::string& nome);
+    void tutteLeSchede(frmRisultatiAnalisiMarginale& finestra, const std::string& nome);
     void disposizioniAlbero();
     void menu();
     void campoRifiutato();
