@@ -113,6 +113,9 @@ void FinestraRisultati::premuto(const std::string& chiave) {
         return;
     }
     cornice().avviso({});
+    if (!ammette(chiave)) {
+        return;
+    }
     if (chiave == "keyAnteprima") {
         anteprima();
         return;
@@ -122,7 +125,7 @@ void FinestraRisultati::premuto(const std::string& chiave) {
         if (chiave == "keyCalcola") {
             calcola();
         } else if (chiave == "keyRelazione") {
-            servizi_.relazione();
+            relazione();
         } else {
             altroTasto(chiave);
         }

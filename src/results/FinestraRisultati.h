@@ -35,7 +35,7 @@ public:
     MenuChiavi* menuDati() const;
 
     /// Brings up to date what stands beside the tables. The frame calls it when data changed while the window is shown.
-    void aggiornaNote();
+    virtual void aggiornaNote();
     void attivata() override { aggiornaNote(); }
     /// The window shows figures.
     bool conFigure() const { return timbro_.has_value(); }
@@ -45,8 +45,12 @@ public:
     }
 
 protected:
+    /// A key of the tool bar was pressed: true if it may run. A window that says no has told the user why.
+    virtual bool ammette(const std::string& /*chiave*/) { return true; }
     /// Calculates and fills the window.
     virtual void calcola() = 0;
+    /// What keyRelazione does.
+    virtual void relazione() { servizi_.relazione(); }
     /// Text of the export of what the window shows, and name of its file.
     virtual std::string testoAnteprima() = 0;
     virtual std::string nomeAnteprima() const { return "Risultati.txt"; }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/serviziSistema.h"
+#include "results/relazioneSensibilita.h"
 #include "shell/servizi/FinestreCollegate.h"
 
 namespace kelvo {
@@ -16,6 +17,8 @@ struct ServiziRisultati {
     std::function<void(const std::string&)> foglio{};
     /// Leads to the window of the reports; empty while there is none.
     std::function<void()> relazione{};
+    /// Makes the report of a sensitivity analysis; empty while there is none.
+    std::function<void(const RelazioneSensibilita&)> relazioneSensibilita{};
 };
 
 }  // namespace kelvo

@@ -231,4 +231,25 @@ std::string paroleQuantoServe(const QuantoServe& risposta, std::size_t parametro
     return {};
 }
 
+std::string effettoQuantoServe(const QuantoServe& risposta) {
+    const bool trovato = risposta.esito == EsitoQuantoServe::trovato;
+    const bool calcolato =
+        trovato || risposta.esito == EsitoQuantoServe::giaRaggiunto || risposta.esito == EsitoQuantoServe::nessuno;
+    if (!calcolato) {
+        return {};
+    }
+    const auto tratto = [trovato](const std::string& prima, const std::string& dopo) {
+        return trovato ? fmt::format("da {} a {}", prima, dopo) : prima;
+    };
+    const auto livello = [](const StatoIngresso& stato) {
+        return std::string{livelloDiRitardo(static_cast<float>(stato.ritardo))};
+    };
+    const StatoIngresso& p = risposta.prima;
+    const StatoIngresso& d = risposta.dopo;
+    return fmt::format("Coefficiente di saturazione massimo {}; ritardo massimo {} s/veic (livello di servizio {})",
+                       tratto(formatta(p.saturazione, "#0.00"), formatta(d.saturazione, "#0.00")),
+                       tratto(formatta(p.ritardo, "#0.0"), formatta(d.ritardo, "#0.0")),
+                       tratto(livello(p), livello(d)));
+}
+
 }  // namespace kelvo

@@ -82,4 +82,9 @@ std::optional<std::int64_t> cercaVerso(std::int64_t origine, std::int64_t limite
 /// The answer in words: "Larghezza ingresso: da 5,00 m a 6,35 m (+1,35 m) per un coefficiente di saturazione di 0,85".
 std::string paroleQuantoServe(const QuantoServe& risposta, std::size_t parametro, const Obiettivo& obiettivo);
 
+/// How the entry does before and after in words: "Coefficiente di saturazione massimo da 1,02 a 0,85; ritardo massimo
+/// da 71,4 a 24,9 s/veic (livello di servizio da F a C)"; as it stands where no change was found; empty where nothing
+/// was calculated.
+std::string effettoQuantoServe(const QuantoServe& risposta);
+
 }  // namespace kelvo

@@ -14,6 +14,8 @@
 #include "results/frmCapacitaCodeRitardi.h"
 #include "results/frmCapacitaCodeRitardiRamo.h"
 #include "results/frmCapacitaUltima.h"
+#include "results/frmDX.h"
+#include "results/frmRisultatiAnalisiMarginale.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
 #include "shell/frmEmptyForm.h"
@@ -65,6 +67,8 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi));
     finestre.registra("frmCapacitaCodeRitardi", creaRisultati<frmCapacitaCodeRitardi>(servizi));
     finestre.registra("frmCapacitaCodeRitardiRamo", creaRisultati<frmCapacitaCodeRitardiRamo>(servizi));
+    finestre.registra("frmDX", creaRisultati<frmDX>(servizi));
+    finestre.registra("frmRisultatiAnalisiMarginale", creaRisultati<frmRisultatiAnalisiMarginale>(servizi));
 }
 
 }  // namespace kelvo

@@ -19,9 +19,11 @@ struct ServiziFinestre {
     std::function<void(const std::string&)> foglio{};
     /// Leads to the window of the reports; empty while there is none.
     std::function<void()> relazione{};
+    /// Makes the report of a sensitivity analysis; empty while there is none.
+    std::function<void(const RelazioneSensibilita&)> relazioneSensibilita{};
 
     /// What of it the result windows are handed.
-    ServiziRisultati risultati() const { return {documenti, collegate, foglio, relazione}; }
+    ServiziRisultati risultati() const { return {documenti, collegate, foglio, relazione, relazioneSensibilita}; }
 };
 
 /// Registers every window of the work area, and those over it. The services must outlive the windows.

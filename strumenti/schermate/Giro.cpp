@@ -146,7 +146,10 @@ void Giro::finestre(const std::string& progetto) {
             fatte.insert(nome);
             mostrate_.insert(nome);
             fotografo_.scatta(vista_, nome + "-" + progetto);
-            calcolata(*cornice_.finestre.viva(nome), nome + "-" + progetto);
+            const std::string immagine = nome + "-" + progetto;
+            if (Finestra& aperta = *cornice_.finestre.viva(nome); !ipotesi(aperta, immagine)) {
+                calcolata(aperta, immagine);
+            }
         }
     }
 }

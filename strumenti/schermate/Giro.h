@@ -19,6 +19,8 @@ namespace kelvo {
 class FinestraRisultati;
 class frmCapacitaCodeRitardi;
 class frmCapacitaCodeRitardiRamo;
+class frmDX;
+class frmRisultatiAnalisiMarginale;
 }  // namespace kelvo
 
 namespace kelvo::schermate {
@@ -43,6 +45,10 @@ private:
     void ingressiCalcolati(frmCapacitaCodeRitardi& finestra, const std::string& nome);
     void ingressoCalcolato(frmCapacitaCodeRitardiRamo& finestra, const std::string& nome);
     void anteprimaTesto(FinestraRisultati& finestra, const std::string& nome);
+    /// A what-if window with its figures, after its first picture; false for any other window.
+    bool ipotesi(Finestra& finestra, const std::string& nome);
+    void confrontoCorsie(frmDX& finestra, const std::string& nome);
+    void tutteLeSchede(frmRisultatiAnalisiMarginale& finestra, const std::string& nome);
     void disposizioniAlbero();
     void menu();
     void campoRifiutato();

@@ -40,6 +40,8 @@ constexpr std::array viste{
     VoceVista{"frmLEGENDA", vista_frmLEGENDA},
     VoceVista{"frmRAMO_AGGIUNTIVA", vista_frmRAMO_AGGIUNTIVA},
     VoceVista{"frmAnteprimaTesto", vista_frmAnteprimaTesto},
+    VoceVista{"frmDX", vista_frmDX},
+    VoceVista{"frmRisultatiAnalisiMarginale", vista_frmRisultatiAnalisiMarginale},
 };
 
 }  // namespace

@@ -30,5 +30,7 @@ VistaFinestra* vista_frmCapacitaCodeRitardiRamo(Finestra& finestra, QWidget* gen
 VistaFinestra* vista_frmLEGENDA(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmRAMO_AGGIUNTIVA(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmAnteprimaTesto(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmDX(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmRisultatiAnalisiMarginale(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui

@@ -1,0 +1,127 @@
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QVBoxLayout>
+
+#include "results/frmDX.h"
+#include "ui/VistaGriglia.h"
+#include "ui/VistaPianta.h"
+#include "ui/legami.h"
+#include "ui/legamiScelte.h"
+#include "ui/results/VistaRisultati.h"
+#include "ui/results/tabellaIntera.h"
+#include "ui/shell/viste.h"
+#include "ui/stile.h"
+
+namespace kelvo::ui {
+
+namespace {
+
+/// Width of the column of what is compared.
+constexpr int colonnaScelta = 400;
+/// Names of two entries stand in a row.
+constexpr int nomiPerRiga = 2;
+
+/// At the left the lanes with what turns right, the names of the entries and the plan; at the right the comparison.
+class Vista final : public VistaRisultati {
+public:
+    Vista(frmDX& f, QWidget* genitore) : VistaRisultati(f, genitore), f_(f) {
+        auto* avviso = collega(f.frameAVVISO, corpo());
+        avviso->larga(collega(f.lblAVVISO, avviso));
+        figure()->addWidget(avviso, 0, Qt::AlignTop);
+        auto* riga = new QHBoxLayout;
+        riga->setSpacing(misura::margine);
+        riga->addWidget(scelta());
+        auto* fianco = new QVBoxLayout;
+        fianco->setSpacing(misura::spazio);
+        VistaGriglia* confronto = tabella(f.ctlGrid, corpo());
+        tieniIntera(*confronto, f.ctlGrid, false);
+        fianco->addWidget(confronto, 1);
+        QLabel* legenda = collega(f.lblLegenda, corpo());
+        legenda->setFont(dati(punti::nota));
+        legenda->setWordWrap(true);
+        fianco->addWidget(legenda);
+        fianco->addStretch(0);
+        riga->addLayout(fianco, 1);
+        figure()->addLayout(riga, 1);
+        chiudi();
+    }
+    ~Vista() override { legamePianta_.disconnect(); }
+    Vista(const Vista&) = delete;
+    Vista& operator=(const Vista&) = delete;
+
+private:
+    QWidget* scelta() {
+        auto* pannello = collega(f_.frSCELTA, corpo());
+        pannello->setFixedWidth(colonnaScelta);
+        pannello->larga(corsie(pannello));
+        pannello->larga(nomi(pannello));
+        pannello->larga(collega(f_.chkStampaDX, pannello));
+        auto* pianta = new VistaPianta([this] { return soggetto(); }, pannello);
+        legamePianta_ = f_.listDX.cambiato().connect([pianta] { pianta->aggiorna(); });
+        pannello->larga(pianta);
+        return pannello;
+    }
+
+    /// Each lane with the flow of its turn on the same line.
+    QWidget* corsie(QWidget* genitore) {
+        auto* insieme = new QWidget(genitore);
+        auto* riga = new QHBoxLayout(insieme);
+        riga->setContentsMargins(0, 0, 0, 0);
+        riga->setSpacing(misura::spazio);
+        riga->addWidget(collega(f_.listDX, insieme, FormaElenco::piatto), 1);
+        auto* flussi = new QVBoxLayout;
+        flussi->setSpacing(0);
+        for (Etichetta& flusso : f_.flussi) {
+            QLabel* parole = collega(flusso, insieme);
+            parole->setFont(dati(punti::corpo));
+            parole->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            parole->setFixedHeight(misura::spunta);
+            flussi->addWidget(parole);
+        }
+        riga->addLayout(flussi);
+        insieme->setProperty("sporgente", true);
+        insieme->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        return insieme;
+    }
+
+    QWidget* nomi(QWidget* genitore) {
+        auto* insieme = new QWidget(genitore);
+        auto* piano = new QGridLayout(insieme);
+        piano->setContentsMargins(0, 0, 0, 0);
+        piano->setHorizontalSpacing(misura::spazio);
+        piano->setVerticalSpacing(misura::spazioRighe);
+        for (int i = 0; i < static_cast<int>(f_.txtIngresso.size()); ++i) {
+            auto* lettera = new QLabel(QStringLiteral("Ramo %1").arg(QChar(u'A' + i)), insieme);
+            lettera->setFont(leggero(punti::corpo));
+            QWidget* nome = collega(f_.txtIngresso[static_cast<std::size_t>(i)], insieme);
+            nome->setAccessibleName(lettera->text());
+            piano->addWidget(lettera, i / nomiPerRiga, i % nomiPerRiga * 2);
+            piano->addWidget(nome, i / nomiPerRiga, i % nomiPerRiga * 2 + 1);
+            piano->setColumnStretch(i % nomiPerRiga * 2 + 1, 1);
+        }
+        insieme->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        return insieme;
+    }
+
+    VistaPianta::Soggetto soggetto() const {
+        if (f_.txtIngresso.front().testo().empty()) {
+            return {};  // the window has not come up yet
+        }
+        return {.dati = pianta::datiPianta(f_.rotondaMostrata()),
+                .opzioni = {.nomi = false, .flussi = f_.svolteScelte()}};
+    }
+
+    frmDX& f_;
+    sigc::connection legamePianta_;
+};
+
+}  // namespace
+
+VistaFinestra* vista_frmDX(Finestra& finestra, QWidget* genitore) {
+    return new Vista(dynamic_cast<frmDX&>(finestra), genitore);
+}
+
+}  // namespace kelvo::ui
