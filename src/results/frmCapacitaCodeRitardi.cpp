@@ -58,9 +58,9 @@ frmCapacitaCodeRitardi::frmCapacitaCodeRitardi(const Contorno& contorno, const S
       lblFigure("lblFigure", std::string{notaFigureSintesi}, "GREY"),
       cmdAnteprimaSintesi("cmdAnteprimaSintesi", "Anteprima della sintesi"),
       lblCella("lblCella") {
-    std::vector<Controllo*> controlli{&ctlTab,         &ctlGrid,     &Cmd_EXCEL, &lblExcel,  &ctlSintesi,
-                                      &lblSaturazione, &lblPeggiore, &lblOra,    &lblFigure, &cmdAnteprimaSintesi,
-                                      &ctlMappa,       &lblCella};
+    std::vector<Controllo*> controlli{&ctlTab,     &ctlGrid,        &Cmd_EXCEL,   &lblExcel,
+                                      &ctlSintesi, &lblSaturazione, &lblPeggiore, &cmdAnteprimaSintesi,
+                                      &lblOra,     &lblFigure,      &ctlMappa,    &lblCella};
     for (Controllo* c : comuni()) {
         controlli.push_back(c);
     }
@@ -81,7 +81,9 @@ void frmCapacitaCodeRitardi::collega() {
     cmdAnteprimaSintesi.allaPressione = [this] { anteprimaSintesi(); };
     ctlGrid.ornamento = [this](Posto posto) { return ornamento(ctlGrid.tabella(), posto); };
     ctlSintesi.ornamento = [this](Posto posto) { return ornamentoSintesi(ctlSintesi.tabella(), posto); };
-    ctlMappa.colonna(0, {.allineamento = AllineamentoCella::sinistra});
+    for (Griglia* griglia : {&ctlGrid, &ctlSintesi, &ctlMappa}) {
+        griglia->colonna(0, {.allineamento = AllineamentoCella::sinistra});
+    }
     ctlMappa.alMovimento = [this](Posto /*posto*/) { mostraCella(); };
     ctlTab.alCambio = [this](int /*scheda*/) { mostraScheda(); };
     mostraScheda();

@@ -107,15 +107,28 @@ VoceSintesi voceOra(const Ingressi& ingressi, int segmentiOra) {
 }
 
 void massimaSaturazione(const DatiTraffico& traffico, std::int16_t ingresso, VoceSintesi& voce) {
+    double massima = 0.0;
     for (std::int16_t s = 1; s <= traffico.NumSegmentiTempo(); ++s) {
         const float saturazione = traffico.GetIterazione(s).Coeff_Sat;
-        if (mostrato(saturazione, formatoSaturazione) > mostrato(voce.Coeff_Sat, formatoSaturazione)) {
+        const double mostrata = mostrato(saturazione, formatoSaturazione);
+        if (mostrata > massima) {
+            massima = mostrata;
             voce.Coeff_Sat = saturazione;
             voce.segmentoSat = s;
             voce.ingressoSat = ingresso;
         }
     }
-    voce.saturazioneAlta = mostrato(voce.Coeff_Sat, formatoSaturazione) > sogliaSaturazione;
+    voce.saturazioneAlta = massima > sogliaSaturazione;
+}
+
+/// The largest saturation of the junction is that of its worst entry, the first of equal ones.
+void conIngresso(const VoceSintesi& voce, VoceSintesi& nodo) {
+    if (mostrato(voce.Coeff_Sat, formatoSaturazione) > mostrato(nodo.Coeff_Sat, formatoSaturazione)) {
+        nodo.Coeff_Sat = voce.Coeff_Sat;
+        nodo.segmentoSat = voce.segmentoSat;
+        nodo.ingressoSat = voce.ingressoSat;
+        nodo.saturazioneAlta = voce.saturazioneAlta;
+    }
 }
 
 std::string nomeIngresso(const Rotonda& rotonda, std::int16_t ingresso) {
@@ -149,7 +162,7 @@ SintesiNodo sintesiNodo(const Rotonda& rotonda) {
         const DatiTraffico& traffico = *tutti[static_cast<std::size_t>(i) - 1];
         VoceSintesi voce = voceOra({&traffico}, sintesi.segmentiOra);
         massimaSaturazione(traffico, i, voce);
-        massimaSaturazione(traffico, i, sintesi.nodo);
+        conIngresso(voce, sintesi.nodo);
         sintesi.ingressi.push_back(std::move(voce));
     }
     return sintesi;

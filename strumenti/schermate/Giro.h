@@ -17,6 +17,7 @@
 
 namespace kelvo {
 class FinestraRisultati;
+class frmCapacitaCodeRitardi;
 class frmCapacitaCodeRitardiRamo;
 }  // namespace kelvo
 
@@ -39,6 +40,7 @@ private:
     void finestre(const std::string& progetto);
     /// A result window with its figures, after its first picture.
     void calcolata(Finestra& finestra, const std::string& nome);
+    void ingressiCalcolati(frmCapacitaCodeRitardi& finestra, const std::string& nome);
     void ingressoCalcolato(frmCapacitaCodeRitardiRamo& finestra, const std::string& nome);
     void anteprimaTesto(FinestraRisultati& finestra, const std::string& nome);
     void disposizioniAlbero();

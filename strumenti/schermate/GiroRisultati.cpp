@@ -3,6 +3,7 @@
 #include <QtWidgets/QDialog>
 
 #include "base/numeri.h"
+#include "results/frmCapacitaCodeRitardi.h"
 #include "results/frmCapacitaCodeRitardiRamo.h"
 #include "schermate/Giro.h"
 
@@ -37,7 +38,17 @@ void Giro::calcolata(Finestra& finestra, const std::string& nome) {
     risultati->cmdInVigore.clicca();
     if (auto* ingresso = dynamic_cast<frmCapacitaCodeRitardiRamo*>(&finestra)) {
         ingressoCalcolato(*ingresso, nome);
+    } else if (auto* tutti = dynamic_cast<frmCapacitaCodeRitardi*>(&finestra)) {
+        ingressiCalcolati(*tutti, nome);
     }
+}
+
+void Giro::ingressiCalcolati(frmCapacitaCodeRitardi& finestra, const std::string& nome) {
+    for (int scheda = 1; scheda < static_cast<int>(finestra.ctlTab.schede().size()); ++scheda) {
+        finestra.ctlTab.scegli(scheda);
+        fotografo_.scatta(vista_, "scheda" + std::to_string(scheda + 1) + "-" + nome);
+    }
+    finestra.ctlTab.scegli(0);
 }
 
 void Giro::ingressoCalcolato(frmCapacitaCodeRitardiRamo& finestra, const std::string& nome) {

@@ -133,7 +133,7 @@ private:
 
     /// How to read a tab, at its foot.
     void aiuto(const Pagina& p) {
-        auto* riquadro = new RiquadroAiuto(f_.ctlHelp, QStringLiteral("Come si legge"), p.foglio);
+        auto* riquadro = new RiquadroAiuto(f_.ctlHelp, QStringLiteral("Che cosa si legge"), p.foglio);
         riquadro->soloPagina();
         p.piano->addStretch(1);
         p.piano->addWidget(riquadro);
@@ -144,7 +144,9 @@ private:
         p.piano->addWidget(collega(f_.ctlGrid, p.foglio), 1);
         auto* piede = new QHBoxLayout;
         piede->setSpacing(misura::spazioStretto);
-        piede->addWidget(parola(f_.lblExcel, p.foglio, true), 1);
+        QLabel* perche = parola(f_.lblExcel, p.foglio, true);
+        perche->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        piede->addWidget(perche, 1);
         piede->addWidget(collega(f_.Cmd_EXCEL, p.foglio));
         p.piano->addLayout(piede);
         return p.foglio;
@@ -156,10 +158,13 @@ private:
         new AltaQuanto(*tabella);
         p.piano->addWidget(tabella);
         p.piano->addWidget(parola(f_.lblSaturazione, p.foglio, false));
-        p.piano->addWidget(parola(f_.lblPeggiore, p.foglio, false));
+        auto* riga = new QHBoxLayout;
+        riga->setSpacing(misura::spazioStretto);
+        riga->addWidget(parola(f_.lblPeggiore, p.foglio, false), 1);
+        riga->addWidget(collega(f_.cmdAnteprimaSintesi, p.foglio));
+        p.piano->addLayout(riga);
         p.piano->addWidget(parola(f_.lblOra, p.foglio, true));
         p.piano->addWidget(parola(f_.lblFigure, p.foglio, true));
-        p.piano->addWidget(collega(f_.cmdAnteprimaSintesi, p.foglio), 0, Qt::AlignLeft);
         aiuto(p);
         return p.foglio;
     }
