@@ -14,7 +14,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
-#include <QtWidgets/QTableView>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QTreeWidgetItemIterator>
 #include <algorithm>
@@ -62,7 +61,7 @@ double memoria(const std::string& voce) {
 /// What a measured process is asked for.
 struct Incarico {
     double partenza = 0.0;  ///< when its parent started it
-    std::string compito;    ///< "avvio", "scambi", "tasti" or "calcolo": what comes after the start
+    std::string compito;    ///< "avvio", "scambi" or "tasti": what comes after the start
 };
 Incarico incarico;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables): read before any object
 
@@ -203,51 +202,6 @@ void misuraTasti(QMainWindow& finestra) {
     QTest::keyClick(campo, Qt::Key_Escape);
 }
 
-/// A key pressed on the table to the table painted, milliseconds.
-double finoAllaTabella(QTableView& tabella, Dipinto& dipinto, Qt::Key tasto) {
-    dipinto.avvenuto = false;
-    QElapsedTimer tempo;
-    tempo.start();
-    QTest::keyClick(&tabella, tasto);
-    while (!dipinto.avvenuto) {
-        QCoreApplication::processEvents();
-    }
-    return static_cast<double>(tempo.nsecsElapsed()) / milione;
-}
-
-/// The key that calculates to the table of an entry painted with its figures; a page of that table down, and up again.
-void misuraCalcolo(QMainWindow& finestra) {
-    constexpr QSize schermo(1366, 768);
-    finestra.resize(schermo);
-    auto& albero = *finestra.findChild<QTreeWidget*>(QStringLiteral("ctlTree"));
-    albero.expandAll();
-    scambio(finestra, albero, "keyCodeRitardi_Out1");
-    auto* vista = finestra.findChild<QWidget*>(QStringLiteral("frmCapacitaCodeRitardiRamo"));
-    auto* tabella = vista == nullptr ? nullptr : vista->findChild<QTableView*>(QStringLiteral("ctlGrid"));
-    if (tabella == nullptr || !tabella->isVisible()) {
-        std::cout << "guasto keyCodeRitardi_Out1" << std::endl;
-        std::_Exit(1);
-    }
-    tabella->setFocus(Qt::TabFocusReason);
-    esaurisci(finestra);
-    Dipinto dipinto(*tabella->viewport());
-    for (int i = 0; i < ripetizioni + 1; ++i) {
-        const double durata = finoAllaTabella(*tabella, dipinto, Qt::Key_F9);
-        if (i > 0) {
-            std::cout << "calcolo " << durata << "\n";
-        }
-    }
-    if (tabella->model()->index(0, 0).data().toString().isEmpty()) {
-        std::cout << "guasto figure" << std::endl;
-        std::_Exit(1);
-    }
-    for (int i = 0; i < ripetizioni; ++i) {
-        esaurisci(finestra);
-        const Qt::Key tasto = i % 6 < 3 ? Qt::Key_PageDown : Qt::Key_PageUp;
-        std::cout << "pagina " << finoAllaTabella(*tabella, dipinto, tasto) << "\n";
-    }
-}
-
 /// Runs as soon as the application object stands, before anything is shown.
 void comincia() {
     auto* orologio = new QTimer(QCoreApplication::instance());
@@ -271,8 +225,6 @@ void comincia() {
             misuraScambi(*finestra);
         } else if (incarico.compito == "tasti") {
             misuraTasti(*finestra);
-        } else if (incarico.compito == "calcolo") {
-            misuraCalcolo(*finestra);
         }
         std::cout << std::flush;
         std::_Exit(0);
@@ -327,10 +279,6 @@ int tabella(const char* programma, const QString& progetto) {
         std::cerr << "kelvo-misure-desktop: la scrittura di una misura non riesce\n";
         return 1;
     }
-    if (!misura(QString::fromLocal8Bit(programma), progetto, "calcolo", figure)) {
-        std::cerr << "kelvo-misure-desktop: il calcolo di un ingresso non riesce\n";
-        return 1;
-    }
     if (!misura(QString::fromLocal8Bit(programma), progetto, "scambi", figure)) {
         std::cerr << "kelvo-misure-desktop: lo scambio delle finestre non riesce\n";
         return 1;
@@ -344,8 +292,6 @@ int tabella(const char* programma, const QString& progetto) {
     riga("empty repaint, ms", figure.at("vuoto"), "");
     riga("first showing of a window, ms", figure.at("primo"), "");
     riga("key to redrawn plan and figures, ms", figure.at("tasto"), "16");
-    riga("Calcola to painted table, ms", figure.at("calcolo"), "80");
-    riga("page of that table scrolled, ms", figure.at("pagina"), "16");
     fmt::print("\nobjects of the main window: {:.0f}, after {} switches {:.0f}, after {} {:.0f}\n",
                figure.at("prima_oggetti").at(0), scambiLunghi, figure.at("dopo_oggetti").at(0), scambiTanti,
                figure.at("ancora_oggetti").at(0));

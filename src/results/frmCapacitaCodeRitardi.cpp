@@ -58,9 +58,9 @@ frmCapacitaCodeRitardi::frmCapacitaCodeRitardi(const Contorno& contorno, const S
       lblFigure("lblFigure", std::string{notaFigureSintesi}, "GREY"),
       cmdAnteprimaSintesi("cmdAnteprimaSintesi", "Anteprima della sintesi"),
       lblCella("lblCella") {
-    std::vector<Controllo*> controlli{&ctlTab,         &ctlGrid,     &Cmd_EXCEL, &lblExcel,  &ctlSintesi,
-                                      &lblSaturazione, &lblPeggiore, &lblOra,    &lblFigure, &cmdAnteprimaSintesi,
-                                      &ctlMappa,       &lblCella};
+    std::vector<Controllo*> controlli{&ctlTab,     &ctlGrid,        &Cmd_EXCEL,   &lblExcel,
+                                      &ctlSintesi, &lblSaturazione, &lblPeggiore, &cmdAnteprimaSintesi,
+                                      &lblOra,     &lblFigure,      &ctlMappa,    &lblCella};
     for (Controllo* c : comuni()) {
         controlli.push_back(c);
     }

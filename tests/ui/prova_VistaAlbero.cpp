@@ -50,13 +50,13 @@ TEST_P(AlberoVisto, APressThatEndsOnAnotherNodeDoesNothing) {
 }
 
 TEST_P(AlberoVisto, ADoubleClickOnAGreyFolderLeavesItAsItIs) {
-    ASSERT_TRUE(gesti::nodo(banco.albero(), "keyCodeRitardi_Out")->isExpanded());
+    ASSERT_TRUE(gesti::nodo(banco.albero(), "keyOttimizzazioneGeometrica")->isExpanded());
     QWidget* vista = banco.albero().viewport();
-    const QPoint dove = posto("keyCodeRitardi_Out");
+    const QPoint dove = posto("keyOttimizzazioneGeometrica");
     QTest::mouseClick(vista, Qt::LeftButton, {}, dove);
     QTest::mouseDClick(vista, Qt::LeftButton, {}, dove);
     smaltisci();
-    EXPECT_TRUE(gesti::nodo(banco.albero(), "keyCodeRitardi_Out")->isExpanded());
+    EXPECT_TRUE(gesti::nodo(banco.albero(), "keyOttimizzazioneGeometrica")->isExpanded());
     fermo();
 }
 

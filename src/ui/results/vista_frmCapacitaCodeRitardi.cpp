@@ -158,10 +158,13 @@ private:
         new AltaQuanto(*tabella);
         p.piano->addWidget(tabella);
         p.piano->addWidget(parola(f_.lblSaturazione, p.foglio, false));
-        p.piano->addWidget(parola(f_.lblPeggiore, p.foglio, false));
+        auto* riga = new QHBoxLayout;
+        riga->setSpacing(misura::spazioStretto);
+        riga->addWidget(parola(f_.lblPeggiore, p.foglio, false), 1);
+        riga->addWidget(collega(f_.cmdAnteprimaSintesi, p.foglio));
+        p.piano->addLayout(riga);
         p.piano->addWidget(parola(f_.lblOra, p.foglio, true));
         p.piano->addWidget(parola(f_.lblFigure, p.foglio, true));
-        p.piano->addWidget(collega(f_.cmdAnteprimaSintesi, p.foglio), 0, Qt::AlignLeft);
         aiuto(p);
         return p.foglio;
     }
