@@ -86,7 +86,7 @@ int VistaMappa::nomi() const {
     const QFontMetrics metrica(dati(punti::corpo));
     int largo = nomiMinimi;
     for (int r = 1; r <= righe(); ++r) {
-        largo = std::max(largo, metrica.horizontalAdvance(q(griglia_.testo(r, 0))) + 2 * margineNome);
+        largo = std::max(largo, metrica.horizontalAdvance(q(griglia_.testo(r, 0))) + 2 * margineNome + 2);
     }
     return std::min(largo, std::max(nomiMinimi, viewport()->width() / quotaNomi));
 }
