@@ -24,6 +24,7 @@ constexpr const char* ipotesi = "Le cifre sono di un'analisi di ipotesi, non del
 constexpr const char* nonRiuscito = "Il calcolo non è riuscito: le cifre non sono quelle del progetto.";
 constexpr const char* inVigore = "In vigore nel calcolo";
 constexpr const char* valore = "Valore";
+constexpr const char* dati = "Copia e salva";
 }  // namespace testi
 
 std::vector<BarraStrumenti::Tasto> tastiRisultati() {
@@ -67,12 +68,16 @@ FinestraRisultati::FinestraRisultati(const Contorno& contorno, const ServiziRisu
       lblFlussi("lblFlussi", {}, "ROSSO"),
       lblNotte("lblNotte", {}, "ROSSO"),
       lblInVigore("lblInVigore", {}, "GREY"),
+      cmdInVigore("cmdInVigore", testi::inVigore, Casella::bottone),
       ctlInVigore("ctlInVigore"),
+      cmdDati("cmdDati", testi::dati),
       servizi_(servizi),
       motore_(app()),
       anteprima_(contorno, servizi_.finestre, servizi_.documenti) {
     ctlToolbar.allaPressione = [this](const std::string& chiave) { premuto(chiave); };
     cmdCalcola.allaPressione = [this] { ctlToolbar.premi("keyCalcola"); };
+    ctlInVigore.visibile(false);
+    cmdInVigore.alClic = [this] { ctlInVigore.visibile(cmdInVigore.spuntata()); };
     ctlInVigore.colonna(1, {.allineamento = AllineamentoCella::sinistra, .aCapo = true});
     if (!servizi_.relazione) {
         ctlToolbar.abilita("keyRelazione", false);
@@ -84,7 +89,22 @@ FinestraRisultati::FinestraRisultati(const Contorno& contorno, const ServiziRisu
 }
 
 std::vector<Controllo*> FinestraRisultati::comuni() {
-    return {&cmdCalcola, &lblVecchi, &lblFlussi, &lblNotte, &lblInVigore, &ctlInVigore};
+    return {&cmdCalcola, &lblVecchi, &lblFlussi, &lblNotte, &cmdInVigore, &lblInVigore, &ctlInVigore, &cmdDati};
+}
+
+MenuChiavi* FinestraRisultati::menuDati() const {
+    for (const Controllo* controllo : ordine()) {
+        if (!controllo->visibile() || controllo == &ctlInVigore) {
+            continue;
+        }
+        if (const auto* griglia = dynamic_cast<const Griglia*>(controllo)) {
+            return griglia->menu();
+        }
+        if (const auto* grafico = dynamic_cast<const Grafico*>(controllo)) {
+            return grafico->menu();
+        }
+    }
+    return nullptr;
 }
 
 void FinestraRisultati::premuto(const std::string& chiave) {
@@ -107,7 +127,22 @@ void FinestraRisultati::premuto(const std::string& chiave) {
         }
     });
     if (chiave == "keyCalcola") {
+        const bool dalBottone = fuoco() == &cmdCalcola;
         aggiornaNote();  // a calculation that failed is told too
+        if (dalBottone && !cmdCalcola.visibile()) {
+            fuocoAllaTabella();
+        }
+    }
+}
+
+/// The button that had the focus is gone: on to what it has filled.
+void FinestraRisultati::fuocoAllaTabella() {
+    scordaFuoco();
+    for (Controllo* controllo : ordine()) {
+        if (dynamic_cast<Griglia*>(controllo) != nullptr && controllo->prendeFuoco()) {
+            fuocoSu(*controllo);
+            return;
+        }
     }
 }
 

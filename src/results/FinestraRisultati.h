@@ -7,6 +7,7 @@
 #include "calc/modCalcolo.h"
 #include "results/ServiziRisultati.h"
 #include "results/frmAnteprimaTesto.h"
+#include "shell/servizi/Grafico.h"
 #include "shell/servizi/Griglia.h"
 
 namespace kelvo {
@@ -26,7 +27,12 @@ public:
     Etichetta lblFlussi;    ///< why all flows are 0, that the matrix is empty; else hidden
     Etichetta lblNotte;     ///< night conditions without an incidence; else hidden
     Etichetta lblInVigore;  ///< what is in force, in one line
-    Griglia ctlInVigore;    ///< the same with all legs and coefficients, name and value
+    Casella cmdInVigore;    ///< shows the table below
+    Griglia ctlInVigore;    ///< the same with all legs and coefficients, name and value; hidden until it is asked for
+    Bottone cmdDati;        ///< brings up `menuDati`
+
+    /// What copies and saves the table or chart in view; null where there is none.
+    MenuChiavi* menuDati() const;
 
     /// Brings up to date what stands beside the tables. The frame calls it when data changed while the window is shown.
     void aggiornaNote();
@@ -74,6 +80,7 @@ protected:
 
 private:
     void premuto(const std::string& chiave);
+    void fuocoAllaTabella();
 
     ServiziRisultati servizi_;
     modCalcolo motore_;

@@ -34,6 +34,7 @@ frmCapacitaUltima::frmCapacitaUltima(const Contorno& contorno, const ServiziRisu
         controlli.push_back(c);
     }
     ordina(controlli);
+    ctlGrid.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlToolbar.abilita("keyRelazione", false);
     ctlToolbar.annota("keyRelazione", testi::senzaRelazione);
 }

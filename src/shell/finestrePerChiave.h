@@ -46,12 +46,16 @@ inline constexpr std::array finestrePerChiave{
 std::string_view finestraDiChiave(std::string_view chiave);
 
 /// Windows and procedures that a key leads to and that do not stand yet. Their keys are shown closed, with a note.
-inline constexpr std::array<std::string_view, 10> nonAncora{
-    "frmCapacitaCodeRitardi", "frmCapacitaCodeRitardiRamo",
-    "frmCapacitaUltima",      "frmRisultatiAnalisiMarginale",
-    "frmConfronti",           "frmDX",
-    "frmANALIZZATORE",        "frmGoogle",
-    "frmOPZrelazione",        "LinkKELVOCAD",
+inline constexpr std::array<std::string_view, 9> nonAncora{
+    "frmCapacitaCodeRitardi",        //
+    "frmCapacitaCodeRitardiRamo",    //
+    "frmRisultatiAnalisiMarginale",  //
+    "frmConfronti",                  //
+    "frmDX",                         //
+    "frmANALIZZATORE",               //
+    "frmGoogle",                     //
+    "frmOPZrelazione",               //
+    "LinkKELVOCAD",                  //
 };
 
 }  // namespace kelvo

@@ -11,6 +11,7 @@
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
+#include "results/frmCapacitaUltima.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
 #include "shell/frmEmptyForm.h"
@@ -24,6 +25,13 @@ namespace {
 template <class F>
 std::unique_ptr<Finestra> crea(const Contorno& contorno) {
     return std::make_unique<F>(contorno);
+}
+
+template <class F>
+CreatoreFinestra creaRisultati(const ServiziFinestre& servizi) {
+    return [risultati = servizi.risultati()](const Contorno& contorno) {
+        return std::make_unique<F>(contorno, risultati);
+    };
 }
 
 }  // namespace
@@ -52,6 +60,7 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
         return std::make_unique<frmParametriRamo>(contorno,
                                                   frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});
     });
+    finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi));
 }
 
 }  // namespace kelvo

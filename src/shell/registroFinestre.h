@@ -1,6 +1,10 @@
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "app/serviziSistema.h"
+#include "results/ServiziRisultati.h"
 #include "shell/FabbricaFinestre.h"
 #include "shell/servizi/DialogoAnteprima.h"
 
@@ -10,6 +14,14 @@ namespace kelvo {
 struct ServiziFinestre {
     ApriDocumenti& documenti;
     DialogoAnteprima& anteprima;
+    FinestreCollegate& collegate;
+    /// Hands a file, whole path, over to the spreadsheet; empty while there is no such export.
+    std::function<void(const std::string&)> foglio{};
+    /// Leads to the window of the reports; empty while there is none.
+    std::function<void()> relazione{};
+
+    /// What of it the result windows are handed.
+    ServiziRisultati risultati() const { return {documenti, collegate, foglio, relazione}; }
 };
 
 /// Registers every window of the work area, and those over it. The services must outlive the windows.

@@ -15,6 +15,7 @@
 #include "ui/RiquadroAiuto.h"
 #include "ui/icone.h"
 #include "ui/legami.h"
+#include "ui/results/FinestreCollegateQt.h"
 #include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
 #include "ui/stile.h"
@@ -70,10 +71,12 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     disegno::DisegnatoreQt disegnatore;
     StatoFinestre stato;
     VistaMDI_Form vista;
+    FinestreCollegateQt collegate(vista);
     MDI_Form cornice(
         app, stato,
         {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
-    registraFinestre(cornice.finestre, {documenti, anteprima});
+    registraFinestre(cornice.finestre, {documenti, anteprima, collegate});
+    collegate.collegaA(cornice);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});
     if (!avvio.Main(rigaComando())) {

@@ -18,7 +18,7 @@ using Segno = OrnamentoCella::Segno;
 
 constexpr double puntiCella = 10.0;
 constexpr int altezzaMinima = 20;
-constexpr int aria = 6;  ///< above and below the text together
+constexpr int ariaStretta = 4;
 constexpr int margine = 12;
 constexpr int margineStretto = 8;
 constexpr int colonnaStretta = 96;
@@ -66,6 +66,7 @@ PittoreCelle::PittoreCelle(const Griglia& griglia)
 
 void PittoreCelle::testate(bool strette) {
     testata_ = Faccia(forte(strette ? punti::nota : punti::barra));
+    aria_ = strette ? ariaStretta : ariaLarga;
 }
 
 OrnamentoCella PittoreCelle::ornamento(Posto cella) const {
@@ -91,7 +92,7 @@ const PittoreCelle::Faccia& PittoreCelle::faccia(Posto cella) const {
 }
 
 int PittoreCelle::altezzaRiga() const {
-    return std::max(altezzaMinima, std::max(normale_.metrica.height(), forte_.metrica.height()) + aria);
+    return std::max(altezzaMinima, std::max(normale_.metrica.height(), forte_.metrica.height()) + aria_);
 }
 
 Qt::Alignment PittoreCelle::allineamento(Posto cella) const {
@@ -134,7 +135,7 @@ int PittoreCelle::altezza(Posto cella, int larghezza) const {
     const QFontMetrics& metrica = faccia(cella).metrica;
     const int libera = std::max(1, larghezza - 2 * lato(cella, larghezza) - 1);
     const QRect preso = metrica.boundingRect(QRect(0, 0, libera, altezzaSenzaFine), Qt::TextWordWrap, testo(cella));
-    return std::max(altezzaRiga(), preso.height() + aria);
+    return std::max(altezzaRiga(), preso.height() + aria_);
 }
 
 void PittoreCelle::dipingiSegno(QPainter& pittore, const QRectF& posto, Segno segno, const QColor& tintaSegno) const {

@@ -17,7 +17,7 @@ class PittoreCelle {
 public:
     explicit PittoreCelle(const Griglia& griglia);
 
-    /// Face of the headings: they are smaller in a narrow window.
+    /// Face of the headings: they are smaller in a narrow window, and all rows stand closer there.
     void testate(bool strette);
     /// Paints a cell in its place, in logical pixels. The cell of the cursor is marked while the grid has the focus.
     void dipingi(QPainter& pittore, const QRect& posto, Posto cella, bool conFuoco = false) const;
@@ -51,6 +51,9 @@ private:
     Faccia normale_;
     Faccia forte_;
     Faccia testata_;
+    /// Above and below the text of a row together.
+    static constexpr int ariaLarga = 6;
+    int aria_ = ariaLarga;
 };
 
 }  // namespace kelvo::ui

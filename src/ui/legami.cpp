@@ -353,14 +353,15 @@ QProgressBar* collega(BarraProgresso& barra, QWidget* genitore) {
     return avanzamento;
 }
 
-QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto) {
+QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto, FondoBarra fondo) {
     auto* strumenti = new QToolBar(genitore);
+    strumenti->setProperty("chiara", fondo == FondoBarra::chiaro);
     strumenti->setIconSize({lato, lato});
     strumenti->setMovable(false);
     strumenti->setToolButtonStyle(conTesto ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     auto* legame = new Legame(barra, *strumenti);
     for (const BarraStrumenti::Tasto& tasto : barra.tasti()) {
-        QAction* azione = strumenti->addAction(icona(tasto.icona, true), q(tasto.testo));
+        QAction* azione = strumenti->addAction(icona(tasto.icona, fondo == FondoBarra::blu), q(tasto.testo));
         azione->setObjectName(q(tasto.chiave));
         QObject::connect(azione, &QAction::triggered, legame, [&barra, chiave = tasto.chiave] { barra.premi(chiave); });
         if (QWidget* bottone = strumenti->widgetForAction(azione)) {

@@ -39,7 +39,10 @@ QSpinBox* collega(Spin& spin, QWidget* genitore);
 QLabel* collega(Immagine& immagine, QWidget* genitore);
 QProgressBar* collega(BarraProgresso& barra, QWidget* genitore);
 QTreeWidget* collega(ElencoColonne& elenco, QWidget* genitore);
+/// Ground of a tool bar: the main colour, or a light strip below it.
+enum class FondoBarra { blu, chiaro };
 /// `lato` is the size of its icons; with `conTesto` the word stands beside the icon.
-QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto);
+QToolBar* collega(BarraStrumenti& barra, QWidget* genitore, int lato, bool conTesto,
+                  FondoBarra fondo = FondoBarra::blu);
 
 }  // namespace kelvo::ui

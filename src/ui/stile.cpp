@@ -111,6 +111,14 @@ QToolBar QToolButton:hover { background: {principaleScuro}; }
 QToolBar QToolButton:pressed { background: {principalePremuto}; }
 QToolBar QToolButton:focus { border: 2px solid white; } QToolBar QToolButton:disabled { color: {spentoSuBlu}; }
 QToolBar QToolButton:checked { background: white; color: {principale}; }
+QToolBar[chiara="true"] { background: {barra}; border-bottom: 1px solid {bordo}; padding: 0px 8px; }
+QToolBar[chiara="true"] QToolButton { color: {inchiostro}; }
+QToolBar[chiara="true"] QToolButton:hover { background: {sfiorato}; }
+QToolBar[chiara="true"] QToolButton:pressed { background: {scelto}; }
+QToolBar[chiara="true"] QToolButton:focus { border: 2px solid {principale}; }
+QToolBar[chiara="true"] QToolButton:disabled { color: {spento}; }
+QFrame#note { background: {fondoErrore}; border: none; border-left: 3px solid {errore}; }
+QWidget[accanto="true"] { background: white; border: 1px solid {bordoCampo}; }
 QTreeView { background: white; border: none; outline: none; show-decoration-selected: 1; }
 QTreeView::item { border: none; padding: 0px 2px; }
 QTreeView#ctlTree { padding-top: 6px; } QTreeView#ctlTree::item { height: 24px; }

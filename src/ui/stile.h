@@ -70,7 +70,10 @@ inline constexpr int spazioSpunte = 2;  ///< between rows of check boxes with a 
 inline constexpr int lineaRamo = 18;    ///< between title and leg in the caption panel
 inline constexpr int avanzamento = 360;
 inline constexpr int note = 84;
-inline constexpr int grafico = 480;  ///< usual width of a chart; 5 wide to 3 high
+inline constexpr int barraSeconda = 38;
+inline constexpr int colonnaRisultati = 240;  ///< at the right of the figures
+inline constexpr int inVigore = 200;          ///< height of what is in force, once it is asked for
+inline constexpr int grafico = 480;           ///< usual width of a chart; 5 wide to 3 high
 inline constexpr int graficoMinimo = 240;
 }  // namespace misura
 

@@ -11,6 +11,7 @@
 #include "schermate/Richiesta.h"
 #include "schermate/serviziMuti.h"
 #include "shell/MDI_Form.h"
+#include "ui/results/FinestreCollegateQt.h"
 #include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
 
@@ -55,6 +56,7 @@ private:
     Applicazione app_;
     StatoFinestre stato_;
     ui::VistaMDI_Form vista_;
+    ui::FinestreCollegateQt collegate_{vista_};
     MDI_Form cornice_;
     Fotografo fotografo_;
     std::set<std::string> mostrate_;  ///< names of the windows that were seen in the work area

@@ -145,11 +145,29 @@ public:
     std::function<bool(FinestraAnteprima&)> alDialogo;  ///< empty: Cancel
 };
 
+/// Windows beside and over another: writes down what is asked.
+class CollegateFinte final : public FinestreCollegate {
+public:
+    bool mostra(Finestra& finestra) override { return nota("mostra ", finestra); }
+    void affianca(Finestra& finestra) override { nota("affianca ", finestra); }
+    void sovrapponi(Finestra& finestra) override { nota("sovrapponi ", finestra); }
+    void chiudi(Finestra& finestra) override { nota("chiudi ", finestra); }
+    void dimentica(Finestra& finestra) override { nota("dimentica ", finestra); }
+    std::vector<std::string> passi;
+
+private:
+    bool nota(const std::string& passo, const Finestra& finestra) {
+        passi.push_back(passo + finestra.nome());
+        return true;
+    }
+};
+
 /// The services of the real windows.
 struct ServiziFinestreFinti {
     DocumentiFinti documenti;
     AnteprimaFinta anteprima;
-    ServiziFinestre servizi() { return {documenti, anteprima}; }
+    CollegateFinte collegate;
+    ServiziFinestre servizi() { return {documenti, anteprima, collegate}; }
 };
 
 class ImpostazioniFinte final : public ImpostazioniUtente {

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 struct CicloVero : testing::Test {
     CicloVero() {
-        registraFinestre(f.cornice.finestre, {f.documenti, anteprima});
+        registraFinestre(f.cornice.finestre, {f.documenti, anteprima, collegate});
         f.superficie.alModale = [this](Finestra& finestra) {
             if (auto* rami = dynamic_cast<frmInputNumeroRami*>(&finestra)) {
                 rami->txtNumeroRami.imposta(f.ramiScelti == 0 ? 3 : f.ramiScelti);
@@ -47,6 +47,7 @@ struct CicloVero : testing::Test {
         EXPECT_EQ(f.cornice.NomeFileProposto(), proposto);
     }
     AnteprimaFinta anteprima;
+    CollegateFinte collegate;
     ShellFinta f;
 };
 

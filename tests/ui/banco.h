@@ -9,6 +9,7 @@
 #include "comune/fintiShell.h"
 #include "shell/registroFinestre.h"
 #include "ui/gesti.h"
+#include "ui/results/FinestreCollegateQt.h"
 #include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
 
@@ -67,6 +68,7 @@ public:
     Applicazione app;
     StatoFinestre stato;
     ui::VistaMDI_Form vista;
+    ui::FinestreCollegateQt collegate{vista};
     MDI_Form cornice;
 };
 

@@ -28,6 +28,7 @@ const std::vector<Nodo>& nodiAperti() {
                                         {"keyRamo1", "frmParametriRamo"},
                                         {"keyComposizioneTraffico1", "frmComposizioneTraffico"},
                                         {"keyMatriceSvolte", "frmMatriceSvolte"},
+                                        {"keyCapacitaUltima_Out", "frmCapacitaUltima"},
                                         {"keyDatiTraffico1", "frmDatiTrafficoST", 2, 0},
                                         {"keyComposizioneTraffico1", "frmComposizioneTrafficoST", 2, 1}};
     return nodi;
@@ -158,7 +159,7 @@ TEST_P(TastiCornice, NodesOfWindowsThatDoNotStandYetOpenNothingByTheKeyboardEith
     banco.vai("keyTempoModellazione");
     QTreeWidget& albero = banco.albero();
     albero.setFocus();
-    albero.setCurrentItem(gesti::nodo(albero, "keyCapacitaUltima_Out"), 0, QItemSelectionModel::NoUpdate);
+    albero.setCurrentItem(gesti::nodo(albero, "keyterra"), 0, QItemSelectionModel::NoUpdate);
     tasto(Qt::Key_Return);
     smaltisci();
     EXPECT_EQ(banco.nomeCorrente(), "frmTempoModellazione");

@@ -29,6 +29,8 @@ public:
     void collegaA(MDI_Form& logica);
     /// The view of the window at hand; null for none.
     VistaFinestra* vistaCorrente() const;
+    /// Where the windows stand, right of the tree.
+    QWidget& area() { return *area_; }
 
     // Superficie; places are in twips, fifteen to a logical pixel.
     Rettangolo albero() const override;

@@ -34,6 +34,7 @@ constexpr std::array viste{
     VoceVista{"frmComposizioneTraffico", vista_frmComposizioneTraffico},
     VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
+    VoceVista{"frmCapacitaUltima", vista_frmCapacitaUltima},
 };
 
 }  // namespace

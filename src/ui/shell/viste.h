@@ -24,5 +24,6 @@ VistaFinestra* vista_frmImportaCSV(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmComposizioneTraffico(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmComposizioneTrafficoST(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmOpzioni(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmCapacitaUltima(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui
