@@ -69,10 +69,11 @@ frmConfronti::~frmConfronti() {
 }
 
 void frmConfronti::ordinaControlli() {
+    // The keyboard starts on the slider. The pictures of the buttons are for the mouse alone.
     std::vector<Controllo*> controlli{&txtdescrizioneGRAFICO,
+                                      &Slider1,
                                       &ctlChartConfronti,
                                       &ctlPianta,
-                                      &Slider1,
                                       &txtVARselezionata,
                                       &txtIstanteTEMPO,
                                       &ctlGrid,
@@ -81,13 +82,9 @@ void frmConfronti::ordinaControlli() {
                                       &txtTipoVariabile,
                                       &opzUnita,
                                       &frSIMULAZIONE,
-                                      &ImagePLAY,
                                       &cmdPLAY,
-                                      &ImageSTOP,
                                       &Command1,
-                                      &ImagePIU,
                                       &Command3,
-                                      &ImageMENO,
                                       &Command4,
                                       &lblPausa,
                                       &lblSIM,

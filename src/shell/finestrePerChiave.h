@@ -46,11 +46,10 @@ inline constexpr std::array finestrePerChiave{
 std::string_view finestraDiChiave(std::string_view chiave);
 
 /// Windows and procedures that a key leads to and that do not stand yet. Their keys are shown closed, with a note.
-inline constexpr std::array<std::string_view, 9> nonAncora{
+inline constexpr std::array<std::string_view, 8> nonAncora{
     "frmCapacitaCodeRitardi",        //
     "frmCapacitaCodeRitardiRamo",    //
     "frmRisultatiAnalisiMarginale",  //
-    "frmConfronti",                  //
     "frmDX",                         //
     "frmANALIZZATORE",               //
     "frmGoogle",                     //

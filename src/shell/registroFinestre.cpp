@@ -12,6 +12,7 @@
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
 #include "results/frmCapacitaUltima.h"
+#include "results/frmConfronti.h"
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
 #include "shell/frmEmptyForm.h"
@@ -61,6 +62,9 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
                                                   frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});
     });
     finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi));
+    finestre.registra("frmConfronti", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmConfronti>(contorno, servizi.risultati(), servizi.cronometro);
+    });
 }
 
 }  // namespace kelvo

@@ -35,6 +35,7 @@ constexpr std::array viste{
     VoceVista{"frmComposizioneTrafficoST", vista_frmComposizioneTrafficoST},
     VoceVista{"frmOpzioni", vista_frmOpzioni},
     VoceVista{"frmCapacitaUltima", vista_frmCapacitaUltima},
+    VoceVista{"frmConfronti", vista_frmConfronti},
 };
 
 }  // namespace

@@ -25,5 +25,6 @@ VistaFinestra* vista_frmComposizioneTraffico(Finestra& finestra, QWidget* genito
 VistaFinestra* vista_frmComposizioneTrafficoST(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmOpzioni(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmCapacitaUltima(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmConfronti(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui
