@@ -56,6 +56,7 @@ frmConfronti::frmConfronti(const Contorno& contorno, const ServiziRisultati& ser
     txtTipoVariabile.suggerimento = "Grandezza in cui si confrontano gli ingressi";
     txtTipoVariabile.voci(nomiVariabili(UnitaFlussi::ora));
     lblUnita.testo(unita[0].mostrata);
+    ctlGrid.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ordinaControlli();
     collega();
     collegaSimulazione();

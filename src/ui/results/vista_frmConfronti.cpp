@@ -125,8 +125,7 @@ private:
             QAbstractButton* figura = collega(coppia.figura, tavola);
             figura->setIcon(icona(coppia.icona, false));
             figura->setIconSize({misura::icona, misura::icona});
-            figura->setFixedWidth(misura::bottone);
-            figura->setProperty("soloIcona", true);
+            figura->setStyleSheet(QStringLiteral("min-width: %1px; max-width: %1px; padding: 0").arg(misura::bottone));
             figura->setFocusPolicy(Qt::NoFocus);
             figura->setToolTip(q(coppia.parola.testo()));
             figura->setAccessibleName(q(coppia.parola.testo()));
