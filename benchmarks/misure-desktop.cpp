@@ -11,9 +11,11 @@
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
+#include <QtWidgets/QSlider>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QTreeWidgetItemIterator>
 #include <algorithm>
@@ -61,7 +63,7 @@ double memoria(const std::string& voce) {
 /// What a measured process is asked for.
 struct Incarico {
     double partenza = 0.0;  ///< when its parent started it
-    std::string compito;    ///< "avvio", "scambi" or "tasti": what comes after the start
+    std::string compito;    ///< "avvio", "scambi", "tasti" or "cursore": what comes after the start
 };
 Incarico incarico;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables): read before any object
 
@@ -202,6 +204,44 @@ void misuraTasti(QMainWindow& finestra) {
     QTest::keyClick(campo, Qt::Key_Escape);
 }
 
+/// The slider of the comparison moved by one instant to chart, plan and table painted, in each of its variables.
+void misuraCursore(QMainWindow& finestra) {
+    constexpr QSize schermo(1366, 768);
+    finestra.resize(schermo);
+    auto& albero = *finestra.findChild<QTreeWidget*>(QStringLiteral("ctlTree"));
+    albero.expandAll();
+    esaurisci(finestra);
+    scambio(finestra, albero, "keyConfronti");
+    auto* cursore = finestra.findChild<QSlider*>(QStringLiteral("Slider1"));
+    auto* variabili = finestra.findChild<QComboBox*>(QStringLiteral("txtTipoVariabile"));
+    auto* pianta = finestra.findChild<QWidget*>(QStringLiteral("ctlPianta"));
+    auto* grafico = finestra.findChild<QWidget*>(QStringLiteral("ctlChartConfronti"));
+    if (cursore == nullptr || variabili == nullptr || pianta == nullptr || grafico == nullptr) {
+        std::cout << "guasto keyConfronti" << std::endl;
+        std::_Exit(1);
+    }
+    Dipinto dipinta(*pianta);
+    Dipinto dipinto(*grafico);
+    for (int variabile = 0; variabile < variabili->count(); ++variabile) {
+        variabili->setCurrentIndex(variabile);
+        cursore->setValue(cursore->minimum());
+        esaurisci(finestra);
+        QElapsedTimer tempo;
+        for (int i = 0; i < ripetizioni; ++i) {
+            dipinta.avvenuto = false;
+            dipinto.avvenuto = false;
+            const std::clock_t processore = std::clock();
+            tempo.start();
+            cursore->setValue(cursore->value() + 1);
+            while (!dipinta.avvenuto || !dipinto.avvenuto) {
+                QCoreApplication::processEvents();
+            }
+            std::cout << "cursore " << static_cast<double>(tempo.nsecsElapsed()) / milione << "\ncursore_processore "
+                      << static_cast<double>(std::clock() - processore) * 1000.0 / CLOCKS_PER_SEC << "\n";
+        }
+    }
+}
+
 /// Runs as soon as the application object stands, before anything is shown.
 void comincia() {
     auto* orologio = new QTimer(QCoreApplication::instance());
@@ -225,6 +265,8 @@ void comincia() {
             misuraScambi(*finestra);
         } else if (incarico.compito == "tasti") {
             misuraTasti(*finestra);
+        } else if (incarico.compito == "cursore") {
+            misuraCursore(*finestra);
         }
         std::cout << std::flush;
         std::_Exit(0);
@@ -279,6 +321,10 @@ int tabella(const char* programma, const QString& progetto) {
         std::cerr << "kelvo-misure-desktop: la scrittura di una misura non riesce\n";
         return 1;
     }
+    if (!misura(QString::fromLocal8Bit(programma), progetto, "cursore", figure)) {
+        std::cerr << "kelvo-misure-desktop: lo spostamento dell'istante non riesce\n";
+        return 1;
+    }
     if (!misura(QString::fromLocal8Bit(programma), progetto, "scambi", figure)) {
         std::cerr << "kelvo-misure-desktop: lo scambio delle finestre non riesce\n";
         return 1;
@@ -292,6 +338,8 @@ int tabella(const char* programma, const QString& progetto) {
     riga("empty repaint, ms", figure.at("vuoto"), "");
     riga("first showing of a window, ms", figure.at("primo"), "");
     riga("key to redrawn plan and figures, ms", figure.at("tasto"), "16");
+    riga("instant of the comparison moved to all painted, ms", figure.at("cursore"), "16");
+    riga("processor time of that, ms", figure.at("cursore_processore"), "");
     fmt::print("\nobjects of the main window: {:.0f}, after {} switches {:.0f}, after {} {:.0f}\n",
                figure.at("prima_oggetti").at(0), scambiLunghi, figure.at("dopo_oggetti").at(0), scambiTanti,
                figure.at("ancora_oggetti").at(0));

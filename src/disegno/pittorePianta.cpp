@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
 #include "disegno/caratteri.h"
 #include "pianta/curve.h"
@@ -43,6 +44,7 @@ constexpr std::array vernici{
     Vernice{Ruolo::freccia, colori::bianco, 0},
     Vernice{Ruolo::frecciaAnello, colori::bianco, 0},
     Vernice{Ruolo::isolaDivisionale, tinta::corona, tratto::isola},
+    Vernice{Ruolo::coda, colori::bianco, tratto::veicolo},
 };
 
 /// The ribbons of the flows lie on everything up to this, and below what follows.
@@ -128,8 +130,9 @@ private:
     }
 
     void dipingi(const Area& area, const Vernice& vernice) {
-        if (area.ruolo == Ruolo::ingresso && !area.corrente) {
-            return;  // an entry differs from the rest of the asphalt only where its leg is at hand
+        const std::optional<Colore> livello = area.ruolo == Ruolo::ingresso ? tintaLivello(area.ramo) : std::nullopt;
+        if (area.ruolo == Ruolo::ingresso && !area.corrente && !livello) {
+            return;  // an entry differs from the rest of the asphalt only where its leg is at hand or it has a level
         }
         QPainterPath via;
         aggiungi(via, area.contorno, true);
@@ -138,8 +141,17 @@ private:
         }
         via.setFillRule(area.foro.empty() ? Qt::WindingFill : Qt::OddEvenFill);
         pennello_.setPen(vernice.bordo > 0 ? penna(tinta::grafite, vernice.bordo) : QPen(Qt::NoPen));
-        pennello_.setBrush(qcolore(vernice.fondo));
+        pennello_.setBrush(qcolore(livello.value_or(vernice.fondo)));
         pennello_.drawPath(via);
+    }
+
+    /// Colour of the level of an entry, legs from 1; nothing where it has none.
+    std::optional<Colore> tintaLivello(int ramo) const {
+        if (pianta_.stati.empty()) {
+            return std::nullopt;
+        }
+        const Colore fondo = distintivoLivello(pianta_.stati[static_cast<std::size_t>(ramo) - 1].livello).fondo;
+        return fondo == colori::bianco ? std::nullopt : std::optional{fondo};
     }
 
     /// Origin by origin, so that the ribbons of one read as a band; the ribbon at hand lies above all.
@@ -210,6 +222,9 @@ private:
                 break;
             case Ruolo::percorso:
                 colore = penna(tinta::principale, tratto::percorso);
+                break;
+            case Ruolo::taglioCoda:
+                colore = penna(tinta::errore, tratto::taglio);
                 break;
             case Ruolo::cerchioInscritto:
                 if (!linea.evidenziata) {
@@ -293,8 +308,28 @@ private:
         }
     }
 
+    /// The level in its box.
+    void dipingiLivello(const Testo& testo) {
+        const Distintivo distintivo = distintivoLivello(testo.testo);
+        const double h = testo.altezza * scala_;
+        const QSizeF largo(1.7 * h, 1.3 * h);
+        const QRectF dove(punto(testo.punto) - QPointF(largo.width() / 2, largo.height() / 2), largo);
+        constexpr double arrotondato = 2.0;
+        const bool senza = distintivo.fondo == colori::bianco;
+        pennello_.setPen(penna(senza ? distintivo.bordo : colori::bianco, tratto::disco));
+        pennello_.setBrush(qcolore(distintivo.fondo));
+        pennello_.drawRoundedRect(dove, spesso(arrotondato), spesso(arrotondato));
+        if (stile_.testi) {
+            scrivi(testo.testo, testo.punto, testo.allineamento, forte(h), distintivo.testo);
+        }
+    }
+
     void dipingi(const Testo& testo) {
         const double corpo = testo.altezza * scala_;
+        if (testo.ruolo == Ruolo::livello) {
+            dipingiLivello(testo);
+            return;
+        }
         if (testo.disco > 0) {
             const bool scelta = std::any_of(pianta_.testi.begin(), pianta_.testi.end(),
                                             [](const Testo& t) { return t.disco > 0 && t.corrente; });
@@ -317,8 +352,11 @@ private:
         }
         if (stile_.testi) {
             const bool nota = testo.ruolo == Ruolo::nota;
-            scrivi(testo.testo, testo.punto, testo.allineamento, testo.corrente ? forte(corpo) : dati(corpo),
-                   nota ? tinta::secondario : tinta::inchiostro);
+            const bool spicca = testo.corrente || testo.ruolo == Ruolo::oltreCoda;
+            scrivi(testo.testo, testo.punto, testo.allineamento, spicca ? forte(corpo) : dati(corpo),
+                   nota                              ? tinta::secondario
+                   : testo.ruolo == Ruolo::oltreCoda ? tinta::errore
+                                                     : tinta::inchiostro);
         }
     }
 

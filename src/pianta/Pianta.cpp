@@ -13,7 +13,7 @@ namespace kelvo::pianta {
 
 namespace {
 
-constexpr std::array<std::string_view, 20> nomiRuolo{"carreggiata",
+constexpr std::array<std::string_view, 24> nomiRuolo{"carreggiata",
                                                      "anello",
                                                      "corona",
                                                      "isola",
@@ -32,7 +32,11 @@ constexpr std::array<std::string_view, 20> nomiRuolo{"carreggiata",
                                                      "flusso",
                                                      "lettera",
                                                      "nome",
-                                                     "nota"};
+                                                     "nota",
+                                                     "coda",
+                                                     "taglioCoda",
+                                                     "livello",
+                                                     "oltreCoda"};
 
 /// What a measure may be for a plan at all; beyond, it is drawn at the bound.
 struct Limiti {
@@ -245,6 +249,10 @@ Pianta costruisci(const DatiPianta& dati, const OpzioniPianta& opzioni) {
     aggiungiSegnaletica(opera);
     aggiungiQuote(opera);
     aggiungiScritte(opera);
+    if (scelte.vista == Vista::intera && !scelte.stati.empty()) {
+        comprendiStati(opera);
+        mostraStati(pianta, scelte.stati);
+    }
     pianta.nomeAccessibile = fmt::format("Rotatoria a {} rami", n);
     return pianta;
 }

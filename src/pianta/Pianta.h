@@ -49,6 +49,16 @@ struct Movimento {
     int a = 0;
 };
 
+/// What holds at an entry at an instant.
+struct StatoIngresso {
+    std::string livello{};  ///< of service: "A" to "F", "-" for none
+    double coda = 0.0;      ///< vehicles that wait
+    friend bool operator==(const StatoIngresso&, const StatoIngresso&) = default;
+};
+
+/// Length of lane that a queued vehicle takes, m.
+inline constexpr double metriPerVeicolo = 6.0;
+
 struct OpzioniPianta {
     Vista vista = Vista::intera;
     int ramo = 0;                    ///< leg at hand, from 1; 0: none (a close-up then takes the first)
@@ -63,6 +73,8 @@ struct OpzioniPianta {
     /// none for 0, for what is no number, from a leg to itself. Where there are any, they stand in the place of the
     /// arrows of lanes and ring, and the ring is drawn as wide as they need.
     std::vector<std::vector<float>> flussi{};
+    /// Level and queue of each entry, one a leg, on a whole plan; empty for none.
+    std::vector<StatoIngresso> stati{};
 };
 
 /// A leg as drawn.
@@ -86,11 +98,12 @@ struct Pianta {
     std::vector<Linea> linee{};
     std::vector<Testo> testi{};
     std::vector<Quota> quote{};
-    Riquadro vista{};                  ///< what is to be seen
-    std::optional<Riquadro> fascia{};  ///< strip of the remarks, at the foot of a close-up; nothing is drawn below it
-    double altezzaTesto = 1.0;         ///< size of the type, m
-    std::vector<std::string> note{};   ///< the mark, then what is not to scale
-    std::string nomeAccessibile{};     ///< "Rotatoria a 4 rami"
+    Riquadro vista{};                    ///< what is to be seen
+    std::optional<Riquadro> fascia{};    ///< strip of the remarks, at the foot of a close-up; nothing is drawn below it
+    double altezzaTesto = 1.0;           ///< size of the type, m
+    std::vector<std::string> note{};     ///< the mark, then what is not to scale
+    std::string nomeAccessibile{};       ///< "Rotatoria a 4 rami"
+    std::vector<StatoIngresso> stati{};  ///< what the shapes of the entries show; empty for none
 };
 
 /// Letter of a leg from 1.
@@ -100,5 +113,11 @@ char lettera(int ramo);
 /// sound plan: those that cannot be drawn true are drawn as near as they go, and the notes name them.
 /// Fault 9 for a number of legs outside 3 to 7 or a leg at hand that does not exist.
 Pianta costruisci(const DatiPianta& dati, const OpzioniPianta& opzioni = {});
+
+/// Shows other levels and queues on a whole plan that was made with some; nothing else of it changes, what is to be
+/// seen neither. Queues stand to scale from the give-way line backwards; a queue longer than the drawn leg ends in a
+/// sign, with the vehicles that are not drawn. What is no number, or below 0, is no queue. Fault 9 for another number
+/// of states than legs.
+void mostraStati(Pianta& pianta, const std::vector<StatoIngresso>& stati);
 
 }  // namespace kelvo::pianta

@@ -61,6 +61,9 @@ void aggiungiQuote(Costruzione& opera);
 /// Letters, names, mark and remarks; widens the view where they need room.
 void aggiungiScritte(Costruzione& opera);
 
+/// Widens the view for what `mostraStati` may write beside the legs.
+void comprendiStati(Costruzione& opera);
+
 /// The measure within the bounds of what can be drawn at all; the lower bound for what is no number.
 double disegnabile(const DatiRamo& ramo, Misura quale);
 /// A word and the letter of a leg (index from 0): "ingresso A".

@@ -47,6 +47,10 @@ enum class Ruolo {
     lettera,              ///< text: letter of a leg
     nome,                 ///< text: name of a leg
     nota,                 ///< text: mark and remarks at the foot of the plan
+    coda,                 ///< area: a queued vehicle on the lane of an entry; the last one may be a part of one
+    taglioCoda,           ///< line: a stroke of the sign across the lane where a queue is longer than the drawn leg
+    livello,              ///< text: level of service of an entry, in a box of its own
+    oltreCoda,            ///< text: what of a queue is not drawn
 };
 
 /// Name of a role, as layers and tests call it ("cordolo").

@@ -13,22 +13,9 @@ namespace kelvo {
 namespace {
 
 constexpr const char* titoloOre = "ora";
-constexpr const char* titoloLOS = "L.O.S. (*)";
-constexpr const char* notaLOS = "(*) L.O.S. (Level of service) - HCM Americano";
-constexpr const char* scalaLOS = "0*A*B*C*D*E*F";
 constexpr const char* invito = "Calcola (F9)";
 constexpr double passoCima = 5.0;
 constexpr std::int64_t minutiOra = 60;
-
-/// The first rows of a column, as the chart takes its data: joined by "*", the decimal comma turned into a point.
-std::string datiColonna(const std::vector<std::string>& testi) {
-    std::string dati;
-    for (const std::string& testo : testi) {
-        dati += (&testo == testi.data() ? "" : "*") + testo;
-    }
-    std::replace(dati.begin(), dati.end(), ',', '.');
-    return dati;
-}
 
 std::vector<std::string> testiColonna(const Tabella& tabella, int colonna, int segmenti) {
     std::vector<std::string> testi;
@@ -65,6 +52,15 @@ Grafico::Contenuto conSerie(Grafico::Contenuto contenuto, Grafico::Serie serie, 
 
 }  // namespace
 
+std::string datiGrafico(const std::vector<std::string>& testi) {
+    std::string dati;
+    for (const std::string& testo : testi) {
+        dati += (&testo == testi.data() ? "" : "*") + testo;
+    }
+    std::replace(dati.begin(), dati.end(), ',', '.');
+    return dati;
+}
+
 double cimaAsse(int colonna, double massimo) {
     if (colonna == colonnaSaturazione) {
         return std::floor(massimo) + 1.0;
@@ -76,7 +72,7 @@ double cimaAsse(int colonna, double massimo) {
 Grafico::Contenuto graficoValori(const Rotonda& rotonda, const Tabella& tabella, const GraficoGrandezza& quale,
                                  int segmenti, const OpzioniGrafici& opzioni) {
     Grafico::Serie serie{.colore = quale.colore, .testi = testiColonna(tabella, quale.colonna, segmenti)};
-    serie.valori = valoriDaTesto(datiColonna(serie.testi));
+    serie.valori = valoriDaTesto(datiGrafico(serie.testi));
     serie.valori.resize(serie.testi.size());  // one empty cell joins to an empty text, which has no values
     double massimo = 0.0;
     double minimo = 0.0;

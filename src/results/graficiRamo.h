@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Tabella.h"
 #include "model/Rotonda.h"
@@ -27,6 +29,14 @@ inline constexpr std::array graficiGrandezze{
     GraficoGrandezza{"ctlChartCode", "Lunghezza Code", "veic", colonnaCoda, tinta::serieCode},
     GraficoGrandezza{"ctlChartRitardi", "Ritardi", "s/veic", colonnaRitardo, tinta::serieRitardi},
 };
+/// What stands below every chart of levels of service, and the labels of their axis, one a code from 0 on.
+inline constexpr const char* notaLOS = "(*) L.O.S. (Level of service) - HCM Americano";
+inline constexpr const char* scalaLOS = "0*A*B*C*D*E*F";
+inline constexpr const char* titoloLOS = "L.O.S. (*)";
+
+/// Texts of values as a chart takes its data: joined by "*", the decimal comma turned into a point.
+std::string datiGrafico(const std::vector<std::string>& testi);
+
 /// Title of the tab with the levels of service.
 inline constexpr std::string_view titoloLivelli = "Livello di Servizio";
 

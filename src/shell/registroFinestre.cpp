@@ -14,6 +14,7 @@
 #include "results/frmCapacitaCodeRitardi.h"
 #include "results/frmCapacitaCodeRitardiRamo.h"
 #include "results/frmCapacitaUltima.h"
+#include "results/frmConfronti.h"
 #include "results/frmDX.h"
 #include "results/frmRisultatiAnalisiMarginale.h"
 #include "shell/frmAnagraficaRotonda.h"
@@ -69,6 +70,9 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmCapacitaCodeRitardiRamo", creaRisultati<frmCapacitaCodeRitardiRamo>(servizi));
     finestre.registra("frmDX", creaRisultati<frmDX>(servizi));
     finestre.registra("frmRisultatiAnalisiMarginale", creaRisultati<frmRisultatiAnalisiMarginale>(servizi));
+    finestre.registra("frmConfronti", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmConfronti>(contorno, servizi.risultati(), servizi.cronometro);
+    });
 }
 
 }  // namespace kelvo

@@ -15,6 +15,7 @@ struct ServiziFinestre {
     ApriDocumenti& documenti;
     DialogoAnteprima& anteprima;
     FinestreCollegate& collegate;
+    Cronometro& cronometro;  ///< of the playback of the comparison alone
     /// Hands a file, whole path, over to the spreadsheet; empty while there is no such export.
     std::function<void(const std::string&)> foglio{};
     /// Leads to the window of the reports; empty while there is none.

@@ -60,6 +60,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     ApriDocumenti& documenti = piattaforma.documenti != nullptr ? *piattaforma.documenti : documentiQt;
     ImpostazioniUtente& impostazioni = piattaforma.impostazioni != nullptr ? *piattaforma.impostazioni : impostazioniQt;
     CronometroQt cronometro;
+    CronometroQt simulazione;
     AttesaQt attesa;
     Applicazione app(piattaforma.cartellaProgramma, piattaforma.cartellaLavoro, {messaggi, orologio, piattaforma.file});
     qt.alGuasto = [&app](const Guasto& guasto) {
@@ -75,7 +76,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     MDI_Form cornice(
         app, stato,
         {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
-    registraFinestre(cornice.finestre, {documenti, anteprima, collegate});
+    registraFinestre(cornice.finestre, {documenti, anteprima, collegate, simulazione});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});

@@ -1,5 +1,7 @@
 #include "ui/VistaPianta.h"
 
+#include <QtGui/QContextMenuEvent>
+#include <QtGui/QFocusEvent>
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
 #include <algorithm>
@@ -8,6 +10,7 @@
 
 #include "disegno/pittorePianta.h"
 #include "ui/legami.h"
+#include "ui/shell/menuQt.h"
 #include "ui/stile.h"
 
 namespace kelvo::ui {
@@ -20,6 +23,36 @@ VistaPianta::VistaPianta(std::function<Soggetto()> soggetto, QWidget* genitore)
 
 void VistaPianta::aggiorna() {
     disegnata_.reset();
+    update();
+}
+
+void VistaPianta::aggiornaStati() {
+    statiVecchi_ = true;
+    update();
+}
+
+void VistaPianta::menu(std::function<MenuChiavi*()> quale) {
+    menu_ = std::move(quale);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void VistaPianta::contextMenuEvent(QContextMenuEvent* evento) {
+    MenuChiavi* menu = menu_ ? menu_() : nullptr;
+    if (menu == nullptr) {
+        evento->ignore();
+        return;
+    }
+    const bool tastiera = evento->reason() == QContextMenuEvent::Keyboard;
+    mostraContesto(*menu, *this, tastiera ? rect().center() : evento->pos());
+}
+
+void VistaPianta::focusInEvent(QFocusEvent* evento) {
+    QWidget::focusInEvent(evento);
+    update();
+}
+
+void VistaPianta::focusOutEvent(QFocusEvent* evento) {
+    QWidget::focusOutEvent(evento);
     update();
 }
 
@@ -61,10 +94,19 @@ void VistaPianta::disegna() {
 void VistaPianta::paintEvent(QPaintEvent* /*evento*/) {
     if (!disegnata_) {
         disegna();
+    } else if (statiVecchi_) {
+        mostraStati(*disegnata_, soggetto_().opzioni.stati);
     }
-    if (disegnata_) {
-        QPainter pennello(this);
-        disegno::dipingiPianta(pennello, *disegnata_, rect());
+    statiVecchi_ = false;
+    if (!disegnata_) {
+        return;
+    }
+    QPainter pennello(this);
+    disegno::dipingiPianta(pennello, *disegnata_, rect());
+    if (hasFocus()) {
+        pennello.setPen(
+            QPen(qcolore(tinta::principale), misura::bordoTesto, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        pennello.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }
 

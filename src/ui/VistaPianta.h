@@ -6,6 +6,10 @@
 
 #include "pianta/Pianta.h"
 
+namespace kelvo {
+class MenuChiavi;
+}
+
 namespace kelvo::ui {
 
 /// The plan of the roundabout, live. It is worked out and painted once for all changes of one turn of the event loop,
@@ -23,6 +27,10 @@ public:
 
     /// What is drawn has changed: painted anew in the next turn of the event loop.
     void aggiorna();
+    /// Only the levels and queues of the entries have changed: the plan itself is not worked out again.
+    void aggiornaStati();
+    /// Takes the keyboard, and brings that menu up at the menu key and the right button.
+    void menu(std::function<MenuChiavi*()> quale);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -30,12 +38,17 @@ public:
 protected:
     void paintEvent(QPaintEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
+    void contextMenuEvent(QContextMenuEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
 
 private:
     void disegna();
 
     std::function<Soggetto()> soggetto_;
+    std::function<MenuChiavi*()> menu_;
     std::optional<pianta::Pianta> disegnata_;
+    bool statiVecchi_ = false;
     double parte_ = 1.0;  ///< of the height that the picture takes, the strip of its remarks left out
 };
 

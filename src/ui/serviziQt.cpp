@@ -208,7 +208,10 @@ void AttesaQt::eventi() {
 }
 
 CronometroQt::CronometroQt() : tempo_(std::make_unique<QTimer>()) {
-    QObject::connect(tempo_.get(), &QTimer::timeout, tempo_.get(), [this] { cosa_(); });
+    QObject::connect(tempo_.get(), &QTimer::timeout, tempo_.get(), [this] {
+        const std::function<void()> questa = cosa_;  // it may ask for another one while it runs
+        questa();
+    });
 }
 
 CronometroQt::~CronometroQt() = default;

@@ -11,6 +11,7 @@
 
 #include "app/nuovoProgetto.h"
 #include "comune/cartella.h"
+#include "comune/cronometro.h"
 #include "comune/finti.h"
 #include "shell/MDI_Form.h"
 #include "shell/Main.h"
@@ -167,7 +168,8 @@ struct ServiziFinestreFinti {
     DocumentiFinti documenti;
     AnteprimaFinta anteprima;
     CollegateFinte collegate;
-    ServiziFinestre servizi() { return {documenti, anteprima, collegate}; }
+    CronometroATempo simulazione;
+    ServiziFinestre servizi() { return {documenti, anteprima, collegate, simulazione}; }
 };
 
 class ImpostazioniFinte final : public ImpostazioniUtente {

@@ -69,7 +69,50 @@ def summary_text(file, name, records):
     return head("Risultati: Dettagli riassuntivi ingresso", name) + table + "\r\n" + ends(file)
 
 
+# Project, variable, unit by the minute, entry that is given a name (0: none), the name.
+COMPARISONS = (
+    ("Rotatoria_Via_dei_Mulini", 0, False, 0, ""),
+    ("Rotatoria_Tangenziale_est", 1, True, 2, "Località Città Più Là"),
+    ("Rotatoria_Aurelia_Sette_Strade", 5, False, 0, ""),
+)
+VARIABLES = (("Flusso di traffico [veic/h]", "Flusso di traffico [veic/min]", 2),
+             ("Capacità [veic/h]", "Capacità [veic/min]", 2),
+             ("Coefficiente di Saturazione", "Coefficiente di Saturazione", 2),
+             ("Lunghezza coda [veic]", "Lunghezza coda [veic]", 1), ("Ritardo [s/veic]", "Ritardo [s/veic]", 1),
+             ("Livello di Servizio (L.O.S.)", "Livello di Servizio (L.O.S.)", 1))
+
+
+def compared(record, variable, by_minute):
+    """A flow is kept by the minute, a capacity by the hour."""
+    if variable == 5:
+        return level_of(comuni.shown(record[4], 1))
+    x = record[variable]
+    x = x * 60 if variable == 0 and not by_minute else x / 60 if variable == 1 and by_minute else x
+    return comuni.shown(comuni.motore.single(x), VARIABLES[variable][2])
+
+
+def comparison_text(file, names, records, variable, by_minute):
+    start, step = comuni.minutes(file["TempoIniziale"]), comuni.motore.STEP
+    rows = [["Ingresso"] + [comuni.clock(start + k * step) for k in range(len(records))]]
+    for i, name in enumerate(names):
+        rows.append([name] + [compared(record[i], variable, by_minute) for record in records])
+    head_text = "Analizzatore\r\n\r\nVariabile prestazionale: %s\r\n\r\n" % VARIABLES[variable][by_minute]
+    table = comuni.table_text(rows, True, lambda row: False)
+    return head_text + table + ("\r\n" + ends(file) if variable == 5 else comuni.closing(file))
+
+
+def write_comparisons():
+    for stem, variable, by_minute, entry, name in COMPARISONS:
+        file = json.loads((comuni.PROGETTI / (stem + ".klv")).read_text(encoding="utf-8"))
+        demand = "curve" if file["TipoAnalisi"] == 1 else "table"
+        records = comuni.motore.run(comuni.project_of(file), demand, str(file["TipoFlusso"]))[1]
+        names = [name if k + 1 == entry else leg["Descrizione"] for k, leg in enumerate(file["Rami"])]
+        path = QUI / "attesi" / (stem + ".confronto.txt")
+        path.write_bytes(comparison_text(file, names, records, variable, by_minute).encode("utf-8"))
+
+
 def main():
+    write_comparisons()
     for stem, entry, name in CASES:
         file = json.loads((comuni.PROGETTI / (stem + ".klv")).read_text(encoding="utf-8"))
         project = comuni.project_of(file)

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 struct CicloVero : testing::Test {
     CicloVero() {
-        registraFinestre(f.cornice.finestre, {f.documenti, anteprima, collegate});
+        registraFinestre(f.cornice.finestre, {f.documenti, anteprima, collegate, simulazione});
         f.superficie.alModale = [this](Finestra& finestra) {
             if (auto* rami = dynamic_cast<frmInputNumeroRami*>(&finestra)) {
                 rami->txtNumeroRami.imposta(f.ramiScelti == 0 ? 3 : f.ramiScelti);
@@ -48,6 +48,7 @@ struct CicloVero : testing::Test {
     }
     AnteprimaFinta anteprima;
     CollegateFinte collegate;
+    CronometroATempo simulazione;
     ShellFinta f;
 };
 

@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "comune/cronometro.h"
 #include "comune/fintiShell.h"
 #include "shell/registroFinestre.h"
 #include "ui/gesti.h"
@@ -65,6 +66,7 @@ public:
     ui::DialogoAnteprimaQt anteprima;
     shell::ImpostazioniFinte impostazioni;
     shell::CronometroFinto cronometro;
+    CronometroATempo simulazione;
     Applicazione app;
     StatoFinestre stato;
     ui::VistaMDI_Form vista;

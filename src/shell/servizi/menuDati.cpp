@@ -56,9 +56,6 @@ constexpr std::array formati{
     VoceFormato{chiave::pdf, "pdf", FormatoDisegno::pdf},
 };
 
-/// Pixels of a saved or copied picture to one logical pixel: it stays sharp on paper.
-constexpr double scalaImmagine = 2.0;
-
 }  // namespace
 
 MenuDati::MenuDati(Finestra& finestra, const Contorno& contorno, const std::string& nome)
@@ -188,32 +185,24 @@ void MenuTabella::copia(bool conIntestazioni) {
                                           : testoDiTabella(griglia_, conIntestazioni));
 }
 
-MenuGrafico::MenuGrafico(Finestra& finestra, const Contorno& contorno, Grafico& grafico)
-    : MenuDati(finestra, contorno, grafico.nome()), grafico_(grafico) {
-    grafico_.menuCompleto = [this]() -> MenuChiavi& { return menu(); };
+std::vector<MenuDati::Voce> MenuImmagine::voci() const {
+    return {{chiave::copiaImmagine, "Copia immagine", ""},
+            {"mnuXDatiLinea", "-", ""},
+            {chiave::png, "Salva come PNG...", ""},
+            {chiave::svg, "Salva come SVG...", ""},
+            {chiave::pdf, "Salva come PDF...", ""}};
 }
 
-std::vector<MenuDati::Voce> MenuGrafico::voci() const {
-    return {{chiave::copiaImmagine, "Copia immagine", ""}, {"mnuXDatiLinea", "-", ""},
-            {chiave::png, "Salva come PNG...", ""},        {chiave::svg, "Salva come SVG...", ""},
-            {chiave::pdf, "Salva come PDF...", ""},        {chiave::csv, "Salva i dati come CSV...", ""}};
-}
-
-std::string MenuGrafico::chiusa(std::string_view chiave) const {
-    if (grafico_.vuoto()) {
-        return testi::graficoVuoto;
+std::string MenuImmagine::chiusa(std::string_view chiave) const {
+    if (std::string perche = vuota(); !perche.empty()) {
+        return perche;
     }
     const ServiziContorno& servizi = contorno().servizi;
-    const bool serveDisegno = chiave != chiave::csv;
     const bool arriva = chiave == chiave::copiaImmagine ? servizi.immagini != nullptr : servizi.dialogo != nullptr;
-    return arriva && (!serveDisegno || servizi.disegnatore != nullptr) ? std::string{} : testi::nonDisponibile;
+    return arriva && servizi.disegnatore != nullptr ? std::string{} : testi::nonDisponibile;
 }
 
-EsitoDisegno MenuGrafico::disegna(FormatoDisegno formato) const {
-    return contorno().servizi.disegnatore->grafico(grafico_.contenuto(), formato, {.scala = scalaImmagine});
-}
-
-void MenuGrafico::copia() {
+void MenuImmagine::copia() {
     const EsitoDisegno esito = disegna(FormatoDisegno::png);
     if (!esito.errore.empty()) {
         segnala(testi::nonCopiata + esito.errore);
@@ -222,17 +211,49 @@ void MenuGrafico::copia() {
     }
 }
 
-void MenuGrafico::esegui(std::string_view chiave) {
+void MenuImmagine::esegui(std::string_view chiave) {
     if (chiave == chiave::copiaImmagine) {
         copia();
-    } else if (chiave == chiave::csv) {
+        return;
+    }
+    const auto* formato =
+        std::find_if(formati.begin(), formati.end(), [&](const VoceFormato& voce) { return voce.chiave == chiave; });
+    if (formato != formati.end()) {
+        salva(formato->estensione, [&] { return disegna(formato->formato); });
+    }
+}
+
+MenuGrafico::MenuGrafico(Finestra& finestra, const Contorno& contorno, Grafico& grafico)
+    : MenuImmagine(finestra, contorno, grafico.nome()), grafico_(grafico) {
+    grafico_.menuCompleto = [this]() -> MenuChiavi& { return menu(); };
+}
+
+std::vector<MenuDati::Voce> MenuGrafico::voci() const {
+    std::vector<Voce> tutte = MenuImmagine::voci();
+    tutte.push_back({chiave::csv, "Salva i dati come CSV...", ""});
+    return tutte;
+}
+
+std::string MenuGrafico::vuota() const {
+    return grafico_.vuoto() ? testi::graficoVuoto : std::string{};
+}
+
+std::string MenuGrafico::chiusa(std::string_view chiave) const {
+    if (chiave != chiave::csv || grafico_.vuoto()) {
+        return MenuImmagine::chiusa(chiave);
+    }
+    return contorno().servizi.dialogo != nullptr ? std::string{} : testi::nonDisponibile;
+}
+
+EsitoDisegno MenuGrafico::disegna(FormatoDisegno formato) const {
+    return contorno().servizi.disegnatore->grafico(grafico_.contenuto(), formato, {.scala = scalaImmagineDati});
+}
+
+void MenuGrafico::esegui(std::string_view chiave) {
+    if (chiave == chiave::csv) {
         salva("csv", [this] { return EsitoDisegno{.dati = csvDiGrafico(grafico_.contenuto()), .errore = {}}; });
     } else {
-        const auto* formato = std::find_if(formati.begin(), formati.end(),
-                                           [&](const VoceFormato& voce) { return voce.chiave == chiave; });
-        if (formato != formati.end()) {
-            salva(formato->estensione, [&] { return disegna(formato->formato); });
-        }
+        MenuImmagine::esegui(chiave);
     }
 }
 

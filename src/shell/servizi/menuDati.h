@@ -13,6 +13,9 @@
 
 namespace kelvo {
 
+/// Pixels of a saved or copied picture to one logical pixel: it stays sharp on paper.
+inline constexpr double scalaImmagineDati = 2.0;
+
 /// The context menu of a table or a chart: the entries that it has of its own, behind them those that copy and save it.
 class MenuDati {
 public:
@@ -68,8 +71,27 @@ private:
     Griglia& griglia_;
 };
 
+/// "Copia immagine" and the picture as PNG, SVG and PDF, of anything that can be drawn.
+class MenuImmagine : public MenuDati {
+public:
+    using MenuDati::MenuDati;
+
+protected:
+    MenuChiavi* proprio() const override { return nullptr; }
+    std::vector<Voce> voci() const override;
+    std::string chiusa(std::string_view chiave) const override;
+    void esegui(std::string_view chiave) override;
+    /// Why there is nothing to draw; empty where there is something.
+    virtual std::string vuota() const = 0;
+    /// The picture. Asked only where there is a painter and something to draw.
+    virtual EsitoDisegno disegna(FormatoDisegno formato) const = 0;
+
+private:
+    void copia();
+};
+
 /// "Copia immagine", the picture as PNG, SVG and PDF, the values as CSV.
-class MenuGrafico final : public MenuDati {
+class MenuGrafico final : public MenuImmagine {
 public:
     MenuGrafico(Finestra& finestra, const Contorno& contorno, Grafico& grafico);
 
@@ -78,8 +100,8 @@ private:
     std::vector<Voce> voci() const override;
     std::string chiusa(std::string_view chiave) const override;
     void esegui(std::string_view chiave) override;
-    EsitoDisegno disegna(FormatoDisegno formato) const;
-    void copia();
+    std::string vuota() const override;
+    EsitoDisegno disegna(FormatoDisegno formato) const override;
 
     Grafico& grafico_;
 };

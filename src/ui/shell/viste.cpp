@@ -42,6 +42,7 @@ constexpr std::array viste{
     VoceVista{"frmAnteprimaTesto", vista_frmAnteprimaTesto},
     VoceVista{"frmDX", vista_frmDX},
     VoceVista{"frmRisultatiAnalisiMarginale", vista_frmRisultatiAnalisiMarginale},
+    VoceVista{"frmConfronti", vista_frmConfronti},
 };
 
 }  // namespace

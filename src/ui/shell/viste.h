@@ -32,5 +32,6 @@ VistaFinestra* vista_frmRAMO_AGGIUNTIVA(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmAnteprimaTesto(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmDX(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmRisultatiAnalisiMarginale(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmConfronti(Finestra& finestra, QWidget* genitore);
 
 }  // namespace kelvo::ui

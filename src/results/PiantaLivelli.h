@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "pianta/Pianta.h"
+#include "shell/servizi/menuDati.h"
+
+namespace kelvo {
+
+/// The plan of the roundabout with the level of service and the queue of each entry at an instant.
+class PiantaLivelli final : public Controllo {
+public:
+    explicit PiantaLivelli(std::string nome) : Controllo(std::move(nome)) {}
+
+    /// The roundabout; no leg for nothing to show.
+    const pianta::DatiPianta& dati() const { return dati_; }
+    void dati(pianta::DatiPianta valore);
+    /// Level and queue of each entry; empty for none.
+    const std::vector<pianta::StatoIngresso>& stati() const { return stati_; }
+    void stati(std::vector<pianta::StatoIngresso> valore);
+    /// Only the levels and queues have changed; any other change is told by `cambiato`.
+    sigc::signal<void()>& statiMutati() { return statiMutati_; }
+    /// What is drawn: the whole plan with them.
+    pianta::OpzioniPianta opzioni() const;
+    /// The levels and queues in words, for who does not see the plan: "A: livello B, coda 3,4 veic".
+    std::string descrizione() const;
+
+    /// What the menu key and the right button bring up.
+    std::function<MenuChiavi&()> menuCompleto;
+    MenuChiavi* menu() const { return menuCompleto ? &menuCompleto() : nullptr; }
+    bool prendeFuoco() const override { return raggiungibile(); }
+
+private:
+    pianta::DatiPianta dati_;
+    std::vector<pianta::StatoIngresso> stati_;
+    sigc::signal<void()> statiMutati_;
+};
+
+/// Copies and saves the plan.
+class MenuPianta final : public MenuImmagine {
+public:
+    MenuPianta(Finestra& finestra, const Contorno& contorno, PiantaLivelli& pianta);
+
+private:
+    std::string vuota() const override;
+    EsitoDisegno disegna(FormatoDisegno formato) const override;
+
+    PiantaLivelli& pianta_;
+};
+
+}  // namespace kelvo

@@ -1,0 +1,509 @@
+#include "results/frmConfronti.h"
+
+#include <algorithm>
+
+#include "calc/modCalcolo.h"
+#include "comune/cronometro.h"
+#include "comune/immagini.h"
+#include "scenaRisultati.h"
+
+namespace kelvo::prove {
+namespace {
+
+const std::string prefisso = "Grafico Confronto Rami:" + std::string(36, ' ');
+const std::string prefissoSimulazione = "Simulazione Confronto Rami:" + std::string(36, ' ');
+
+/// An hour in quarters: four instants from 08:00.
+struct ProveConfronti : ScenaRisultati {
+    CronometroATempo cronometro;
+    std::unique_ptr<frmConfronti> f = std::make_unique<frmConfronti>(contorno(), servizi(), cronometro);
+    void apriConfronti() { apri(*f, "keyConfronti"); }
+    void calcola() { f->ctlToolbar.premi("keyCalcola"); }
+    const std::string& titolo() { return f->ctlChartConfronti.contenuto().titolo; }
+    std::vector<double> valori() { return f->ctlChartConfronti.contenuto().serie.at(0).valori; }
+    /// What the chart shall show of an instant.
+    std::vector<double> attesi(int segmento, const SceltaConfronto& scelta = {}) {
+        return valoriDaTesto(Confronto(r()).dati(scelta, segmento));
+    }
+    void controllaIstante(int segmento, const std::string& ora) {
+        EXPECT_EQ(f->Slider1.valore(), segmento);
+        EXPECT_EQ(f->listTEMPO.scelta(), segmento - 1);
+        EXPECT_EQ(f->txtIstanteTEMPO.testo(), ora);
+        EXPECT_EQ(f->txtSIM.testo(), std::to_string(segmento));
+        EXPECT_EQ(f->ctlGrid.corrente().colonna, segmento);
+    }
+    std::vector<Controllo*> pannello() {
+        return {&f->cmdPLAY, &f->ImagePLAY, &f->txtTipoVariabile, &f->opzUnita, &f->listTEMPO, &f->Slider1};
+    }
+    void controllaPannello(bool aperto) {
+        for (const Controllo* c : pannello()) {
+            EXPECT_EQ(c->abilitato(), aperto) << c->nome();
+        }
+        for (const Controllo* c :
+             std::initializer_list<Controllo*>{&f->Command1, &f->ImageSTOP, &f->Command3, &f->Command4}) {
+            EXPECT_TRUE(c->abilitato()) << c->nome();
+        }
+    }
+};
+
+TEST_F(ProveConfronti, OpeningCalculatesAndDrawsTheFirstVariableAtTheFirstInstant) {
+    apriConfronti();
+    EXPECT_EQ(f->didascalia(), "Analizzatore");
+    EXPECT_EQ(r().timbro().forma, FormaCalcolo::piana);
+    EXPECT_EQ(f->txtTipoVariabile.scelta(), 0);
+    EXPECT_EQ(f->txtTipoVariabile.voci().size(), 6U);
+    EXPECT_EQ(f->listTEMPO.voci(), (std::vector<std::string>{"08:00", "08:15", "08:30", "08:45"}));
+    EXPECT_EQ(f->Slider1.minimo(), 1);
+    EXPECT_EQ(f->Slider1.massimo(), 4);
+    controllaIstante(1, "08:00");
+    EXPECT_EQ(titolo(), prefisso + "Flusso di traffico [veic/h]");
+    EXPECT_EQ(f->txtdescrizioneGRAFICO.testo(), titolo());
+    EXPECT_EQ(f->txtVARselezionata.testo(), "Flusso di traffico [veic/h]");
+    EXPECT_EQ(valori(), attesi(1));
+    EXPECT_GT(valori()[0], 0.0);
+    EXPECT_TRUE(f->conFigure());
+    EXPECT_FALSE(f->cmdCalcola.visibile());
+    EXPECT_FALSE(f->lblVecchi.visibile());
+    EXPECT_TRUE(messaggi.mostrati.empty());
+}
+
+TEST_F(ProveConfronti, CalculatesTheTableOfSegmentsWithTheOtherAnalysis) {
+    r().TipoAnalisi(2);
+    ramo(1).theDatiTraffico().FlussoSegmento(75.0F, 0, 0);
+    apriConfronti();
+    EXPECT_EQ(valori()[0], 300.0);  // 75 in a quarter
+    EXPECT_EQ(valori()[1], 0.0);
+}
+
+TEST_F(ProveConfronti, AnAnalysisOfSaturationRunsNothingAndSaysSo) {
+    r().TipoAnalisi(0);
+    apriConfronti();
+    EXPECT_EQ(r().timbro().forma, FormaCalcolo::nessuna);
+    EXPECT_TRUE(f->lblVecchi.visibile());
+    EXPECT_EQ(valori(), (std::vector<double>{0.0, 0.0, 0.0}));
+    EXPECT_EQ(f->MassimoGrafico(), 0.0F);
+}
+
+TEST_F(ProveConfronti, AVariableIsDrawnAtTheInstantInView) {
+    apriConfronti();
+    f->Slider1.imposta(3);
+    f->txtTipoVariabile.scegli(4);
+    EXPECT_EQ(f->txtVARselezionata.testo(), "Ritardo [s/veic]");
+    EXPECT_EQ(valori(), attesi(3, {variabileRitardo, UnitaFlussi::ora}));
+    controllaIstante(3, "08:30");
+    EXPECT_EQ(f->MassimoGrafico(),
+              MassimoGrafico(variabileRitardo, Confronto(r()).massimo({variabileRitardo, UnitaFlussi::ora})));
+    EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, static_cast<double>(f->MassimoGrafico()));
+    EXPECT_EQ(f->ctlGrid.testo(1, 3), Confronto(r()).testo({variabileRitardo, UnitaFlussi::ora}, 1, 3));
+}
+
+TEST_F(ProveConfronti, TheAxisStandsStillWhileTheInstantMoves) {
+    apriConfronti();
+    const double cima = f->ctlChartConfronti.contenuto().y.massimo;
+    EXPECT_GT(cima, 0.0);
+    for (int s = 1; s <= 4; ++s) {
+        f->Slider1.imposta(s);
+        EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, cima);
+    }
+}
+
+TEST_F(ProveConfronti, ChangingTheUnitKeepsThePlaceInTheListAndTheInstant) {
+    apriConfronti();
+    f->txtTipoVariabile.scegli(1);
+    f->Slider1.imposta(2);
+    EXPECT_EQ(f->lblUnita.testo(), "[veic/h]");
+    EXPECT_EQ(f->opzUnita.opzione(0).nome, "Option1veich");
+    EXPECT_EQ(f->opzUnita.opzione(0).testo, "[veic./h]");
+    EXPECT_EQ(f->opzUnita.opzione(1).nome, "Option2veicmin");
+    EXPECT_EQ(f->opzUnita.opzione(1).testo, "[veic./min]");
+    const std::vector<double> allOra = valori();
+    f->opzUnita.clicca(1);
+    EXPECT_EQ(f->lblUnita.testo(), "[veic/min]");
+    EXPECT_EQ(f->txtTipoVariabile.scelta(), 1);
+    EXPECT_EQ(f->txtTipoVariabile.testo(), "Capacità [veic/min]");
+    EXPECT_EQ(f->txtTipoVariabile.voci()[0], "Flusso di traffico [veic/min]");
+    EXPECT_EQ(valori(), attesi(2, {1, UnitaFlussi::minuto}));
+    EXPECT_NEAR(valori()[0], allOra[0] / 60.0, 0.01);
+    controllaIstante(2, "08:15");
+    f->opzUnita.clicca(0);
+    EXPECT_EQ(f->txtTipoVariabile.testo(), "Capacità [veic/h]");
+    EXPECT_EQ(valori(), allOra);
+}
+
+TEST_F(ProveConfronti, TheSliderMovesTheInstantAndTheTitleTellsIt) {
+    apriConfronti();
+    f->Slider1.imposta(3);
+    controllaIstante(3, "08:30");
+    EXPECT_EQ(valori(), attesi(3));
+    EXPECT_EQ(titolo(), prefisso + "Flusso di traffico [veic/h] - 08:30");
+    EXPECT_EQ(f->txtdescrizioneGRAFICO.testo(), titolo());
+    calcola();
+    EXPECT_EQ(titolo(), prefisso + "Flusso di traffico [veic/h]");
+    controllaIstante(3, "08:30");
+}
+
+TEST_F(ProveConfronti, TheListAndTheTableMoveTheInstantToo) {
+    apriConfronti();
+    f->listTEMPO.scegli(1);
+    controllaIstante(2, "08:15");
+    EXPECT_EQ(valori(), attesi(2));
+    ASSERT_TRUE(f->ctlGrid.corrente({2, 4}));
+    controllaIstante(4, "08:45");
+    EXPECT_EQ(f->ctlGrid.corrente().riga, 2);
+    EXPECT_EQ(valori(), attesi(4));
+}
+
+TEST_F(ProveConfronti, LevelsOfServiceHaveTheirAxisAndBadgesInTheTable) {
+    apriConfronti();
+    f->txtTipoVariabile.scegli(5);
+    EXPECT_EQ(f->ctlChartConfronti.contenuto().nota, "(*) L.O.S. (Level of service) - HCM Americano");
+    EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, 30.0);
+    const std::string livello = f->ctlGrid.testo(1, 1);
+    EXPECT_EQ(f->ctlGrid.ornamento({1, 1}).distintivo, distintivoLivello(livello));
+    EXPECT_EQ(f->ctlGrid.ornamento({0, 1}).distintivo, std::nullopt);
+    f->txtTipoVariabile.scegli(0);
+    EXPECT_EQ(f->ctlGrid.ornamento({1, 1}).distintivo, std::nullopt);
+}
+
+TEST_F(ProveConfronti, ThePlanFollowsTheInstant) {
+    apriConfronti();
+    EXPECT_EQ(f->ctlPianta.dati().rami.size(), 3U);
+    int mosse = 0;
+    f->ctlPianta.statiMutati().connect([&] { ++mosse; });
+    for (int s = 2; s <= 3; ++s) {
+        f->Slider1.imposta(s);
+        const Confronto c(r());
+        ASSERT_EQ(f->ctlPianta.stati().size(), 3U);
+        for (int i = 1; i <= 3; ++i) {
+            const pianta::StatoIngresso& suo = f->ctlPianta.stati()[static_cast<std::size_t>(i) - 1];
+            EXPECT_EQ(suo.livello, c.testo({variabileLivello, UnitaFlussi::ora}, i, s));
+            EXPECT_EQ(static_cast<float>(suo.coda), c.record(i, s).Coda);
+        }
+    }
+    EXPECT_EQ(mosse, 2);
+    EXPECT_EQ(f->ctlPianta.opzioni().stati, f->ctlPianta.stati());
+    EXPECT_EQ(f->ctlPianta.descrizione().rfind("A: livello ", 0), 0U) << f->ctlPianta.descrizione();
+}
+
+TEST_F(ProveConfronti, PlaybackDrawsEveryInstantAndWaitsBetweenThem) {
+    apriConfronti();
+    f->Slider1.imposta(3);  // where it stands does not matter
+    f->cmdPLAY.premi();
+    EXPECT_TRUE(f->inSimulazione());
+    controllaPannello(false);
+    controllaIstante(1, "08:00");
+    EXPECT_EQ(titolo(), prefissoSimulazione + "Flusso di traffico [veic/h]");
+    EXPECT_EQ(f->txtdescrizioneGRAFICO.testo(), titolo() + " - simulazione");
+    EXPECT_EQ(valori(), attesi(1));
+    cronometro.avanza(999);
+    controllaIstante(1, "08:00");
+    cronometro.avanza(1);
+    controllaIstante(2, "08:15");
+    EXPECT_EQ(valori(), attesi(2));
+    cronometro.avanza(2000);
+    controllaIstante(4, "08:45");
+    EXPECT_TRUE(f->inSimulazione()) << "the last instant has its pause too";
+    EXPECT_EQ(titolo(), prefissoSimulazione + "Flusso di traffico [veic/h]");
+    cronometro.avanza(1000);
+    EXPECT_FALSE(f->inSimulazione());
+    EXPECT_FALSE(cronometro.attivo());
+    controllaPannello(true);
+    controllaIstante(4, "08:45");
+    EXPECT_EQ(titolo(), prefisso + "Flusso di traffico [veic/h] - 08:45");
+    EXPECT_EQ(f->txtdescrizioneGRAFICO.testo(), titolo());
+}
+
+TEST_F(ProveConfronti, BothButtonsOfAPairDoTheSame) {
+    apriConfronti();
+    f->ImagePLAY.premi();
+    EXPECT_TRUE(f->inSimulazione());
+    f->ImagePIU.premi();
+    EXPECT_EQ(f->PausaSimulazione(), 500);
+    f->ImageMENO.premi();
+    EXPECT_EQ(f->PausaSimulazione(), 1000);
+    f->ImageSTOP.premi();
+    EXPECT_FALSE(f->inSimulazione());
+}
+
+TEST_F(ProveConfronti, ThePauseGoesFromHalfASecondToFiveByHalves) {
+    EXPECT_EQ(f->PausaSimulazione(), 1000);
+    EXPECT_EQ(f->lblPausa.testo(), "Pausa 1,0 s");
+    apriConfronti();
+    f->Command3.premi();
+    EXPECT_EQ(f->PausaSimulazione(), 500);
+    f->Command3.premi();
+    EXPECT_EQ(f->PausaSimulazione(), 500);
+    EXPECT_EQ(f->lblPausa.testo(), "Pausa 0,5 s");
+    for (int pausa = 1000; pausa <= 5000; pausa += 500) {
+        f->Command4.premi();
+        EXPECT_EQ(f->PausaSimulazione(), pausa);
+    }
+    f->Command4.premi();
+    EXPECT_EQ(f->PausaSimulazione(), 5000);
+    EXPECT_TRUE(cronometro.chiesti.empty()) << "nothing runs";
+}
+
+TEST_F(ProveConfronti, PlaybackKeepsItsPauseAtTheFastestAndTheSlowest) {
+    apriConfronti();
+    f->Command3.premi();
+    f->cmdPLAY.premi();
+    cronometro.avanza(499);
+    controllaIstante(1, "08:00");
+    cronometro.avanza(1);
+    controllaIstante(2, "08:15");
+    cronometro.avanza(1500);
+    EXPECT_FALSE(f->inSimulazione());
+    EXPECT_EQ(cronometro.adesso(), 2000);
+    for (int i = 0; i < 9; ++i) {
+        f->Command4.premi();
+    }
+    f->cmdPLAY.premi();
+    cronometro.avanza(4999);
+    controllaIstante(1, "08:00");
+    cronometro.avanza(1);
+    controllaIstante(2, "08:15");
+    cronometro.avanza(14999);
+    EXPECT_TRUE(f->inSimulazione());
+    cronometro.avanza(1);
+    EXPECT_FALSE(f->inSimulazione());
+}
+
+TEST_F(ProveConfronti, AnotherSpeedHoldsAtOnce) {
+    apriConfronti();
+    for (int i = 0; i < 8; ++i) {
+        f->Command4.premi();
+    }
+    f->cmdPLAY.premi();
+    cronometro.avanza(100);
+    for (int i = 0; i < 9; ++i) {
+        f->Command3.premi();
+    }
+    EXPECT_EQ(f->PausaSimulazione(), 500);
+    controllaIstante(1, "08:00");
+    cronometro.avanza(500);
+    controllaIstante(2, "08:15");
+    const std::size_t chiesti = cronometro.chiesti.size();
+    cronometro.avanza(400);
+    f->Command3.premi();  // at its end already: the wait goes on
+    EXPECT_EQ(cronometro.chiesti.size(), chiesti);
+    cronometro.avanza(100);
+    controllaIstante(3, "08:30");
+}
+
+TEST_F(ProveConfronti, StopEndsAtOnceAndShowsTheInstantThatWasInView) {
+    apriConfronti();
+    f->cmdPLAY.premi();
+    cronometro.avanza(1500);
+    f->Command1.premi();
+    EXPECT_FALSE(f->inSimulazione());
+    EXPECT_FALSE(cronometro.attivo());
+    controllaPannello(true);
+    controllaIstante(2, "08:15");
+    EXPECT_EQ(titolo(), prefisso + "Flusso di traffico [veic/h] - 08:15");
+    EXPECT_EQ(f->txtdescrizioneGRAFICO.testo(), titolo());
+    cronometro.avanza(60000);
+    controllaIstante(2, "08:15");
+    f->opzUnita.clicca(1);
+    controllaIstante(2, "08:15");
+    f->Command1.premi();  // without a playback it draws the instant once more
+    controllaIstante(2, "08:15");
+    EXPECT_EQ(valori(), attesi(2, {0, UnitaFlussi::minuto}));
+}
+
+TEST_F(ProveConfronti, OneSegmentIsDrawnOnce) {
+    r().TempoFinale(oraDelGiorno(8, 15));
+    for (int i = 1; i <= 3; ++i) {
+        ramo(i).theDatiTraffico().NumSegmentiTempo(1);
+    }
+    r().TipoAnalisi(2);
+    apriConfronti();
+    ASSERT_EQ(f->listTEMPO.voci().size(), 1U);
+    int simulati = 0;
+    f->ctlChartConfronti.cambiato().connect([&] { simulati += titolo().rfind(prefissoSimulazione, 0) == 0 ? 1 : 0; });
+    f->cmdPLAY.premi();
+    EXPECT_EQ(simulati, 1);
+    cronometro.avanza(1000);
+    EXPECT_EQ(simulati, 1);
+    EXPECT_FALSE(f->inSimulazione());
+    controllaIstante(1, "08:00");
+}
+
+TEST_F(ProveConfronti, LeavingEndsThePlayback) {
+    apriConfronti();
+    f->cmdPLAY.premi();
+    cronometro.avanza(1000);
+    gestione.chiudiCorrente();
+    EXPECT_FALSE(f->inSimulazione());
+    EXPECT_FALSE(cronometro.attivo());
+    controllaPannello(true);
+    apriConfronti();
+    controllaIstante(2, "08:15");
+    f->cmdPLAY.premi();
+    EXPECT_TRUE(f->inSimulazione());
+}
+
+TEST_F(ProveConfronti, ClosingEndsThePlayback) {
+    apriConfronti();
+    f->cmdPLAY.premi();
+    f.reset();
+    EXPECT_FALSE(cronometro.attivo());
+    cronometro.avanza(60000);
+}
+
+TEST_F(ProveConfronti, CalculatingEndsThePlayback) {
+    apriConfronti();
+    f->cmdPLAY.premi();
+    cronometro.avanza(1000);
+    calcola();
+    EXPECT_FALSE(f->inSimulazione());
+    controllaPannello(true);
+    EXPECT_EQ(titolo(), prefisso + "Flusso di traffico [veic/h]");
+    controllaIstante(2, "08:15");
+}
+
+TEST_F(ProveConfronti, AnInstantChosenInTheTableEndsThePlayback) {
+    apriConfronti();
+    f->cmdPLAY.premi();
+    ASSERT_TRUE(f->ctlGrid.corrente({1, 3}));
+    EXPECT_FALSE(f->inSimulazione());
+    controllaIstante(3, "08:30");
+}
+
+TEST_F(ProveConfronti, TheKeyboardGoesToStopAndBackToPlay) {
+    apriConfronti();
+    ASSERT_TRUE(f->fuocoSu(f->cmdPLAY));
+    f->cmdPLAY.premi();
+    EXPECT_EQ(f->fuoco(), &f->Command1);
+    f->Command1.premi();
+    EXPECT_EQ(f->fuoco(), &f->cmdPLAY);
+}
+
+TEST_F(ProveConfronti, AReturnKeepsVariableAndInstantAndSaysThatTheFiguresAreOld) {
+    apriConfronti();
+    f->txtTipoVariabile.scegli(3);
+    f->Slider1.imposta(2);
+    const std::vector<double> prima = valori();
+    gestione.chiudiCorrente();
+    ramo(1).theDatiTraffico().FlussoTempo2(20.0F);
+    apriConfronti();
+    EXPECT_EQ(f->txtTipoVariabile.scelta(), 3);
+    controllaIstante(2, "08:15");
+    EXPECT_EQ(valori(), prima);
+    EXPECT_TRUE(f->lblVecchi.visibile());
+    calcola();
+    EXPECT_FALSE(f->lblVecchi.visibile());
+    EXPECT_NE(valori(), prima);
+}
+
+TEST_F(ProveConfronti, AReturnShowsWhatTheLastCalculationLeft) {
+    apriConfronti();
+    gestione.chiudiCorrente();
+    ramo(1).theDatiTraffico().FlussoTempo1(6.0F);
+    modCalcolo(app).Calcola_Tempo_Flusso("0");
+    apriConfronti();
+    EXPECT_EQ(valori(), attesi(1));
+    EXPECT_FALSE(f->lblVecchi.visibile());
+}
+
+TEST_F(ProveConfronti, RecordsThatAreGoneAreCalculatedAgainWithTheirInstants) {
+    r().TipoAnalisi(2);
+    apriConfronti();
+    f->Slider1.imposta(4);
+    gestione.chiudiCorrente();
+    r().TempoFinale(oraDelGiorno(8, 45));
+    for (int i = 1; i <= 3; ++i) {
+        ramo(i).theDatiTraffico().NumSegmentiTempo(3);
+        ramo(i).theDatiTraffico().FlussoSegmento(30.0F, 2, 0);
+    }
+    apriConfronti();
+    EXPECT_EQ(f->listTEMPO.voci().size(), 3U);
+    controllaIstante(3, "08:30");
+    EXPECT_EQ(valori()[0], 120.0);  // 30 in a quarter
+    EXPECT_FALSE(f->lblVecchi.visibile());
+}
+
+TEST_F(ProveConfronti, TellsWhyThereAreNoFlows) {
+    for (int i = 1; i <= 3; ++i) {
+        ramo(i).theDatiTraffico().FlussoTempo1(0.0F);
+        ramo(i).theDatiTraffico().FlussoTempo2(0.0F);
+        ramo(i).theDatiTraffico().FlussoTempo3(0.0F);
+    }
+    apriConfronti();
+    EXPECT_TRUE(f->lblFlussi.visibile());
+    EXPECT_EQ(f->MassimoGrafico(), 0.0F);
+    EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, 0.0);
+    for (const pianta::StatoIngresso& suo : f->ctlPianta.stati()) {
+        EXPECT_EQ(suo.livello, "-");
+        EXPECT_EQ(suo.coda, 0.0);
+    }
+}
+
+TEST_F(ProveConfronti, WritesItsTextToTheByteForThreeFourAndSevenLegs) {
+    struct Caso {
+        const char* nome;
+        int variabile;
+        int unita;
+    };
+    for (const Caso& caso : {Caso{"Rotatoria_Via_dei_Mulini", 0, 0}, Caso{"Rotatoria_Tangenziale_est", 1, 1},
+                             Caso{"Rotatoria_Aurelia_Sette_Strade", 5, 0}}) {
+        f.reset();
+        esempio(caso.nome);
+        if (caso.variabile == 1) {
+            ramo(2).Descrizione("Località Città Più Là");
+        }
+        f = std::make_unique<frmConfronti>(contorno(), servizi(), cronometro);
+        gestione.ShowForm(f.get());
+        f->opzUnita.clicca(caso.unita);
+        f->txtTipoVariabile.scegli(caso.variabile);
+        f->ctlToolbar.premi("keyAnteprima");
+        EXPECT_EQ(file("Confronto.txt"), atteso("results/attesi/" + std::string{caso.nome} + ".confronto.txt"));
+        gestione.chiudiCorrente();
+    }
+    EXPECT_EQ(documenti.aperti.size(), 3U);
+}
+
+TEST_F(ProveConfronti, ThePreviewWithoutFiguresIsTheEmptyTable) {
+    f->ctlToolbar.premi("keyAnteprima");
+    const std::string testo = file("Confronto.txt");
+    EXPECT_NE(testo.find("Variabile prestazionale: Flusso di traffico [veic/h]"), std::string::npos);
+    EXPECT_NE(testo.find("Ingresso"), std::string::npos);
+    EXPECT_NE(testo.find("Output creato con Kelvo V"), std::string::npos);
+}
+
+TEST_F(ProveConfronti, TheReportIsOfTheChartInView) {
+    EXPECT_FALSE(f->ctlToolbar.abilitato("keyRelazione"));
+    EXPECT_EQ(f->ctlToolbar.tasti()[2].nota, "Non ancora disponibile in questa versione");
+    apriConfronti();
+    f->txtTipoVariabile.scegli(2);
+    f->Slider1.imposta(3);
+    const RelazioneConfronto relazione = f->relazione();
+    EXPECT_EQ(relazione.variabile, "Variabile prestazionale: Coefficiente di Saturazione");
+    EXPECT_EQ(relazione.intervallo, "Intervallo di tempo: 08:30");
+    EXPECT_EQ(relazione.grafico, f->ctlChartConfronti.contenuto());
+}
+
+TEST_F(ProveConfronti, ThePlanIsCopiedAndSavedByItsMenu) {
+    DialogoFinto dialogo;
+    DisegnatoreFinto disegnatore;
+    ImmaginiFinte immagini;
+    Contorno completo = contorno();
+    completo.servizi = {.dialogo = &dialogo, .disegnatore = &disegnatore, .immagini = &immagini};
+    frmConfronti finestra(completo, servizi(), cronometro);
+    MenuChiavi& menu = *finestra.ctlPianta.menu();
+    EXPECT_FALSE(menu.voce("mnuXDatiPNG").abilitata);
+    EXPECT_EQ(menu.voce("mnuXDatiPNG").nota, "La pianta non ha dati");
+    navigazione.corrente = "keyConfronti";
+    finestra.attivata();
+    EXPECT_TRUE(finestra.ctlPianta.menu()->voce("mnuXDatiSVG").abilitata);
+    EXPECT_FALSE(menu.contiene("mnuXDatiCSV"));
+    dialogo.risposta = cartella.file("pianta.svg");
+    menu.premi("mnuXDatiSVG");
+    EXPECT_EQ(contenuto(cartella.file("pianta.svg")), "disegno");
+    EXPECT_EQ(disegnatore.disegnati.back(), FormatoDisegno::svg);
+    menu.premi("mnuXDatiCopiaImmagine");
+    EXPECT_EQ(immagini.png, "disegno");
+    EXPECT_EQ(finestra.ctlChartConfronti.menu()->voce("mnuXDatiCSV").testo, "Salva i dati come CSV...");
+}
+
+}  // namespace
+}  // namespace kelvo::prove
