@@ -317,7 +317,7 @@ std::string frmConfronti::motivoFlussi() const {
     return notaFlussi(app());
 }
 
-RelazioneConfronto frmConfronti::relazione() const {
+RelazioneConfronto frmConfronti::perRelazione() const {
     return relazioneConfronto(scelta(), txtIstanteTEMPO.testo(), ctlChartConfronti.contenuto());
 }
 

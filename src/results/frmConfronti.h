@@ -64,7 +64,7 @@ public:
     /// Top of the axis of values for the variable in view.
     float MassimoGrafico() const { return MassimoGrafico_; }
     /// The report of the chart in view.
-    RelazioneConfronto relazione() const;
+    RelazioneConfronto perRelazione() const;
 
 protected:
     void calcola() override;

@@ -476,7 +476,7 @@ TEST_F(ProveConfronti, TheReportIsOfTheChartInView) {
     apriConfronti();
     f->txtTipoVariabile.scegli(2);
     f->Slider1.imposta(3);
-    const RelazioneConfronto relazione = f->relazione();
+    const RelazioneConfronto relazione = f->perRelazione();
     EXPECT_EQ(relazione.variabile, "Variabile prestazionale: Coefficiente di Saturazione");
     EXPECT_EQ(relazione.intervallo, "Intervallo di tempo: 08:30");
     EXPECT_EQ(relazione.grafico, f->ctlChartConfronti.contenuto());
