@@ -63,6 +63,10 @@ private:
         legamePianta_ = f_.listDX.cambiato().connect([pianta] { pianta->aggiorna(); });
         gioco(*pianta);
         pannello->larga(pianta);
+        // What is left of the height goes to the rows of the panel, of which the plan alone grows.
+        if (auto* dentro = qobject_cast<QBoxLayout*>(pianta->parentWidget()->layout())) {
+            dentro->setStretch(dentro->count() - 1, 1);
+        }
         return pannello;
     }
 
