@@ -3,6 +3,7 @@
 #include <QtCore/QEvent>
 
 #include "ui/VistaGriglia.h"
+#include "ui/stile.h"
 
 namespace kelvo::ui {
 
@@ -43,6 +44,11 @@ private:
 
 void tieniIntera(VistaGriglia& vista, Griglia& griglia, bool ferma) {
     new Altezza(vista, griglia, ferma);
+}
+
+void gioco(QWidget& figura) {
+    figura.setMinimumHeight(misura::figuraMinima);
+    figura.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 }
 
 }  // namespace kelvo::ui

@@ -61,7 +61,12 @@ private:
         pannello->larga(collega(f_.chkStampaDX, pannello));
         auto* pianta = new VistaPianta([this] { return soggetto(); }, pannello);
         legamePianta_ = f_.listDX.cambiato().connect([pianta] { pianta->aggiorna(); });
+        gioco(*pianta);
         pannello->larga(pianta);
+        // What is left of the height goes to the rows of the panel, of which the plan alone grows.
+        if (auto* dentro = qobject_cast<QBoxLayout*>(pianta->parentWidget()->layout())) {
+            dentro->setStretch(dentro->count() - 1, 1);
+        }
         return pannello;
     }
 
@@ -94,10 +99,10 @@ private:
         piano->setHorizontalSpacing(misura::spazio);
         piano->setVerticalSpacing(misura::spazioRighe);
         for (int i = 0; i < static_cast<int>(f_.txtIngresso.size()); ++i) {
-            auto* lettera = new QLabel(QStringLiteral("Ramo %1").arg(QChar(u'A' + i)), insieme);
+            auto* lettera = new QLabel(QString(QChar(u'A' + i)), insieme);
             lettera->setFont(leggero(punti::corpo));
             QWidget* nome = collega(f_.txtIngresso[static_cast<std::size_t>(i)], insieme);
-            nome->setAccessibleName(lettera->text());
+            nome->setAccessibleName(QStringLiteral("Ramo %1").arg(lettera->text()));
             piano->addWidget(lettera, i / nomiPerRiga, i % nomiPerRiga * 2);
             piano->addWidget(nome, i / nomiPerRiga, i % nomiPerRiga * 2 + 1);
             piano->setColumnStretch(i % nomiPerRiga * 2 + 1, 1);

@@ -23,8 +23,11 @@ namespace {
 
 /// Width of the names of the measures in their list.
 constexpr int larghezzaGrandezza = 240;
+/// Height of the window from which on there is room for the help.
+constexpr int altezzaConAiuto = 720;
 
-/// A tab for the table of each measure and one for the summary; below them the chart of the tab in view.
+/// A tab for the table of each measure and one for the summary; below them the chart of the tab in view and what it
+/// shows.
 class Vista final : public VistaRisultati {
 public:
     Vista(frmRisultatiAnalisiMarginale& f, QWidget* genitore) : VistaRisultati(f, genitore), f_(f) {
@@ -37,14 +40,25 @@ public:
         schede->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
         schede->setUsesScrollButtons(true);
         figure()->addWidget(schede);
+        auto* riga = new QHBoxLayout;
+        riga->setSpacing(misura::margine);
         auto* grafico = collega(f.ctlChartLA, corpo());
-        grafico->larga(collega(f.RMChartX1, grafico));
-        figure()->addWidget(grafico, 1);
-        scelte();
+        VistaGrafico* linea = collega(f.RMChartX1, grafico);
+        gioco(*linea);
+        grafico->larga(linea);
+        riga->addWidget(grafico, 1);
+        riga->addWidget(scelte());
+        figure()->addLayout(riga, 1);
         chiudi();
         scorciatoia(Qt::CTRL | Qt::Key_Tab, true);
         scorciatoia(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, false);
         scorciatoia(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, false);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* evento) override {
+        VistaRisultati::resizeEvent(evento);
+        aiuto_->setVisible(height() >= altezzaConAiuto);
     }
 
 private:
@@ -114,19 +128,28 @@ private:
         return foglio;
     }
 
-    void scelte() {
-        auto* variabile = collega(f_.frVARIABILE, corpo());
+    /// What the chart shows; below it, where the window is high enough, the page of the help.
+    QWidget* scelte() {
+        auto* insieme = new QWidget(corpo());
+        insieme->setFixedWidth(misura::colonnaRisultati);
+        auto* piano = new QVBoxLayout(insieme);
+        piano->setContentsMargins(0, 0, 0, 0);
+        piano->setSpacing(misura::margine);
+        auto* variabile = collega(f_.frVARIABILE, insieme);
         variabile->larga(collega(f_.opzVARIABILE, variabile));
         variabile->larga(collega(f_.Command1, variabile));
-        lato()->addWidget(variabile);
-        auto* aiuto = new RiquadroAiuto(f_.ctlHelp, QStringLiteral("Descrizione"), corpo());
-        aiuto->soloPagina();
-        aiuto->setMinimumWidth(0);
-        constexpr int tutto = 100;
-        lato()->addWidget(aiuto, tutto);
+        piano->addWidget(variabile);
+        aiuto_ = new RiquadroAiuto(f_.ctlHelp, QStringLiteral("Descrizione"), insieme);
+        aiuto_->soloPagina();
+        aiuto_->setMinimumWidth(0);
+        aiuto_->hide();
+        piano->addWidget(aiuto_, 1);
+        piano->addStretch(0);
+        return insieme;
     }
 
     frmRisultatiAnalisiMarginale& f_;
+    RiquadroAiuto* aiuto_ = nullptr;
 };
 
 }  // namespace
