@@ -6,16 +6,20 @@
 
 #include <fmt/format.h>
 
+#include <QtCore/QAbstractItemModel>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>
+#include <QtGui/QAction>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
+#include <QtWidgets/QTableView>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QTreeWidgetItemIterator>
 #include <algorithm>
@@ -63,7 +67,7 @@ double memoria(const std::string& voce) {
 /// What a measured process is asked for.
 struct Incarico {
     double partenza = 0.0;  ///< when its parent started it
-    std::string compito;    ///< "avvio", "scambi", "tasti" or "cursore": what comes after the start
+    std::string compito;    ///< "avvio", "scambi", "tasti", "calcolo" or "cursore": what comes after the start
 };
 Incarico incarico;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables): read before any object
 
@@ -204,6 +208,49 @@ void misuraTasti(QMainWindow& finestra) {
     QTest::keyClick(campo, Qt::Key_Escape);
 }
 
+/// The key that calculates to the table of all entries painted with its figures, and a page of that table down and up.
+void misuraCalcolo(QMainWindow& finestra) {
+    constexpr QSize schermo(1366, 768);
+    finestra.resize(schermo);
+    auto& albero = *finestra.findChild<QTreeWidget*>(QStringLiteral("ctlTree"));
+    albero.expandAll();
+    esaurisci(finestra);
+    scambio(finestra, albero, "keyCodeRitardi_Out");
+    auto* vista = finestra.findChild<QWidget*>(QStringLiteral("frmCapacitaCodeRitardi"));
+    auto* griglia = vista == nullptr ? nullptr : vista->findChild<QTableView*>(QStringLiteral("ctlGrid"));
+    auto* calcola = vista == nullptr ? nullptr : vista->findChild<QAction*>(QStringLiteral("keyCalcola"));
+    if (griglia == nullptr || calcola == nullptr || !griglia->isVisible()) {
+        std::cout << "guasto keyCodeRitardi_Out" << std::endl;
+        std::_Exit(1);
+    }
+    const auto durata = [&](const auto& gesto) {
+        QElapsedTimer tempo;
+        tempo.start();
+        gesto();
+        esaurisci(finestra);
+        return static_cast<double>(tempo.nsecsElapsed()) / milione;
+    };
+    for (int i = 0; i < ripetizioni + 1; ++i) {
+        const double d = durata([calcola] { calcola->trigger(); });
+        if (i > 0) {
+            std::cout << "calcolo " << d << "\n";
+        }
+    }
+    const QAbstractItemModel& celle = *griglia->model();
+    if (celle.index(celle.rowCount() - 1, celle.columnCount() - 1).data().toString().isEmpty()) {
+        std::cout << "guasto figure" << std::endl;
+        std::_Exit(1);
+    }
+    QScrollBar& barra = *griglia->verticalScrollBar();
+    for (int i = 0; i < ripetizioni; ++i) {
+        const bool giu = i % 10 < 5;
+        std::cout << "pagina " << durata([&] {
+            barra.triggerAction(giu ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderPageStepSub);
+        }) << "\nintera "
+                  << durata([] {}) << "\n";
+    }
+}
+
 /// The slider of the comparison moved by one instant to chart, plan and table painted, in each of its variables.
 void misuraCursore(QMainWindow& finestra) {
     constexpr QSize schermo(1366, 768);
@@ -265,6 +312,8 @@ void comincia() {
             misuraScambi(*finestra);
         } else if (incarico.compito == "tasti") {
             misuraTasti(*finestra);
+        } else if (incarico.compito == "calcolo") {
+            misuraCalcolo(*finestra);
         } else if (incarico.compito == "cursore") {
             misuraCursore(*finestra);
         }
@@ -321,6 +370,10 @@ int tabella(const char* programma, const QString& progetto) {
         std::cerr << "kelvo-misure-desktop: la scrittura di una misura non riesce\n";
         return 1;
     }
+    if (!misura(QString::fromLocal8Bit(programma), progetto, "calcolo", figure)) {
+        std::cerr << "kelvo-misure-desktop: il calcolo non riesce\n";
+        return 1;
+    }
     if (!misura(QString::fromLocal8Bit(programma), progetto, "cursore", figure)) {
         std::cerr << "kelvo-misure-desktop: lo spostamento dell'istante non riesce\n";
         return 1;
@@ -338,6 +391,9 @@ int tabella(const char* programma, const QString& progetto) {
     riga("empty repaint, ms", figure.at("vuoto"), "");
     riga("first showing of a window, ms", figure.at("primo"), "");
     riga("key to redrawn plan and figures, ms", figure.at("tasto"), "16");
+    riga("Calcola to the painted table of all entries, ms", figure.at("calcolo"), "80");
+    riga("page of that table scrolled and all painted, ms", figure.at("pagina"), "16");
+    riga("the same window painted without a change, ms", figure.at("intera"), "");
     riga("instant of the comparison moved to all painted, ms", figure.at("cursore"), "16");
     riga("processor time of that, ms", figure.at("cursore_processore"), "");
     fmt::print("\nobjects of the main window: {:.0f}, after {} switches {:.0f}, after {} {:.0f}\n",

@@ -299,7 +299,7 @@ TEST(NonAncora, WithTheRealWindowsEveryClosedKeyLeadsToOneOfTheList) {
                 EXPECT_EQ(cornice.ctlMenu.voce(chiave).nota, manca ? nota : "") << chiave;
             }
         }
-        EXPECT_EQ(cornice.ctlToolbar.spiegazione("Dx"), "Valutazione Corsia Preferenziale\n" + nota);
+        EXPECT_EQ(cornice.ctlToolbar.spiegazione("Check"), "Check progetto rotatoria\n" + nota);
         EXPECT_EQ(cornice.ctlToolbar.spiegazione("Google"), nota);
         EXPECT_TRUE(f.messaggi.mostrati.empty());
     }

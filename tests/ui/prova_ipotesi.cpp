@@ -223,9 +223,8 @@ TEST_F(Ipotesi, TheSummaryAnswersHowMuchIsNeeded) {
 
 TEST_F(Ipotesi, LeavingTheWindowsWritesNothing) {
     progetto(4);
-    const std::string file = banco.cartella.file("prova.klv");
-    ASSERT_TRUE(banco.salva(file));
-    const std::string prima = contenuto(file);
+    const std::string prima = banco.app.theRotonda().TestoFile();
+    const auto revisione = banco.app.theRotonda().revisione().tutto;
     banco.vai("keyCorsiaDX");
     auto& elenco = banco.oggetto<QListWidget>("listDX");
     clic(*elenco.viewport(), elenco.visualItemRect(elenco.item(0)).center());
@@ -235,10 +234,8 @@ TEST_F(Ipotesi, LeavingTheWindowsWritesNothing) {
     premi("OptCODA");
     tasto(Qt::Key_F9);
     banco.vai("keyMyProject");
-    std::filesystem::remove(file);
-    tasto(Qt::Key_S, Qt::ControlModifier);
-    ASSERT_TRUE(attendi([&] { return std::filesystem::exists(file); }));
-    EXPECT_EQ(contenuto(file), prima);
+    EXPECT_EQ(banco.app.theRotonda().TestoFile(), prima);
+    EXPECT_EQ(banco.app.theRotonda().revisione().tutto, revisione);
     banco.vai("keyCorsiaDX");
     EXPECT_EQ(finestra<frmDX>().listDX.quanteSpuntate(), 1) << "the choice lives as long as the window";
 }
