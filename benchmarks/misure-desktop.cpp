@@ -392,7 +392,7 @@ int tabella(const char* programma, const QString& progetto) {
     riga("first showing of a window, ms", figure.at("primo"), "");
     riga("key to redrawn plan and figures, ms", figure.at("tasto"), "16");
     riga("Calcola to the painted table of all entries, ms", figure.at("calcolo"), "80");
-    riga("page of that table scrolled and all painted, ms", figure.at("pagina"), "16");
+    riga("page of that table scrolled and the whole window painted, ms", figure.at("pagina"), "");
     riga("the same window painted without a change, ms", figure.at("intera"), "");
     riga("instant of the comparison moved to all painted, ms", figure.at("cursore"), "16");
     riga("processor time of that, ms", figure.at("cursore_processore"), "");
