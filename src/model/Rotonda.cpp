@@ -134,6 +134,7 @@ void Rotonda::Clear() {
     dati_ = datiPredefiniti();
     chiaviIgnote.clear();
     timbro_ = {};
+    timbroRecord_ = {};
     backupTraffico_ = {};
     segnaDato();
 }

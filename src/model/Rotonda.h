@@ -160,16 +160,21 @@ public:
     const Revisione& revisione() const { return revisione_; }
     /// What the last calculation left.
     const Timbro& timbro() const { return timbro_; }
+    /// What the last calculation that writes records left: the stamp of the records.
+    const Timbro& timbroRecord() const { return timbroRecord_; }
     /// Stamps the results as left by a calculation of `forma` on the input as it stands, with `ambiente` in force.
     void timbra(FormaCalcolo forma, const AmbienteCalcolo& ambiente = {}) {
         timbro_ = {forma, revisione_.calcolo, ambiente};
+        if (forma != FormaCalcolo::bilanciamento) {
+            timbroRecord_ = timbro_;
+        }
     }
     /// True if figures of that stamp are those of the project as it stands, with `ambiente` in force.
     bool attuale(const Timbro& timbro, const AmbienteCalcolo& ambiente) const {
         return timbro == Timbro{FormaCalcolo::piana, revisione_.calcolo, ambiente};
     }
     /// True if the records are those of the project as it stands, with `ambiente` in force.
-    bool risultatiAttuali(const AmbienteCalcolo& ambiente) const { return attuale(timbro_, ambiente); }
+    bool risultatiAttuali(const AmbienteCalcolo& ambiente) const { return attuale(timbroRecord_, ambiente); }
 
 private:
     struct Dati {
@@ -209,6 +214,7 @@ private:
     std::function<DataOra()> oggi_;
     Revisione revisione_;
     Timbro timbro_;
+    Timbro timbroRecord_;
     Dati dati_;
     RaccoltaRami rami_;
     BackupTraffico backupTraffico_;

@@ -52,6 +52,7 @@ void Rotonda::LoadTesto(std::string_view testo, std::string& messaggio, bool& es
             ramo->segui(revisione_);
         }
         timbro_ = {};
+        timbroRecord_ = {};
         backupTraffico_ = {};
         segnaDato();
         messaggio.clear();

@@ -34,7 +34,8 @@ public:
     /// What copies and saves the table or chart in view; null where there is none.
     MenuChiavi* menuDati() const;
 
-    /// Brings up to date what stands beside the tables. The frame calls it when data changed while the window is shown.
+    /// Brings up to date what stands beside the tables: whenever the window comes up and after its calculations. Data
+    /// that change while it is shown are told when it comes up again.
     virtual void aggiornaNote();
     void attivata() override { aggiornaNote(); }
     /// The window shows figures.
@@ -67,6 +68,12 @@ protected:
     void simula();
     /// The figures shown are those that the calculation of this stamp left.
     void figureDi(const Timbro& timbro) { timbro_ = timbro; }
+    /// The same for figures that another window may have calculated: where it did, a failure of this one's own
+    /// calculation is past.
+    void riprendiFigure(const Timbro& timbro) {
+        fallita_ = fallita_ && timbro_ == timbro;
+        figureDi(timbro);
+    }
     /// The window shows no figures any more.
     void senzaFigure() { timbro_.reset(); }
     const Timbro& timbroFigure() const { return *timbro_; }

@@ -136,6 +136,9 @@ Grafico::Contenuto graficoConfronto(const Confronto& confronto, const SceltaConf
     Grafico::Contenuto contenuto;
     contenuto.x = {.titolo = testi::ingresso, .etichette = confronto.nomi(), .posa = Grafico::Posa::nome};
     contenuto.y = {.titolo = std::string{v.assi[posto(scelta.unita)]}, .massimo = static_cast<double>(cima)};
+    if (segmento != 0 && !(cima > 0.0F)) {
+        contenuto.y.massimo = 1.0;  // an end of 0 is none: the axis would follow the values of each instant
+    }
     contenuto.valori = true;
     contenuto.invito = testi::invito;
     if (v.livello) {

@@ -113,7 +113,7 @@ private:
 };
 
 /// Chart of one segment, one bar an entry; without values where `segmento` is 0. `cima`: `MassimoGrafico` of the
-/// largest value.
+/// largest value, where the axis ends; at 1 where that is 0.
 Grafico::Contenuto graficoConfronto(const Confronto& confronto, const SceltaConfronto& scelta, int segmento,
                                     float cima);
 

@@ -68,6 +68,22 @@ void vestiRiga(Tabella& tabella, int riga, std::string nome, bool corsia) {
     }
 }
 
+/// The percentage of a share that was rounded to a single when it was divided: of those that give this very share the
+/// one with the fewest decimals, the one that was written.
+float percentoDi(float quota) {
+    constexpr int decimaliMassimi = 9;
+    const double cento = static_cast<double>(quota) * 100.0;
+    double scala = 1.0;
+    for (int decimali = 0; decimali <= decimaliMassimi; ++decimali) {
+        const float percento = aSingolo(std::round(cento * scala) / scala);
+        if (aSingolo(static_cast<double>(percento) / 100.0) == quota) {
+            return percento;
+        }
+        scala *= 10.0;
+    }
+    return aSingolo(cento);
+}
+
 std::string conSegno(std::string_view nome) {
     return fmt::format("{}{}", nome, segnoCorsia);
 }
@@ -99,9 +115,7 @@ std::string flussoSvolta(const Rotonda& rotonda, std::size_t posizione) {
     if (!percento) {
         return testoNumero(valore) + " [veic.]";
     }
-    // The share was rounded to a single when it was divided: beyond the fourth decimal of its hundredfold is noise.
-    const double cento = std::round(static_cast<double>(valore) * 1e6) / 1e4;
-    return testoNumero(aSingolo(cento)) + " [%]";
+    return testoNumero(percentoDi(valore)) + " [%]";
 }
 
 TotaliDX totaliDX(const Rotonda& rotonda) {

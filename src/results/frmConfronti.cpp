@@ -16,6 +16,9 @@ constexpr const char* didascalia = "Analizzatore";
 constexpr const char* grafico = "Grafico Confronto Rami:                                    ";
 constexpr const char* simulazione = "Simulazione Confronto Rami:                                    ";
 constexpr const char* inSimulazione = " - simulazione";
+constexpr const char* variabile =
+    "Grandezza in cui si confrontano gli ingressi.\nL'asse dei valori è fissato sul valore più grande di tutti gli "
+    "ingressi e di tutto il periodo.";
 }  // namespace testi
 
 constexpr const char* metodoSimulazione = "frmConfronti:cmdPLAY";
@@ -52,8 +55,11 @@ frmConfronti::frmConfronti(const Contorno& contorno, const ServiziRisultati& ser
       lblSIM("lblSIM", "Posizione"),
       cronometro_(cronometro),
       menuPianta_(*this, contorno, ctlPianta) {
-    txtTipoVariabile.paginaAiuto = "VariabileConfronto.htm";
-    txtTipoVariabile.suggerimento = "Grandezza in cui si confrontano gli ingressi";
+    tempoTrascorso = [] {
+        const auto adesso = std::chrono::steady_clock::now().time_since_epoch();
+        return std::chrono::duration_cast<std::chrono::milliseconds>(adesso);
+    };
+    txtTipoVariabile.suggerimento = testi::variabile;
     txtTipoVariabile.voci(nomiVariabili(UnitaFlussi::ora));
     lblUnita.testo(unita[0].mostrata);
     ctlGrid.colonna(0, {.allineamento = AllineamentoCella::sinistra});
@@ -142,7 +148,12 @@ SceltaConfronto frmConfronti::scelta() const {
 
 bool frmConfronti::recordScartati() const {
     const Rotonda& r = app().theRotonda();
-    return r.NumeroRami() > 0 && r.Ramo(std::int16_t{1}).theDatiTraffico().IterazioniScritte() == 0;
+    for (std::int16_t i = 1; i <= r.Rami().Count(); ++i) {
+        if (r.Ramo(i).theDatiTraffico().IterazioniScritte() == 0) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void frmConfronti::attivata() {
@@ -153,7 +164,7 @@ void frmConfronti::attivata() {
     if (!conFigure() || recordScartati()) {
         gestisci("frmConfronti:keyCalcola", [this] { calcola(); });
     } else {
-        figureDi(rotonda().timbro());
+        riprendiFigure(rotonda().timbroRecord());
         leggi();
     }
     FinestraRisultati::attivata();
@@ -170,7 +181,7 @@ void frmConfronti::calcola() {
         fine();
     }
     simula();
-    figureDi(rotonda().timbro());
+    figureDi(rotonda().timbroRecord());
     titolo_ = Titolo::variabile;
     leggi();
 }
@@ -260,7 +271,15 @@ void frmConfronti::fotogramma(int posizione) {
     titolo_ = Titolo::simulazione;
     mostraIstante(posizione);
     disegna();
-    cronometro_.ogni(PausaSimulazione_, [this] { rintocco(); });
+    disegnato_ = tempoTrascorso();
+    attendi();
+}
+
+/// Waits for what is left of the pause of the instant in view.
+void frmConfronti::attendi() {
+    const std::chrono::milliseconds resto =
+        std::chrono::milliseconds(PausaSimulazione_) + disegnato_ - tempoTrascorso();
+    cronometro_.ogni(static_cast<int>(std::max<std::int64_t>(0, resto.count())), [this] { rintocco(); });
 }
 
 void frmConfronti::rintocco() {
@@ -297,7 +316,7 @@ void frmConfronti::pausa(int aggiunta) {
     PausaSimulazione_ = static_cast<std::int16_t>(nuova);
     lblPausa.testo("Pausa " + formatta(PausaSimulazione_ / 1000.0, "#0.0") + " s");
     if (inSimulazione_ && mutata) {
-        cronometro_.ogni(PausaSimulazione_, [this] { rintocco(); });
+        attendi();
     }
 }
 
@@ -314,7 +333,7 @@ std::string frmConfronti::testoAnteprima() {
 }
 
 std::string frmConfronti::motivoFlussi() const {
-    return notaFlussi(app());
+    return figureDelProgetto() ? notaFlussi(app()) : std::string{};
 }
 
 RelazioneConfronto frmConfronti::perRelazione() const {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "results/FinestraRisultati.h"
@@ -56,6 +58,9 @@ public:
     PiantaLivelli ctlPianta{"ctlPianta"};
     Griglia ctlGrid{"ctlGrid"};  ///< entries by instants; its cursor stands on the instant in view
 
+    /// A clock that only goes forward; the pause of an instant is counted on it.
+    std::function<std::chrono::milliseconds()> tempoTrascorso;
+
     void attivata() override;
     /// Ends a playback.
     void nascosta() override;
@@ -88,11 +93,13 @@ private:
     void aggiornaPianta();
     void play();
     void fotogramma(int posizione);
+    void attendi();
     void rintocco();
     void fine();
     void pausa(int aggiunta);
     void abilitaPannello(bool valore);
     SceltaConfronto scelta() const;
+    /// An entry has no record.
     bool recordScartati() const;
 
     Cronometro& cronometro_;
@@ -100,7 +107,8 @@ private:
     Confronto confronto_;
     std::int16_t PausaSimulazione_ = 1000;
     float MassimoGrafico_ = 0.0F;
-    int posizione_ = 0;  ///< of the instant in view, from 1; 0 for none
+    std::chrono::milliseconds disegnato_{};  ///< when the playback drew the instant in view
+    int posizione_ = 0;                      ///< of the instant in view, from 1; 0 for none
     Titolo titolo_ = Titolo::variabile;
     bool inSimulazione_ = false;
 };

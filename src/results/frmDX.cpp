@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "base/guasto.h"
 #include "results/calcoloIpotesi.h"
 #include "results/inVigore.h"
 #include "shell/servizi/tinte.h"
@@ -102,6 +103,7 @@ void frmDX::attivata() {
         return;
     }
     frameAVVISO.mostraContenuto(false);
+    ctlHelp.pagina(paginaCorsie);
     for (std::size_t i = 0; i < posizioniDX.size(); ++i) {
         txtIngresso[i].testo(rotonda().Ramo(static_cast<std::int16_t>(i + 1)).Descrizione());
         flussi[i].testo(flussoSvolta(rotonda(), i));
@@ -166,7 +168,11 @@ void frmDX::calcola() {
 std::string frmDX::testoAnteprima() {
     calcola();
     aggiornaNote();
-    return confronto_.testo(rotonda(), corsie(), app().orologio.adesso());
+    if (!confronto_.calcolato()) {
+        throw Guasto::conParole(NumeroGuasto::chiamataNonValida,
+                                nelTempo() ? testi::interrotto : testi::soloSaturazione);
+    }
+    return confronto_.testo(rotonda(), calcolate_, app().orologio.adesso());
 }
 
 void frmDX::anteprimaFallita(const Guasto& guasto) {
@@ -189,8 +195,7 @@ std::string frmDX::motivoFlussi() const {
 }
 
 std::optional<RelazioneDX> frmDX::perRelazione() {
-    if (!chkStampaDX.spuntata() || !corsieDisponibili(rotonda()) || !almenoUnaCorsia(corsie()) ||
-        !confronto_.calcolato()) {
+    if (!chkStampaDX.spuntata() || !corsieDisponibili(rotonda()) || !almenoUnaCorsia(corsie()) || !conFigure()) {
         return std::nullopt;
     }
     if (!motivoVecchi().empty()) {

@@ -35,6 +35,9 @@ public:
     Griglia ctlGrid{"ctlGrid"};
     Etichetta lblLegenda;  ///< what the marked rows and the variations are
 
+    PannelloAiuto ctlHelp{"ctlHelp"};
+    PannelloAiuto* aiuto() override { return &ctlHelp; }
+
     void attivata() override;
     /// The lanes that are ticked.
     CorsieDestra corsie() const;
@@ -43,14 +46,15 @@ public:
     /// The roundabout whose plan stands beside the choice.
     const Rotonda& rotondaMostrata() const { return app().theRotonda(); }
     const ConfrontoCorsie& confronto() const { return confronto_; }
-    /// The comparison for a report; nothing where it was not asked for, or never calculated, or no lane is chosen, or
-    /// the calculation fails. Figures that are not those of the project and of the lanes as they stand are calculated
-    /// anew.
+    /// The comparison for a report; nothing where it was not asked for, or no calculation was, or no lane is chosen, or
+    /// the calculation fails. Figures that are not those of the project and of the lanes as they stand, and those of a
+    /// calculation that failed, are calculated anew.
     std::optional<RelazioneDX> perRelazione();
 
 protected:
     bool ammette(const std::string& chiave) override;
     void calcola() override;
+    /// The lanes named in it are those of the figures. Fault 5 where there are no whole figures.
     std::string testoAnteprima() override;
     std::string nomeAnteprima() const override { return "RisultatiDX.txt"; }
     void anteprimaFallita(const Guasto& guasto) override;

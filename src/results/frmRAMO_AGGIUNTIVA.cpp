@@ -8,6 +8,7 @@
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "results/grandezze.h"
+#include "results/inVigore.h"
 #include "results/livelloServizio.h"
 
 namespace kelvo {
@@ -90,6 +91,7 @@ frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRi
       frRIASSUNTO("frRIASSUNTO", testi::didascalia, {&ctlGRID1, &lblMinLOS, &txtminLOS, &lblMaxLOS, &txtmaxLOS}),
       lblMinLOS("lblMinLOS", "L.O.S. minimo"),
       lblMaxLOS("lblMaxLOS", "L.O.S. massimo"),
+      lblInVigore("lblInVigore", {}, "GREY"),
       frMARKER("frMARKER", testi::marker, {}),
       lblInferiore("lblInferiore", testi::inferiore, "GREY"),
       lblSuperiore("lblSuperiore", testi::superiore, "GREY"),
@@ -97,8 +99,8 @@ frmRAMO_AGGIUNTIVA::frmRAMO_AGGIUNTIVA(const Contorno& contorno, const ServiziRi
       cmdAzzera("cmdAzzera", testi::azzera),
       servizi_(servizi),
       anteprima_(contorno, servizi_.finestre, servizi_.documenti) {
-    std::vector<Controllo*> controlli{&frRIASSUNTO, &ctlGRID1, &lblMinLOS,    &txtminLOS,   &lblMaxLOS,
-                                      &txtmaxLOS,   &frMARKER, &lblInferiore, &lblSuperiore};
+    std::vector<Controllo*> controlli{&frRIASSUNTO, &ctlGRID1,    &lblMinLOS, &txtminLOS,    &lblMaxLOS,
+                                      &txtmaxLOS,   &lblInVigore, &frMARKER,  &lblInferiore, &lblSuperiore};
     for (Soglia& soglia : soglie) {
         controlli.insert(controlli.end(), {&soglia.spunta, &soglia.minimo, &soglia.massimo});
     }
@@ -167,6 +169,7 @@ void frmRAMO_AGGIUNTIVA::attivata() {
     sottotitolo.testo(ramo().Descrizione());
     ctlHelp.pagina("DatiRiassuntivi.htm");
     riempiRiassunto();
+    lblInVigore.testo(rigaInVigore(app()));
     frRIASSUNTO.mostraContenuto(apertura_.riassunto || !apertura_.marker);
     try {
         leggiSoglie();

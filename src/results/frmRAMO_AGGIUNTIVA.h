@@ -39,6 +39,8 @@ public:
     tBox txtminLOS{"txtminLOS", tBox::textbox};  ///< level of the smallest code of the entry, read-only
     Etichetta lblMaxLOS;
     tBox txtmaxLOS{"txtmaxLOS", tBox::textbox};  ///< level of the largest one, read-only
+    /// What is in force, in one line; stands below the summary, and where it would.
+    Etichetta lblInVigore;
     Riquadro frMARKER;
     Etichetta lblInferiore;  ///< over the lower values
     Etichetta lblSuperiore;  ///< over the upper values

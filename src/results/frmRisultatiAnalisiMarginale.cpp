@@ -1,6 +1,7 @@
 #include "results/frmRisultatiAnalisiMarginale.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "base/guasto.h"
@@ -33,6 +34,8 @@ constexpr const char* datiCambiati =
 constexpr const char* schedaDiGrandezza = "Scegliere la scheda di una grandezza";
 constexpr const char* scegliVariabile = "Selezionare una variabile prestazionale";
 constexpr const char* senzaRisposta = "Scegliere grandezza e obiettivo e premere Cerca.";
+/// What the note on the flows says where no plain calculation stands: that of this window is none.
+constexpr std::string_view senzaCalcolo = "il calcolo con questi dati non è stato eseguito o non è riuscito.";
 constexpr const char* soloSpuntate = "Mostrate le grandezze spuntate in Opzioni Analisi Marginale";
 }  // namespace testi
 
@@ -380,8 +383,15 @@ std::string frmRisultatiAnalisiMarginale::motivoVecchi() const {
 }
 
 std::string frmRisultatiAnalisiMarginale::motivoFlussi() const {
-    return app().theRotonda().TipoAnalisi() == analisi::saturazione ? testi::soloSaturazione
-                                                                    : notaFlussi(app(), indice_);
+    if (app().theRotonda().TipoAnalisi() == analisi::saturazione) {
+        return testi::soloSaturazione;
+    }
+    std::string nota = notaFlussi(app(), indice_);
+    // Figures of the data as they stand come of a run that did succeed; what else the note says stays.
+    if (const auto posto = nota.find(testi::senzaCalcolo); posto != std::string::npos && motivoVecchi().empty()) {
+        nota.erase(0, std::min(nota.size(), posto + testi::senzaCalcolo.size() + 1));
+    }
+    return nota;
 }
 
 void frmRisultatiAnalisiMarginale::entrato(Controllo& campo) {

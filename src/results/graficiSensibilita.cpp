@@ -25,13 +25,6 @@ Colore tintaDi(Prestazione quale) {
     return tinte.at(static_cast<std::size_t>(quale));
 }
 
-/// Points of a chart, with the figures as the table shows them.
-struct Punti {
-    std::vector<double> x;
-    std::vector<double> y;
-    std::vector<std::string> testi;
-};
-
 double numeroDi(const std::string& testo) {
     return leggiNumero(testo).value_or(0.0);
 }
@@ -48,32 +41,43 @@ std::vector<int> colonnePiene(const TabellaSensibilita& tabella, Prestazione qua
     return colonne;
 }
 
-Punti puntiDi(const TabellaSensibilita& tabella, Prestazione quale) {
-    Punti punti;
+/// The figures of the series as the table shows them.
+std::vector<std::string> figureDi(const TabellaSensibilita& tabella, Prestazione quale) {
+    std::vector<std::string> figure;
     for (const int c : colonnePiene(tabella, quale)) {
-        const std::string& figura = tabella.tabella().testo(TabellaSensibilita::riga(quale), c);
-        punti.x.push_back(numeroDi(tabella.tabella().testo(rigaMisure, c)));
-        punti.y.push_back(numeroDi(figura));
-        punti.testi.push_back(figura);
+        figure.push_back(tabella.tabella().testo(TabellaSensibilita::riga(quale), c));
     }
-    return punti;
+    return figure;
+}
+
+/// Numbers of a series; nothing stands behind a mark at its end.
+std::vector<double> numeriDi(std::string_view serie) {
+    if (serie.ends_with('*')) {
+        serie.remove_suffix(1);
+    }
+    return valoriDaTesto(serie);
 }
 
 Grafico::Asse asseAttorno(std::string titolo, const std::vector<double>& valori) {
+    if (valori.empty()) {
+        return {.titolo = std::move(titolo)};
+    }
     const auto [minimo, massimo] = std::minmax_element(valori.begin(), valori.end());
     return {.titolo = std::move(titolo), .minimo = *minimo, .massimo = *massimo};
 }
 
-Grafico::Contenuto contenutoDi(std::string titolo, std::string titoloX, std::string titoloY, Punti punti,
-                               Colore colore) {
+Grafico::Contenuto contenutoDi(std::string titolo, std::string titoloX, std::string titoloY,
+                               const SerieSensibilita& serie, std::vector<std::string> testi, Colore colore) {
     Grafico::Contenuto contenuto{.titolo = std::move(titolo)};
-    contenuto.x = asseAttorno(std::move(titoloX), punti.x);
-    contenuto.y = asseAttorno(std::move(titoloY), punti.y);
+    std::vector<double> x = numeriDi(serie.x);
+    std::vector<double> y = numeriDi(serie.y);
+    contenuto.x = asseAttorno(std::move(titoloX), x);
+    contenuto.y = asseAttorno(std::move(titoloY), y);
     contenuto.serie.push_back({.forma = Grafico::Forma::linee,
                                .colore = colore,
-                               .valori = std::move(punti.y),
-                               .testi = std::move(punti.testi),
-                               .ascisse = std::move(punti.x)});
+                               .valori = std::move(y),
+                               .testi = std::move(testi),
+                               .ascisse = std::move(x)});
     return contenuto;
 }
 
@@ -89,7 +93,7 @@ std::string notaSenzaFigure(const TabellaSensibilita& tabella, Prestazione quale
 
 Grafico::Contenuto campione() {
     return contenutoDi(std::string{titoloSenzaVariabile}, {}, {},
-                       {.x = {20, 30, 60, 70, 90}, .y = {40, 20, 70, 10, 60}, .testi = {}}, tinta::serieLOS);
+                       {.x = std::string{campioneX}, .y = std::string{campioneY}}, {}, tinta::serieLOS);
 }
 
 }  // namespace
@@ -115,19 +119,12 @@ Grafico::Contenuto graficoSensibilita(const TabellaSensibilita& tabella, std::op
     }
     const ParametroGeometrico& p = tabella.parametro();
     const VocePrestazione& v = voce(*quale);
-    Punti punti = puntiDi(tabella, *quale);
-    std::string nota;
-    if (punti.x.empty()) {
-        nota = notaSenzaFigure(tabella, *quale);
-        for (int c = 1; c <= numeroPassi; ++c) {
-            punti.x.push_back(numeroDi(tabella.tabella().testo(rigaMisure, c)));
-            punti.y.push_back(0.0);
-        }
-    }
+    std::vector<std::string> figure = figureDi(tabella, *quale);
+    const std::string nota = figure.empty() ? notaSenzaFigure(tabella, *quale) : std::string{};
     Grafico::Contenuto contenuto =
         contenutoDi(fmt::format("Relazione tra {} e {}", p.nomeGrafico, v.nomeGrafico),
                     fmt::format("{} [{}]", p.nomeGrafico, p.unita), fmt::format("{} {}", v.nomeGrafico, v.unita),
-                    std::move(punti), tintaDi(*quale));
+                    serieSensibilita(tabella, *quale), std::move(figure), tintaDi(*quale));
     contenuto.nota = nota;
     contenuto.valori = nota.empty();
     return contenuto;

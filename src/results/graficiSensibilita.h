@@ -23,8 +23,8 @@ inline constexpr std::string_view campioneY = "40*20*70*10*60";
 /// The figures of a row that holds none.
 inline constexpr std::string_view serieVuota = "0*0*0*0*0*0*0*";
 
-/// The series of one figure: measures and figures of the valid steps that hold one. Where the row holds none: all the
-/// measures, and `serieVuota`.
+/// What the chart of one figure is drawn from: measures and figures of the valid steps that hold one. Where the row
+/// holds none: all the measures, and `serieVuota`.
 SerieSensibilita serieSensibilita(const TabellaSensibilita& tabella, Prestazione quale);
 
 /// Chart of one figure over the measure; the sample where none is chosen. The axes run from the smallest to the largest

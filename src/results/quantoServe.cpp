@@ -137,7 +137,13 @@ private:
             return EsitoQuantoServe::senzaDomanda;
         }
         modCalcolo motore(app_);
-        if (!preparaIpotesi(app_, motore) || !calcolaIpotesi(app_, motore, numero_, base_)) {
+        if (!preparaIpotesi(app_, motore)) {
+            return EsitoQuantoServe::interrotto;
+        }
+        if (app_.theRotonda().TipoAnalisi() == analisi::curva) {
+            r.saturazioneVerifiche = statoDi(ramo_.theDatiTraffico()).saturazione;
+        }
+        if (!calcolaIpotesi(app_, motore, numero_, base_)) {
             return EsitoQuantoServe::interrotto;
         }
         ++prove_;
@@ -191,6 +197,21 @@ private:
     modCalcolo muto_;
     int prove_ = 0;
 };
+
+/// Where the run of the checks differs from the what-if run of the entry as it stands, as both are shown.
+std::string notaVerifiche(const QuantoServe& r) {
+    constexpr const char* formato = "#0.00";
+    if (!r.saturazioneVerifiche) {
+        return {};
+    }
+    const std::string verifiche = formatta(*r.saturazioneVerifiche, formato);
+    return verifiche == formatta(r.prima.saturazione, formato)
+               ? std::string{}
+               : fmt::format(
+                     ". Nelle verifiche l'ingresso com'è raggiunge {}: l'analisi di ipotesi semplifica la curva di "
+                     "domanda.",
+                     verifiche);
+}
 
 std::string testoLimiti(const QuantoServe& r, const std::string& unita) {
     return r.massimo >= senzaLimite ? fmt::format("da {}{} in su", formatta(r.minimo, "#0.00"), unita)
@@ -246,10 +267,10 @@ std::string effettoQuantoServe(const QuantoServe& risposta) {
     };
     const StatoIngresso& p = risposta.prima;
     const StatoIngresso& d = risposta.dopo;
-    return fmt::format("Coefficiente di saturazione massimo {}; ritardo massimo {} s/veic (livello di servizio {})",
+    return fmt::format("Coefficiente di saturazione massimo {}; ritardo massimo {} s/veic (livello di servizio {}){}",
                        tratto(formatta(p.saturazione, "#0.00"), formatta(d.saturazione, "#0.00")),
-                       tratto(formatta(p.ritardo, "#0.0"), formatta(d.ritardo, "#0.0")),
-                       tratto(livello(p), livello(d)));
+                       tratto(formatta(p.ritardo, "#0.0"), formatta(d.ritardo, "#0.0")), tratto(livello(p), livello(d)),
+                       notaVerifiche(risposta));
 }
 
 }  // namespace kelvo

@@ -51,6 +51,9 @@ struct QuantoServe {
     StatoIngresso prima{};  ///< the entry as it stands
     StatoIngresso dopo{};   ///< the entry with `misura`
     int prove = 0;          ///< runs of the engine
+    /// Largest degree of saturation of the entry as it stands by the plain run that readied the search, which is that
+    /// of the checks; none where there was no such run.
+    std::optional<double> saturazioneVerifiche{};
 
     double variazione() const { return misura - attuale; }
 };
@@ -84,7 +87,7 @@ std::string paroleQuantoServe(const QuantoServe& risposta, std::size_t parametro
 
 /// How the entry does before and after in words: "Coefficiente di saturazione massimo da 1,02 a 0,85; ritardo massimo
 /// da 71,4 a 24,9 s/veic (livello di servizio da F a C)"; as it stands where no change was found; empty where nothing
-/// was calculated.
+/// was calculated. Where the checks show another degree of saturation for the entry as it stands, a sentence says so.
 std::string effettoQuantoServe(const QuantoServe& risposta);
 
 }  // namespace kelvo

@@ -67,9 +67,11 @@ void scriviRiga(const Rotonda& rotonda, const VoceSintesi& voce, int riga, Tabel
         evidenzia(t.cella(riga, colonnaSatSintesi));
         evidenzia(t.cella(riga, colonnaSatSintesi + 1));
     }
-    if (ora && voce.riservaVeicoli < 0.0F) {
-        evidenzia(t.cella(riga, 4));
-        evidenzia(t.cella(riga, 5));
+    // As they are shown: a share may read 0 beside vehicles that are short.
+    for (const int colonna : {4, 5}) {
+        if (leggiNumero(t.testo(riga, colonna)).value_or(0.0) < 0.0) {
+            evidenzia(t.cella(riga, colonna));
+        }
     }
 }
 

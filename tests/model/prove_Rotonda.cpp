@@ -430,6 +430,28 @@ TEST_F(ProveRotonda, StampTellsWhetherTheRecordsAreThoseOfTheProject) {
     EXPECT_FALSE(rotonda.risultatiAttuali({}));
 }
 
+TEST_F(ProveRotonda, OnlyACalculationOfRecordsStampsTheRecords) {
+    rami(3);
+    EXPECT_EQ(rotonda.timbroRecord(), Timbro{});
+    const AmbienteCalcolo ambiente{.notte = 20};
+    rotonda.timbra(FormaCalcolo::bilanciamento, ambiente);
+    EXPECT_EQ(rotonda.timbro().forma, FormaCalcolo::bilanciamento);
+    EXPECT_EQ(rotonda.timbroRecord(), Timbro{});
+    for (const FormaCalcolo forma :
+         {FormaCalcolo::interrotta, FormaCalcolo::ipotesi, FormaCalcolo::corsiaDestra, FormaCalcolo::piana}) {
+        rotonda.timbra(forma, ambiente);
+        EXPECT_EQ(rotonda.timbro().forma, forma);
+        EXPECT_EQ(rotonda.timbroRecord(), rotonda.timbro());
+    }
+    const Timbro piano = rotonda.timbroRecord();
+    rotonda.timbra(FormaCalcolo::bilanciamento);
+    EXPECT_EQ(rotonda.timbro().forma, FormaCalcolo::bilanciamento);
+    EXPECT_EQ(rotonda.timbroRecord(), piano);
+    EXPECT_TRUE(rotonda.risultatiAttuali(ambiente)) << "the ultimate capacity touches no record";
+    rotonda.Clear();
+    EXPECT_EQ(rotonda.timbroRecord(), Timbro{});
+}
+
 TEST(Rotonda, TheBackupOfTheTrafficEndsWithTheContent) {
     Rotonda rotonda;
     rotonda.backupTraffico().BackupComposizioneDisponibile = true;

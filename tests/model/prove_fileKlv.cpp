@@ -137,6 +137,7 @@ TEST(ProveFileKlv, ALoadRaisesTheRevisionAndTakesTheStampAway) {
     EXPECT_GT(r.revisione().tutto, prima.tutto);
     EXPECT_GT(r.revisione().calcolo, prima.calcolo);
     EXPECT_EQ(r.timbro().forma, FormaCalcolo::nessuna);
+    EXPECT_EQ(r.timbroRecord(), Timbro{});
     EXPECT_FALSE(r.risultatiAttuali({}));
     const Revisione dopo = r.revisione();
     r.Ramo(3).theDatiTraffico().FlussoTempo1(77.0F);

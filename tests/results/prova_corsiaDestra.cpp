@@ -65,6 +65,10 @@ TEST_F(CorsiaDestra, TheFlowOfATurnIsShownAsItWasEntered) {
     rotonda().TipoMatriceSvolte(1);
     EXPECT_EQ(flussoSvolta(rotonda(), 0), "12,5 [%]");
     EXPECT_EQ(flussoSvolta(rotonda(), 3), "33,33 [%]");
+    for (const char* scritto : {"33,33333", "66,66667", "14,28571", "64,00066", "8,2", "0,005"}) {
+        rotonda().MatriceSvolte(static_cast<float>(leggiNumero(scritto).value()), 1, 2);
+        EXPECT_EQ(flussoSvolta(rotonda(), 0), std::string{scritto} + " [%]");
+    }
     for (int decimi = 1; decimi <= 1000; ++decimi) {
         const float scritto = static_cast<float>(decimi) / 10.0F;
         rotonda().MatriceSvolte(scritto, 1, 2);

@@ -33,8 +33,11 @@ TEST_F(GraficiSensibilita, WithoutAChosenFigureTheSampleIsDrawn) {
     ASSERT_EQ(c.serie.size(), 1U);
     EXPECT_EQ(c.serie[0].ascisse, (std::vector<double>{20, 30, 60, 70, 90}));
     EXPECT_EQ(c.serie[0].valori, (std::vector<double>{40, 20, 70, 10, 60}));
-    EXPECT_EQ(campioneX, "20*30*60*70*90");
-    EXPECT_EQ(campioneY, "40*20*70*10*60");
+    EXPECT_TRUE(c.serie[0].testi.empty());
+    EXPECT_EQ(c.x.minimo, 20.0);
+    EXPECT_EQ(c.x.massimo, 90.0);
+    EXPECT_EQ(c.y.minimo, 10.0);
+    EXPECT_EQ(c.y.massimo, 70.0);
 }
 
 TEST_F(GraficiSensibilita, TitlesNameTheMeasureAndTheFigureWithTheirUnits) {

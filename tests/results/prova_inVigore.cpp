@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "app/nuovoProgetto.h"
+#include "base/date.h"
+#include "calc/modCalcolo.h"
 #include "comune/finti.h"
 #include "comune/guasti.h"
 
@@ -140,12 +142,101 @@ TEST_F(NotaFlussi, NamesAnUnknownCompositionAndCoefficientsOfZero) {
     EXPECT_EQ(notaFlussi(app), "Tutti i flussi sono 0: i coefficienti dei veicoli equivalenti sono tutti 0 (Opzioni).");
 }
 
-TEST_F(NotaFlussi, TellsADemandThatFallsOutsideTheSegments) {
-    r().timbra(FormaCalcolo::piana, app.ambienteCalcolo());
+TEST_F(NotaFlussi, LegsWithoutFlowsForDifferentReasonsAreToldTogether) {
+    ramo(1).theDatiTraffico().FlussoTempo2(0.0F);
+    ramo(2).theComposizioneTraffico().Autovetture(0.0F);
+    ramo(3).theComposizioneTraffico().Autovetture(0.0F);
+    EXPECT_EQ(notaFlussi(app),
+              "Tutti i flussi sono 0: in nessun ingresso ci sono insieme domanda e composizione del traffico.");
+    EXPECT_EQ(notaFlussi(app, 1),
+              "Tutti i flussi dell'ingresso sono 0: non c'è domanda di traffico (Dati di traffico).");
+    ramo(1).theComposizioneTraffico().Autovetture(0.0F);  // the demand of leg 1 is missing before its composition
+    EXPECT_EQ(notaFlussi(app),
+              "Tutti i flussi sono 0: in nessun ingresso ci sono insieme domanda e composizione del traffico.");
+    r().TipoFlusso(2);
+    EXPECT_EQ(notaFlussi(app),
+              "Tutti i flussi sono 0: la composizione del traffico scelta non è fra quelle previste (Opzioni).");
+}
+
+TEST_F(NotaFlussi, CoefficientsCountForTheClassesThatAreThere) {
+    const std::string presenti = "i coefficienti dei veicoli equivalenti delle classi presenti sono 0 (Opzioni).";
+    CoefficientiVeicoli senzaAutovetture{};
+    senzaAutovetture.fill(2.0F);
+    senzaAutovetture.back() = 0.0F;  // cars are all there is in a new project
+    app.configurazione.coefficienti(senzaAutovetture);
+    EXPECT_EQ(notaFlussi(app), "Tutti i flussi sono 0: " + presenti);
+    ramo(1).theDatiTraffico().FlussoTempo2(0.0F);
+    EXPECT_EQ(notaFlussi(app),
+              "Tutti i flussi sono 0: in nessun ingresso ci sono insieme domanda e composizione del traffico con "
+              "coefficienti diversi da 0.");
+    ramo(3).theComposizioneTraffico().Camper(1.0F);
+    EXPECT_EQ(notaFlussi(app),
+              "Tutti i flussi sono 0: il calcolo con questi dati non è stato eseguito o non è riuscito.");
+    EXPECT_EQ(notaFlussi(app, 2), "Tutti i flussi dell'ingresso sono 0: " + presenti);
+    r().TipoFlusso(1);
+    ramo(2).theComposizioneTraffico().CategoriaSegmento(3.0F, 1, 6);
+    EXPECT_EQ(notaFlussi(app, 2), "Tutti i flussi dell'ingresso sono 0: " + presenti);
+}
+
+/// The same with equal turns, calculated.
+struct NotaFlussiCalcolati : NotaFlussi {
+    NotaFlussiCalcolati() {
+        for (std::int16_t i = 1; i <= 3; ++i) {
+            for (std::int16_t j = 1; j <= 3; ++j) {
+                r().MatriceSvolte(i == j ? 0.0F : 10.0F, i, j);
+            }
+        }
+    }
+    void calcola() {
+        modCalcolo motore(app);
+        const std::string flusso = r().TipoFlusso() == 0 ? "0" : "1";
+        if (r().TipoAnalisi() == 1) {
+            motore.Calcola_Tempo_Flusso(flusso);
+        } else {
+            motore.Calcola_Tempo_Flusso_ST(flusso);
+        }
+        ASSERT_TRUE(motore.riuscita());
+        ASSERT_TRUE(app.risultatiAttuali());
+    }
+};
+
+TEST_F(NotaFlussiCalcolati, TellsACurveThatFallsOutsideTheSegments) {
+    perOgni([](Ramo& ramo) {  // the window ends at 09:00
+        ramo.theDatiTraffico().Tempo1(oraDelGiorno(12, 0));
+        ramo.theDatiTraffico().Tempo2(oraDelGiorno(12, 30));
+        ramo.theDatiTraffico().Tempo3(oraDelGiorno(13, 0));
+    });
+    calcola();
+    EXPECT_EQ(notaFlussi(app), "Tutti i flussi sono 0: la curva di domanda non cade in alcun segmento di tempo.");
+    r().TipoFlusso(1);
+    perOgni([](Ramo& ramo) { ramo.theComposizioneTraffico().CategoriaSegmento(3.0F, 0, 6); });
+    calcola();
     EXPECT_EQ(notaFlussi(app),
               "Tutti i flussi sono 0: la curva di domanda non cade in alcun segmento di tempo con veicoli.");
+}
+
+TEST_F(NotaFlussiCalcolati, TellsCountsOutsideTheSegmentsThatHaveAResult) {
     r().TipoAnalisi(2);
-    r().timbra(FormaCalcolo::piana, app.ambienteCalcolo());
+    r().TempoFinale(oraDelGiorno(8, 30));  // two segments have a result, the legs keep their four rows
+    perOgni([](Ramo& ramo) {
+        ramo.theDatiTraffico().FlussoSegmento(0.0F, 0, 0);
+        ramo.theDatiTraffico().FlussoSegmento(50.0F, 3, 0);
+    });
+    const std::string fuori =
+        "Tutti i flussi sono 0: i veicoli contati cadono fuori dai segmenti che hanno un risultato.";
+    calcola();
+    EXPECT_EQ(notaFlussi(app), fuori);
+    r().TipoFlusso(1);
+    ramo(2).theComposizioneTraffico().CategoriaSegmento(3.0F, 3, 6);
+    calcola();
+    EXPECT_EQ(notaFlussi(app), fuori);
+}
+
+TEST_F(NotaFlussiCalcolati, TellsCountsWithoutACompositionInTheirSegment) {
+    r().TipoAnalisi(2);
+    r().TipoFlusso(1);
+    perOgni([](Ramo& ramo) { ramo.theComposizioneTraffico().CategoriaSegmento(3.0F, 1, 6); });  // counted in the first
+    calcola();
     EXPECT_EQ(notaFlussi(app),
               "Tutti i flussi sono 0: i veicoli contati non hanno una composizione nel loro segmento di tempo.");
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/numeri.h"
 #include "calc/modCalcolo.h"
 #include "progettoAnalisi.h"
 #include "results/livelloServizio.h"
@@ -184,6 +185,33 @@ TEST_F(RicercaQuantoServe, AMeasureOutsideItsLimitsIsBroughtInside) {
     const auto atteso = aTappeto(angolo, {.saturazione = 0.75}, 0.0, 77.0);
     ASSERT_TRUE(atteso);
     EXPECT_NEAR(r.misura, *atteso, 1e-6);
+}
+
+TEST_F(RicercaQuantoServe, TellsTheSaturationThatTheChecksShow) {
+    const std::string parole = "Nelle verifiche l'ingresso com'è raggiunge ";
+    const QuantoServe sole = cerca(larghezza, {});
+    ASSERT_TRUE(sole.saturazioneVerifiche);
+    EXPECT_NEAR(*sole.saturazioneVerifiche, sole.prima.saturazione, 1e-4) << "at the peak both forms are the same";
+    EXPECT_EQ(effettoQuantoServe(sole).find(parole), std::string::npos);
+    // Articulated lorries alone, of 2.5 each, by segment: the checks have 2.5 times 540 = 1350 veic/h at the peak, more
+    // than the 1322 of an empty ring; the what-if form has 540.
+    rotonda().TipoFlusso(1);
+    for (std::int16_t i = 1; i <= 4; ++i) {
+        for (std::int16_t k = 0; k < 4; ++k) {
+            rotonda().Ramo(i).theComposizioneTraffico().CategoriaSegmento(10.0F, k, 0);
+        }
+    }
+    const QuantoServe pesanti = cerca(larghezza, {});
+    EXPECT_EQ(pesanti.esito, EsitoQuantoServe::giaRaggiunto);
+    EXPECT_LT(pesanti.prima.saturazione, 0.85);
+    ASSERT_TRUE(pesanti.saturazioneVerifiche);
+    EXPECT_GT(*pesanti.saturazioneVerifiche, 1.0);
+    EXPECT_NE(effettoQuantoServe(pesanti).find(parole + formatta(*pesanti.saturazioneVerifiche, "#0.00") + ":"),
+              std::string::npos);
+    modCalcolo(finta.app).Calcola_Tempo_Flusso("1");
+    EXPECT_EQ(statoDi(ramo().theDatiTraffico()).saturazione, *pesanti.saturazioneVerifiche);
+    studio(2, 1.0F);
+    EXPECT_FALSE(cerca(larghezza, {}).saturazioneVerifiche) << "of a table nothing is simplified";
 }
 
 TEST_F(RicercaQuantoServe, WithoutDemandOverTimeThereIsNoGoal) {

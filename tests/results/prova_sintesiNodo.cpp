@@ -310,6 +310,24 @@ TEST_F(Sintesi, AnHourPastItsCapacityIsMarked) {
     EXPECT_EQ(t.testo(1, 9), "F");
 }
 
+TEST_F(Sintesi, AReserveIsMarkedWhereItsFigureIsShownBelowZero) {
+    // 60 * flow - capacity: 600 - 599.996 = 0.004, shown as 0,00; 600 - 599.75 = 0.25, and 1 - 600 / 599.75 = -0.0004,
+    // shown as 0,000.
+    record(1, std::vector<Iterazione>(6, {10.0F, 599.996F, 1.0F, 3.0F, 70.0F}));
+    record(2, std::vector<Iterazione>(6, {10.0F, 599.75F, 1.0F, 3.0F, 70.0F}));
+    const SintesiNodo s = sintesi();
+    ASSERT_LT(s.ingressi[0].riservaVeicoli, 0.0F);
+    const Tabella t = tabellaSintesi(rotonda(), s);
+    EXPECT_EQ(t.testo(1, 5), "0,00");
+    EXPECT_EQ(t.cella(1, 4).sfondo, (Colore{220, 220, 220}));
+    EXPECT_EQ(t.cella(1, 5).sfondo, (Colore{220, 220, 220}));
+    EXPECT_EQ(ornamentoSintesi(t, {1, 5}).barra, std::nullopt);
+    EXPECT_EQ(t.testo(2, 4), "0,000");
+    EXPECT_EQ(t.testo(2, 5), "-0,25");
+    EXPECT_EQ(t.cella(2, 4).sfondo, (Colore{220, 220, 220}));
+    EXPECT_EQ(t.cella(2, 5).sfondo, (Colore{255, 220, 220}));
+}
+
 TEST_F(Sintesi, WithoutFiguresTheTableHasNamesAlone) {
     const Tabella t = tabellaSintesiVuota(rotonda());
     ASSERT_EQ(t.righe(), 5);

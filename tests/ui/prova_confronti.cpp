@@ -8,6 +8,7 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QSlider>
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,7 @@ protected:
         banco.apri(std::string{KELVO_SORGENTI} + "/assets/Progetti/Rotatoria_Aurelia_Sette_Strade.klv");
         banco.vai("keyConfronti");
         ASSERT_EQ(banco.nomeCorrente(), "frmConfronti");
+        finestra().tempoTrascorso = [this] { return std::chrono::milliseconds(banco.simulazione.adesso()); };
     }
     frmConfronti& finestra() { return dynamic_cast<frmConfronti&>(*banco.cornice.gestione.corrente()); }
     QSlider& cursore() { return banco.oggetto<QSlider>("Slider1"); }

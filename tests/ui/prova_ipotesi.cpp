@@ -1,5 +1,6 @@
 // The two what-if windows by keyboard and mouse: right-turn lanes, sensitivity of an entry with its summary.
 
+#include <QtGui/QImage>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
@@ -110,6 +111,23 @@ TEST_F(Ipotesi, AClickOnALaneAndOnTheButtonInTheTableCalculates) {
     EXPECT_EQ(banco.oggetto<QLabel>("lblVecchi").text(),
               QStringLiteral("Le corsie scelte non sono quelle del confronto mostrato. Premere Calcola (F9)."));
     EXPECT_TRUE(banco.messaggi.mostrati.empty());
+}
+
+TEST_F(Ipotesi, ThePlanFollowsWhatWasChangedMeanwhile) {
+    progetto(4);
+    const auto ritorno = [this] {
+        banco.vai("keyMyProject");
+        banco.vai("keyCorsiaDX");
+        smaltisci();
+        return banco.oggetto("ctlPianta").grab().toImage();
+    };
+    const QImage prima = ritorno();
+    EXPECT_EQ(ritorno(), prima);
+    banco.app.theRotonda().Ramo(1).LarghezzaIngresso(12.0F);
+    const QImage larga = ritorno();
+    EXPECT_NE(larga, prima);
+    banco.app.theRotonda().Ramo(1).Descrizione("");
+    EXPECT_EQ(ritorno(), larga) << "a leg without a name is drawn all the same";
 }
 
 TEST_F(Ipotesi, EachFlowStandsOnTheLineOfItsLane) {

@@ -305,18 +305,37 @@ TEST_F(RisultatiRamo, ThresholdsAreTypedCheckedAndColourTheTable) {
     ASSERT_TRUE(banco.vista.findChild<QAction*>(QStringLiteral("Visualizza"))->isEnabled());
     tasto(Qt::Key_F8);
     smaltisci();
-    int rosse = 0;
-    int verdi = 0;
-    const Tabella& tabella = finestra().ctlGrid.tabella();
-    for (int r = 1; r < tabella.righe(); ++r) {
-        rosse += tabella.cella(r, 2).sfondo == colori::sopraSoglia ? 1 : 0;
-        verdi += tabella.cella(r, 2).sfondo == colori::sottoSoglia ? 1 : 0;
-    }
-    EXPECT_GT(rosse, 0);
-    EXPECT_GT(verdi, 0);
+    const auto tinte = [&](const Colore& colore) {
+        const Tabella& tabella = finestra().ctlGrid.tabella();
+        int quante = 0;
+        for (int r = 1; r < tabella.righe(); ++r) {
+            quante += tabella.cella(r, 2).sfondo == colore ? 1 : 0;
+        }
+        return quante;
+    };
+    EXPECT_GT(tinte(colori::sopraSoglia), 0);
+    EXPECT_GT(tinte(colori::sottoSoglia), 0);
     calcola();
-    EXPECT_EQ(finestra().ctlGrid.tabella().cella(1, 1).sfondo == colori::sopraSoglia, false)
-        << "a new filling takes the marks away";
+    EXPECT_EQ(tinte(colori::sopraSoglia), 0) << "a new filling takes the marks away";
+    EXPECT_EQ(tinte(colori::sottoSoglia), 0);
+}
+
+TEST_F(RisultatiRamo, TheAdditionalWindowShowsWhatIsInForceBelowTheSummary) {
+    apri("Rotatoria_Via_dei_Mulini");
+    calcola();
+    premi("cmdRIASSUNTO");
+    premi("cmdMARKER");
+    aggiuntivi();
+    auto* vista = banco.vista.vistaCorrente();
+    auto* riga = vista->findChild<QLabel*>(QStringLiteral("lblInVigore"));
+    ASSERT_NE(riga, nullptr);
+    EXPECT_TRUE(riga->isVisible());
+    EXPECT_EQ(riga->text().toStdString(), finestra().lblInVigore.testo());
+    const auto cima = [&](const char* nome) {
+        return vista->findChild<QWidget*>(QString::fromLatin1(nome))->mapTo(vista, QPoint{}).y();
+    };
+    EXPECT_GT(cima("lblInVigore"), cima("txtminLOS"));
+    EXPECT_LT(cima("lblInVigore"), cima("chFLUSSO"));
 }
 
 TEST_F(RisultatiRamo, LevelsAreChosenByKeyAndAnUpperOneBeforeTheLowerIsRefused) {

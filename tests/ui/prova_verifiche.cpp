@@ -5,6 +5,7 @@
 #include <QtGui/QPixmap>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTextBrowser>
@@ -93,6 +94,42 @@ TEST_F(Verifiche, TheTabsAreReachedByTheKeyboard) {
         EXPECT_EQ(schede().currentIndex(), i);
         EXPECT_EQ(finestra().ctlTab.corrente(), i);
         banco.entra(i == 0 ? "ctlGrid" : i == 1 ? "ctlSintesi" : "ctlMappa");
+    }
+}
+
+TEST_F(Verifiche, CtrlTabGoesThroughTheTabsFromWhereverTheKeyboardIs) {
+    apri("Rotatoria_Via_dei_Mulini");
+    calcola();
+    banco.entra("cmdInVigore");
+    for (const int i : {1, 2, 0, 1}) {
+        tasto(Qt::Key_Tab, Qt::ControlModifier);
+        smaltisci();
+        EXPECT_EQ(finestra().ctlTab.corrente(), i);
+        EXPECT_EQ(schede().currentIndex(), i);
+    }
+    tasto(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    smaltisci();
+    EXPECT_EQ(finestra().ctlTab.corrente(), 0);
+}
+
+TEST_F(Verifiche, OnTheSmallestWindowTheLegendOfTheLevelsTakesMoreLinesAndNothingIsScrolledAside) {
+    apri("Rotatoria_Via_dei_Mulini");
+    calcola();
+    scheda(2);
+    banco.vista.resize(1440, 900);
+    smaltisci();
+    auto& legenda = banco.oggetto("legendaLivelli");
+    EXPECT_EQ(legenda.height(), ui::misura::campo) << "one line where there is room";
+    banco.vista.resize(ui::misura::larghezzaMinima, ui::misura::altezzaMinima);
+    smaltisci();
+    EXPECT_EQ(legenda.height(), legenda.heightForWidth(legenda.width()));
+    EXPECT_EQ(legenda.heightForWidth(legenda.sizeHint().width()), ui::misura::campo);
+    EXPECT_EQ(legenda.heightForWidth(legenda.sizeHint().width() - 1), 2 * ui::misura::campo);
+    for (const int i : {0, 1, 2}) {
+        scheda(i);
+        auto* scorre = banco.vista.vistaCorrente()->findChild<QScrollArea*>();
+        ASSERT_NE(scorre, nullptr);
+        EXPECT_EQ(scorre->horizontalScrollBar()->maximum(), 0) << i;
     }
 }
 

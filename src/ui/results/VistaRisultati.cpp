@@ -153,6 +153,16 @@ void VistaRisultati::invita(QWidget& sotto) {
     new InMezzo(sotto, *invito);
 }
 
+void VistaRisultati::scorciatoieSchede(Schede& schede) {
+    const auto scorciatoia = [this, &schede](QKeyCombination tasti, bool avanti) {
+        auto* passo = new QShortcut(QKeySequence(tasti), this);
+        QObject::connect(passo, &QShortcut::activated, this, [&schede, avanti] { schede.sposta(avanti); });
+    };
+    scorciatoia(Qt::CTRL | Qt::Key_Tab, true);
+    scorciatoia(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, false);
+    scorciatoia(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, false);
+}
+
 QWidget* VistaRisultati::note() {
     auto* striscia = new Striscia(tutto_);
     striscia->setObjectName(QStringLiteral("note"));

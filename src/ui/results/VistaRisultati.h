@@ -1,6 +1,7 @@
 #pragma once
 
 #include "results/FinestraRisultati.h"
+#include "shell/servizi/scelte.h"
 #include "ui/VistaFinestra.h"
 
 class QVBoxLayout;
@@ -28,6 +29,8 @@ protected:
     VistaGriglia* tabella(Griglia& griglia, QWidget* genitore);
     /// Puts the button that calculates in the middle of a widget; it is there while there are no figures.
     void invita(QWidget& sotto);
+    /// Ctrl+Tab goes on to the next tab and Ctrl+Shift+Tab back, from wherever the keyboard is in the window.
+    void scorciatoieSchede(Schede& schede);
     /// Closes the layout: lines below the figures, tab order.
     void chiudi();
 

@@ -7,6 +7,7 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
+#include <algorithm>
 
 #include "results/frmCapacitaCodeRitardi.h"
 #include "ui/RiquadroAiuto.h"
@@ -25,47 +26,67 @@ namespace {
 constexpr QSizeF distintivo{26.0, 18.0};
 constexpr double raggio = 2.0;
 
-/// Badges of the levels, each with the delays that it stands for, in one line.
+/// Badges of the levels, each with the delays that it stands for, in one line; in more of them where the room is short.
 class LegendaLivelli final : public QWidget {
 public:
     explicit LegendaLivelli(QWidget* genitore) : QWidget(genitore) {
         setObjectName(QStringLiteral("legendaLivelli"));
         setFont(dati(punti::nota));
-        setFixedHeight(misura::campo);
-        setMinimumWidth(disponi(nullptr));
+        QSizePolicy politica(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        politica.setHeightForWidth(true);
+        setSizePolicy(politica);
     }
 
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int larghezza) const override { return disponi(nullptr, larghezza).height(); }
+    QSize sizeHint() const override { return disponi(nullptr, QWIDGETSIZE_MAX); }
+    QSize minimumSizeHint() const override { return {0, misura::campo}; }
+
 protected:
+    void resizeEvent(QResizeEvent* evento) override {
+        QWidget::resizeEvent(evento);
+        setFixedHeight(heightForWidth(width()));  // its page is as high as its contents, not as their widths ask
+    }
     void paintEvent(QPaintEvent* /*evento*/) override {
         QPainter pittore(this);
         pittore.setRenderHint(QPainter::Antialiasing);
-        disponi(&pittore);
+        disponi(&pittore, width());
     }
 
 private:
-    /// Paints, where there is a painter, and answers the width of all of it.
-    int disponi(QPainter* pittore) const {
-        int x = parola(pittore, 0, q(std::string{titoloFasce})) + misura::margine;
+    /// Paints, where there is a painter, and answers the room of all of it. A badge and its delays stay together.
+    QSize disponi(QPainter* pittore, int larghezza) const {
+        const int inizio = fontMetrics().horizontalAdvance(q(std::string{titoloFasce})) + misura::margine;
+        QPoint posto;
+        parola(pittore, posto, q(std::string{titoloFasce}));
+        posto.setX(inizio);
+        int larga = inizio;
         for (const FasciaLivello& fascia : fasceLivelli) {
-            if (pittore != nullptr) {
-                badge(*pittore, x, fascia.livello);
+            const QString ritardo = q(std::string{fascia.ritardo});
+            const int distacco = static_cast<int>(distintivo.width()) + misura::spazioRighe;
+            const int sua = distacco + fontMetrics().horizontalAdvance(ritardo);
+            if (posto.x() > inizio && posto.x() + sua > larghezza) {
+                posto = {inizio, posto.y() + misura::campo};
             }
-            x += static_cast<int>(distintivo.width()) + misura::spazioRighe;
-            x = parola(pittore, x, q(std::string{fascia.ritardo})) + misura::margine;
+            if (pittore != nullptr) {
+                badge(*pittore, posto, fascia.livello);
+            }
+            parola(pittore, posto + QPoint(distacco, 0), ritardo);
+            larga = std::max(larga, posto.x() + sua);
+            posto.rx() += sua + misura::margine;
         }
-        return x;
+        return {larga, posto.y() + misura::campo};
     }
-    int parola(QPainter* pittore, int x, const QString& testo) const {
-        const int larga = fontMetrics().horizontalAdvance(testo);
+    void parola(QPainter* pittore, QPoint posto, const QString& testo) const {
         if (pittore != nullptr) {
             pittore->setPen(qcolore(tinta::secondario));
-            pittore->drawText(QRect(x, 0, larga, height()), Qt::AlignVCenter, testo);
+            pittore->drawText(QRect(posto, QSize(fontMetrics().horizontalAdvance(testo), misura::campo)),
+                              Qt::AlignVCenter, testo);
         }
-        return x + larga;
     }
-    void badge(QPainter& pittore, int x, std::string_view livello) const {
+    void badge(QPainter& pittore, QPoint angolo, std::string_view livello) const {
         const Distintivo tinte = distintivoLivello(livello);
-        const QRectF posto(QPointF(x, (height() - distintivo.height()) / 2.0), distintivo);
+        const QRectF posto(QPointF(angolo.x(), angolo.y() + (misura::campo - distintivo.height()) / 2.0), distintivo);
         pittore.setPen(QPen(qcolore(tinte.bordo), 1.0));
         pittore.setBrush(qcolore(tinte.fondo));
         pittore.drawRoundedRect(posto.adjusted(0.5, 0.5, -0.5, -0.5), raggio, raggio);
@@ -107,6 +128,7 @@ public:
         invita(*schede);
         figure()->addWidget(schede, 1);
         chiudi();
+        scorciatoieSchede(f.ctlTab);
     }
 
 private:

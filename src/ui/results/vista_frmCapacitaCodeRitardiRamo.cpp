@@ -1,4 +1,3 @@
-#include <QtGui/QShortcut>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -37,17 +36,10 @@ public:
         lato()->addWidget(bottoni());
         lato()->addWidget(opzioni());
         chiudi();
-        scorciatoia(Qt::CTRL | Qt::Key_Tab, true);
-        scorciatoia(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, false);
-        scorciatoia(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, false);
+        scorciatoieSchede(f.ctlTab);
     }
 
 private:
-    void scorciatoia(QKeyCombination tasti, bool avanti) {
-        auto* passo = new QShortcut(QKeySequence(tasti), this);
-        QObject::connect(passo, &QShortcut::activated, this, [this, avanti] { f_.ctlTab.sposta(avanti); });
-    }
-
     QWidget* foglio(QWidget* contenuto) {
         auto* foglio = new QWidget(corpo());
         auto* piano = new QVBoxLayout(foglio);

@@ -6,6 +6,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "results/frmDX.h"
+#include "ui/RiquadroAiuto.h"
 #include "ui/VistaGriglia.h"
 #include "ui/VistaPianta.h"
 #include "ui/legami.h"
@@ -23,8 +24,13 @@ namespace {
 constexpr int colonnaScelta = 400;
 /// Names of two entries stand in a row.
 constexpr int nomiPerRiga = 2;
+/// Height of the window from which on there is room for the help below the whole table.
+constexpr int altezzaConAiuto = 860;
+/// Of the height the table takes what it needs, the help what is left.
+constexpr int primaLaTabella = 100;
 
-/// At the left the lanes with what turns right, the names of the entries and the plan; at the right the comparison.
+/// At the left the lanes with what turns right, the names of the entries and the plan; at the right the comparison and,
+/// where the window is high enough, the page of the help.
 class Vista final : public VistaRisultati {
 public:
     Vista(frmDX& f, QWidget* genitore) : VistaRisultati(f, genitore), f_(f) {
@@ -38,11 +44,16 @@ public:
         fianco->setSpacing(misura::spazio);
         VistaGriglia* confronto = tabella(f.ctlGrid, corpo());
         tieniIntera(*confronto, f.ctlGrid, false);
-        fianco->addWidget(confronto, 1);
+        fianco->addWidget(confronto, primaLaTabella);
         QLabel* legenda = collega(f.lblLegenda, corpo());
         legenda->setFont(dati(punti::nota));
         legenda->setWordWrap(true);
         fianco->addWidget(legenda);
+        aiuto_ = new RiquadroAiuto(f.ctlHelp, QStringLiteral("Descrizione"), corpo());
+        aiuto_->soloPagina();
+        aiuto_->setMinimumWidth(0);
+        aiuto_->hide();
+        fianco->addWidget(aiuto_, 1);
         fianco->addStretch(0);
         riga->addLayout(fianco, 1);
         figure()->addLayout(riga, 1);
@@ -52,19 +63,33 @@ public:
     Vista(const Vista&) = delete;
     Vista& operator=(const Vista&) = delete;
 
+protected:
+    /// What was changed elsewhere meanwhile: measures of the legs, flows of the turns.
+    void showEvent(QShowEvent* evento) override {
+        VistaRisultati::showEvent(evento);
+        pianta_->aggiorna();
+        mostraAiuto();
+    }
+    void resizeEvent(QResizeEvent* evento) override {
+        VistaRisultati::resizeEvent(evento);
+        mostraAiuto();
+    }
+
 private:
+    void mostraAiuto() { aiuto_->setVisible(height() >= altezzaConAiuto && corsieDisponibili(f_.rotondaMostrata())); }
+
     QWidget* scelta() {
         auto* pannello = collega(f_.frSCELTA, corpo());
         pannello->setFixedWidth(colonnaScelta);
         pannello->larga(corsie(pannello));
         pannello->larga(nomi(pannello));
         pannello->larga(collega(f_.chkStampaDX, pannello));
-        auto* pianta = new VistaPianta([this] { return soggetto(); }, pannello);
-        legamePianta_ = f_.listDX.cambiato().connect([pianta] { pianta->aggiorna(); });
-        gioco(*pianta);
-        pannello->larga(pianta);
+        pianta_ = new VistaPianta([this] { return soggetto(); }, pannello);
+        legamePianta_ = f_.listDX.cambiato().connect([this] { pianta_->aggiorna(); });
+        gioco(*pianta_);
+        pannello->larga(pianta_);
         // What is left of the height goes to the rows of the panel, of which the plan alone grows.
-        if (auto* dentro = qobject_cast<QBoxLayout*>(pianta->parentWidget()->layout())) {
+        if (auto* dentro = qobject_cast<QBoxLayout*>(pianta_->parentWidget()->layout())) {
             dentro->setStretch(dentro->count() - 1, 1);
         }
         return pannello;
@@ -112,14 +137,16 @@ private:
     }
 
     VistaPianta::Soggetto soggetto() const {
-        if (f_.txtIngresso.front().testo().empty()) {
-            return {};  // the window has not come up yet
+        if (!corsieDisponibili(f_.rotondaMostrata())) {
+            return {};
         }
         return {.dati = pianta::datiPianta(f_.rotondaMostrata()),
                 .opzioni = {.nomi = false, .flussi = f_.svolteScelte()}};
     }
 
     frmDX& f_;
+    VistaPianta* pianta_ = nullptr;
+    RiquadroAiuto* aiuto_ = nullptr;
     sigc::connection legamePianta_;
 };
 

@@ -27,6 +27,7 @@ public:
     Vista(frmRAMO_AGGIUNTIVA& f, QWidget* genitore) : VistaFinestra(f, genitore), f_(f) {
         larghezzaColonna(misura::colonnaMatrice);
         colonna()->addWidget(riassunto());
+        colonna()->addWidget(inVigore());
         colonna()->addWidget(soglie());
         if (RiquadroAiuto* aiuto = aggiungiAiuto(QStringLiteral("Descrizione del parametro"))) {
             aiuto->soloPagina();
@@ -58,6 +59,15 @@ private:
         riga->addStretch(1);
         pannello->larga(livelli);
         return pannello;
+    }
+
+    QWidget* inVigore() {
+        QLabel* riga = collega(f_.lblInVigore, corpo());
+        riga->setFont(dati(punti::nota));
+        riga->setProperty("quieta", true);
+        riga->setWordWrap(true);
+        riga->setContentsMargins(misura::sporgenza, 0, 0, 0);
+        return riga;
     }
 
     /// One line a quantity: its tick, its lower and its upper value.

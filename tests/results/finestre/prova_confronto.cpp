@@ -189,19 +189,22 @@ TEST_F(Confronti, TheChartOfTheLevelsHasLettersOnItsAxisANoteAndAMarkedName) {
     EXPECT_EQ(g.serie[0].colori[2], (Colore{140, 0, 25}));
 }
 
-TEST_F(Confronti, AllFlowsZeroEndTheAxisAtZero) {
+TEST_F(Confronti, AllFlowsZeroHaveATopOfZeroAndAnAxisThatEndsAtOne) {
     for (int i = 1; i <= 3; ++i) {
         ramo(i).theDatiTraffico().ScartaIterazioni();
     }
     const Confronto c = letto();
-    const Grafico::Contenuto g = graficoConfronto(c, {0, ora}, 1, MassimoGrafico(0, c.massimo({0, ora})));
-    EXPECT_EQ(g.y.massimo, 0.0);
+    const float cima = MassimoGrafico(0, c.massimo({0, ora}));
+    EXPECT_EQ(cima, 0.0F);
+    const Grafico::Contenuto g = graficoConfronto(c, {0, ora}, 1, cima);
+    EXPECT_EQ(g.y.massimo, 1.0);
     EXPECT_EQ(g.serie[0].testi, (std::vector<std::string>{"0,00", "0,00", "0,00"}));
 }
 
 TEST_F(Confronti, WithoutASegmentTheChartHasItsAxesAndAnInvitation) {
     const Grafico::Contenuto g = graficoConfronto(letto(), {0, ora}, 0, 0.0F);
     EXPECT_TRUE(g.serie.empty());
+    EXPECT_EQ(g.y.massimo, 0.0) << "an axis without figures";
     EXPECT_EQ(g.x.etichette.size(), 3U);
     EXPECT_EQ(g.invito, "Calcola (F9)");
 }

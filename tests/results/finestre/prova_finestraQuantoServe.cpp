@@ -157,5 +157,22 @@ TEST(EffettoQuantoServe, TellsTheEntryBeforeAndAfter) {
     }
 }
 
+TEST(EffettoQuantoServe, TellsWhatTheChecksShowWhereThatIsAnotherFigure) {
+    QuantoServe r{.esito = EsitoQuantoServe::giaRaggiunto};
+    r.prima = {.saturazione = 0.843, .ritardo = 14.02, .regolare = true};
+    r.dopo = r.prima;
+    const std::string stato =
+        "Coefficiente di saturazione massimo 0,84; ritardo massimo 14,0 s/veic (livello di servizio B)";
+    EXPECT_EQ(effettoQuantoServe(r), stato);
+    r.saturazioneVerifiche = 0.838;  // shown as 0,84 too
+    EXPECT_EQ(effettoQuantoServe(r), stato);
+    r.saturazioneVerifiche = 0.912;
+    const std::string nota =
+        ". Nelle verifiche l'ingresso com'è raggiunge 0,91: l'analisi di ipotesi semplifica la curva di domanda.";
+    EXPECT_EQ(effettoQuantoServe(r), stato + nota);
+    r.esito = EsitoQuantoServe::senzaFlusso;
+    EXPECT_EQ(effettoQuantoServe(r), "");
+}
+
 }  // namespace
 }  // namespace kelvo::prove

@@ -1,6 +1,7 @@
 #include "results/frmConfronti.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include "calc/modCalcolo.h"
 #include "comune/cronometro.h"
@@ -17,7 +18,14 @@ const std::string prefissoSimulazione = "Simulazione Confronto Rami:" + std::str
 struct ProveConfronti : ScenaRisultati {
     CronometroATempo cronometro;
     std::unique_ptr<frmConfronti> f = std::make_unique<frmConfronti>(contorno(), servizi(), cronometro);
-    void apriConfronti() { apri(*f, "keyConfronti"); }
+    void apriConfronti() {
+        f->tempoTrascorso = [this] { return std::chrono::milliseconds(cronometro.adesso()); };
+        apri(*f, "keyConfronti");
+    }
+    void riapri() {
+        gestione.chiudiCorrente();
+        apriConfronti();
+    }
     void calcola() { f->ctlToolbar.premi("keyCalcola"); }
     const std::string& titolo() { return f->ctlChartConfronti.contenuto().titolo; }
     std::vector<double> valori() { return f->ctlChartConfronti.contenuto().serie.at(0).valori; }
@@ -34,6 +42,24 @@ struct ProveConfronti : ScenaRisultati {
     }
     std::vector<Controllo*> pannello() {
         return {&f->cmdPLAY, &f->ImagePLAY, &f->txtTipoVariabile, &f->opzUnita, &f->listTEMPO, &f->Slider1};
+    }
+    /// All that a playback has to leave alone.
+    struct Lasciati {
+        std::vector<Iterazione> record;
+        std::uint64_t tutto = 0;
+        std::uint64_t calcolo = 0;
+        Timbro timbro;
+        std::string progetto;
+        friend bool operator==(const Lasciati&, const Lasciati&) = default;
+    };
+    Lasciati lasciati() {
+        Lasciati trovati{{}, r().revisione().tutto, r().revisione().calcolo, r().timbro(), r().TestoFile()};
+        for (int i = 1; i <= 3; ++i) {
+            for (std::int16_t s = 1; s <= ramo(i).theDatiTraffico().IterazioniScritte(); ++s) {
+                trovati.record.push_back(ramo(i).theDatiTraffico().GetIterazione(s));
+            }
+        }
+        return trovati;
     }
     void controllaPannello(bool aperto) {
         for (const Controllo* c : pannello()) {
@@ -104,6 +130,26 @@ TEST_F(ProveConfronti, TheAxisStandsStillWhileTheInstantMoves) {
     for (int s = 1; s <= 4; ++s) {
         f->Slider1.imposta(s);
         EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, cima);
+    }
+}
+
+TEST_F(ProveConfronti, TheAxisStandsStillWhereItsTopIsZero) {
+    apriConfronti();
+    for (std::int16_t s = 1; s <= 4; ++s) {
+        for (int i = 1; i <= 3; ++i) {
+            Iterazione record = ramo(i).theDatiTraffico().GetIterazione(s);
+            record.Coda = s == 2 ? 0.4F : 0.1F;
+            ramo(i).theDatiTraffico().SetIterazione(s, record);
+        }
+    }
+    riapri();
+    f->txtTipoVariabile.scegli(variabileCoda);
+    EXPECT_EQ(f->MassimoGrafico(), 0.0F);
+    for (int s = 1; s <= 4; ++s) {
+        f->Slider1.imposta(s);
+        EXPECT_EQ(valori(), std::vector<double>(3, s == 2 ? 0.4 : 0.1));
+        EXPECT_EQ(f->ctlChartConfronti.contenuto().y.minimo, 0.0);
+        EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, 1.0);
     }
 }
 
@@ -280,7 +326,9 @@ TEST_F(ProveConfronti, AnotherSpeedHoldsAtOnce) {
     }
     EXPECT_EQ(f->PausaSimulazione(), 500);
     controllaIstante(1, "08:00");
-    cronometro.avanza(500);
+    cronometro.avanza(399);
+    controllaIstante(1, "08:00");
+    cronometro.avanza(1);
     controllaIstante(2, "08:15");
     const std::size_t chiesti = cronometro.chiesti.size();
     cronometro.avanza(400);
@@ -288,6 +336,52 @@ TEST_F(ProveConfronti, AnotherSpeedHoldsAtOnce) {
     EXPECT_EQ(cronometro.chiesti.size(), chiesti);
     cronometro.avanza(100);
     controllaIstante(3, "08:30");
+}
+
+TEST_F(ProveConfronti, AnotherPauseCountsFromWhenTheInstantWasDrawn) {
+    apriConfronti();
+    f->cmdPLAY.premi();
+    cronometro.avanza(900);
+    f->Command4.premi();
+    EXPECT_EQ(cronometro.chiesti.back(), 600) << "900 of 1500 have passed";
+    cronometro.avanza(599);
+    controllaIstante(1, "08:00");
+    cronometro.avanza(1);
+    controllaIstante(2, "08:15");
+    EXPECT_EQ(cronometro.chiesti.back(), 1500);
+    for (int i = 0; i < 7; ++i) {
+        f->Command4.premi();
+    }
+    cronometro.avanza(4900);
+    f->Command3.premi();
+    EXPECT_EQ(f->PausaSimulazione(), 4500);
+    EXPECT_EQ(cronometro.chiesti.back(), 0) << "the new pause is over already";
+    controllaIstante(2, "08:15");
+    cronometro.avanza(1);
+    controllaIstante(3, "08:30");
+    EXPECT_EQ(cronometro.chiesti.back(), 4500) << "the next instant has its whole pause";
+}
+
+TEST_F(ProveConfronti, APlaybackLeavesRecordsAndProjectAlone) {
+    apriConfronti();
+    const Lasciati prima = lasciati();
+    ASSERT_EQ(prima.record.size(), 12U);
+    f->cmdPLAY.premi();
+    cronometro.avanza(4000);
+    ASSERT_FALSE(f->inSimulazione());
+    EXPECT_EQ(lasciati(), prima) << "played to its end";
+    f->cmdPLAY.premi();
+    cronometro.avanza(1500);
+    f->Command1.premi();
+    EXPECT_EQ(lasciati(), prima) << "stopped";
+    f->cmdPLAY.premi();
+    cronometro.avanza(1500);
+    riapri();
+    EXPECT_EQ(lasciati(), prima) << "hidden and shown again";
+    f->cmdPLAY.premi();
+    cronometro.avanza(1500);
+    f.reset();
+    EXPECT_EQ(lasciati(), prima) << "closed";
 }
 
 TEST_F(ProveConfronti, StopEndsAtOnceAndShowsTheInstantThatWasInView) {
@@ -405,6 +499,50 @@ TEST_F(ProveConfronti, AReturnShowsWhatTheLastCalculationLeft) {
     EXPECT_FALSE(f->lblVecchi.visibile());
 }
 
+TEST_F(ProveConfronti, TheUltimateCapacityMakesNoFigureOld) {
+    apriConfronti();
+    const std::vector<double> prima = valori();
+    gestione.chiudiCorrente();
+    modCalcolo(app).Calcola_Bilanciamento();
+    ASSERT_EQ(r().timbro().forma, FormaCalcolo::bilanciamento);
+    apriConfronti();
+    EXPECT_EQ(valori(), prima);
+    EXPECT_FALSE(f->lblVecchi.visibile()) << f->lblVecchi.testo();
+    gestione.chiudiCorrente();
+    ramo(1).theDatiTraffico().FlussoTempo2(20.0F);
+    modCalcolo(app).Calcola_Bilanciamento();
+    apriConfronti();
+    EXPECT_EQ(f->lblVecchi.testo().rfind("I dati sono cambiati dopo il calcolo", 0), 0U) << f->lblVecchi.testo();
+}
+
+TEST_F(ProveConfronti, AFailureIsPastOnceAnotherWindowHasCalculated) {
+    const auto nota = [this](const char* inizio) { return f->lblVecchi.testo().rfind(inizio, 0) == 0; };
+    apriConfronti();
+    ramo(1).RaggioIngresso(0.0F);
+    calcola();
+    EXPECT_TRUE(nota("Il calcolo non è riuscito")) << f->lblVecchi.testo();
+    riapri();
+    EXPECT_TRUE(nota("Il calcolo non è riuscito")) << "nothing has been calculated since";
+    ramo(1).RaggioIngresso(20.0F);
+    modCalcolo(app).Calcola_Tempo_Flusso("0");
+    riapri();
+    EXPECT_FALSE(f->lblVecchi.visibile()) << f->lblVecchi.testo();
+    ramo(1).theDatiTraffico().FlussoTempo2(20.0F);
+    riapri();
+    EXPECT_TRUE(nota("I dati sono cambiati dopo il calcolo")) << f->lblVecchi.testo();
+}
+
+TEST_F(ProveConfronti, TheRecordsOfAnyEntryThatAreGoneAreCalculatedAgain) {
+    apriConfronti();
+    const std::vector<double> prima = valori();
+    gestione.chiudiCorrente();
+    ramo(2).theDatiTraffico().ScartaIterazioni();
+    apriConfronti();
+    EXPECT_EQ(ramo(2).theDatiTraffico().IterazioniScritte(), 4);
+    EXPECT_EQ(valori(), prima);
+    EXPECT_FALSE(f->lblVecchi.visibile());
+}
+
 TEST_F(ProveConfronti, RecordsThatAreGoneAreCalculatedAgainWithTheirInstants) {
     r().TipoAnalisi(2);
     apriConfronti();
@@ -431,11 +569,31 @@ TEST_F(ProveConfronti, TellsWhyThereAreNoFlows) {
     apriConfronti();
     EXPECT_TRUE(f->lblFlussi.visibile());
     EXPECT_EQ(f->MassimoGrafico(), 0.0F);
-    EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, 0.0);
+    EXPECT_EQ(f->ctlChartConfronti.contenuto().y.massimo, 1.0);
     for (const pianta::StatoIngresso& suo : f->ctlPianta.stati()) {
         EXPECT_EQ(suo.livello, "-");
         EXPECT_EQ(suo.coda, 0.0);
     }
+}
+
+TEST_F(ProveConfronti, FiguresOfOtherDataAreNotExplainedByTheDataAtHand) {
+    for (int i = 1; i <= 3; ++i) {
+        ramo(i).theDatiTraffico().FlussoTempo1(0.0F);
+        ramo(i).theDatiTraffico().FlussoTempo2(0.0F);
+        ramo(i).theDatiTraffico().FlussoTempo3(0.0F);
+    }
+    apriConfronti();
+    EXPECT_TRUE(f->lblFlussi.visibile());
+    ramo(1).theDatiTraffico().FlussoTempo2(20.0F);
+    riapri();
+    EXPECT_TRUE(f->lblVecchi.visibile());
+    EXPECT_FALSE(f->lblFlussi.visibile()) << f->lblFlussi.testo();
+}
+
+TEST_F(ProveConfronti, NoFieldNamesAHelpPageThatNoPaneShows) {
+    EXPECT_EQ(f->aiuto(), nullptr);
+    EXPECT_EQ(f->txtTipoVariabile.paginaAiuto, "");
+    EXPECT_NE(f->txtTipoVariabile.suggerimento.find("fissato sul valore più grande"), std::string::npos);
 }
 
 TEST_F(ProveConfronti, WritesItsTextToTheByteForThreeFourAndSevenLegs) {

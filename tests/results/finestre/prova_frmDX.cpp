@@ -43,6 +43,8 @@ TEST_F(ProveDX, HasItsWordsAndKeys) {
     EXPECT_EQ(finestra.ctlGrid.tabella().righe(), 18);
     EXPECT_EQ(finestra.ctlGrid.righeVisibili, 18);
     EXPECT_TRUE(finestra.cmdCalcola.visibile());
+    ASSERT_NE(finestra.aiuto(), nullptr);
+    EXPECT_EQ(finestra.aiuto()->pagina(), "CorsiaDX.htm");
 }
 
 TEST_F(ProveDX, LabelsShowNamesAndTurnsAsTheyWereEntered) {
@@ -237,6 +239,59 @@ TEST_F(ProveDX, TheTextIsCalculatedFirstAndIsThatOfTheCommandLineToTheByte) {
         EXPECT_EQ(documenti.aperti.back(), app.theAmbiente.CartellaLavoro() + "RisultatiDX.txt");
         gestione.chiudiCorrente();
     }
+}
+
+TEST_F(ProveDX, TheTextNamesTheLanesOfItsFigures) {
+    apriDX();
+    scegli({0});
+    finestra.ctlToolbar.premi("keyCalcola");
+    r().TipoAnalisi(0);
+    scegli({0, 2});  // the first is taken away again
+    finestra.ctlToolbar.premi("keyAnteprima");
+    const std::string scritto = file("RisultatiDX.txt");
+    EXPECT_NE(scritto.find("IPOTESI:\r\nPosizione 1: (svolta Ramo A-->Ramo B) ==> 10 [veic.]\r\n\r\n"),
+              std::string::npos)
+        << scritto;
+    EXPECT_EQ(scritto.find("Posizione 3"), std::string::npos);
+}
+
+TEST_F(ProveDX, WithoutFiguresNoTextIsWrittenAndTheStatusBarSaysWhy) {
+    const std::string percorso = app.theAmbiente.CartellaLavoro() + "RisultatiDX.txt";
+    apriDX();
+    scegli({0});
+    r().TipoAnalisi(0);
+    finestra.ctlToolbar.premi("keyAnteprima");
+    EXPECT_EQ(cornice.avvisato,
+              "Il confronto richiede una domanda nel tempo: l'analisi è di sola saturazione (Opzioni).");
+    EXPECT_FALSE(std::filesystem::exists(percorso));
+    r().TipoAnalisi(1);
+    DatiTraffico& traffico = ramo(2).theDatiTraffico();
+    const auto picco = traffico.Tempo2();
+    traffico.Tempo2(traffico.Tempo1());
+    finestra.ctlToolbar.premi("keyAnteprima");
+    EXPECT_EQ(cornice.avvisato, "Il calcolo si è interrotto: le cifre non sono complete.");
+    EXPECT_FALSE(std::filesystem::exists(percorso));
+    EXPECT_TRUE(documenti.aperti.empty());
+    traffico.Tempo2(picco);
+    finestra.ctlToolbar.premi("keyAnteprima");
+    EXPECT_TRUE(std::filesystem::exists(percorso));
+    EXPECT_EQ(cornice.avvisato, "");
+}
+
+TEST_F(ProveDX, AfterAFailedRunTheReportTakesTheMendedData) {
+    apriDX();
+    scegli({0});
+    finestra.chkStampaDX.clicca();
+    DatiTraffico& traffico = ramo(2).theDatiTraffico();
+    const auto picco = traffico.Tempo2();
+    traffico.Tempo2(traffico.Tempo1());
+    finestra.ctlToolbar.premi("keyCalcola");
+    EXPECT_FALSE(finestra.perRelazione());
+    traffico.Tempo2(picco);
+    const auto dati = finestra.perRelazione();
+    ASSERT_TRUE(dati);
+    EXPECT_NE(dati->tabella.testo(4, 1), "");
+    EXPECT_FALSE(finestra.lblVecchi.visibile());
 }
 
 TEST_F(ProveDX, AFileThatCannotBeWrittenIsTracedUnderTheNameOfAnotherWindow) {

@@ -90,6 +90,20 @@ TEST_F(ProveAggiuntiva, ShowsTheSummaryOfItsEntry) {
     EXPECT_EQ(a.ctlGRID1.ornamento({6, 0}).distintivo, std::nullopt);
 }
 
+TEST_F(ProveAggiuntiva, TellsWhatIsInForceAlsoWhereThresholdsAloneAreShown) {
+    conFigure(1);
+    apriAggiuntiva();
+    ASSERT_FALSE(a.frRIASSUNTO.visibile());
+    EXPECT_TRUE(a.lblInVigore.visibile());
+    EXPECT_EQ(a.lblInVigore.testo(),
+              "Percentile 95,00 % · notte non in vigore · nessuna riduzione dei rami · veicoli equivalenti 2,50 2,00 "
+              "1,80 1,40 1,20 0,80 1,00");
+    ritorno();
+    r().ValorePercentile(90.0F);
+    apriAggiuntiva(false);
+    EXPECT_EQ(a.lblInVigore.testo().rfind("Percentile 90,00 % · ", 0), 0U) << a.lblInVigore.testo();
+}
+
 TEST_F(ProveAggiuntiva, PanelsFollowTheTwoButtons) {
     conFigure(1);
     const auto pannelli = [&](bool riassunto, bool soglie) {

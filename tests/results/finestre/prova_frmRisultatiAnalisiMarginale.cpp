@@ -280,6 +280,25 @@ TEST_F(ProveSensibilita, AProjectThatCannotBeCalculatedIsToldAndShowsNoFigures) 
     EXPECT_TRUE(finestra.cmdCalcola.visibile());
 }
 
+TEST_F(ProveSensibilita, AfterAGoodRunOfNoFlowsNothingSaysThatThereWasNone) {
+    DatiTraffico& traffico = ramo(2).theDatiTraffico();
+    traffico.Tempo1(oraDelGiorno(10, 0));  // behind the hour that is modelled
+    traffico.Tempo2(oraDelGiorno(10, 30));
+    traffico.Tempo3(oraDelGiorno(11, 0));
+    apriRamo(2);
+    calcola();
+    EXPECT_TRUE(messaggi.mostrati.empty());
+    EXPECT_NE(testo(larghezza, 2, 4), "");
+    EXPECT_FALSE(finestra.lblFlussi.visibile()) << finestra.lblFlussi.testo();
+    for (std::int16_t i = 1; i <= 3; ++i) {
+        for (std::int16_t j = 1; j <= 3; ++j) {
+            r().MatriceSvolte(0.0F, i, j);
+        }
+    }
+    calcola();
+    EXPECT_EQ(finestra.lblFlussi.testo(), "La matrice delle svolte è vuota: nessun flusso circola nell'anello.");
+}
+
 TEST_F(ProveSensibilita, WithoutAMeasureToMoveItSaysWhatToDo) {
     apriRamo(3);
     EXPECT_EQ(finestra.ctlTab.corrente(), riepilogo);
