@@ -55,35 +55,25 @@ TEST_F(ProveCampiFinestre, TheFieldsThatFindingsLeadToStandInTheirWindows) {
         const char* chiave;
         const char* campo;
     };
-    for (const Meta& meta : {Meta{"keyAnagraficaRotonda", "txtData"},
-                             Meta{"keyAnagraficaRotonda", "txtNomeFile"},
-                             Meta{"keyAnagraficaRotonda", "txtStatoAvanzamento"},
-                             Meta{"keyAnagraficaRotonda", "txtLocalita"},
-                             Meta{"keyAnagraficaRotonda", "txtProvincia"},
-                             Meta{"keyAnagraficaRotonda", "txtNote"},
-                             Meta{"keyAnagraficaRotonda", "txtTitolo"},
-                             Meta{"keyAnagraficaProfessionista", "txtNomeProfessionista"},
-                             Meta{"keyAnagraficaProfessionista", "txtIndirizzoProfessionista"},
-                             Meta{"keyAnagraficaProfessionista", "txtCAPProfessionista"},
-                             Meta{"keyAnagraficaProfessionista", "txtCittaProfessionista"},
-                             Meta{"keyAnagraficaProfessionista", "txtProvinciaProfessionista"},
-                             Meta{"keyAnagraficaProfessionista", "txtTelefonoProfessionista"},
-                             Meta{"keyAnagraficaProfessionista", "txtEMailProfessionista"},
-                             Meta{"keyToponomasticaIntersezione", "txtIngresso4"},
-                             Meta{"keyRamo3", "txtDiametroInscritto"},
-                             Meta{"keyRamo3", "txtLarghezzaIngresso"},
-                             Meta{"keyRamo3", "txtLungSvasatura"},
-                             Meta{"keyRamo3", "txtSemiLarghezza"},
-                             Meta{"keyOpzioni", "grpTipoAnalisi"},
-                             Meta{"keyOpzioni", "txtAutoarticolati"},
-                             Meta{"keyOpzioni", "txtAutotreni"},
-                             Meta{"keyOpzioni", "txtPullman"},
-                             Meta{"keyOpzioni", "txtCamper"},
-                             Meta{"keyOpzioni", "txtRoulotte"},
-                             Meta{"keyOpzioni", "txtMotocicli"},
-                             Meta{"keyOpzioni", "txtAutovetture"},
-                             // Last: who was in this field has to choose the end again before the window lets go.
-                             Meta{"keyTempoModellazione", "txtSegmentoTempo"}}) {
+    for (const Meta& meta :
+         {Meta{"keyAnagraficaRotonda", "txtData"}, Meta{"keyAnagraficaRotonda", "txtNomeFile"},
+          Meta{"keyAnagraficaRotonda", "txtStatoAvanzamento"}, Meta{"keyAnagraficaRotonda", "txtLocalita"},
+          Meta{"keyAnagraficaRotonda", "txtProvincia"}, Meta{"keyAnagraficaRotonda", "txtNote"},
+          Meta{"keyAnagraficaRotonda", "txtTitolo"}, Meta{"keyAnagraficaProfessionista", "txtNomeProfessionista"},
+          Meta{"keyAnagraficaProfessionista", "txtIndirizzoProfessionista"},
+          Meta{"keyAnagraficaProfessionista", "txtCAPProfessionista"},
+          Meta{"keyAnagraficaProfessionista", "txtCittaProfessionista"},
+          Meta{"keyAnagraficaProfessionista", "txtProvinciaProfessionista"},
+          Meta{"keyAnagraficaProfessionista", "txtTelefonoProfessionista"},
+          Meta{"keyAnagraficaProfessionista", "txtEMailProfessionista"},
+          Meta{"keyToponomasticaIntersezione", "txtIngresso4"}, Meta{"keyRamo3", "txtDiametroInscritto"},
+          Meta{"keyRamo3", "txtLarghezzaIngresso"}, Meta{"keyRamo3", "txtLungSvasatura"},
+          Meta{"keyRamo3", "txtSemiLarghezza"}, Meta{"keyOpzioni", "grpTipoAnalisi"},
+          Meta{"keyOpzioni", "txtAutoarticolati"}, Meta{"keyOpzioni", "txtAutotreni"}, Meta{"keyOpzioni", "txtPullman"},
+          Meta{"keyOpzioni", "txtCamper"}, Meta{"keyOpzioni", "txtRoulotte"}, Meta{"keyOpzioni", "txtMotocicli"},
+          Meta{"keyOpzioni", "txtAutovetture"},
+          // Last: who was in this field has to choose the end again before the window lets go.
+          Meta{"keyTempoModellazione", "txtSegmentoTempo"}}) {
         ASSERT_TRUE(cornice.albero.UserClick(meta.chiave)) << meta.chiave;
         EXPECT_TRUE(campi.fuocoSu(meta.campo)) << meta.chiave << " " << meta.campo;
     }
