@@ -46,12 +46,11 @@ inline constexpr std::array finestrePerChiave{
 std::string_view finestraDiChiave(std::string_view chiave);
 
 /// Windows and procedures that a key leads to and that do not stand yet. Their keys are shown closed, with a note.
-inline constexpr std::array<std::string_view, 8> nonAncora{
+inline constexpr std::array<std::string_view, 7> nonAncora{
     "frmCapacitaCodeRitardi",        //
     "frmRisultatiAnalisiMarginale",  //
     "frmConfronti",                  //
     "frmDX",                         //
-    "frmANALIZZATORE",               //
     "frmGoogle",                     //
     "frmOPZrelazione",               //
     "LinkKELVOCAD",                  //

@@ -85,7 +85,7 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
       app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
       cornice_(app_, stato_, {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero()}),
       fotografo_(richiesta.cartella) {
-    registraFinestre(cornice_.finestre, {documenti_, anteprima_, collegate_});
+    registraFinestre(cornice_.finestre, {documenti_, anteprima_, collegate_, {}, {}, nullptr, &stampa_});
     collegate_.collegaA(cornice_);
     vista_.collegaA(cornice_);
     app_.comune.LeggiConfigurazione();
@@ -147,6 +147,7 @@ void Giro::finestre(const std::string& progetto) {
             mostrate_.insert(nome);
             fotografo_.scatta(vista_, nome + "-" + progetto);
             calcolata(*cornice_.finestre.viva(nome), nome + "-" + progetto);
+            controllata(*cornice_.finestre.viva(nome), progetto);
         }
     }
 }

@@ -81,7 +81,7 @@ Banco::Banco(int disposizione, SistemaFile& file)
     app.configurazione.coefficienti(coefficientiDiFabbrica);
     app.configurazione.PathErrore = "FILELOGERROR.TXT";
     app.configurazione.LayoutPannello = 3;
-    registraFinestre(cornice.finestre, {documenti, anteprima, collegate});
+    registraFinestre(cornice.finestre, {documenti, anteprima, collegate, {}, {}, &campi, &stampa});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
 }

@@ -7,6 +7,8 @@
 #include <string>
 
 #include "comune/fintiShell.h"
+#include "comune/stampaFinta.h"
+#include "shell/CampiFinestre.h"
 #include "shell/registroFinestre.h"
 #include "ui/gesti.h"
 #include "ui/results/FinestreCollegateQt.h"
@@ -70,6 +72,8 @@ public:
     ui::VistaMDI_Form vista;
     ui::FinestreCollegateQt collegate{vista};
     MDI_Form cornice;
+    CampiFinestre campi{cornice.finestre, cornice.gestione};
+    StampaFinta stampa;
 };
 
 /// Every property of a project with its value as text: "Ramo 3/DatiTraffico/Tempo1" and the like.
