@@ -1,6 +1,7 @@
 #include "shell/CampiFinestre.h"
 
 #include "comune/fintiShell.h"
+#include "shell/servizi/Griglia.h"
 
 namespace kelvo::prove::shell {
 namespace {

@@ -89,12 +89,12 @@ protected:
             }
         }
     }
-    /// Every rule of every leg has something to say.
+    /// Every rule of the legs has something to say, and every window takes what it shows.
     void tuttoSbagliato() {
         for (std::int16_t i = 1; i <= rotonda().NumeroRami(); ++i) {
             Ramo& ramo = rotonda().Ramo(i);
             ramo.DiametroInscritto(13.0F + static_cast<float>(i));
-            ramo.LarghezzaIngresso(i == 1 ? 3.0F : 11.0F);
+            ramo.LarghezzaIngresso(12.0F);
             ramo.LunghezzaSvasatura(31.0F);
             ramo.SemiLarghezza(11.0F);
             ramo.theDatiTraffico().FlussoTotale(i == 1 ? 0.0F : 2000.0F);
@@ -139,7 +139,10 @@ TEST_F(CheckUp, EveryFindingLeadsByEnterToAFieldThatStandsInItsWindow) {
     apri();
     const int quanti = albero().topLevelItem(0)->childCount();
     for (int i = 0; i < quanti; ++i) {
-        banco.vai("keyAnalizzatore");
+        gesti::clicNodo(banco.albero(), "keyAnalizzatore");
+        ASSERT_TRUE(attendi([&] { return banco.nomeCorrente() == "frmANALIZZATORE"; }))
+            << banco.nomeCorrente() << " keeps the user: " << banco.ultimo() << banco.cornice.ctlStatusBar.avviso();
+        smaltisci();
         QTreeWidgetItem* riga = albero().topLevelItem(0)->child(i);
         const std::string chiave = ui::VistaRiscontri::chiaveDi(riga);
         const Meta meta = finestra().riscontro(finestra().ctlTreeAnalizzatore, chiave)->meta;
