@@ -1,4 +1,5 @@
 #include "Comando.h"
+#include "app/percorsi.h"
 #include "checkup/modERRORI.h"
 #include "json.h"
 
@@ -27,6 +28,8 @@ private:
         Applicazione& app = contesto.app();
         modERRORI errori(app);
         if (contesto.carica(file)) {
+            // A project is called by its file, as the desktop calls it.
+            app.theRotonda().NomeFile(nomeProgetto(file));
             errori.svuota();
             errori.AnalisiProgetto();
             for (const Riscontro& riscontro : errori.ctlTreeAnalizzatore.riscontri) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace kelvo {
@@ -171,7 +172,7 @@ inline constexpr std::array righeCheckList{
                   1, -1},
 };
 
-/// Empty rows behind them.
+/// Empty rows behind them at least.
 inline constexpr int righeVuote = 16;
 
 /// A section as the navigator has it.
@@ -201,6 +202,15 @@ extern const std::array<FasciaIndice, 7> fasceIndice;
 
 /// Position of the band of an index, from 0; -1 for none.
 int fasciaDiIndice(int indice);
+
+/// Stands in place of the level until all questions are answered.
+inline constexpr std::string_view testoCopertina = "Il livello compare quando si è risposto a tutte le domande.";
+/// Number of the questions.
+int numeroDomande();
+/// How many questions were answered, of how many, and the index.
+std::string testoIndice(int risposte, int indice);
+/// Says that an index is in no band.
+std::string testoSenzaLivello(int indice);
 
 /// Position of the section of a top row: the last one that begins there or above.
 std::size_t sezioneDiRiga(int rigaAlta);

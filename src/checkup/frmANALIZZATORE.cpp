@@ -7,6 +7,8 @@
 #include "base/file.h"
 #include "base/guasto.h"
 #include "checkup/checkList.h"
+#include "checkup/stampaControllo.h"
+#include "shell/servizi/stampaDocumento.h"
 
 namespace kelvo {
 
@@ -17,8 +19,8 @@ constexpr const char* didascaliaReport = "Check Up Rotatoria: Analisi Report Pro
 constexpr const char* didascaliaCheckList = "Check Up Rotatoria: Analisi Check List Progetto";
 constexpr const char* paginaReport = "Analisi Report Progetto";
 constexpr const char* paginaCheckList = "Analisi Check List Progetto";
+constexpr const char* documentoCheckList = "Check list del progetto";
 constexpr const char* livello = "Livello del progetto";
-constexpr const char* copertina = "Il livello del progetto si vede quando tutte le domande hanno una risposta.";
 constexpr const char* cambiato = "Il progetto è cambiato dopo l'analisi";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
 }  // namespace testi
@@ -40,42 +42,55 @@ frmANALIZZATORE::frmANALIZZATORE(const Contorno& contorno, Servizi servizi)
     : Finestra(contorno, "frmANALIZZATORE", testi::didascaliaReport),
       TabStrip2("TabStrip2", {testi::paginaReport, testi::paginaCheckList}),
       TabStrip1("TabStrip1", {titoliSchede.begin(), titoliSchede.end()}),
-      lblCopertina("lblCopertina", testi::copertina),
+      lblCopertina("lblCopertina", std::string{testoCopertina}),
       lblLivello(etichetteLivelli(std::make_index_sequence<7>{})),
       frLivello("frLivello", testi::livello,
-                {&lblLivello[0], &lblLivello[1], &lblLivello[2], &lblLivello[3], &lblLivello[4], &lblLivello[5],
-                 &lblLivello[6], &lblCommento}),
+                {&lblSenzaLivello, &lblLivello[0], &lblLivello[1], &lblLivello[2], &lblLivello[3], &lblLivello[4],
+                 &lblLivello[5], &lblLivello[6], &lblCommento}),
       ctlToolbar("ctlToolbar", {{"keyAnalizza", "Analizza", "Controlla di nuovo i dati del progetto", "Analizza"},
-                                {"keyAnteprima", "Anteprima", "Scrive i messaggi in un testo e lo apre", "Anteprima"}}),
+                                {"keyAnteprima", "Anteprima", "Scrive i messaggi in un testo e lo apre", "Anteprima"},
+                                {"keyXStampa", "Stampa", "Stampa la pagina mostrata: messaggi o check list", "Stampa"},
+                                {"keyXPDF", "PDF", "Salva la pagina mostrata in un file PDF", "PDF"}}),
       servizi_(std::move(servizi)),
       errori_(contorno.app, {&contorno.cornice, servizi_.campi}) {
-    ordina({&TabStrip2,     &TabStrip1,     &ctlTreeAnalizzatore, &ctlTreeGREEN,  &ctlTreeYELLOW,
-            &ctlTreeRED,    &lblSezione,    &cmdINDIETROsezione,  &ImageINDIETRO, &cmdAVANTIsezione,
-            &ImageAVANTI,   &ctlGrid,       &lblIndice,           &lblCopertina,  &frLivello,
-            &lblLivello[0], &lblLivello[1], &lblLivello[2],       &lblLivello[3], &lblLivello[4],
-            &lblLivello[5], &lblLivello[6], &lblCommento});
+    ordina({&TabStrip2,       &TabStrip1,     &ctlTreeAnalizzatore, &ctlTreeGREEN,  &ctlTreeYELLOW,
+            &ctlTreeRED,      &lblSezione,    &cmdINDIETROsezione,  &ImageINDIETRO, &cmdAVANTIsezione,
+            &ImageAVANTI,     &ctlGrid,       &lblIndice,           &lblCopertina,  &frLivello,
+            &lblSenzaLivello, &lblLivello[0], &lblLivello[1],       &lblLivello[2], &lblLivello[3],
+            &lblLivello[4],   &lblLivello[5], &lblLivello[6],       &lblCommento});
     segno.testo(testi::cambiato);
     for (const Livello livello : livelli) {
         TabStrip1.icona(static_cast<int>(livello) + 1, std::string{nomeLivello(livello)});
     }
     TabStrip2.alCambio = [this](int pagina) { mostraPagina(pagina); };
     TabStrip1.alCambio = [this](int scheda) { mostraAlbero(scheda); };
-    ctlToolbar.allaPressione = [this](const std::string& chiave) {
-        if (chiave == "keyAnalizza") {
-            Analizza();
-        } else {
-            Anteprima();
-        }
-    };
+    ctlToolbar.allaPressione = [this](const std::string& chiave) { premuto(chiave); };
+    for (const char* chiave : {"keyXStampa", "keyXPDF"}) {
+        ctlToolbar.abilita(chiave, servizi_.stampa != nullptr);
+    }
     preparaCheckList();
     mostraPagina(0);
+}
+
+void frmANALIZZATORE::premuto(const std::string& chiave) {
+    if (chiave == "keyAnalizza") {
+        Analizza();
+    } else if (chiave == "keyAnteprima") {
+        Anteprima();
+    } else if (chiave == "keyXStampa") {
+        gestisci("frmANALIZZATORE:Stampa", [this] { stampaDocumento(contorno(), *servizi_.stampa, documento()); });
+    } else {
+        gestisci("frmANALIZZATORE:PDF", [this] { salvaPDF(contorno(), *servizi_.stampa, documento()); });
+    }
 }
 
 void frmANALIZZATORE::attivata() {
     if (!analizzato_) {
         Analizza();
+        fuocoSu(ctlTreeAnalizzatore);  // the findings are what one comes for
     }
-    segno.visibile(rotonda().revisione().tutto != revisioneAnalizzata_);
+    segno.visibile(rotonda().revisione().tutto != revisioneAnalizzata_ ||
+                   app().configurazione.coefficienti() != coefficientiAnalizzati_);
 }
 
 void frmANALIZZATORE::mostraPagina(int pagina) {
@@ -121,6 +136,7 @@ void frmANALIZZATORE::Analizza() {
         }
         analizzato_ = true;
         revisioneAnalizzata_ = rotonda().revisione().tutto;
+        coefficientiAnalizzati_ = app().configurazione.coefficienti();
         segno.visibile(false);
         TabStrip2.corrente(0);
         TabStrip1.corrente(0);
@@ -163,8 +179,23 @@ void frmANALIZZATORE::invioRiscontro(const Albero& albero, std::string_view chia
 
 void frmANALIZZATORE::vai(const Meta& meta) {
     if (!meta.chiave.empty() && navigazione().mostra(meta.chiave) && servizi_.campi != nullptr) {
-        servizi_.campi->fuocoSu(meta.campo);
+        servizi_.campi->fuocoSu(meta.campo, meta.riga);
     }
+}
+
+DocumentoPagine frmANALIZZATORE::documento() const {
+    if (TabStrip2.corrente() == 0) {
+        const auto scheda = static_cast<std::size_t>(TabStrip1.corrente());
+        return documentoReport(documentoDiProgetto(app(), titoliSchede.at(scheda)), elenco(scheda));
+    }
+    RisposteCheckList date;
+    for (int r = 0; r < static_cast<int>(righeCheckList.size()); ++r) {
+        const bool si = casella({r, colonnaSI}).value_or(false);
+        if (si || casella({r, colonnaNO}).value_or(false)) {
+            date.emplace(r, si);
+        }
+    }
+    return documentoCheckList(documentoDiProgetto(app(), testi::documentoCheckList), date);
 }
 
 void frmANALIZZATORE::Anteprima() {
@@ -180,7 +211,12 @@ void frmANALIZZATORE::esporta() {
         throw Guasto::conParole(NumeroGuasto::accessoPercorso,
                                 fmt::format("Impossibile scrivere '{}': {}", percorso, errore));
     }
-    if (!servizi_.documenti.apri(percorso)) {
+    if (servizi_.documenti.apri(percorso)) {
+        return;
+    }
+    if (servizi_.mostraTesto) {
+        servizi_.mostraTesto(percorso, testo);
+    } else {
         messaggio(fmt::format("Il report è stato scritto in '{}', ma nessun programma lo ha aperto.", percorso),
                   testi::informazione, Icona::informazione);
     }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,7 @@
 #include "shell/servizi/Albero.h"
 #include "shell/servizi/Finestra.h"
 #include "shell/servizi/Griglia.h"
+#include "shell/servizi/documentoPagine.h"
 #include "shell/servizi/scelte.h"
 
 namespace kelvo {
@@ -27,6 +29,9 @@ public:
         CampiMostrati* campi = nullptr;  ///< what open windows show; null for none
         /// Shows a finding until its window is closed.
         std::function<void(frmCheckUpMessaggio&)> mostraMessaggio{};
+        /// Shows a text that the system has no program for: whole path and content; empty for no such thing.
+        std::function<void(const std::string&, const std::string&)> mostraTesto{};
+        StampaPagine* stampa = nullptr;  ///< prints report and check list; null: their buttons are closed
     };
     frmANALIZZATORE(const Contorno& contorno, Servizi servizi);
 
@@ -56,7 +61,8 @@ public:
     Immagine ImageAVANTI{"ImageAVANTI", "avanti"};
     Griglia ctlGrid{"ctlGrid", 0, 0};
     Etichetta lblIndice{"lblIndice"};
-    Etichetta lblCopertina;                ///< stands over the level until all questions are answered
+    Etichetta lblSenzaLivello{"lblSenzaLivello"};  ///< says that the index is in no band
+    Etichetta lblCopertina;                        ///< stands over the level until all questions are answered
     std::array<Etichetta, 7> lblLivello;   ///< "lblLivello1" to "lblLivello7"; all but that of the index are empty
     Etichetta lblCommento{"lblCommento"};  ///< what the level means for the design
     Riquadro frLivello;
@@ -68,8 +74,16 @@ public:
 
     /// Runs the rules and shows the report.
     void Analizza();
+    /// The page in view as a document for paper: the findings of the inner tab, or the check list with its answers.
+    DocumentoPagine documento() const;
     /// Writes the findings of the inner tab in view to "Report.txt" and opens it.
     void Anteprima();
+
+    // Shortcuts of the navigator.
+    static constexpr std::string_view tastoAVANTI = "Ctrl+PgDown";
+    static constexpr std::string_view tastoINDIETRO = "Ctrl+PgUp";
+    /// A cell of the check list that shows a box: whether it is ticked; nothing for any other cell.
+    std::optional<bool> casella(Posto posto) const;
 
     // The user's gestures on a finding of any tree; nothing on a root.
     /// A click: shows the finding in a window of its own.
@@ -90,11 +104,13 @@ private:
     void mostraAlbero(int scheda);
     std::array<Albero*, 4> alberi() { return {&ctlTreeAnalizzatore, &ctlTreeGREEN, &ctlTreeYELLOW, &ctlTreeRED}; }
     const AlberoRiscontri& elenco(std::size_t scheda) const;
+    void premuto(const std::string& chiave);
     void vai(const Meta& meta);
     void esporta();
 
     void preparaCheckList();
     void cliccata(Posto posto);
+    void allunga(int righe);
     void portaSezione(bool avanti);
     void aggiornaSezione();
     void aggiornaIndice();
@@ -104,6 +120,7 @@ private:
     modERRORI errori_;
     bool analizzato_ = false;
     std::uint64_t revisioneAnalizzata_ = 0;
+    CoefficientiVeicoli coefficientiAnalizzati_{};
 };
 
 }  // namespace kelvo

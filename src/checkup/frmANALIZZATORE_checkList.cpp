@@ -9,6 +9,9 @@ namespace kelvo {
 namespace {
 
 constexpr int colonne = 5;
+// Widths of the columns, twips.
+constexpr int larghezzaTesto = 13500;
+constexpr int larghezzaRisposta = 900;
 
 const char* nomeGenere(GenereRiga genere) {
     switch (genere) {
@@ -31,6 +34,20 @@ bool domanda(int riga) {
 
 bool risposta(int colonna) {
     return colonna == frmANALIZZATORE::colonnaSI || colonna == frmANALIZZATORE::colonnaNO;
+}
+
+/// First question of the section that a top row belongs to: above its header stands the end of the one before.
+int primaDomanda(int rigaAlta) {
+    int riga = rigaAlta;
+    const auto genere = [](int r) { return righeCheckList[static_cast<std::size_t>(r)].genere; };
+    const auto fine = static_cast<int>(righeCheckList.size());
+    while (riga < fine && genere(riga) != GenereRiga::GRIGIO) {
+        ++riga;
+    }
+    while (riga < fine && !domanda(riga)) {
+        ++riga;
+    }
+    return riga < fine ? riga : -1;
 }
 
 /// Adds a row to the table: its kind gives texts and colours of its cells.
@@ -57,14 +74,19 @@ void componiRiga(Tabella& t, int riga, const RigaCheckList& voce) {
     }
 }
 
-}  // namespace
-
-void frmANALIZZATORE::preparaCheckList() {
-    Tabella t(static_cast<int>(righeCheckList.size()) + righeVuote, colonne);
-    for (int r = 0; r < t.righe(); ++r) {
+Tabella tabellaDi(int righe) {
+    Tabella t(righe, colonne);
+    t.larghezze = {larghezzaTesto, larghezzaRisposta, larghezzaRisposta, 0, 0};
+    for (int r = 0; r < righe; ++r) {
         const auto posto = static_cast<std::size_t>(r);
         componiRiga(t, r, posto < righeCheckList.size() ? righeCheckList[posto] : RigaCheckList{});
     }
+    return t;
+}
+
+}  // namespace
+
+void frmANALIZZATORE::preparaCheckList() {
     ctlGrid.salta = [](Posto posto) { return !domanda(posto.riga) || !risposta(posto.colonna); };
     ctlGrid.versoInvio = Griglia::Verso::giu;
     ctlGrid.alClic = [this](Posto posto) { cliccata(posto); };
@@ -74,7 +96,7 @@ void frmANALIZZATORE::preparaCheckList() {
     ctlGrid.colonna(colonnaNO, {.allineamento = AllineamentoCella::centro});
     ctlGrid.colonna(colonnaPunti, {.nascosta = true});
     ctlGrid.colonna(colonnaGenere, {.nascosta = true});
-    ctlGrid.tabella(std::move(t));
+    ctlGrid.tabella(tabellaDi(static_cast<int>(righeCheckList.size()) + righeVuote));
     cmdAVANTIsezione.allaPressione = [this] { portaSezione(true); };
     cmdINDIETROsezione.allaPressione = [this] { portaSezione(false); };
     aggiornaSezione();
@@ -96,12 +118,15 @@ void frmANALIZZATORE::cliccata(Posto posto) {
     aggiornaIndice();
 }
 
-int frmANALIZZATORE::domande() {
-    int quante = 0;
-    for (const RigaCheckList& voce : righeCheckList) {
-        quante += voce.genere == GenereRiga::BIANCO ? 1 : 0;
+std::optional<bool> frmANALIZZATORE::casella(Posto posto) const {
+    if (!domanda(posto.riga) || !risposta(posto.colonna)) {
+        return std::nullopt;
     }
-    return quante;
+    return ctlGrid.testo(posto.riga, posto.colonna) == casellaSpuntata;
+}
+
+int frmANALIZZATORE::domande() {
+    return numeroDomande();
 }
 
 int frmANALIZZATORE::risposte() const {
@@ -121,7 +146,7 @@ int frmANALIZZATORE::indice() const {
 }
 
 void frmANALIZZATORE::aggiornaIndice() {
-    lblIndice.testo(fmt::format("Risposte inserite: {} di {}   -   Indice: {}", risposte(), domande(), indice()));
+    lblIndice.testo(testoIndice(risposte(), indice()));
     mostraLivello();
 }
 
@@ -134,20 +159,47 @@ void frmANALIZZATORE::mostraLivello() {
         lblLivello[i].testo(sua ? fmt::format(" LIVELLO {}: ", fasceIndice[i].nome) : std::string{});
     }
     lblCommento.testo(fascia < 0 ? std::string{} : std::string{fasceIndice[static_cast<std::size_t>(fascia)].commento});
+    lblSenzaLivello.testo(fascia < 0 ? testoSenzaLivello(indice()) : std::string{});
     lblCopertina.visibile(pagina && !completa);
     frLivello.mostraContenuto(pagina && completa);
 }
 
+/// A high window needs more empty rows for the last sections to stand on top.
+void frmANALIZZATORE::allunga(int righe) {
+    const Tabella& prima = ctlGrid.tabella();
+    if (prima.righe() >= righe) {
+        return;
+    }
+    Tabella lunga = tabellaDi(righe);
+    for (int r = 0; r < prima.righe(); ++r) {
+        for (int c = 0; c < colonne; ++c) {
+            lunga.cella(r, c) = prima.cella(r, c);
+        }
+    }
+    ctlGrid.tabella(std::move(lunga));
+}
+
 void frmANALIZZATORE::portaSezione(bool avanti) {
-    ctlGrid.rigaAlta(rigaSezione(ctlGrid.rigaAlta(), avanti));
+    const int meta = rigaSezione(ctlGrid.rigaAlta(), avanti);
+    allunga(meta + ctlGrid.righeVisibili);
+    ctlGrid.rigaAlta(meta);
+    // Who goes on by the keyboard answers the first question of the section.
+    const int prima = primaDomanda(meta);
+    if (prima >= 0 && ctlGrid.corrente().riga >= 0) {
+        ctlGrid.corrente({prima, ctlGrid.corrente().colonna});
+    }
     aggiornaSezione();
 }
 
 void frmANALIZZATORE::aggiornaSezione() {
     const int alta = ctlGrid.rigaAlta();
     lblSezione.testo(std::string{sezioniCheckList[sezioneDiRiga(alta)].titolo});
-    cmdINDIETROsezione.abilitato(alta > sezioniCheckList.front().rigaAlta);
-    cmdAVANTIsezione.abilitato(alta < sezioniCheckList.back().rigaAlta);
+    const bool prima = alta > sezioniCheckList.front().rigaAlta;
+    const bool dopo = alta < sezioniCheckList.back().rigaAlta;
+    cmdINDIETROsezione.abilitato(prima);
+    ImageINDIETRO.abilitato(prima);
+    cmdAVANTIsezione.abilitato(dopo);
+    ImageAVANTI.abilitato(dopo);
 }
 
 }  // namespace kelvo

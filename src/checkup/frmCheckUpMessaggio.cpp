@@ -8,8 +8,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr const char* nomeFinestra = "CheckUp Rotatoria messaggio";
-
 std::string gruppo(std::string_view chiave) {
     switch (chiave.empty() ? '\0' : chiave.front()) {
         case 'R':
@@ -33,14 +31,13 @@ std::string_view versioneBreve() {
 }  // namespace
 
 frmCheckUpMessaggio::frmCheckUpMessaggio(const Contorno& contorno, const Riscontro& riscontro)
-    : Finestra(contorno, "frmCheckUpMessaggio", nomeFinestra),
+    : Finestra(contorno, "frmCheckUpMessaggio",
+               fmt::format("Kelvo {} - CheckUp Rotatoria messaggio - {}", versioneBreve(),
+                           contorno.app.theRotonda().NomeFile())),
       lblGruppo("lblGruppo", gruppo(riscontro.chiave)),
       ctlLivello("ctlLivello", std::string{nomeLivello(riscontro.livello)}),
-      lblMessaggio("lblMessaggio", riscontro.testo),
-      titolo_(fmt::format("Kelvo {} - CheckUp Rotatoria messaggio - {}", versioneBreve(),
-                          contorno.app.theRotonda().NomeFile())) {
+      lblMessaggio("lblMessaggio", riscontro.testo) {
     ordina({&lblGruppo, &ctlLivello, &lblMessaggio, &cmdVaiAlCampo, &ImageCHIUDI});
-    pannello.testo(titolo_);
     cmdVaiAlCampo.abilitato(!riscontro.meta.chiave.empty());
     cmdVaiAlCampo.allaPressione = [this] {
         vaiAlCampo_ = true;

@@ -20,7 +20,7 @@ public:
     Bottone ImageCHIUDI{"ImageCHIUDI", "Chiudi"};            ///< the picture that closes the window
 
     /// Caption of the window's frame.
-    const std::string& titolo() const { return titolo_; }
+    const std::string& titolo() const { return didascalia(); }
     /// The user wants to go where the finding leads.
     bool vaiAlCampo() const { return vaiAlCampo_; }
     /// Whoever shows the window closes it here.
@@ -29,7 +29,6 @@ public:
 private:
     void chiudi();
 
-    std::string titolo_;
     bool vaiAlCampo_ = false;
 };
 

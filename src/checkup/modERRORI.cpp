@@ -4,6 +4,7 @@
 
 #include "base/guasto.h"
 #include "base/numeri.h"
+#include "base/somma.h"
 
 namespace kelvo {
 
@@ -15,13 +16,13 @@ constexpr std::array<std::string_view, livelli.size()> testiLivelli{
     "Messaggi di INFORMAZIONE Progetto: ", "Messaggi di VERIFICA Progetto: ", "Messaggi di ERRORE Progetto: "};
 constexpr std::int16_t analisiSaturazione = 0;
 constexpr std::int16_t analisiCurva = 1;
-constexpr float rigaIntera = 100.0F;
+constexpr std::string_view rigaIntera = "100";
 
 constexpr std::string_view finestraTempi = "frmTempoModellazione";
 constexpr std::string_view campoGriglia = "ctlGrid";
 
 const Meta& metaMatrice() {
-    static const Meta meta{"keyMatriceSvolte", std::string{campoGriglia}, 0};
+    static const Meta meta{"keyMatriceSvolte", std::string{campoGriglia}, 0, 0};
     return meta;
 }
 
@@ -29,7 +30,7 @@ const Meta& metaMatrice() {
 double sommaCelle(const Matrice& matrice) {
     double totale = 0.0;
     for (const auto& riga : matrice) {
-        totale += static_cast<double>(sommaRiga(riga));
+        totale += static_cast<double>(sommaMostrata(riga));
     }
     return totale;
 }
@@ -176,7 +177,9 @@ void modERRORI::ramo(const EsameRamo& esame, std::span<const RegolaRamo> regole,
         }
         Meta sua = meta;
         if (sua.campo.empty()) {
-            sua.campo = fmt::format(fmt::runtime(regola.campo), fmt::arg("n", esame.indice));
+            sua.campo = regola.campoDi != nullptr
+                            ? regola.campoDi(esame)
+                            : fmt::format(fmt::runtime(regola.campo), fmt::arg("n", esame.indice));
         }
         segnala(regola.livello, regola.titolo, messaggioRamo(regola, esame), sua);
         if (scelta == Scelta::prima) {
@@ -251,10 +254,11 @@ void modERRORI::matriceVeicoli(const Matrice& matrice) {
     const std::size_t n = matrice.size();
     for (std::size_t i = 0; i < n; ++i) {
         const auto indice = static_cast<std::int16_t>(i + 1);
-        const EsameRamo esame{rotonda(), rotonda().Ramo(indice), indice, sommaRiga(matrice[i]),
+        const EsameRamo esame{rotonda(), rotonda().Ramo(indice), indice, sommaMostrata(matrice[i]),
                               matrice[i][(i + 1) % n]};
         Meta meta = metaMatrice();
         meta.ramo = indice;
+        meta.riga = indice;
         ramo(esame, regoleMatriceVeicoli(), Scelta::tutte, meta);
     }
     if (sommaCelle(matrice) == 0.0) {
@@ -267,9 +271,11 @@ void modERRORI::matricePercentuale(const Matrice& matrice) {
         segnala(Livello::Red, titoliRegole::matrice, messaggiRegole::matriceNulla, metaMatrice());
         return;
     }
-    for (const auto& riga : matrice) {
-        if (sommaRiga(riga) != rigaIntera) {
-            segnala(Livello::Red, titoliRegole::matrice, messaggiRegole::percentualiErrate, metaMatrice());
+    for (std::size_t i = 0; i < matrice.size(); ++i) {
+        if (testoNumero(sommaMostrata(matrice[i])) != rigaIntera) {
+            Meta meta = metaMatrice();
+            meta.riga = static_cast<int>(i) + 1;
+            segnala(Livello::Red, titoliRegole::matrice, messaggiRegole::percentualiErrate, meta);
             return;
         }
     }

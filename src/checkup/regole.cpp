@@ -60,6 +60,11 @@ bool pesanti(const EsameRamo& e) {
     return composizione.Autoarticolati() != 0.0F || composizione.Autotreni() != 0.0F;
 }
 
+/// Field of the first class of heavy vehicles that there are.
+std::string_view classePesante(const EsameRamo& e) {
+    return e.ramo.theComposizioneTraffico().Autoarticolati() != 0.0F ? "txtAutoarticolati" : "txtAutotreni";
+}
+
 float flusso(const EsameRamo& e) {
     return e.ramo.theDatiTraffico().FlussoOrario();
 }
@@ -87,6 +92,11 @@ bool categorieNulle(const EsameRamo& e) {
         }
     }
     return totale == 0.0;
+}
+
+/// Two figures that read alike are one: beyond that nobody could put them right.
+bool veicoliIncoerenti(const EsameRamo& e) {
+    return testoNumero(e.somma) != testoNumero(e.ramo.theDatiTraffico().FlussoTotale());
 }
 
 using R = Rotonda;
@@ -225,8 +235,7 @@ constexpr std::array matriceVeicoli{
                "Attenzione. Più del 70% dei veicoli entranti da {ramo} eseguono la manovra di svolta a destra "
                ".Verificare possibilità di inserimento corsia preferenziale di svolta.",
                campoGriglia},
-    RegolaRamo{Livello::Yellow, titoliRegole::matrice,
-               [](const EsameRamo& e) { return e.somma != e.ramo.theDatiTraffico().FlussoTotale(); },
+    RegolaRamo{Livello::Yellow, titoliRegole::matrice, veicoliIncoerenti,
                "Attenzione. Veicoli in ingresso da ramo {ramo} non coerente con 'Flusso totale ingresso' ({somma} "
                "veic./h <>{totale}veic./h). Verificare.",
                campoGriglia},
@@ -237,10 +246,13 @@ constexpr std::array composizione{
                [](const EsameRamo& e) { return e.ramo.theComposizioneTraffico().Autovetture() < 60.0F; },
                "La percenetuale di autovetture sul Ramo '{ramo}' < 60%, si consiglia di controllare i dati inseriti",
                "txtAutoarticolati"},
-    RegolaRamo{Livello::Yellow, titoliRegole::composizione, pesanti,
+    RegolaRamo{Livello::Yellow,
+               titoliRegole::composizione,
+               pesanti,
                "Sono presenti dei mezzi pesanti sul Ramo '{ramo}', verificare la geometria in relazione alle svolte ed "
                "alle aree spazzate. ",
-               "txtAutoarticolati"},
+               {},
+               classePesante},
 };
 
 constexpr std::array composizioneSegmenti{
@@ -285,14 +297,6 @@ std::span<const RegolaRamo> regoleComposizioneSegmenti() {
 bool segmentoTroppoAmpio(std::int64_t finestra, double segmento) {
     return static_cast<double>(finestra) / minutiOra < oreMinime &&
            std::find(segmentiAmpi.begin(), segmentiAmpi.end(), segmento) != segmentiAmpi.end();
-}
-
-float sommaRiga(const std::vector<float>& riga) {
-    double totale = 0.0;
-    for (const float cella : riga) {
-        totale += static_cast<double>(cella);
-    }
-    return aSingolo(totale, [] { return std::string{"somma di una riga della matrice"}; });
 }
 
 std::string messaggioRamo(const RegolaRamo& regola, const EsameRamo& esame) {

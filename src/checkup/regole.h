@@ -41,7 +41,7 @@ struct EsameRamo {
     const Rotonda& rotonda;
     const Ramo& ramo;
     std::int16_t indice = 1;  ///< position of the leg, from 1
-    float somma = 0.0F;       ///< vehicles of its row of the turning matrix
+    float somma = 0.0F;       ///< vehicles of its row of the turning matrix, as the cells show them
     float destra = 0.0F;      ///< those of them that turn right: the cell of the next leg, of the first for the last
 };
 
@@ -53,6 +53,8 @@ struct RegolaRamo {
     bool (*vale)(const EsameRamo& esame) = nullptr;
     std::string_view messaggio;
     std::string_view campo;  ///< control that the finding leads to; "{n}" stands for the position of the leg
+    /// Tells the control where it is not the same for all legs; null for `campo`.
+    std::string_view (*campoDi)(const EsameRamo& esame) = nullptr;
 };
 
 /// The vehicle classes as the messages on their coefficients name them, in the order of the configuration file.
@@ -87,9 +89,6 @@ inline constexpr std::string_view coefficiente =
 /// True where a segment of so many minutes is too long for the modelling window: exactly 20 or 30 in one shorter than
 /// 90 minutes.
 bool segmentoTroppoAmpio(std::int64_t finestra, double segmento);
-
-/// Sum of a row of the turning matrix, added up in double and kept as a single; fault 6 past its range.
-float sommaRiga(const std::vector<float>& riga);
 
 /// The message of a rule on a leg with its values in place. Fault 6 for a value that is not finite.
 std::string messaggioRamo(const RegolaRamo& regola, const EsameRamo& esame);

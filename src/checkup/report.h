@@ -26,6 +26,7 @@ struct Meta {
     std::string chiave;     ///< empty where it leads nowhere
     std::string campo;      ///< name of the control; empty for none
     std::int16_t ramo = 0;  ///< position of the leg, from 1; 0 for the whole project
+    int riga = 0;           ///< row of the control's table, from 1; 0 for none in particular
     friend bool operator==(const Meta&, const Meta&) = default;
 };
 
@@ -55,6 +56,9 @@ struct AlberoRiscontri {
     /// Nodes, the root counted.
     std::size_t nodi() const { return riscontri.size() + 1; }
 };
+
+/// What is told of a list without findings.
+inline constexpr std::string_view testoNessunRiscontro = "Nessun messaggio.";
 
 /// The findings as a text: title, root, one line a finding with its priority, legend, closing lines with `momento` and
 /// the project's name. Lines end in CR LF.

@@ -1,6 +1,7 @@
 #include "input/frmMatriceSvolte.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -8,6 +9,7 @@
 #include "app/percorsi.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
+#include "base/somma.h"
 #include "input/frmPreviewMatriceSvolte.h"
 #include "shell/servizi/incolla.h"
 
@@ -215,24 +217,21 @@ void frmMatriceSvolte::SaveData() {
 
 void frmMatriceSvolte::AggiornaTotali() {
     const int rami = ctlGrid.tabella().righe() - 1;
-    std::vector<float> righe(static_cast<std::size_t>(std::max(0, rami)), 0.0F);
-    std::vector<float> colonne = righe;
-    for (int i = 1; i <= rami; ++i) {
-        for (int j = 1; j <= rami; ++j) {
-            float& riga = righe[static_cast<std::size_t>(i) - 1];
-            float& colonna = colonne[static_cast<std::size_t>(j) - 1];
-            riga = aSingolo(static_cast<double>(riga + valore(i, j)));
-            colonna = aSingolo(static_cast<double>(colonna + valore(i, j)));
+    const auto totale = [&](int indice, bool diRiga) {
+        std::vector<float> valori;
+        for (int k = 1; k <= rami; ++k) {
+            valori.push_back(diRiga ? valore(indice, k) : valore(k, indice));
         }
-    }
+        return sommaMostrata(valori);
+    };
     ctlGridEntrate.modifica([&](Tabella& t) {
         for (int i = 0; i < rami; ++i) {
-            mostraTotale(t.cella(i, 0), righe[static_cast<std::size_t>(i)]);
+            mostraTotale(t.cella(i, 0), totale(i + 1, true));
         }
     });
     ctlGridUscite.modifica([&](Tabella& t) {
         for (int j = 0; j < rami; ++j) {
-            mostraTotale(t.cella(0, j), colonne[static_cast<std::size_t>(j)]);
+            mostraTotale(t.cella(0, j), totale(j + 1, false));
         }
     });
 }
@@ -254,7 +253,7 @@ void frmMatriceSvolte::AggiornaEsitoRighe() {
                 unita.testo(inPercento ? testi::percento : testi::veicoli);
                 continue;
             }
-            const float d = intero - totale;
+            const float d = sommaMostrata(std::array{intero, -totale});
             unita.testo(std::string{"[%] ["} + (d < 0.0F ? " sottrarre " : " aggiungere ") + testoNumero(std::fabs(d)) +
                         "]");
         }

@@ -41,7 +41,7 @@ public:
     void SaveData() override;
     /// Takes the numbers of another project's matrix, rounded to whole ones, into the cells.
     void CaricaDaProgetto();
-    /// Adds up the figures of the grid, rows and columns, in single precision.
+    /// Adds up the figures of the grid, rows and columns, as the cells show them.
     void AggiornaTotali();
     /// Tells of each row in per cent what is missing to 100.
     void AggiornaEsitoRighe();

@@ -13,7 +13,7 @@ public:
         : finestre_(finestre), gestione_(gestione) {}
 
     std::optional<std::string> testo(std::string_view finestra, std::string_view campo) const override;
-    bool fuocoSu(std::string_view campo) override;
+    bool fuocoSu(std::string_view campo, int riga) override;
 
 private:
     const FabbricaFinestre& finestre_;

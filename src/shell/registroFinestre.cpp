@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "checkup/frmANALIZZATORE.h"
 #include "input/frmAnalisiMarginale.h"
 #include "input/frmComposizioneTraffico.h"
 #include "input/frmComposizioneTrafficoST.h"
@@ -11,6 +12,7 @@
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
+#include "results/frmAnteprimaTesto.h"
 #include "results/frmCapacitaCodeRitardi.h"
 #include "results/frmCapacitaCodeRitardiRamo.h"
 #include "results/frmCapacitaUltima.h"
@@ -37,6 +39,31 @@ CreatoreFinestra creaRisultati(const ServiziFinestre& servizi) {
     return [risultati = servizi.risultati()](const Contorno& contorno) {
         return std::make_unique<F>(contorno, risultati);
     };
+}
+
+/// Shows texts that the system has no program for, over the main window.
+std::function<void(const std::string&, const std::string&)> visoreTesti(const Contorno& contorno,
+                                                                        FinestreCollegate& collegate) {
+    auto visore = std::make_shared<frmAnteprimaTesto>(contorno);
+    visore->allaChiusura = [&collegate, finestra = visore.get()] { collegate.chiudi(*finestra); };
+    return [visore, &collegate](const std::string& percorso, const std::string& testo) {
+        visore->mostra(percorso, testo);
+        collegate.sovrapponi(*visore);
+    };
+}
+
+std::unique_ptr<Finestra> creaAnalizzatore(const Contorno& contorno, const ServiziFinestre& servizi) {
+    FinestreCollegate& collegate = servizi.collegate;
+    return std::make_unique<frmANALIZZATORE>(
+        contorno, frmANALIZZATORE::Servizi{.documenti = servizi.documenti,
+                                           .campi = servizi.campi,
+                                           .mostraMessaggio =
+                                               [&collegate](frmCheckUpMessaggio& messaggio) {
+                                                   messaggio.allaChiusura = [&] { collegate.chiudi(messaggio); };
+                                                   collegate.sovrapponi(messaggio);
+                                               },
+                                           .mostraTesto = visoreTesti(contorno, collegate),
+                                           .stampa = servizi.stampa});
 }
 
 }  // namespace
@@ -73,6 +100,8 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     finestre.registra("frmConfronti", [servizi](const Contorno& contorno) {
         return std::make_unique<frmConfronti>(contorno, servizi.risultati(), servizi.cronometro);
     });
+    finestre.registra("frmANALIZZATORE",
+                      [servizi](const Contorno& contorno) { return creaAnalizzatore(contorno, servizi); });
 }
 
 }  // namespace kelvo

@@ -3,10 +3,12 @@
 #include <functional>
 #include <string>
 
+#include "app/campiMostrati.h"
 #include "app/serviziSistema.h"
 #include "results/ServiziRisultati.h"
 #include "shell/FabbricaFinestre.h"
 #include "shell/servizi/DialogoAnteprima.h"
+#include "shell/servizi/documentoPagine.h"
 
 namespace kelvo {
 
@@ -22,6 +24,11 @@ struct ServiziFinestre {
     std::function<void()> relazione{};
     /// Makes the report of a sensitivity analysis; empty while there is none.
     std::function<void(const RelazioneSensibilita&)> relazioneSensibilita{};
+
+    /// What open windows show, and the way to their fields, for the check-up; null for none.
+    CampiMostrati* campi = nullptr;
+    /// Paper and PDF; null for none.
+    StampaPagine* stampa = nullptr;
 
     /// What of it the result windows are handed.
     ServiziRisultati risultati() const { return {documenti, collegate, foglio, relazione, relazioneSensibilita}; }

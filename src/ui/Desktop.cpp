@@ -9,10 +9,12 @@
 
 #include "app/Applicazione.h"
 #include "disegno/DisegnatoreQt.h"
+#include "shell/CampiFinestre.h"
 #include "shell/Main.h"
 #include "shell/registroFinestre.h"
 #include "ui/ApplicazioneQt.h"
 #include "ui/RiquadroAiuto.h"
+#include "ui/StampaQt.h"
 #include "ui/icone.h"
 #include "ui/legami.h"
 #include "ui/results/FinestreCollegateQt.h"
@@ -76,7 +78,14 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     MDI_Form cornice(
         app, stato,
         {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
-    registraFinestre(cornice.finestre, {documenti, anteprima, collegate, simulazione});
+    CampiFinestre campi(cornice.finestre, cornice.gestione);
+    StampaQt stampa;
+    registraFinestre(cornice.finestre, {.documenti = documenti,
+                                        .anteprima = anteprima,
+                                        .collegate = collegate,
+                                        .cronometro = simulazione,
+                                        .campi = &campi,
+                                        .stampa = &stampa});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});

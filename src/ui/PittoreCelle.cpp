@@ -25,6 +25,7 @@ constexpr int colonnaStretta = 96;
 constexpr double latoSegno = 10.0;
 constexpr double barraLato = 3.0;
 constexpr double bordoCorrente = 2.0;
+constexpr double latoCasella = 15.0;
 constexpr QSizeF misuraDistintivo{26.0, 18.0};
 constexpr double raggio = 2.0;
 constexpr int altezzaSenzaFine = 100000;
@@ -57,6 +58,27 @@ void frecceAngolo(QPainter& pittore, const QRectF& posto) {
     const QPointF giu(posto.right() - passo, posto.top() + 2.0 * passo);
     pittore.drawLine(QPointF(giu.x(), giu.y() - 1.5 * passo), giu);
     pittore.drawPolyline(QPolygonF{{giu + QPointF(-punta, -punta), giu, giu + QPointF(punta, -punta)}});
+}
+
+/// A tick box as those of the other windows, in the middle of a cell.
+void dipingiCasella(QPainter& pittore, const QRectF& posto, bool spuntata) {
+    QRectF quadro(0.0, 0.0, latoCasella, latoCasella);
+    quadro.moveTopLeft(QPointF(std::round(posto.center().x() - latoCasella / 2.0) + 0.5,
+                               std::round(posto.center().y() - latoCasella / 2.0) + 0.5));
+    pittore.save();
+    pittore.setRenderHint(QPainter::Antialiasing);
+    pittore.setPen(QPen(qcolore(spuntata ? tinta::principale : tinta::bordoCampo), 1.0));
+    pittore.setBrush(spuntata ? qcolore(tinta::principale) : QColor(Qt::white));
+    pittore.drawRoundedRect(quadro, raggio, raggio);
+    if (spuntata) {
+        const auto punto = [&](double x, double y) {
+            return QPointF(quadro.left() + x * latoCasella, quadro.top() + y * latoCasella);
+        };
+        pittore.setPen(QPen(Qt::white, 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        pittore.setBrush(Qt::NoBrush);
+        pittore.drawPolyline(QPolygonF{{punto(0.22, 0.52), punto(0.43, 0.72), punto(0.78, 0.3)}});
+    }
+    pittore.restore();
 }
 
 }  // namespace
@@ -203,7 +225,10 @@ void PittoreCelle::dipingi(QPainter& pittore, const QRect& posto, Posto cella, b
     }
     dipingiSegno(pittore, dentro, ornato.segno, penna);
     pittore.setFont(carattere(cella));
-    if (ornato.distintivo && !contenuto.testo.empty()) {
+    const std::optional<bool> casella = caselle_ ? caselle_(cella) : std::nullopt;
+    if (casella) {
+        dipingiCasella(pittore, dentro, *casella);
+    } else if (ornato.distintivo && !contenuto.testo.empty()) {
         dipingiDistintivo(pittore, dentro, cella, *ornato.distintivo);
     } else {
         const int lato = this->lato(cella, posto.width());

@@ -4,6 +4,9 @@
 #include <QtCore/QString>
 #include <QtGui/QFont>
 #include <QtGui/QFontMetrics>
+#include <functional>
+#include <optional>
+#include <utility>
 
 #include "shell/servizi/Griglia.h"
 
@@ -16,6 +19,10 @@ namespace kelvo::ui {
 class PittoreCelle {
 public:
     explicit PittoreCelle(const Griglia& griglia);
+
+    /// Tells of a cell that shows a box in place of its text whether it is ticked; nothing for any other cell.
+    using Caselle = std::function<std::optional<bool>(Posto)>;
+    void caselle(Caselle quali) { caselle_ = std::move(quali); }
 
     /// Face of the headings: they are smaller in a narrow window, and all rows stand closer there.
     void testate(bool strette);
@@ -48,6 +55,7 @@ private:
     void dipingiDistintivo(QPainter& pittore, const QRectF& posto, Posto cella, const Distintivo& distintivo) const;
 
     const Griglia& griglia_;
+    Caselle caselle_;
     Faccia normale_;
     Faccia forte_;
     Faccia testata_;

@@ -101,6 +101,7 @@ public:
         const auto* vista = qobject_cast<const VistaGriglia*>(opzione.widget);
         pittore_.dipingi(*pittore, opzione.rect, modello_.posto(indice), vista != nullptr && vista->conFuoco());
     }
+    void caselle(const PittoreCelle::Caselle& quali) { pittore_.caselle(quali); }
 
 private:
     PittoreCelle pittore_;
@@ -368,6 +369,11 @@ void VistaGriglia::contextMenuEvent(QContextMenuEvent* evento) {
     }
     const QPoint dove = tastiera ? visualRect(currentIndex()).bottomLeft() : evento->pos();
     mostraContesto(*menu, *viewport(), dove);
+}
+
+void VistaGriglia::caselle(const PittoreCelle::Caselle& quali) {
+    static_cast<DelegatoGriglia*>(itemDelegate())->caselle(quali);
+    viewport()->update();
 }
 
 bool VistaGriglia::conFuoco() const {

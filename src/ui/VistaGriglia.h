@@ -35,6 +35,8 @@ public:
     /// The columns of this view stand in line with those of `guida` that are not fixed, which are never narrower than
     /// the texts of either. `guida` must live as long.
     void incolonna(VistaGriglia& guida);
+    /// Cells of which `quali` tells if they are ticked show a box in place of their text.
+    void caselle(const PittoreCelle::Caselle& quali);
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;

@@ -184,7 +184,8 @@ void mostraSchede(const Schede& schede, QTabWidget& linguette) {
         const Schede::Scheda& scheda = schede.scheda(i);
         linguette.setTabText(i, senzaMnemonico(schede.testo(i)));
         linguette.setTabEnabled(i, scheda.abilitata);
-        linguette.setTabIcon(i, scheda.icona.empty() ? QIcon{} : icona(scheda.icona, false));
+        const QIcon disegno = scheda.icona.empty() ? QIcon{} : icona(scheda.icona, false);
+        linguette.setTabIcon(i, disegno.isNull() && !scheda.icona.empty() ? segno(scheda.icona) : disegno);
     }
     linguette.setCurrentIndex(schede.corrente());
 }

@@ -92,6 +92,9 @@ QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: {spento}; }
 QFrame#pannelloDati { border: 1px solid {bordo}; border-radius: 2px; background: white; }
 QLabel#titoloPannello { color: {titolo}; }
 QLabel#unita, QLabel[quieta="true"] { color: {secondario}; }
+QPushButton[freccia="true"] { min-width: 30px; padding: 0px 4px; }
+QPushButton[freccia="true"]:focus { padding: 0px 3px; }
+QFrame#pannelloIndice { border: 1px solid {bordo}; border-radius: 2px; background: {fondo}; }
 QFrame#rigaPannello { background: {rigaPannello}; border: none; max-height: 1px; min-height: 1px; }
 QWidget#lavoro { background: white; }
 QTextBrowser#ctlHelp { border: none; background: white; }

@@ -85,7 +85,11 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
       app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
       cornice_(app_, stato_, {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero()}),
       fotografo_(richiesta.cartella) {
-    registraFinestre(cornice_.finestre, {documenti_, anteprima_, collegate_, cronometro_});
+    registraFinestre(cornice_.finestre, {.documenti = documenti_,
+                                         .anteprima = anteprima_,
+                                         .collegate = collegate_,
+                                         .cronometro = cronometro_,
+                                         .stampa = &stampa_});
     collegate_.collegaA(cornice_);
     vista_.collegaA(cornice_);
     app_.comune.LeggiConfigurazione();
@@ -147,9 +151,11 @@ void Giro::finestre(const std::string& progetto) {
             mostrate_.insert(nome);
             fotografo_.scatta(vista_, nome + "-" + progetto);
             const std::string immagine = nome + "-" + progetto;
-            if (Finestra& aperta = *cornice_.finestre.viva(nome); !ipotesi(aperta, immagine)) {
+            Finestra& aperta = *cornice_.finestre.viva(nome);
+            if (!ipotesi(aperta, immagine)) {
                 calcolata(aperta, immagine);
             }
+            controllata(aperta, progetto);
         }
     }
 }

@@ -11,6 +11,7 @@
 #include "schermate/Richiesta.h"
 #include "schermate/serviziMuti.h"
 #include "shell/MDI_Form.h"
+#include "ui/StampaQt.h"
 #include "ui/results/FinestreCollegateQt.h"
 #include "ui/serviziQt.h"
 #include "ui/shell/VistaMDI_Form.h"
@@ -43,6 +44,8 @@ private:
     /// A result window with its figures, after its first picture.
     void calcolata(Finestra& finestra, const std::string& nome);
     void ingressiCalcolati(frmCapacitaCodeRitardi& finestra, const std::string& nome);
+    /// The check-up: a list of one level, a message, the check list in part and wholly answered.
+    void controllata(Finestra& finestra, const std::string& nome);
     void ingressoCalcolato(frmCapacitaCodeRitardiRamo& finestra, const std::string& nome);
     void anteprimaTesto(FinestraRisultati& finestra, const std::string& nome);
     /// A what-if window with its figures, after its first picture; false for any other window.
@@ -74,6 +77,7 @@ private:
     StatoFinestre stato_;
     ui::VistaMDI_Form vista_;
     ui::FinestreCollegateQt collegate_{vista_};
+    ui::StampaQt stampa_;
     MDI_Form cornice_;
     Fotografo fotografo_;
     std::set<std::string> mostrate_;  ///< names of the windows that were seen in the work area

@@ -269,5 +269,34 @@ TEST(CheckList, EveryBandHasANameAndAParagraphOfItsOwn) {
     EXPECT_EQ(commenti.size(), 7U);
 }
 
+TEST(CheckList, TheCommentsSpeakOfShortcomingsAndNameThem) {
+    // "No" to disturbing elements is no shortcoming, and the points of a question are not shown.
+    for (const FasciaIndice& fascia : fasceIndice) {
+        for (const char* parola : {"negativ", "peso"}) {
+            EXPECT_EQ(fascia.commento.find(parola), std::string_view::npos) << fascia.nome << " " << parola;
+        }
+    }
+    // A single "No" to one of these is enough for the band: 14, 15, 11 and 14 points less than 101.
+    for (const int indice : {101 - 14, 101 - 15, 101 - 11}) {
+        ASSERT_EQ(fasciaDiIndice(indice), 4);
+    }
+    // 12 and 3, or 3 and 13 and 25, put a design here.
+    ASSERT_EQ(fasciaDiIndice(101 - 29), 3);
+    ASSERT_EQ(fasciaDiIndice(101 - 39), 2);
+    for (const int fascia : {2, 3, 4}) {
+        for (const char* aspetto :
+             {"individuazione dell'incrocio", "centratura dell'isola", "isole spartitraffico", "segnaletica"}) {
+            EXPECT_NE(fasceIndice.at(static_cast<std::size_t>(fascia)).commento.find(aspetto), std::string_view::npos)
+                << fascia << aspetto;
+        }
+    }
+    // 6, 39 and 32 alone: 8, 8 and 9 points.
+    ASSERT_EQ(fasciaDiIndice(101 - 8), 5);
+    ASSERT_EQ(fasciaDiIndice(101 - 9), 5);
+    for (const char* aspetto : {"visibilità per l'arresto", "attraversamenti", "smaltimento delle acque"}) {
+        EXPECT_NE(fasceIndice[5].commento.find(aspetto), std::string_view::npos) << aspetto;
+    }
+}
+
 }  // namespace
 }  // namespace kelvo::prove

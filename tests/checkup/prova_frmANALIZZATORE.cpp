@@ -74,6 +74,7 @@ TEST_F(ProveAnalizzatore, TheFirstShowingRunsTheAnalysisAndFillsFourTrees) {
               (Testi{"keyMyProject|Progetto|Messaggi di VERIFICA Progetto: " + fine, "Y1|Yellow|" + datiVecchi}));
     EXPECT_EQ(testiDi(finestra.ctlTreeRED),
               (Testi{"keyMyProject|Progetto|Messaggi di ERRORE Progetto: " + fine, "R1|Red|" + svasatura}));
+    EXPECT_EQ(finestra.fuoco(), &finestra.ctlTreeAnalizzatore);
     EXPECT_TRUE(finestra.ctlTreeAnalizzatore.nodo("keyMyProject").espanso);
     EXPECT_EQ(finestra.ctlTreeAnalizzatore.nodo("Red4").padre, "keyMyProject");
     EXPECT_EQ(schede(), (Testi{"[3] Report", "[1] Messaggi di informazione", "[1] Messaggi di verifica",
@@ -105,6 +106,25 @@ TEST_F(ProveAnalizzatore, LaterShowingsKeepTheReportAndTellThatTheProjectHasChan
     finestra.ctlToolbar.premi("keyAnalizza");
     EXPECT_EQ(finestra.TabStrip1.testo(0), "[2] Report");
     EXPECT_FALSE(finestra.segno.visibile());
+}
+
+TEST_F(ProveAnalizzatore, CoefficientsChangedInTheOptionsMarkTheReportToo) {
+    finestra.attivata();
+    app.configurazione.VEPullman = 2.2F;
+    finestra.attivata();
+    EXPECT_TRUE(finestra.segno.visibile());
+    finestra.Analizza();
+    EXPECT_FALSE(finestra.segno.visibile());
+    finestra.attivata();
+    EXPECT_FALSE(finestra.segno.visibile());
+}
+
+TEST_F(ProveAnalizzatore, AFindingOnARowOfTheMatrixLeadsToThatRow) {
+    riga(3, 45.0F, 20.0F, 35.0F);
+    finestra.attivata();
+    finestra.invioRiscontro(finestra.ctlTreeYELLOW, "Y2");
+    EXPECT_EQ(navigazione.chieste, Testi{"keyMatriceSvolte"});
+    EXPECT_EQ(campi.chiesti, Testi{"ctlGrid 3"});
 }
 
 TEST_F(ProveAnalizzatore, OnlyTheTreeOfTheTabInViewIsSeen) {
@@ -420,6 +440,46 @@ TEST_F(ProveAnalizzatore, TheNavigatorMovesTheGridAndTheTitleOfTheSection) {
         EXPECT_EQ(finestra.ctlGrid.rigaAlta(), riga);
     }
     EXPECT_EQ(finestra.lblSezione.testo(), "Analisi Check List Progetto - Visibilità e Accessibilità");
+}
+
+TEST_F(ProveAnalizzatore, ThePicturesOfTheNavigatorAreClosedWithTheirButtons) {
+    finestra.TabStrip2.scegli(1);
+    EXPECT_FALSE(finestra.ImageINDIETRO.abilitato());
+    EXPECT_TRUE(finestra.ImageAVANTI.abilitato());
+    for (int i = 0; i < 4; ++i) {
+        finestra.cmdAVANTIsezione.premi();
+    }
+    EXPECT_TRUE(finestra.ImageINDIETRO.abilitato());
+    EXPECT_FALSE(finestra.ImageAVANTI.abilitato());
+}
+
+TEST_F(ProveAnalizzatore, TheNavigatorTakesTheCursorToTheFirstQuestionOfTheSection) {
+    finestra.TabStrip2.scegli(1);
+    ASSERT_TRUE(finestra.fuocoSu(finestra.ctlGrid));
+    finestra.ctlGrid.premiTasto(Griglia::Tasto::destra);
+    for (const int riga : {12, 25, 32, 39}) {
+        finestra.cmdAVANTIsezione.premi();
+        EXPECT_EQ(finestra.ctlGrid.corrente(), (Posto{riga, no}));
+    }
+    for (const int riga : {32, 25, 12, 3}) {
+        finestra.cmdINDIETROsezione.premi();
+        EXPECT_EQ(finestra.ctlGrid.corrente(), (Posto{riga, no}));
+    }
+}
+
+TEST_F(ProveAnalizzatore, InAHighWindowTheLastSectionStandsOnTopToo) {
+    finestra.TabStrip2.scegli(1);
+    finestra.ctlGrid.clic(3, si);
+    finestra.ctlGrid.righeVisibili = 90;
+    for (int i = 0; i < 4; ++i) {
+        finestra.cmdAVANTIsezione.premi();
+    }
+    EXPECT_EQ(finestra.ctlGrid.rigaAlta(), 34);
+    EXPECT_GE(finestra.ctlGrid.tabella().righe(), 34 + 90);
+    EXPECT_EQ(finestra.risposte(), 1);
+    EXPECT_EQ(punti(3), "6");
+    EXPECT_EQ(casella(100, frmANALIZZATORE::colonnaGenere), "");
+    EXPECT_EQ(finestra.ctlGrid.tabella().cella(100, 1).sfondo, (Colore{234, 234, 234}));
 }
 
 TEST_F(ProveAnalizzatore, TheTitleFollowsWhoeverScrolls) {

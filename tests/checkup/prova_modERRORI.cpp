@@ -246,7 +246,7 @@ public:
     std::optional<std::string> testo(std::string_view /*finestra*/, std::string_view /*campo*/) const override {
         throw Guasto(NumeroGuasto::chiamataNonValida);
     }
-    bool fuocoSu(std::string_view /*campo*/) override { return false; }
+    bool fuocoSu(std::string_view /*campo*/, int /*riga*/) override { return false; }
 };
 
 TEST_F(ProveModERRORI, EachProcedureThatReadsAWindowHasAHandlerOfItsOwn) {

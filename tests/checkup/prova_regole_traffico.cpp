@@ -101,7 +101,7 @@ TEST_F(RegoleMatrice, RightTurnsAboveFortyAndAboveSeventyPerCent) {
     EXPECT_EQ(trova(), Testi{});
     riga(2, 41.0F, 30.0F, 29.0F);
     EXPECT_EQ(trova(), Testi{destra("40")});
-    EXPECT_EQ(meta(), (Meta{"keyMatriceSvolte", "ctlGrid", 2}));
+    EXPECT_EQ(meta(), (Meta{"keyMatriceSvolte", "ctlGrid", 2, 2}));
     riga(2, 69.0F, 30.0F, 1.0F);
     EXPECT_EQ(trova(), Testi{destra("40")});
     riga(2, 70.0F, 29.0F, 1.0F);
@@ -185,7 +185,7 @@ TEST_F(RegoleMatrice, PerCentRowsThatAreWrongAreToldOnceHoweverMany) {
     rotonda().TipoMatriceSvolte(1);
     riga(2, 30.0F, 35.0F, 35.01F);
     EXPECT_EQ(trova(), Testi{percentualiErrate});
-    EXPECT_EQ(meta(), (Meta{"keyMatriceSvolte", "ctlGrid", 0}));
+    EXPECT_EQ(meta(), (Meta{"keyMatriceSvolte", "ctlGrid", 0, 2}));
     for (std::int16_t i = 1; i <= 4; ++i) {
         riga(i, 30.0F, 35.0F, 35.01F);
     }
@@ -195,6 +195,31 @@ TEST_F(RegoleMatrice, PerCentRowsThatAreWrongAreToldOnceHoweverMany) {
     riga(3, 30.0F, 35.0F, 35.0F);
     riga(4, 30.0F, 35.0F, 34.99F);
     EXPECT_EQ(trova(), Testi{percentualiErrate});
+}
+
+TEST_F(RegoleMatrice, PerCentRowsThatAreAHundredOnPaperAreInOrder) {
+    rotonda().TipoMatriceSvolte(1);
+    // Added up as doubles of singles each of these misses 100.
+    riga(1, 34.1F, 0.7F, 65.2F);
+    riga(2, 1.15F, 17.87F, 80.98F);
+    riga(3, 82.2F, 4.6F, 13.2F);
+    EXPECT_EQ(trova(), Testi{});
+    riga(4, 30.0F, 35.0F, 35.01F);
+    EXPECT_EQ(trova(), Testi{percentualiErrate});
+}
+
+TEST_F(RegoleMatrice, APerCentRowOfZerosAmongOthersIsWrong) {
+    rotonda().TipoMatriceSvolte(1);
+    riga(3, 0.0F, 0.0F, 0.0F);
+    EXPECT_EQ(trova(), Testi{percentualiErrate});
+}
+
+TEST_F(RegoleMatrice, VehiclesThatReadAsTheDemandAreTheDemand) {
+    riga(2, 30.0F, 35.0F, 35.0F);
+    ramo(2).theDatiTraffico().FlussoTotale(std::nextafter(100.0F, 200.0F));  // 100.000008, which reads 100
+    EXPECT_EQ(trova(), Testi{});
+    ramo(2).theDatiTraffico().FlussoTotale(100.001F);
+    EXPECT_EQ(trova().size(), 1U);
 }
 
 TEST_F(RegoleMatrice, PerCentOfZerosAreNoMatrixAtAll) {
@@ -257,6 +282,7 @@ TEST_F(RegoleComposizione, HeavyVehiclesAskForTheSweptAreas) {
         "relazione alle svolte ed alle aree spazzate. "};
     composizione(2).Autotreni(1.0F);
     EXPECT_EQ(trova(), pesanti);
+    EXPECT_EQ(meta(), (Meta{"keyComposizioneTraffico2", "txtAutotreni", 2}));
     composizione(2).Autotreni(0.0F);
     EXPECT_EQ(trova(), Testi{});
     composizione(2).Autoarticolati(1.0F);

@@ -20,8 +20,8 @@ public:
         const auto trovato = testi.find(std::string{finestra} + "." + std::string{campo});
         return trovato == testi.end() ? std::nullopt : std::optional{trovato->second};
     }
-    bool fuocoSu(std::string_view campo) override {
-        chiesti.emplace_back(campo);
+    bool fuocoSu(std::string_view campo, int riga) override {
+        chiesti.push_back(std::string{campo} + (riga > 0 ? " " + std::to_string(riga) : ""));
         return true;
     }
 

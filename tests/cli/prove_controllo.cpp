@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <regex>
 
@@ -31,7 +32,10 @@ protected:
         if (!vecchio.empty()) {
             testo = conCambio(testo, dopo, vecchio, nuovo);
         }
-        const std::string percorso = cartella_.file(nome + std::to_string(quanti_++) + ".klv");
+        // The findings call a project by its file.
+        const std::string dove = cartella_.file(std::to_string(quanti_++));
+        std::filesystem::create_directory(dove);
+        const std::string percorso = dove + "/" + nome + ".klv";
         scriviContenuto(percorso, testo);
         return percorso;
     }
@@ -53,6 +57,18 @@ TEST_F(Controllo, TheExamplesHaveTheirExpectedFindingsAndNoErrors) {
         EXPECT_EQ(senzaTempo(esito.uscita), contenuto(atteso(nome + ".controllo.txt")));
         EXPECT_EQ(esito.errori, "") << nome;
     }
+}
+
+TEST_F(Controllo, AProjectIsCalledByItsFileAsOnTheDesktop) {
+    const std::string copia = cartella_.file("Copia di prova.KLV");
+    std::filesystem::copy_file(progetto(mulini), copia);
+    const Esito esito = kelvoCli({"controllo", copia});
+    EXPECT_NE(esito.uscita.find("KELVO 2014 - [Copia di prova.klv] - "), std::string::npos) << esito.uscita;
+    EXPECT_TRUE(esito.uscita.ends_with("Nome Progetto: Copia di prova\r\n")) << esito.uscita;
+    const std::string solito = cartella_.file("Rotatoria_001.klv");
+    std::filesystem::copy_file(copia, solito);
+    EXPECT_NE(kelvoCli({"controllo", solito}).uscita.find("Nome file progetto di Default"), std::string::npos);
+    EXPECT_EQ(nlohmann::json::parse(kelvoCli({"controllo", "--json", copia}).uscita)["NomeFile"], "Copia di prova");
 }
 
 TEST_F(Controllo, AnErrorOfTheProjectEndsWithThree) {

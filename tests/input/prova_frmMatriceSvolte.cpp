@@ -168,18 +168,43 @@ TEST_F(ProveMatrice, PerCentHidesTheExitsAndTellsWhatIsMissing) {
     EXPECT_EQ(finestra.ctlGridEntrate.ornamento({1, 0}).segno, OrnamentoCella::Segno::nessuno);
 }
 
-TEST_F(ProveMatrice, WhatIsMissingIsTheNearestTextOfASingle) {
+TEST_F(ProveMatrice, WhatIsMissingIsWhatTheShownFiguresLack) {
     rotonda().TipoMatriceSvolte(1);
     riga(1, 33.3F, 33.3F, 33.3F);
     apri();
-    // Added in single precision the sum is 99.8999939, of which the cell shows seven digits; as doubles it would be
-    // 99,9.
-    EXPECT_EQ(entrate(0), "99,89999");
-    EXPECT_EQ(finestra.lblVeicoliEntrate[0].testo(), "[%] [ aggiungere 0,1000137]");
+    EXPECT_EQ(entrate(0), "99,9");
+    EXPECT_EQ(finestra.lblVeicoliEntrate[0].testo(), "[%] [ aggiungere 0,1]");
     riga(1, 99.9F, 0.0F, 0.0F);
     finestra.ReadData();
     EXPECT_EQ(entrate(0), "99,9");
-    EXPECT_EQ(finestra.lblVeicoliEntrate[0].testo(), "[%] [ aggiungere 0,09999847]");
+    EXPECT_EQ(finestra.lblVeicoliEntrate[0].testo(), "[%] [ aggiungere 0,1]");
+}
+
+TEST_F(ProveMatrice, RowsThatAreAHundredOnPaperAreInOrder) {
+    rotonda().TipoMatriceSvolte(1);
+    // Added up as singles, or as doubles of singles, each of these misses 100.
+    riga(1, 34.1F, 0.7F, 65.2F);
+    riga(2, 1.15F, 17.87F, 80.98F);
+    riga(3, 82.2F, 4.6F, 13.2F);
+    riga(4, 30.0F, 35.0F, 35.01F);
+    apri();
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(entrate(i), "100") << i;
+        EXPECT_EQ(finestra.lblVeicoliEntrate[static_cast<std::size_t>(i)].testo(), "[%]") << i;
+        EXPECT_EQ(finestra.ctlGridEntrate.tabella().cella(i, 0).sfondo, colori::bianco) << i;
+    }
+    EXPECT_EQ(entrate(3), "100,01");
+    EXPECT_EQ(finestra.lblVeicoliEntrate[3].testo(), "[%] [ sottrarre 0,01]");
+}
+
+TEST_F(ProveMatrice, VehiclesAreAddedUpAsTheirCellsShowThem) {
+    riga(1, 8.1F, 65.2F, 0.7F);
+    riga(2, 0.0F, 34.1F, 0.0F);
+    riga(3, 0.0F, 0.0F, 0.0F);
+    riga(4, 0.0F, 0.0F, 0.7F);
+    apri();
+    EXPECT_EQ(entrate(0), "74");
+    EXPECT_EQ(uscite(2), "100");  // 65,2 of the first leg, 34,1 of the second, 0,7 of the fourth
 }
 
 TEST_F(ProveMatrice, AnEditedRowIsJudgedAtOnce) {

@@ -1,6 +1,7 @@
 #include "shell/CampiFinestre.h"
 
 #include "comune/fintiShell.h"
+#include "shell/servizi/Griglia.h"
 
 namespace kelvo::prove::shell {
 namespace {
@@ -42,11 +43,11 @@ TEST_F(ProveCampiFinestre, AWindowThatLivesShowsWhatWasTypedAndNotWritten) {
 
 TEST_F(ProveCampiFinestre, TheFocusGoesToAFieldOfTheWindowAtHand) {
     ASSERT_TRUE(cornice.albero.UserClick("keyRamo2"));
-    EXPECT_TRUE(campi.fuocoSu("txtLungSvasatura"));
+    EXPECT_TRUE(campi.fuocoSu("txtLungSvasatura", 0));
     ASSERT_NE(cornice.gestione.corrente()->fuoco(), nullptr);
     EXPECT_EQ(cornice.gestione.corrente()->fuoco()->nome(), "txtLungSvasatura");
-    EXPECT_FALSE(campi.fuocoSu("txtManca"));
-    EXPECT_FALSE(campi.fuocoSu(""));
+    EXPECT_FALSE(campi.fuocoSu("txtManca", 0));
+    EXPECT_FALSE(campi.fuocoSu("", 0));
     EXPECT_EQ(cornice.gestione.corrente()->fuoco()->nome(), "txtLungSvasatura");
 }
 
@@ -71,12 +72,50 @@ TEST_F(ProveCampiFinestre, TheFieldsThatFindingsLeadToStandInTheirWindows) {
           Meta{"keyRamo3", "txtSemiLarghezza"}, Meta{"keyOpzioni", "grpTipoAnalisi"},
           Meta{"keyOpzioni", "txtAutoarticolati"}, Meta{"keyOpzioni", "txtAutotreni"}, Meta{"keyOpzioni", "txtPullman"},
           Meta{"keyOpzioni", "txtCamper"}, Meta{"keyOpzioni", "txtRoulotte"}, Meta{"keyOpzioni", "txtMotocicli"},
-          Meta{"keyOpzioni", "txtAutovetture"},
+          Meta{"keyOpzioni", "txtAutovetture"}, Meta{"keyDatiTraffico2", "txtFlussoTempo1"},
+          Meta{"keyDatiTraffico2", "txtFlussoTempo2"}, Meta{"keyMatriceSvolte", "ctlGrid"},
+          Meta{"keyComposizioneTraffico2", "txtAutoarticolati"}, Meta{"keyComposizioneTraffico2", "txtAutotreni"},
           // Last: who was in this field has to choose the end again before the window lets go.
           Meta{"keyTempoModellazione", "txtSegmentoTempo"}}) {
         ASSERT_TRUE(cornice.albero.UserClick(meta.chiave)) << meta.chiave;
-        EXPECT_TRUE(campi.fuocoSu(meta.campo)) << meta.chiave << " " << meta.campo;
+        EXPECT_TRUE(campi.fuocoSu(meta.campo, 0)) << meta.chiave << " " << meta.campo;
     }
+}
+
+TEST_F(ProveCampiFinestre, CountsAndCompositionBySegmentsHaveTheirTables) {
+    app.theRotonda().TipoAnalisi(2);
+    app.theRotonda().TipoFlusso(1);
+    cornice.SetUpOpzioni();
+    for (const char* chiave : {"keyDatiTraffico2", "keyComposizioneTraffico2"}) {
+        ASSERT_TRUE(cornice.albero.UserClick(chiave)) << chiave;
+        EXPECT_TRUE(campi.fuocoSu("ctlGrid", 0)) << chiave;
+        EXPECT_EQ(cornice.gestione.corrente()->fuoco()->nome(), "ctlGrid") << chiave;
+    }
+    EXPECT_EQ(cornice.gestione.corrente()->nome(), "frmComposizioneTrafficoST");
+}
+
+TEST_F(ProveCampiFinestre, ARowOfATableGetsTheCursor) {
+    ASSERT_TRUE(cornice.albero.UserClick("keyMatriceSvolte"));
+    const auto* griglia = dynamic_cast<const Griglia*>(cornice.gestione.corrente()->successivo(true));
+    ASSERT_NE(griglia, nullptr);
+    ASSERT_EQ(griglia->nome(), "ctlGrid");
+    for (const auto& [riga, attesa] : {std::pair{3, Posto{3, 1}}, std::pair{1, Posto{1, 2}}, std::pair{0, Posto{1, 2}},
+                                       std::pair{4, Posto{4, 1}}, std::pair{9, Posto{4, 1}}}) {
+        EXPECT_TRUE(campi.fuocoSu("ctlGrid", riga));
+        EXPECT_EQ(griglia->corrente(), attesa) << riga;
+    }
+}
+
+TEST_F(ProveCampiFinestre, AFieldThatIsClosedGivesWayToTheNextThatMayBeTypedInto) {
+    ASSERT_TRUE(cornice.albero.UserClick("keyDatiTraffico1"));
+    for (Controllo* c : cornice.gestione.corrente()->ordine()) {
+        if (c->nome() == "Check2") {
+            dynamic_cast<Casella&>(*c).clicca();  // the peak is searched: its field is closed
+        }
+    }
+    EXPECT_TRUE(campi.fuocoSu("txtFlussoTempo2", 0));
+    EXPECT_EQ(cornice.gestione.corrente()->fuoco()->nome(), "txtTarget");
+    EXPECT_TRUE(campi.fuocoSu("lblTarget", 0)) << "a label gives way too";
 }
 
 }  // namespace

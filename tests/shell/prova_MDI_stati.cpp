@@ -299,7 +299,8 @@ TEST(NonAncora, WithTheRealWindowsEveryClosedKeyLeadsToOneOfTheList) {
                 EXPECT_EQ(cornice.ctlMenu.voce(chiave).nota, manca ? nota : "") << chiave;
             }
         }
-        EXPECT_EQ(cornice.ctlToolbar.spiegazione("Check"), "Check progetto rotatoria\n" + nota);
+        EXPECT_EQ(cornice.ctlToolbar.spiegazione("KelvoCAD"), "Avvia KelvoCAD\n" + nota);
+        EXPECT_EQ(cornice.ctlToolbar.spiegazione("Check"), "Check progetto rotatoria");
         EXPECT_EQ(cornice.ctlToolbar.spiegazione("Google"), nota);
         EXPECT_TRUE(f.messaggi.mostrati.empty());
     }

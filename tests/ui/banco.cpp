@@ -81,7 +81,12 @@ Banco::Banco(int disposizione, SistemaFile& file)
     app.configurazione.coefficienti(coefficientiDiFabbrica);
     app.configurazione.PathErrore = "FILELOGERROR.TXT";
     app.configurazione.LayoutPannello = 3;
-    registraFinestre(cornice.finestre, {documenti, anteprima, collegate, simulazione});
+    registraFinestre(cornice.finestre, {.documenti = documenti,
+                                        .anteprima = anteprima,
+                                        .collegate = collegate,
+                                        .cronometro = simulazione,
+                                        .campi = &campi,
+                                        .stampa = &stampa});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
 }

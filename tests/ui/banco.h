@@ -8,6 +8,8 @@
 
 #include "comune/cronometro.h"
 #include "comune/fintiShell.h"
+#include "comune/stampaFinta.h"
+#include "shell/CampiFinestre.h"
 #include "shell/registroFinestre.h"
 #include "ui/gesti.h"
 #include "ui/results/FinestreCollegateQt.h"
@@ -72,6 +74,8 @@ public:
     ui::VistaMDI_Form vista;
     ui::FinestreCollegateQt collegate{vista};
     MDI_Form cornice;
+    CampiFinestre campi{cornice.finestre, cornice.gestione};
+    StampaFinta stampa;
 };
 
 /// Every property of a project with its value as text: "Ramo 3/DatiTraffico/Tempo1" and the like.

@@ -64,13 +64,13 @@ TEST_F(Barre, LinesFollowFourOfItsTwelveButtons) {
 TEST_F(Barre, WhatIsClosedTellsWhyOnTheButtonAndInTheMenu) {
     banco.nuovo(3);
     const std::string nota{notaNonAncora};
-    const auto* check = barra().findChild<QAction*>(QStringLiteral("Check"));
-    EXPECT_FALSE(check->isEnabled());
-    EXPECT_EQ(check->toolTip().toStdString(), "Check progetto rotatoria\n" + nota);
+    const auto* disegno = barra().findChild<QAction*>(QStringLiteral("KelvoCAD"));
+    EXPECT_FALSE(disegno->isEnabled());
+    EXPECT_EQ(disegno->toolTip().toStdString(), "Avvia KelvoCAD\n" + nota);
     EXPECT_EQ(barra().findChild<QAction*>(QStringLiteral("Salva"))->toolTip(),
               QStringLiteral("Salva progetto (Ctrl+S)"));
-    ASSERT_TRUE(attendi([&] { return banco.vista.findChild<QAction*>(QStringLiteral("keyAnalizzatore")) != nullptr; }));
-    for (const char* chiave : {"keyAnalizzatore", "mnuCompilaRelazione", "mnuKelvoCAD2"}) {
+    ASSERT_TRUE(attendi([&] { return banco.vista.findChild<QAction*>(QStringLiteral("keyterra")) != nullptr; }));
+    for (const char* chiave : {"keyterra", "mnuCompilaRelazione", "mnuKelvoCAD2"}) {
         const auto* voce = banco.vista.findChild<QAction*>(QString::fromLatin1(chiave));
         ASSERT_NE(voce, nullptr) << chiave;
         EXPECT_FALSE(voce->isEnabled()) << chiave;

@@ -8,7 +8,8 @@ namespace kelvo {
 namespace {
 
 /// Names of keys that an Italian keyboard bears otherwise.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 2> nomi{{{"Enter", "Invio"}, {"Shift", "Maiusc"}}};
+constexpr std::array<std::pair<std::string_view, std::string_view>, 4> nomi{
+    {{"Enter", "Invio"}, {"Shift", "Maiusc"}, {"PgDown", "PagGiù"}, {"PgUp", "PagSu"}}};
 
 }  // namespace
 

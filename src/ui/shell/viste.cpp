@@ -3,6 +3,8 @@
 #include <QtCore/QString>
 #include <array>
 
+#include "ui/checkup/viste.h"
+
 namespace kelvo::ui {
 
 namespace {
@@ -15,6 +17,8 @@ struct VoceVista {
 };
 
 constexpr std::array viste{
+    VoceVista{"frmANALIZZATORE", vista_frmANALIZZATORE},
+    VoceVista{"frmCheckUpMessaggio", vista_frmCheckUpMessaggio},
     VoceVista{"frmAnagraficaRotonda", vista_frmAnagraficaRotonda},
     VoceVista{"frmCommittenteProfessionista", vista_frmCommittenteProfessionista},
     VoceVista{"frmDatiTraffico", vista_frmDatiTraffico},

@@ -1,0 +1,360 @@
+// Documents for paper: where their pages end, head and foot, tables over several pages, the file and its words.
+
+#include "disegno/paginePDF.h"
+
+#include <gtest/gtest.h>
+
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+#include <QtGui/QTextLayout>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "comune/cartella.h"
+#include "disegno/AmbienteDisegno.h"
+#include "disegno/graficiDiProva.h"
+#include "pianta/Pianta.h"
+
+namespace kelvo::disegno {
+namespace {
+
+using D = DocumentoPagine;
+
+constexpr double larghezzaA4 = 210.0 / 25.4 * 72.0 * punto;
+constexpr double altezzaA4 = 297.0 / 25.4 * 72.0 * punto;
+
+class Pagine : public testing::Test {
+protected:
+    static void SetUpTestSuite() { ambiente_ = std::make_unique<AmbienteDisegno>(KELVO_CARTELLA "/Caratteri"); }
+    static void TearDownTestSuite() { ambiente_.reset(); }
+
+    static D vuoto() {
+        return {.titolo = "Documento di prova",
+                .progetto = "Rotatoria",
+                .progettista = "Ing. Bianchi",
+                .chiusura = "Kelvo 1.0.0"};
+    }
+    /// The words of a run of lines.
+    static std::string parole(const PaginaImpaginata::Brano& brano) {
+        const QTextLine prima = brano.testo->lineAt(brano.da);
+        const QTextLine ultima = brano.testo->lineAt(brano.a - 1);
+        const int fine = ultima.textStart() + ultima.textLength();
+        return brano.testo->text().mid(prima.textStart(), fine - prima.textStart()).trimmed().toStdString();
+    }
+    static std::vector<std::string> parole(const PaginaImpaginata& pagina) {
+        std::vector<std::string> tutte;
+        for (const PaginaImpaginata::Brano& brano : pagina.brani) {
+            tutte.push_back(parole(brano));
+        }
+        return tutte;
+    }
+    static bool contiene(const PaginaImpaginata& pagina, const std::string& cercata) {
+        const auto tutte = parole(pagina);
+        return std::find(tutte.begin(), tutte.end(), cercata) != tutte.end();
+    }
+    static D::Tabella tabella(int righe) {
+        D::Tabella t{.colonne = {{"Segmento", 2.0, AllineamentoCella::sinistra}, {"Flusso", 1.0}, {"Ritardo", 1.0}},
+                     .righe = {}};
+        for (int r = 1; r <= righe; ++r) {
+            t.righe.push_back({{.testo = "riga " + std::to_string(r)}, {.testo = "12,5"}, {.testo = "3,0"}});
+        }
+        return t;
+    }
+    /// Nothing stands outside the margins of its page, and no run of lines on another one.
+    static void ordinate(const Impaginato& impaginato) {
+        for (const PaginaImpaginata& pagina : impaginato.pagine) {
+            for (const PaginaImpaginata::Brano& brano : pagina.brani) {
+                const QTextLine ultima = brano.testo->lineAt(brano.a - 1);
+                const double alta = ultima.y() + ultima.height() - brano.testo->lineAt(brano.da).y();
+                EXPECT_GE(brano.posto.y(), 0.0);
+                EXPECT_LE(brano.posto.y() + alta, impaginato.foglio.height()) << parole(brano);
+                EXPECT_GE(brano.posto.x(), 500.0) << parole(brano);
+                EXPECT_LE(brano.posto.x() + ultima.width(), impaginato.foglio.width() - 500.0) << parole(brano);
+            }
+        }
+    }
+    /// Pages of a PDF file, by their objects.
+    static int pagineDi(const std::string& pdf) {
+        int quante = 0;
+        for (std::size_t i = pdf.find("/Type /Page\n"); i != std::string::npos; i = pdf.find("/Type /Page\n", i + 1)) {
+            ++quante;
+        }
+        return quante;
+    }
+
+private:
+    static inline std::unique_ptr<AmbienteDisegno> ambiente_;
+};
+
+TEST_F(Pagine, AnEmptyDocumentIsOnePageWithHeadAndFoot) {
+    const D documento = vuoto();
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_EQ(impaginato.pagine.size(), 1U);
+    EXPECT_NEAR(impaginato.foglio.width(), larghezzaA4, 1.0);
+    EXPECT_NEAR(impaginato.foglio.height(), altezzaA4, 1.0);
+    for (const char* parola : {"Documento di prova", "Rotatoria", "Ing. Bianchi", "Kelvo 1.0.0", "Pagina 1 di 1"}) {
+        EXPECT_TRUE(contiene(impaginato.pagine[0], parola)) << parola;
+    }
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, TheNumberOfPagesStandsOnEachOfThem) {
+    D documento = vuoto();
+    for (int i = 0; i < 120; ++i) {
+        documento.blocchi.emplace_back(D::Paragrafo{"Un paragrafo di poche parole."});
+    }
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_GT(impaginato.pagine.size(), 2U);
+    for (std::size_t i = 0; i < impaginato.pagine.size(); ++i) {
+        EXPECT_TRUE(contiene(impaginato.pagine[i],
+                             "Pagina " + std::to_string(i + 1) + " di " + std::to_string(impaginato.pagine.size())));
+        EXPECT_TRUE(contiene(impaginato.pagine[i], "Rotatoria"));
+        EXPECT_EQ(contiene(impaginato.pagine[i], "Documento di prova"), i == 0) << i;
+    }
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, ALongParagraphGoesOnWithoutLosingAWord) {
+    D documento = vuoto();
+    std::string lungo;
+    for (int i = 0; i < 1500; ++i) {
+        lungo += "parola" + std::to_string(i) + " ";
+    }
+    documento.blocchi.emplace_back(D::Paragrafo{.testo = lungo, .inizio = "Inizio:", .segno = D::Segno::errore});
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_GT(impaginato.pagine.size(), 1U);
+    std::string letto;
+    for (const PaginaImpaginata& pagina : impaginato.pagine) {
+        for (const PaginaImpaginata::Brano& brano : pagina.brani) {
+            if (brano.testo->text().startsWith(QStringLiteral("Inizio:"))) {
+                letto += parole(brano) + " ";
+            }
+        }
+    }
+    EXPECT_EQ(letto, "Inizio:" + lungo);
+    EXPECT_EQ(impaginato.pagine[0].segni.size(), 1U) << "the sign stands at the first line alone";
+    EXPECT_TRUE(impaginato.pagine[1].segni.empty());
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, ATitleNeverStandsAloneAtTheFoot) {
+    for (int sopra = 30; sopra < 60; ++sopra) {
+        D documento = vuoto();
+        for (int i = 0; i < sopra; ++i) {
+            documento.blocchi.emplace_back(D::Paragrafo{"Riga."});
+        }
+        documento.blocchi.emplace_back(D::Titolo{"Un titolo", 1});
+        documento.blocchi.emplace_back(D::Titolo{"Sotto il titolo", 2});
+        documento.blocchi.emplace_back(D::Paragrafo{"Quello che segue."});
+        for (const PaginaImpaginata& pagina : impagina(documento).pagine) {
+            EXPECT_EQ(contiene(pagina, "Un titolo"), contiene(pagina, "Quello che segue.")) << sopra;
+            EXPECT_EQ(contiene(pagina, "Un titolo"), contiene(pagina, "Sotto il titolo")) << sopra;
+        }
+    }
+}
+
+TEST_F(Pagine, TheHeadingsOfATableStandOnEachOfItsPages) {
+    D documento = vuoto();
+    documento.blocchi.emplace_back(tabella(120));
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_GT(impaginato.pagine.size(), 1U);
+    int righe = 0;
+    for (const PaginaImpaginata& pagina : impaginato.pagine) {
+        EXPECT_TRUE(contiene(pagina, "Segmento"));
+        EXPECT_TRUE(contiene(pagina, "Ritardo"));
+        for (const std::string& parola : parole(pagina)) {
+            righe += parola.starts_with("riga ") ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(righe, 120);
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, ARowHigherThanAPageGoesOnBelowTheHeadings) {
+    D documento = vuoto();
+    D::Tabella alta = tabella(1);
+    std::string lungo;
+    for (int i = 0; i < 3000; ++i) {
+        lungo += "voce" + std::to_string(i) + " ";
+    }
+    alta.righe[0][0].testo = lungo;
+    documento.blocchi.emplace_back(alta);
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_GT(impaginato.pagine.size(), 1U);
+    std::string letto;
+    for (const PaginaImpaginata& pagina : impaginato.pagine) {
+        EXPECT_TRUE(contiene(pagina, "Segmento"));
+        for (const PaginaImpaginata::Brano& brano : pagina.brani) {
+            letto += brano.testo->text().startsWith(QStringLiteral("voce0")) ? parole(brano) + " " : std::string{};
+        }
+    }
+    EXPECT_EQ(letto, lungo);
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, ManyColumnsAreSetSmallerUntilTheirWordsFit) {
+    D documento = vuoto();
+    D::Tabella larga;
+    for (int c = 0; c < 11; ++c) {
+        larga.colonne.push_back({"Ramo " + std::to_string(c), 1.0});
+    }
+    larga.righe.emplace_back(11, D::Cella{.testo = "12345,67"});
+    documento.blocchi.emplace_back(larga);
+    const Impaginato impaginato = impagina(documento);
+    double piccolo = 1000.0;
+    for (const PaginaImpaginata::Brano& brano : impaginato.pagine.at(0).brani) {
+        if (parole(brano) == "12345,67") {
+            EXPECT_EQ(brano.a - brano.da, 1);
+            piccolo = std::min(piccolo, static_cast<double>(brano.testo->font().pixelSize()));
+        }
+    }
+    EXPECT_LT(piccolo, 9.0 * punto);
+    EXPECT_GE(piccolo, 6.0 * punto);
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, BoxesStandInTheirCells) {
+    D documento = vuoto();
+    D::Tabella t{.colonne = {{"Domanda", 8.0, AllineamentoCella::sinistra}, {"SI", 1.0}, {"NO", 1.0}}, .righe = {}};
+    t.righe.push_back({{.testo = "Una domanda?"}, {.testo = {}, .casella = true}, {.testo = {}, .casella = false}});
+    documento.blocchi.emplace_back(t);
+    const Impaginato impaginato = impagina(documento);
+    const auto& caselle = impaginato.pagine.at(0).caselle;
+    ASSERT_EQ(caselle.size(), 2U);
+    EXPECT_TRUE(caselle[0].spuntata);
+    EXPECT_FALSE(caselle[1].spuntata);
+    EXPECT_LT(caselle[0].dove.right(), caselle[1].dove.left());
+}
+
+TEST_F(Pagine, AFigureIsNeverPartedAndKeepsItsTitle) {
+    D documento = vuoto();
+    for (int i = 0; i < 3; ++i) {
+        documento.blocchi.emplace_back(D::Titolo{"Figura " + std::to_string(i), 2});
+        documento.blocchi.emplace_back(
+            D::Figura{.contenuto = prove::prestazioni(prove::ritardi, 10), .didascalia = "Ritardi"});
+    }
+    const Impaginato impaginato = impagina(documento);
+    std::size_t figure = 0;
+    for (const PaginaImpaginata& pagina : impaginato.pagine) {
+        for (const PaginaImpaginata::Figura& figura : pagina.figure) {
+            EXPECT_LE(figura.dove.bottom(), altezzaA4 - 300.0);
+            EXPECT_NEAR(figura.dove.height() / figura.dove.width(), 0.6, 1e-6);
+            EXPECT_TRUE(contiene(pagina, "Figura " + std::to_string(figure)));
+            ++figure;
+        }
+    }
+    EXPECT_EQ(figure, 3U);
+    EXPECT_EQ(impaginato.pagine.size(), 2U);
+}
+
+TEST_F(Pagine, ATallFigureIsMadeSmallerUntilItFits) {
+    D documento = vuoto();
+    documento.blocchi.emplace_back(D::Figura{.contenuto = D::Immagine{}, .forma = 5.0, .didascalia = "Alta"});
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_EQ(impaginato.pagine.size(), 2U) << "below the title there is no room for it";
+    const QRectF dove = impaginato.pagine[1].figure.at(0).dove;
+    EXPECT_NEAR(dove.height() / dove.width(), 5.0, 1e-6);
+    EXPECT_LT(dove.bottom(), altezzaA4 - 300.0);
+    EXPECT_TRUE(contiene(impaginato.pagine[1], "Alta"));
+}
+
+TEST_F(Pagine, PagesMayLieOnTheirLongSide) {
+    D documento = vuoto();
+    documento.orizzontale = true;
+    EXPECT_NEAR(impagina(documento).foglio.width(), altezzaA4, 1.0);
+    const std::string pdf = pdfPagine(documento).dati;
+    EXPECT_NE(pdf.find("/MediaBox [0 0 842"), std::string::npos) << pdf.substr(pdf.find("/MediaBox"), 40);
+}
+
+/// A document with everything.
+D campione() {
+    D documento{.titolo = "Documento di prova",
+                .progetto = "Rotatoria",
+                .progettista = "Ing. Bianchi",
+                .chiusura = "Kelvo 1.0.0"};
+    documento.blocchi.emplace_back(D::Titolo{"Messaggi", 1});
+    for (const auto segno : {D::Segno::errore, D::Segno::verifica, D::Segno::informazione}) {
+        documento.blocchi.emplace_back(
+            D::Paragrafo{.testo = "Lunghezza svasatura superiore a 30m.", .inizio = "Geometria:", .segno = segno});
+    }
+    documento.blocchi.emplace_back(D::Paragrafo{.testo = "Una nota in piccolo.", .quieto = true});
+    D::Tabella t{.colonne = {{"Domanda", 8.0, AllineamentoCella::sinistra},
+                             {"SI", 1.0, AllineamentoCella::centro},
+                             {"NO", 1.0, AllineamentoCella::centro}},
+                 .righe = {}};
+    t.righe.push_back(
+        {{.testo = "L'isola centrale è centrata?"}, {.testo = {}, .casella = true}, {.testo = {}, .casella = false}});
+    t.righe.push_back({{.testo = "Totale", .grassetto = true, .fondo = colori::dati}, {.testo = "1"}, {.testo = "0"}});
+    documento.blocchi.emplace_back(t);
+    documento.blocchi.emplace_back(
+        D::Figura{.contenuto = prove::prestazioni(prove::ritardi, 10), .larghezza = 0.6, .didascalia = "Ritardi"});
+    const auto ramo = pianta::DatiRamo{.nome = {},
+                                       .larghezzaIngresso = 5,
+                                       .semiLarghezza = 3.75,
+                                       .lunghezzaSvasatura = 20,
+                                       .angoloConflitto = 25,
+                                       .raggioIngresso = 25,
+                                       .diametroInscritto = 40,
+                                       .attraversamentoPedonale = true};
+    documento.blocchi.emplace_back(
+        D::Figura{.contenuto = D::Pianta{std::make_shared<pianta::DatiPianta>(pianta::DatiPianta{
+                                             .rami = std::vector<pianta::DatiRamo>(4, ramo), .ipotesi = {}}),
+                                         std::make_shared<pianta::OpzioniPianta>()},
+                  .larghezza = 0.4,
+                  .forma = 1.0});
+    return documento;
+}
+
+TEST_F(Pagine, ThePdfHasAsManyPages) {
+    D documento = campione();
+    documento.blocchi.emplace_back(tabella(100));
+    const EsitoDisegno esito = pdfPagine(documento);
+    EXPECT_EQ(esito.errore, "");
+    EXPECT_TRUE(esito.dati.starts_with("%PDF-1."));
+    EXPECT_EQ(pagineDi(esito.dati), static_cast<int>(impagina(documento).pagine.size()));
+}
+
+TEST_F(Pagine, TheWordsOfThePdfCanBeReadBack) {
+    if (std::system("command -v pdftotext > /dev/null 2>&1") != 0) {
+        GTEST_SKIP() << "pdftotext is not installed";
+    }
+    prove::CartellaTemporanea cartella;
+    prove::scriviContenuto(cartella.file("prova.pdf"), pdfPagine(campione()).dati);
+    const std::string comando =
+        "pdftotext -layout '" + cartella.file("prova.pdf") + "' '" + cartella.file("prova.txt") + "'";
+    ASSERT_EQ(std::system(comando.c_str()), 0);
+    const std::string testo = prove::contenuto(cartella.file("prova.txt"));
+    for (const char* parola : {"Documento di prova", "Rotatoria", "Ing. Bianchi", "Pagina 1 di", "Geometria:Lunghezza",
+                               "L'isola centrale è centrata?", "Ritardi"}) {
+        EXPECT_NE(testo.find(parola), std::string::npos) << parola << "\n" << testo;
+    }
+}
+
+TEST_F(Pagine, APageLooksAsItDid) {
+    const D documento = campione();
+    const Impaginato impaginato = impagina(documento);
+    QImage immagine(496, 702, QImage::Format_RGB32);
+    immagine.fill(Qt::white);
+    QPainter pennello(&immagine);
+    dipingiPagina(pennello, impaginato, 0, QRectF(0, 0, 496, 702));
+    pennello.end();
+    const QString file = QStringLiteral(KELVO_SORGENTI "/tests/disegno/attesi/Pagina.png");
+    if (std::getenv("KELVO_RISCRIVI_FIGURE") != nullptr) {
+        ASSERT_TRUE(immagine.save(file));
+    }
+    const QImage attesa = QImage(file).convertToFormat(QImage::Format_RGB32);
+    ASSERT_EQ(attesa.size(), immagine.size()) << file.toStdString();
+    int diversi = 0;
+    for (int y = 0; y < immagine.height(); ++y) {
+        for (int x = 0; x < immagine.width(); ++x) {
+            diversi += std::abs(qGray(immagine.pixel(x, y)) - qGray(attesa.pixel(x, y))) > 64 ? 1 : 0;
+        }
+    }
+    EXPECT_LT(diversi, immagine.width() * immagine.height() / 200);
+}
+
+}  // namespace
+}  // namespace kelvo::disegno
