@@ -35,13 +35,13 @@ bool misuraSana(double mm) {
     return mm > 0.0 && mm <= massimiMm;
 }
 
-std::string_view allineamento(AllineamentoCella quale) {
+std::string_view allineamento(AllineamentoTesto quale) {
     switch (quale) {
-        case AllineamentoCella::centro:
+        case AllineamentoTesto::centro:
             return "center";
-        case AllineamentoCella::destra:
+        case AllineamentoTesto::destra:
             return "right";
-        case AllineamentoCella::sinistra:
+        case AllineamentoTesto::sinistra:
             break;
     }
     return "left";
@@ -120,7 +120,7 @@ void riempiCella(pugi::xml_node nodo, const TabellaRelazione& tabella, const Cel
     }
     const bool unita = cella.colonne > 1;
     figlio(come, "w:jc", "w:val",
-           allineamento(unita ? AllineamentoCella::centro : tabella.colonne[posto.colonna].allineamento));
+           allineamento(unita ? AllineamentoTesto::centro : tabella.colonne[posto.colonna].allineamento));
     const std::string testo = testoAmmesso(cella.testo);
     if (testo.empty()) {
         return;

@@ -30,7 +30,7 @@ TabellaRelazione tabella() {
     TabellaRelazione una;
     una.stile = "tabella kelvo";
     una.colonne = {
-        {40.0, AllineamentoCella::sinistra}, {20.0, AllineamentoCella::destra}, {25.4, AllineamentoCella::centro}};
+        {40.0, AllineamentoTesto::sinistra}, {20.0, AllineamentoTesto::destra}, {25.4, AllineamentoTesto::centro}};
     una.righe = {
         {{"TEMPO"}, {"Flusso", 2}}, {{"07:00 - 07:15"}, {"12,50", 1, "DCDCDC", "C00000"}, {"A & <B>"}}, {{"solo una"}}};
     return una;
