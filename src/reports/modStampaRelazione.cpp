@@ -191,6 +191,9 @@ EsitoRelazione modStampaRelazione::salva(const Corsa& corsa) {
         percorso = *scelto;
     }
     fattoPasso();
+    if (documento_->HaSegnalibro(segnalibro::senzaCorsiaDX)) {
+        togli(segnalibro::ipotesiCorsiaDX);
+    }
     documento_->Sbianca(segnaposto::tutti);
     documento_->Salva(app_.file, percorso);
     fattoPasso();

@@ -81,6 +81,7 @@ inline constexpr std::string_view senzaDatiTraffico = "SenzaDatiTraffico";
 inline constexpr std::string_view senzaDatiTrafficoST = "SenzaDatiTrafficoST";
 inline constexpr std::string_view senzaCapacitaCodeRitardi = "SenzaCapacitaCodeRitardi";
 inline constexpr std::string_view senzaCorsiaDX = "SenzaCorsiaDX";
+inline constexpr std::string_view ipotesiCorsiaDX = "IpotesiCorsiaDX";  ///< goes where `senzaCorsiaDX` stays
 }  // namespace segnalibro
 
 }  // namespace kelvo
