@@ -48,6 +48,7 @@ struct TabellaRelazione {
     std::string stileIntestazione = {};       ///< of those of the heading rows
     std::vector<ColonnaRelazione> colonne{};  ///< 1 to 63
     std::size_t righeIntestazione = 1;        ///< first rows, repeated on each page
+    bool insieme = false;                     ///< on one page, where it is no longer than one
     std::vector<std::vector<CellaRelazione>> righe{};
 };
 

@@ -11,6 +11,10 @@ namespace kelvo {
 
 namespace {
 
+/// The lime of the names on paper, where a full one would weigh too much.
+constexpr Colore nomi{228, 236, 190};
+constexpr std::size_t righeInsieme = 28;
+
 std::string esadecimale(Colore colore) {
     return fmt::format("{:02X}{:02X}{:02X}", colore.rosso, colore.verde, colore.blu);
 }
@@ -44,13 +48,18 @@ TabellaRelazione nuovaTabella(std::size_t colonne, double nomiMm, double massima
 }
 
 CellaRelazione cellaIntestazione(const std::string& testo, int colonne) {
-    CellaRelazione cella = vestita(testo, colori::intestazione, colori::bianco);
+    std::string inRighe = testo;
+    const auto unita = inRighe.find(" [");
+    if (colonne == 1 && unita != std::string::npos) {
+        inRighe[unita] = '\n';
+    }
+    CellaRelazione cella = vestita(inRighe, colori::intestazione, colori::bianco);
     cella.colonne = colonne;
     return cella;
 }
 
 CellaRelazione cellaNome(const std::string& testo) {
-    return vestita(testo, colori::nomeIngresso, colori::bianco);
+    return vestita(testo, nomi, colori::nero);
 }
 
 CellaRelazione cellaLivello(const std::string& livello) {
@@ -81,8 +90,8 @@ TabellaRelazione comeTabella(const Tabella& tabella) {
     return nuova;
 }
 
-void inserisciConDidascalia(DocumentoRelazione& documento, const std::string& didascalia,
-                            const TabellaRelazione& tabella) {
+void inserisciConDidascalia(DocumentoRelazione& documento, const std::string& didascalia, TabellaRelazione tabella) {
+    tabella.insieme = tabella.righe.size() <= righeInsieme;
     documento.InserisciParagrafo({.testo = didascalia,
                                   .stile = tabellaRapporto::didascalia,
                                   .conSeguente = true,

@@ -48,15 +48,14 @@ inline constexpr double larghezzaMm = 170.0;  ///< of the text on a page
 
 /// An empty table with `colonne` columns to the right of a first one for names; no wider than the text.
 TabellaRelazione nuovaTabella(std::size_t colonne, double nomiMm, double massimaMm);
-/// A heading cell in the green of headings, and the name of a row in that of names.
+/// A heading cell in the green of headings, its unit on a line of its own; the name of a row in a pale green.
 CellaRelazione cellaIntestazione(const std::string& testo, int colonne = 1);
 CellaRelazione cellaNome(const std::string& testo);
 /// A level of service in its colours.
 CellaRelazione cellaLivello(const std::string& livello);
 /// A table of a window with its colours; widths in proportion to those of its grid.
 TabellaRelazione comeTabella(const Tabella& tabella);
-/// Puts a caption and below it a table at the selection.
-void inserisciConDidascalia(DocumentoRelazione& documento, const std::string& didascalia,
-                            const TabellaRelazione& tabella);
+/// Puts a caption and below it a table at the selection; a short table stays on one page.
+void inserisciConDidascalia(DocumentoRelazione& documento, const std::string& didascalia, TabellaRelazione tabella);
 
 }  // namespace kelvo

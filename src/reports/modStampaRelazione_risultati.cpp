@@ -18,7 +18,7 @@ namespace kelvo {
 namespace {
 
 constexpr Formato treDecimali = "0.000";
-constexpr double colonnaTempoMm = 30.0;
+constexpr double colonnaTempoMm = 28.0;
 constexpr double colonnaGrandezzaMm = 24.0;
 constexpr double colonnaLivelloMm = 16.0;
 

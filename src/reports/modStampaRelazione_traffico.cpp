@@ -14,7 +14,7 @@ namespace kelvo {
 namespace {
 
 constexpr Formato dueDecimali = "0.00";
-constexpr double colonnaTempoMm = 30.0;
+constexpr double colonnaTempoMm = 28.0;
 constexpr double colonnaRamoMm = 24.0;
 
 /// The vehicle classes as the table of vehicles by segments names them.
@@ -32,7 +32,7 @@ TabellaRelazione tabellaConteggi(const Rotonda& rotonda) {
     for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
         const Ramo& ramo = rotonda.Ramo(i);
         const TotaliTraffico suoi = totaliConservati(ramo);
-        testa.push_back(cellaIntestazione(nomeIngresso(i) + "\n[veicoli/min]"));
+        testa.push_back(cellaIntestazione(nomeIngresso(i) + " [veicoli/min]"));
         totali[0].push_back({suoi.FlussoTotale});
         totali[1].push_back({suoi.FlussoMedio});
         totali[2].push_back({suoi.FlussoOrario});
@@ -56,6 +56,12 @@ TabellaRelazione tabellaConteggi(const Rotonda& rotonda) {
 TabellaRelazione tabellaCategorie(const Rotonda& rotonda, std::int16_t indice) {
     const ComposizioneTraffico& composizione = rotonda.Ramo(indice).theComposizioneTraffico();
     TabellaRelazione tabella = nuovaTabella(categorie.size(), colonnaTempoMm, colonnaRamoMm);
+    // The longest of the names has the room that it needs.
+    constexpr double autoarticolatiMm = 24.5;
+    const double resto = tabellaRapporto::larghezzaMm - colonnaTempoMm - autoarticolatiMm;
+    for (std::size_t c = 1; c < tabella.colonne.size(); ++c) {
+        tabella.colonne[c].larghezzaMm = c == 1 ? autoarticolatiMm : resto / (numeroClassi - 1);
+    }
     tabella.righeIntestazione = 3;
     const int tutte = static_cast<int>(categorie.size()) + 1;
     tabella.righe.push_back({cellaIntestazione(

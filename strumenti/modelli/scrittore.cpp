@@ -14,7 +14,7 @@ namespace {
 
 constexpr double ventesimiPerMm = 1440.0 / 25.4;
 constexpr const char* testataFondo = "006200";
-constexpr const char* nomiFondo = "A4C400";
+constexpr const char* nomiFondo = "E4ECBE";
 constexpr const char* inchiostro = "202020";
 /// Type of the mark of a paragraph in a cell that is left empty, half points: its row is a line, no gap.
 constexpr const char* corpoSegno = "2";
@@ -256,7 +256,7 @@ private:
             ultimaTestata = dati.righe[r].genere == TabellaModello::Genere::testata ? r : ultimaTestata;
         }
         for (std::size_t r = 0; r < dati.righe.size(); ++r) {
-            Nodo ultima = riga(nodo, dati, dati.righe[r], totale);
+            Nodo ultima = riga(nodo, dati, r, totale);
             if (r == ultimaTestata && !dati.segnalibro.empty()) {
                 segnalibro(ultima.child("w:p"), dati.segnalibro);
             }
@@ -266,7 +266,8 @@ private:
     }
 
     /// Answers the last cell of the row.
-    Nodo riga(Nodo tabella, const TabellaModello& dati, const TabellaModello::Riga& riga, double totale) {
+    Nodo riga(Nodo tabella, const TabellaModello& dati, std::size_t quale, double totale) {
+        const TabellaModello::Riga& riga = dati.righe[quale];
         Nodo nodo = tabella.append_child("w:tr");
         Nodo come = nodo.append_child("w:trPr");
         come.append_child("w:cantSplit");
@@ -291,7 +292,7 @@ private:
                 con(con(con(voci.append_child("w:shd"), "w:val", "clear"), "w:color", "auto"), "w:fill", fondo);
             }
             figlio(voci, "w:vAlign", riga.altezzaMm > 0.0 ? "top" : "center");
-            contenuto(cella, dati, riga, c, unita);
+            contenuto(cella, dati, quale, c, unita);
         }
         return cella;
     }
@@ -305,15 +306,15 @@ private:
         return nomi ? nomiFondo : std::string{};
     }
 
-    static void contenuto(Nodo cella, const TabellaModello& dati, const TabellaModello::Riga& riga, std::size_t colonna,
-                          bool unita) {
+    static void contenuto(Nodo cella, const TabellaModello& dati, std::size_t quale, std::size_t colonna, bool unita) {
+        const TabellaModello::Riga& riga = dati.righe[quale];
         const bool testata = riga.genere == TabellaModello::Genere::testata;
         const bool vuota = riga.genere == TabellaModello::Genere::vuota || riga.genere == TabellaModello::Genere::unita;
         Nodo paragrafo = cella.append_child("w:p");
         Nodo come = paragrafo.append_child("w:pPr");
         figlio(come, "w:pStyle", testata ? "IntestazioneTabella" : "TestoTabella");
-        if (testata) {
-            come.append_child("w:keepNext");
+        if (quale + 1 < dati.righe.size()) {
+            come.append_child("w:keepNext");  // these tables are short: each stays on one page
         }
         const char lettera = unita ? 's' : dati.allineamento[colonna];
         figlio(come, "w:jc", lettera == 'c' ? "center" : lettera == 'd' ? "right" : "left");

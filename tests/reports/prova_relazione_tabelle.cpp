@@ -119,7 +119,7 @@ TEST(Sezioni, CountsBySegments) {
     const Celle2D celle =
         tabellaDopo(ingresso({.rami = 3, .analisi = 2}), "Flussi degli ingressi per segmento di tempo");
     const Celle2D attese{
-        {"TEMPO [h]", "Ingresso A\n[veicoli/min]", "Ingresso B\n[veicoli/min]", "Ingresso C\n[veicoli/min]"},
+        {"TEMPO\n[h]", "Ingresso A\n[veicoli/min]", "Ingresso B\n[veicoli/min]", "Ingresso C\n[veicoli/min]"},
         {"08:00 - 08:15", "51", "52", "53"},
         {"08:15 - 08:30", "61", "62", "63"},
         {"08:30 - 08:45", "71", "72", "73"},
@@ -135,7 +135,7 @@ TEST(Sezioni, CompositionBySegments) {
     const Celle2D celle = tabellaDopo(letto, "Composizione del traffico per segmento di tempo - Ingresso B");
     const Celle2D attese{
         {"INGRESSO B - Via B"},
-        {"TEMPO [h]", "TIPO [%]"},
+        {"TEMPO\n[h]", "TIPO [%]"},
         {"", "Autoarticolati", "Autocarri", "Autobus", "Furgoni", "Roulotte", "Motocicli", "Autovetture"},
         {"08:00 - 08:15", "2", "3", "4", "5", "6", "7", "8"},
         {"08:15 - 08:30", "2", "3", "4", "5", "6", "7", "8"},
@@ -232,8 +232,8 @@ TEST(Sezioni, ResultsOfEveryEntryBySegments) {
     modCalcolo(scena.app).Calcola_Tempo_Flusso("0");
     scriviRecord(scena.app.theRotonda());
     scena.modulo().compilaAllegatiWord("RelazioneMasterOUT");
-    const Celle2D attese{{"Tempo", "Flusso [veic/min]", "Capacità [veic/h]", "Coeff. saturazione", "Coda [veic]",
-                          "Ritardo [s/veic]", "L.O.S."},
+    const Celle2D attese{{"Tempo", "Flusso\n[veic/min]", "Capacità\n[veic/h]", "Coeff. saturazione", "Coda\n[veic]",
+                          "Ritardo\n[s/veic]", "L.O.S."},
                          {"08:00 - 08:15", "1,01", "1000,13", "0,123", "2,3", "0,0", "-"},
                          {"08:15 - 08:30", "2,01", "1000,13", "0,123", "2,3", "10,0", "A"},
                          {"08:30 - 08:45", "3,02", "1000,13", "0,123", "2,3", "10,1", "B"},
