@@ -23,7 +23,6 @@ namespace {
 constexpr std::string_view modulo = "modStampaRelazione:";
 constexpr std::string_view soloDati = "RelazioneMasterIN";
 constexpr std::string_view conCorsie = "RelazioneMasterTOT";
-constexpr int passiDiChiusura = 5;
 
 namespace testi {
 constexpr const char* estensione = "docx";

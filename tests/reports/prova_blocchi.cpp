@@ -60,6 +60,23 @@ TEST(Blocchi, ATableIsMadeWithItsColumnsHeadingAndStyle) {
     EXPECT_EQ(letto.errori(), "");
 }
 
+TEST(Blocchi, ATableThatStaysTogetherKeepsEachRowWithTheNext) {
+    for (const bool insieme : {false, true}) {
+        const auto doc = conCorpo(par(segno("T", 1)));
+        doc->SelezionaSegnalibro("T");
+        TabellaRelazione una = tabella();
+        una.insieme = insieme;
+        doc->InserisciTabella(una);
+        const Letto letto(*doc);
+        std::vector<std::size_t> legati;
+        for (const pugi::xml_node riga : letto.corpo().child("w:tbl").children("w:tr")) {
+            legati.push_back(riga.select_nodes(".//w:keepNext").size());
+        }
+        EXPECT_EQ(legati, (std::vector<std::size_t>{2, insieme ? 3U : 0U, 0})) << "never the last one";
+        EXPECT_EQ(letto.errori(), "");
+    }
+}
+
 TEST(Blocchi, WithoutItsStyleATableHasLines) {
     const auto doc = conCorpo(par(segno("T", 1)));
     doc->SelezionaSegnalibro("T");
