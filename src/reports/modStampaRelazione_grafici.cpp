@@ -14,8 +14,8 @@ namespace kelvo {
 
 namespace {
 
-/// Two points to each of the 900 of a chart on the screen: some 270 to the inch on the page.
-constexpr MisuraDisegno misuraGrafico{.larghezza = 900, .altezza = 0, .scala = 2.0};
+/// 1350 points over the width of the text: 200 to the inch on the page.
+constexpr MisuraDisegno misuraGrafico{.larghezza = 900, .altezza = 0, .scala = 1.5};
 constexpr MisuraDisegno misuraPianta{.larghezza = 1000, .altezza = 0, .scala = 2.0};
 constexpr double larghezzaPiantaMm = 150.0;
 constexpr int passiDelTelaio = 6;  ///< opening and the five that close

@@ -41,7 +41,7 @@ TEST_F(ComandoRelazione, WritesEachKindOfReport) {
     };
     for (const Caso& caso : {Caso{"ingresso", true, false, false}, Caso{"risultati", false, true, false},
                              Caso{"completa", true, true, false}, Caso{"totale", true, true, true}}) {
-        const Esito esito = relazione(caso.tipo, esempio(stazione), file("r.docx"));
+        const Esito esito = relazione(caso.tipo, esempio(stazione), file("r.docx"), {"--notte", "15"});
         ASSERT_EQ(esito.codice, 0) << caso.tipo << esito.errori;
         EXPECT_EQ(esito.uscita, "");
         EXPECT_EQ(esito.errori, "");
