@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds Kelvo and opens it with an example project; without a display it computes the examples instead, and the texts
-# go to the folder uscita/.
+# and the reports of one of them go to the folder uscita/.
 set -euo pipefail
 source "$(dirname -- "${BASH_SOURCE[0]}")/strumenti/comune.sh"
 
@@ -45,9 +45,24 @@ calcola_esempi() {
     di "Risultati di ${#progetti[@]} progetti nella cartella $RADICE/$USCITA"
 }
 
+# Compiles every kind of report of one example project.
+relazioni_esempio() {
+    local nome tipo
+    nome=$(basename -- "$ESEMPIO" .klv)
+    di "Relazioni di $nome"
+    for tipo in ingresso risultati completa totale grafici; do
+        "$CLI" relazione --tipo "$tipo" -o "$USCITA/$nome - Relazione $tipo.docx" "$ESEMPIO" ||
+            muori "relazione $tipo non compilata"
+        printf '   %s\n' "$tipo"
+    done
+}
+
 installa costruzione librerie desktop prove
 
 di "Compilazione"
 costruisci release apps/all assets/all
 
-apri_desktop || calcola_esempi
+if ! apri_desktop; then
+    calcola_esempi
+    relazioni_esempio
+fi

@@ -16,6 +16,23 @@ void Comando::aggiungiIni(OpzioniComuni& comuni) {
         ->type_name("FILE");
 }
 
+void Comando::aggiungiNotte(OpzioniComuni& comuni) {
+    constexpr Estremi percento{.minimo = 0, .massimo = 100};
+    aggiungiIntero(
+        *app_, "--notte", comuni.notte, percento,
+        "riduzione della capacità di notte, da 0 a 100 per cento; vale per i progetti in condizioni notturne");
+}
+
+void Comando::avvisaNotte(Contesto& contesto, const OpzioniComuni& comuni) const {
+    const bool notturno = contesto.app().theRotonda().CondizioniNotturne();
+    if (comuni.notte > 0 && !notturno) {
+        contesto.attenzione("--notte non ha effetto: il progetto non è in condizioni notturne");
+    }
+    if (notturno && app_->count("--notte") == 0) {
+        contesto.attenzione("il progetto è in condizioni notturne: senza --notte la riduzione vale 0");
+    }
+}
+
 ComandoSuFile::ComandoSuFile(CLI::App& radice, const std::string& nome, const std::string& descrizione,
                              const std::string& esempi)
     : Comando(radice, nome, descrizione, esempi) {
@@ -23,27 +40,14 @@ ComandoSuFile::ComandoSuFile(CLI::App& radice, const std::string& nome, const st
 }
 
 void ComandoSuFile::aggiungiComuni() {
-    constexpr Estremi percento{.minimo = 0, .massimo = 100};
     aggiungiIni(comuni_);
-    aggiungiIntero(
-        *app_, "--notte", comuni_.notte, percento,
-        "riduzione della capacità di notte, da 0 a 100 per cento; vale per i progetti in condizioni notturne");
+    aggiungiNotte(comuni_);
     aggiungiJson();
 }
 
 void ComandoSuFile::aggiungiJson() {
     app_->add_flag("--json", comuni_.json, "una riga di JSON per file, con i numeri a piena precisione")
         ->disable_flag_override();
-}
-
-void ComandoSuFile::avvisaNotte(Contesto& contesto) const {
-    const bool notturno = contesto.app().theRotonda().CondizioniNotturne();
-    if (comuni_.notte > 0 && !notturno) {
-        contesto.attenzione("--notte non ha effetto: il progetto non è in condizioni notturne");
-    }
-    if (notturno && app_->count("--notte") == 0) {
-        contesto.attenzione("il progetto è in condizioni notturne: senza --notte la riduzione vale 0");
-    }
 }
 
 int ComandoSuFile::esegui() {

@@ -26,6 +26,10 @@ public:
 protected:
     /// Adds --ini.
     void aggiungiIni(OpzioniComuni& comuni);
+    /// Adds --notte.
+    void aggiungiNotte(OpzioniComuni& comuni);
+    /// Says where --notte and the project's own choice do not go together.
+    void avvisaNotte(Contesto& contesto, const OpzioniComuni& comuni) const;
 
     CLI::App* app_;
 };
@@ -46,8 +50,8 @@ protected:
     virtual bool opzioniCoerenti() { return true; }
     /// False if the command computes nothing and needs no configuration.
     virtual bool serveConfigurazione() const { return true; }
-    /// Says where --notte and the project's own choice do not go together.
-    void avvisaNotte(Contesto& contesto) const;
+    /// As that of every command, with its own options.
+    void avvisaNotte(Contesto& contesto) const { Comando::avvisaNotte(contesto, comuni_); }
     /// Works on one file; answers false if it failed.
     virtual bool tratta(Contesto& contesto, const std::string& file) = 0;
 
@@ -65,6 +69,8 @@ std::unique_ptr<Comando> comandoControllo(CLI::App& radice);
 std::unique_ptr<Comando> comandoCorsiaDx(CLI::App& radice);
 std::unique_ptr<Comando> comandoSensibilita(CLI::App& radice);
 std::unique_ptr<Comando> comandoSintesi(CLI::App& radice);
+/// The commands that write documents; none in a program that was built without their libraries.
+std::vector<std::unique_ptr<Comando>> comandiDocumenti(CLI::App& radice);
 /// The commands that draw; none in a program that was built without the desktop's libraries.
 std::vector<std::unique_ptr<Comando>> comandiDisegno(CLI::App& radice);
 

@@ -40,6 +40,9 @@ int esegui(std::vector<std::string> argomenti) {
                             comandoCurva, comandoCorsiaDx, comandoSensibilita, comandoSintesi, comandoControllo}) {
         comandi.push_back(crea(radice));
     }
+    for (auto& comando : comandiDocumenti(radice)) {
+        comandi.push_back(std::move(comando));
+    }
     for (auto& comando : comandiDisegno(radice)) {
         comandi.push_back(std::move(comando));
     }

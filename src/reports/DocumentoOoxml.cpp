@@ -195,6 +195,12 @@ void DocumentoOoxml::chiudiBlocchi() {
     selezione_ = {};
 }
 
+bool DocumentoOoxml::SelezioneInTabella() const {
+    const bool segnalibro = selezione_.genere == Genere::segnalibro;
+    const pugi::xml_node qui = segnalibro ? selezione_.segnalibro.inizio : selezione_.nodo;
+    return chiamato(qui, "w:tc") || antenato(qui, "w:tc") || (segnalibro && chiamato(qui.parent(), "w:tr"));
+}
+
 void DocumentoOoxml::CellaSuccessiva() {
     const bool segnalibro = selezione_.genere == Genere::segnalibro;
     pugi::xml_node qui = segnalibro ? selezione_.segnalibro.inizio : selezione_.nodo;

@@ -23,6 +23,7 @@ public:
     bool HaSegnalibro(std::string_view nome) const override;
     void SelezionaSegnalibro(std::string_view nome) override;
     void SelezionaFine() override;
+    bool SelezioneInTabella() const override;
     void CellaSuccessiva() override;
     void ScriviTesto(std::string_view testo) override;
     void EliminaSelezione() override;

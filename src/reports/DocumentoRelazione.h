@@ -26,11 +26,11 @@ struct ParagrafoRelazione {
     std::string etichetta = {};  ///< of a caption ("Figura"): its number and ". " stand before the text
 };
 
-enum class AllineamentoCella { sinistra, centro, destra };
+enum class AllineamentoTesto { sinistra, centro, destra };
 
 struct ColonnaRelazione {
     double larghezzaMm = 0.0;
-    AllineamentoCella allineamento = AllineamentoCella::sinistra;
+    AllineamentoTesto allineamento = AllineamentoTesto::sinistra;
 };
 
 /// A cell of a made table. Colours are six hexadecimal digits "RRGGBB", or empty for those of the style.
@@ -48,6 +48,7 @@ struct TabellaRelazione {
     std::string stileIntestazione = {};       ///< of those of the heading rows
     std::vector<ColonnaRelazione> colonne{};  ///< 1 to 63
     std::size_t righeIntestazione = 1;        ///< first rows, repeated on each page
+    bool insieme = false;                     ///< on one page, where it is no longer than one
     std::vector<std::vector<CellaRelazione>> righe{};
 };
 
@@ -92,6 +93,8 @@ public:
     /// Puts the selection behind the last paragraph of the body.
     virtual void SelezionaFine() = 0;
 
+    /// True if the selection stands in a cell of a table, or at its side between two cells.
+    virtual bool SelezioneInTabella() const = 0;
     /// Selects the next cell of the table that the selection stands in: along the row, then the first of the next
     /// row; behind the last cell a new row comes, with the formats of the last one and without its content. A merged
     /// cell is one cell; a table inside a cell is no part of the walk. Fault 5 outside a table.

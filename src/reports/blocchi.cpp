@@ -35,13 +35,13 @@ bool misuraSana(double mm) {
     return mm > 0.0 && mm <= massimiMm;
 }
 
-std::string_view allineamento(AllineamentoCella quale) {
+std::string_view allineamento(AllineamentoTesto quale) {
     switch (quale) {
-        case AllineamentoCella::centro:
+        case AllineamentoTesto::centro:
             return "center";
-        case AllineamentoCella::destra:
+        case AllineamentoTesto::destra:
             return "right";
-        case AllineamentoCella::sinistra:
+        case AllineamentoTesto::sinistra:
             break;
     }
     return "left";
@@ -92,7 +92,7 @@ void testata(pugi::xml_node nodo, const TabellaRelazione& tabella, const Stili& 
 /// Where a cell stands and how it is written.
 struct PostoCella {
     std::size_t colonna = 0;
-    bool intestazione = false;
+    bool conSeguente = false;  ///< on the page of the row behind it
     std::string stile;
 };
 
@@ -115,12 +115,12 @@ void riempiCella(pugi::xml_node nodo, const TabellaRelazione& tabella, const Cel
     figlio(voci, "w:vAlign", "w:val", "center");
     pugi::xml_node paragrafo = nodo.append_child("w:p");
     pugi::xml_node come = impostazioni(paragrafo, posto.stile);
-    if (posto.intestazione) {
+    if (posto.conSeguente) {
         come.append_child("w:keepNext");
     }
     const bool unita = cella.colonne > 1;
     figlio(come, "w:jc", "w:val",
-           allineamento(unita ? AllineamentoCella::centro : tabella.colonne[posto.colonna].allineamento));
+           allineamento(unita ? AllineamentoTesto::centro : tabella.colonne[posto.colonna].allineamento));
     const std::string testo = testoAmmesso(cella.testo);
     if (testo.empty()) {
         return;
@@ -139,7 +139,8 @@ void riempiRiga(pugi::xml_node nodo, const TabellaRelazione& tabella, std::size_
     if (intestazione) {
         voci.append_child("w:tblHeader");
     }
-    PostoCella posto{0, intestazione, stile};
+    const bool ultima = riga + 1 == tabella.righe.size();
+    PostoCella posto{0, intestazione || (tabella.insieme && !ultima), stile};
     for (const CellaRelazione& cella : tabella.righe[riga]) {
         riempiCella(nodo.append_child("w:tc"), tabella, cella, posto);
         posto.colonna += static_cast<std::size_t>(cella.colonne);

@@ -30,7 +30,7 @@ TabellaRelazione tabella() {
     TabellaRelazione una;
     una.stile = "tabella kelvo";
     una.colonne = {
-        {40.0, AllineamentoCella::sinistra}, {20.0, AllineamentoCella::destra}, {25.4, AllineamentoCella::centro}};
+        {40.0, AllineamentoTesto::sinistra}, {20.0, AllineamentoTesto::destra}, {25.4, AllineamentoTesto::centro}};
     una.righe = {
         {{"TEMPO"}, {"Flusso", 2}}, {{"07:00 - 07:15"}, {"12,50", 1, "DCDCDC", "C00000"}, {"A & <B>"}}, {{"solo una"}}};
     return una;
@@ -58,6 +58,23 @@ TEST(Blocchi, ATableIsMadeWithItsColumnsHeadingAndStyle) {
     EXPECT_STREQ(nodo.select_node("w:tr[2]/w:tc[2]//w:color").node().attribute("w:val").value(), "C00000");
     EXPECT_STREQ(nodo.select_node("w:tr[2]/w:tc[2]/w:p/w:pPr/w:jc").node().attribute("w:val").value(), "right");
     EXPECT_EQ(letto.errori(), "");
+}
+
+TEST(Blocchi, ATableThatStaysTogetherKeepsEachRowWithTheNext) {
+    for (const bool insieme : {false, true}) {
+        const auto doc = conCorpo(par(segno("T", 1)));
+        doc->SelezionaSegnalibro("T");
+        TabellaRelazione una = tabella();
+        una.insieme = insieme;
+        doc->InserisciTabella(una);
+        const Letto letto(*doc);
+        std::vector<std::size_t> legati;
+        for (const pugi::xml_node riga : letto.corpo().child("w:tbl").children("w:tr")) {
+            legati.push_back(riga.select_nodes(".//w:keepNext").size());
+        }
+        EXPECT_EQ(legati, (std::vector<std::size_t>{2, insieme ? 3U : 0U, 0})) << "never the last one";
+        EXPECT_EQ(letto.errori(), "");
+    }
 }
 
 TEST(Blocchi, WithoutItsStyleATableHasLines) {

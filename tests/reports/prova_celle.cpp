@@ -30,6 +30,22 @@ TEST(Celle, TheWalkGoesAlongTheRowAndOnToTheNext) {
     EXPECT_EQ(letto.errori(), "");
 }
 
+TEST(Celle, ASelectionTellsWhetherItStandsInATable) {
+    const auto doc =
+        conCorpo(par(segno("Fuori", 1) + r("x")) + tbl(2, tr(tc(par(segno("Dentro", 2))) + segno("Fra", 3) + vuotaC)));
+    EXPECT_FALSE(doc->SelezioneInTabella());
+    doc->SelezionaSegnalibro("Fuori");
+    EXPECT_FALSE(doc->SelezioneInTabella());
+    for (const char* nome : {"Dentro", "Fra"}) {
+        doc->SelezionaSegnalibro(nome);
+        EXPECT_TRUE(doc->SelezioneInTabella()) << nome;
+    }
+    doc->CellaSuccessiva();
+    EXPECT_TRUE(doc->SelezioneInTabella());
+    doc->ScriviTesto("y");
+    EXPECT_TRUE(doc->SelezioneInTabella());
+}
+
 TEST(Celle, BehindTheLastCellARowComesWithTheFormatsAndWithoutTheContent) {
     const std::string ricca = tc(par(r("pieno", "<w:b/>") + segno("Dentro", 9), "<w:jc w:val=\"right\"/>") + p("altro"),
                                  "<w:tcW w:w=\"1000\" w:type=\"dxa\"/><w:shd w:val=\"clear\" w:fill=\"DCDCDC\"/>");

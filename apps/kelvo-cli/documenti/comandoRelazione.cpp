@@ -1,0 +1,121 @@
+#include <fmt/format.h>
+
+#include <array>
+#include <functional>
+
+#include "Pittore.h"
+#include "argomenti.h"
+#include "base/guasto.h"
+#include "base/testo.h"
+#include "documenti/documenti.h"
+#include "errori.h"
+#include "impedimenti.h"
+#include "reports/modStampaRelazione.h"
+
+namespace kelvo::cli {
+
+namespace {
+
+/// The reports by the name that the command line gives them.
+struct Tipo {
+    std::string_view nome;
+    bool conRisultati;
+    EsitoRelazione (*compila)(modStampaRelazione& modulo);
+};
+constexpr std::array<Tipo, 5> tipi{{
+    {"ingresso", false, [](modStampaRelazione& m) { return m.compilaRelazioneWord("RelazioneMasterIN"); }},
+    {"risultati", true, [](modStampaRelazione& m) { return m.compilaAllegatiWord("RelazioneMasterOUT"); }},
+    {"completa", true, [](modStampaRelazione& m) { return m.compilaRelazioneWord("RelazioneMasterIN-OUT.dot"); }},
+    {"totale", true, [](modStampaRelazione& m) { return m.compilaRelazioneWord("RelazioneMasterTOT.dot"); }},
+    {"grafici", true, [](modStampaRelazione& m) { return m.compilaGrafici(); }},
+}};
+
+std::string nomiTipi() {
+    std::string nomi;
+    for (const Tipo& tipo : tipi) {
+        nomi += (nomi.empty() ? "" : ", ") + std::string{tipo.nome};
+    }
+    return nomi;
+}
+
+class ComandoRelazione final : public Comando {
+public:
+    explicit ComandoRelazione(CLI::App& radice)
+        : Comando(radice, "relazione", "Compila una relazione del progetto in un documento .docx",
+                  "  kelvo-cli relazione --tipo completa -o Relazione.docx Rotatoria.klv\n"
+                  "  kelvo-cli relazione --tipo ingresso --modello Studio.dotx -o Ipotesi.docx Rotatoria.klv") {
+        app_->add_option_function<std::string>(
+                "--tipo",
+                [this](const std::string& testo) {
+                    for (const Tipo& tipo : tipi) {
+                        tipo_ = tipo.nome == testo ? &tipo : tipo_;
+                    }
+                    if (tipo_ == nullptr) {
+                        throw CLI::ValidationError("--tipo",
+                                                   fmt::format("serve uno di {}, non {}", nomiTipi(), citato(testo)));
+                    }
+                },
+                "quale relazione: " + nomiTipi())
+            ->type_name("TIPO")
+            ->required();
+        aggiungiTesto(*app_, "-o,--uscita", uscita_, "documento .docx da scrivere; se esiste viene sostituito")
+            ->type_name("FILE")
+            ->required();
+        aggiungiTesto(*app_, "--modello", modello_,
+                      "modello .dotx proprio, al posto di quello di Kelvo; non vale per i grafici")
+            ->type_name("FILE");
+        aggiungiIni(comuni_);
+        aggiungiNotte(comuni_);
+        aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
+    }
+
+    int esegui() override {
+        if (maiuscoleAscii(ultimiCaratteri(uscita_, 5)) != ".DOCX") {
+            return usoErrato(*app_, fmt::format("{}: serve un nome che finisce con .docx", citato(uscita_)));
+        }
+        Contesto contesto;
+        if (!contesto.configura(comuni_)) {
+            return uscitaUsoErrato;
+        }
+        if (!contesto.carica(file_)) {
+            return uscitaFallito;
+        }
+        if (tipo_->conRisultati) {
+            const std::string motivo = impedimentoAnalisi(contesto.app().theRotonda());
+            if (!motivo.empty()) {
+                contesto.segnala(static_cast<int>(NumeroGuasto::chiamataNonValida), "relazione", motivo);
+                return uscitaFallito;
+            }
+        }
+        avvisaNotte(contesto, comuni_);
+        return compila(contesto);
+    }
+
+private:
+    int compila(Contesto& contesto) const {
+        const auto pittore = creaPittore(contesto.app().theAmbiente.PercorsoProgramma("Caratteri"));
+        ServiziRelazione servizi{.messaggi = contesto};
+        servizi.disegnatore = pittore ? &pittore->disegnatore() : nullptr;
+        servizi.percorso = uscita_;
+        servizi.modelloProprio = modello_;
+        modStampaRelazione modulo(contesto.app(), servizi);
+        const EsitoRelazione esito = tipo_->compila(modulo);
+        // What a template of one's own leaves out has been told and is no failure.
+        const bool intera = !modello_.empty() || contesto.errori().empty();
+        return esito == EsitoRelazione::fatta && intera ? uscitaFatto : uscitaFallito;
+    }
+
+    const Tipo* tipo_ = nullptr;
+    OpzioniComuni comuni_;
+    std::string uscita_;
+    std::string modello_;
+    std::string file_;
+};
+
+}  // namespace
+
+std::unique_ptr<Comando> comandoRelazione(CLI::App& radice) {
+    return std::make_unique<ComandoRelazione>(radice);
+}
+
+}  // namespace kelvo::cli

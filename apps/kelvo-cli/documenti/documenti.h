@@ -1,0 +1,9 @@
+#pragma once
+
+#include "Comando.h"
+
+namespace kelvo::cli {
+
+std::unique_ptr<Comando> comandoRelazione(CLI::App& radice);
+
+}  // namespace kelvo::cli

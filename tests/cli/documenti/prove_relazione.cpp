@@ -1,0 +1,127 @@
+// relazione: the reports of a project.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+
+#include "cli/processo.h"
+#include "comune/cartella.h"
+#include "reports/DocumentoRelazione.h"
+
+namespace kelvo::prove {
+
+namespace {
+
+const std::string stazione = "Rotatoria_Viale_della_Stazione";
+const std::string saturazione = "Rotatoria_Piazza_Italia";
+
+class ComandoRelazione : public testing::Test {
+protected:
+    std::string file(const std::string& nome) const { return cartella_.file(nome); }
+    Esito relazione(const std::string& tipo, const std::string& progetto, const std::string& uscita,
+                    const std::vector<std::string>& altri = {}) const {
+        std::vector<std::string> argomenti{"relazione", "--tipo", tipo, "-o", uscita, progetto};
+        argomenti.insert(argomenti.end(), altri.begin(), altri.end());
+        return kelvoCli(argomenti);
+    }
+    /// The document that was written.
+    std::unique_ptr<DocumentoRelazione> scritto(const std::string& nome) const {
+        return documentoDaContenuto(contenuto(file(nome)), nome);
+    }
+    CartellaTemporanea cartella_;
+};
+
+TEST_F(ComandoRelazione, WritesEachKindOfReport) {
+    struct Caso {
+        const char* tipo;
+        bool dati;
+        bool risultati;
+        bool corsie;
+    };
+    for (const Caso& caso : {Caso{"ingresso", true, false, false}, Caso{"risultati", false, true, false},
+                             Caso{"completa", true, true, false}, Caso{"totale", true, true, true}}) {
+        const Esito esito = relazione(caso.tipo, esempio(stazione), file("r.docx"), {"--notte", "15"});
+        ASSERT_EQ(esito.codice, 0) << caso.tipo << esito.errori;
+        EXPECT_EQ(esito.uscita, "");
+        EXPECT_EQ(esito.errori, "");
+        const auto documento = scritto("r.docx");
+        EXPECT_EQ(documento->HaSegnalibro("GeometriaIngressi"), caso.dati) << caso.tipo;
+        EXPECT_EQ(documento->HaSegnalibro("CapacitaUltima"), caso.risultati) << caso.tipo;
+        EXPECT_EQ(documento->HaSegnalibro("ParagrafoCorsiaDX"), caso.corsie) << caso.tipo;
+        EXPECT_EQ(documento->Sostituisci("Castelnovo di Ripa", "x"), 1);
+        EXPECT_EQ(documento->Sostituisci("%ComuneProgetto%", "x"), 0);
+    }
+}
+
+TEST_F(ComandoRelazione, EveryExampleHasItsWholeReport) {
+    for (const std::string& nome : esempi()) {
+        const Esito esito = relazione("completa", esempio(nome), file(nome + ".docx"));
+        EXPECT_EQ(esito.codice, 0) << nome << esito.errori;
+        EXPECT_TRUE(scritto(nome + ".docx")->HaSegnalibro("CapacitaUltima")) << nome;
+    }
+}
+
+TEST_F(ComandoRelazione, ReplacesAFileAndLeavesNothingElse) {
+    scriviContenuto(file("r.docx"), "vecchio");
+    EXPECT_EQ(relazione("ingresso", esempio(stazione), file("r.docx")).codice, 0);
+    EXPECT_EQ(contenuto(file("r.docx")).substr(0, 2), "PK");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella_.percorso()), {}), 1);
+}
+
+TEST_F(ComandoRelazione, AWrongUseIsRefusedWithWords) {
+    const Esito tipo = relazione("tutto", esempio(stazione), file("r.docx"));
+    EXPECT_EQ(tipo.codice, 2);
+    EXPECT_NE(tipo.errori.find("ingresso, risultati, completa, totale, grafici"), std::string::npos) << tipo.errori;
+    const Esito nome = relazione("ingresso", esempio(stazione), file("r.doc"));
+    EXPECT_EQ(nome.codice, 2);
+    EXPECT_NE(nome.errori.find(".docx"), std::string::npos) << nome.errori;
+    EXPECT_EQ(kelvoCli({"relazione", "--tipo", "ingresso", esempio(stazione)}).codice, 2);
+    EXPECT_FALSE(std::filesystem::exists(file("r.docx")));
+}
+
+TEST_F(ComandoRelazione, WhatFailsLeavesNoFile) {
+    EXPECT_EQ(relazione("ingresso", file("manca.klv"), file("r.docx")).codice, 1);
+    EXPECT_EQ(relazione("ingresso", esempio(stazione), file("manca/r.docx")).codice, 1);
+    EXPECT_EQ(relazione("ingresso", esempio(stazione), file("r.docx"), {"--modello", file("manca.dotx")}).codice, 1);
+    // The entry radius of 0 divides the calculation by zero; the input alone is reported all the same.
+    scriviContenuto(file("zero.klv"), conCambio(contenuto(esempio(stazione)), "\"Rami\"", "\"RaggioIngresso\": 20",
+                                                "\"RaggioIngresso\": 0"));
+    const Esito esito = relazione("completa", file("zero.klv"), file("r.docx"));
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_NE(esito.errori.find("Divisione per zero"), std::string::npos) << esito.errori;
+    EXPECT_FALSE(std::filesystem::exists(file("r.docx")));
+    EXPECT_EQ(relazione("ingresso", file("zero.klv"), file("r.docx")).codice, 0);
+}
+
+TEST_F(ComandoRelazione, ATemplateOfOnesOwnTakesThePlaceOfTheMaster) {
+    ASSERT_EQ(relazione("ingresso", esempio(stazione), file("prima.docx")).codice, 0);
+    // A finished report is a template without placeholders, whose tables are filled over again.
+    std::filesystem::rename(file("prima.docx"), file("mio.docx"));
+    const Esito esito = relazione("risultati", esempio(stazione), file("r.docx"), {"--modello", file("mio.docx")});
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_NE(esito.errori.find("riempiCapacitaUltima"), std::string::npos) << "what it lacks is told";
+    EXPECT_TRUE(scritto("r.docx")->HaSegnalibro("GeometriaIngressi"));
+}
+
+TEST_F(ComandoRelazione, AStudyOfSaturationAloneHasNoCharts) {
+    const Esito esito = relazione("grafici", esempio(saturazione), file("r.docx"));
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_NE(esito.errori.find("sola saturazione"), std::string::npos) << esito.errori;
+    EXPECT_FALSE(std::filesystem::exists(file("r.docx")));
+}
+
+#ifdef KELVO_CON_DISEGNO
+TEST_F(ComandoRelazione, ReportsHoldTheirPictures) {
+    const Esito esito = relazione("grafici", esempio(stazione), file("g.docx"));
+    ASSERT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(scritto("g.docx")->Sostituisci("Capacità - Ingresso ", "x"), 4);
+    EXPECT_GT(contenuto(file("g.docx")).size(), 200000U) << "twenty pictures at the resolution of print";
+    ASSERT_EQ(relazione("ingresso", esempio(stazione), file("i.docx")).codice, 0);
+    EXPECT_TRUE(scritto("i.docx")->HaSegnalibro("ParagrafoPianta"));
+}
+#endif
+
+}  // namespace
+
+}  // namespace kelvo::prove
