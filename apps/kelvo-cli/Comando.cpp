@@ -55,7 +55,7 @@ int ComandoSuFile::esegui() {
         return uscitaUsoErrato;
     }
     Contesto contesto;
-    if (serveConfigurazione() && !contesto.configura(comuni_)) {
+    if (serveConfigurazione() && !contesto.configura(comuni_, usaCoefficienti())) {
         return uscitaUsoErrato;
     }
     int uscita = uscitaFatto;

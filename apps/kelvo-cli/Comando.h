@@ -50,6 +50,8 @@ protected:
     virtual bool opzioniCoerenti() { return true; }
     /// False if the command computes nothing and needs no configuration.
     virtual bool serveConfigurazione() const { return true; }
+    /// False if the command reads the coefficients of the configuration without computing with them.
+    virtual bool usaCoefficienti() const { return true; }
     /// As that of every command, with its own options.
     void avvisaNotte(Contesto& contesto) const { Comando::avvisaNotte(contesto, comuni_); }
     /// Works on one file; answers false if it failed.

@@ -42,7 +42,7 @@ Contesto::Contesto()
     };
 }
 
-bool Contesto::configura(const OpzioniComuni& opzioni) {
+bool Contesto::configura(const OpzioniComuni& opzioni, bool calcola) {
     if (!opzioni.ini.empty()) {
         app_.theAmbiente.PercorsoIni(opzioni.ini);
     }
@@ -67,7 +67,7 @@ bool Contesto::configura(const OpzioniComuni& opzioni) {
     app_.configurazione.PathErrore.clear();
     app_.configurazione.TraceAbilitato = false;
     const CoefficientiVeicoli coefficienti = app_.configurazione.coefficienti();
-    for (std::size_t i = 0; i < coefficienti.size(); ++i) {
+    for (std::size_t i = 0; calcola && i < coefficienti.size(); ++i) {
         if (!(coefficienti[i] > 0.0F)) {
             avvisa(fmt::format(
                 "configurazione '{}': il coefficiente '{}' della sezione [VEICOLI EQUIVALENTI] {}", ini,

@@ -27,8 +27,8 @@ public:
     Contesto();
 
     /// Reads the configuration; on failure says why on standard error and answers false. A coefficient that is
-    /// missing, 0 or negative is a failure: nothing is ever computed with it.
-    bool configura(const OpzioniComuni& opzioni);
+    /// missing, 0 or negative is a failure for a command that computes: nothing is ever computed with it.
+    bool configura(const OpzioniComuni& opzioni, bool calcola = true);
     /// Drops the errors of the file before and loads a project; on failure the reason is among the errors.
     bool carica(const std::string& file);
     /// Records a failure that is no fault of an operation and says it on standard error, begun with the file.

@@ -20,10 +20,13 @@ public:
 
     int esegui() override {
         const int uscita = ComandoSuFile::esegui();
-        return uscita == uscitaFatto && errore_ ? uscitaErroriProgetto : uscita;
+        return errore_ ? uscitaErroriProgetto : uscita;
     }
 
 private:
+    /// A coefficient of 0 is a finding here.
+    bool usaCoefficienti() const override { return false; }
+
     bool tratta(Contesto& contesto, const std::string& file) override {
         Applicazione& app = contesto.app();
         modERRORI errori(app);
@@ -62,6 +65,9 @@ private:
         Json meta = {{"chiave", riscontro.meta.chiave}, {"campo", riscontro.meta.campo}};
         if (riscontro.meta.ramo > 0) {
             meta["ramo"] = riscontro.meta.ramo;
+        }
+        if (riscontro.meta.riga > 0) {
+            meta["riga"] = riscontro.meta.riga;
         }
         return {{"livello", nomeLivello(riscontro.livello)},
                 {"titolo", titoloRiscontro(riscontro.testo)},

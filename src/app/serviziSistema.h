@@ -143,7 +143,7 @@ public:
 
     /// Waits; answers true at once if the user asked to go on (a key, a click).
     virtual bool pausa(int millisecondi) = 0;
-    /// Lets pending events run.
+    /// Lets pending events run in the middle of some work; those of mouse and keyboard wait for its end.
     virtual void eventi() = 0;
 };
 

@@ -42,11 +42,11 @@ const std::array<FasciaIndice, 7> fasceIndice{{
      "Il progetto soddisfa la maggior parte dei requisiti di visibilità, geometria e segnaletica. Se una carenza "
      "riguarda individuazione dell'incrocio, centratura dell'isola, isole spartitraffico, segnaletica richiesta dal "
      "Codice della Strada, visibilità per l'arresto o attraversamenti, risolverla prima di procedere. Per il resto si "
-     "può passare alla fase successiva insieme all'elenco dei punti aperti: per ciascuno stabilire chi lo risolve e in "
+     "può passare alla fase successiva con l'elenco dei punti aperti: per ciascuno stabilire chi lo risolve e in "
      "quale elaborato, per esempio la verifica illuminotecnica, i particolari costruttivi o la sistemazione dell'isola "
      "centrale."},
     {91, 95, "OTTIMO",
-     "La soluzione è ben sviluppata e le carenze sono poche. Se la carenza riguarda visibilità per l'arresto, "
+     "La soluzione è ben sviluppata e le carenze sono poche. Se una carenza riguarda visibilità per l'arresto, "
      "controllo della velocità, percezione dell'incrocio, attraversamenti o smaltimento delle acque, risolverla prima "
      "di procedere. Si può poi passare al progetto esecutivo: riportare le ultime osservazioni negli elaborati e nel "
      "capitolato, e conservare le risposte della check list come traccia delle verifiche fatte. Resta utile un "

@@ -186,7 +186,8 @@ void frmANALIZZATORE::vai(const Meta& meta) {
 DocumentoPagine frmANALIZZATORE::documento() const {
     if (TabStrip2.corrente() == 0) {
         const auto scheda = static_cast<std::size_t>(TabStrip1.corrente());
-        return documentoReport(documentoDiProgetto(app(), titoliSchede.at(scheda)), elenco(scheda));
+        return documentoReport(documentoDiProgetto(app(), titoliSchede.at(scheda)), elenco(scheda),
+                               segno.visibile() ? segno.testo() : std::string{});
     }
     RisposteCheckList date;
     for (int r = 0; r < static_cast<int>(righeCheckList.size()); ++r) {

@@ -89,6 +89,10 @@ Tabella tabellaDi(int righe) {
 void frmANALIZZATORE::preparaCheckList() {
     ctlGrid.salta = [](Posto posto) { return !domanda(posto.riga) || !risposta(posto.colonna); };
     ctlGrid.versoInvio = Griglia::Verso::giu;
+    ctlGrid.letturaFuori = [this](Posto posto) -> std::optional<std::string> {
+        const auto spuntata = casella(posto);
+        return spuntata ? std::optional<std::string>(*spuntata ? "X" : "") : std::nullopt;
+    };
     ctlGrid.alClic = [this](Posto posto) { cliccata(posto); };
     ctlGrid.alloScorrimento = [this](int /*riga*/) { aggiornaSezione(); };
     ctlGrid.colonna(colonnaTesto, {.allineamento = AllineamentoCella::sinistra, .aCapo = true});
@@ -182,12 +186,13 @@ void frmANALIZZATORE::allunga(int righe) {
 void frmANALIZZATORE::portaSezione(bool avanti) {
     const int meta = rigaSezione(ctlGrid.rigaAlta(), avanti);
     allunga(meta + ctlGrid.righeVisibili);
-    ctlGrid.rigaAlta(meta);
-    // Who goes on by the keyboard answers the first question of the section.
+    // Who goes on by the keyboard answers the first question of the section. Its cell may lie below what a low window
+    // shows, which scrolls to it: the top row comes last.
     const int prima = primaDomanda(meta);
     if (prima >= 0 && ctlGrid.corrente().riga >= 0) {
         ctlGrid.corrente({prima, ctlGrid.corrente().colonna});
     }
+    ctlGrid.rigaAlta(meta);
     aggiornaSezione();
 }
 

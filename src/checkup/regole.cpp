@@ -79,9 +79,11 @@ bool flussoAltissimo(const EsameRamo& e) {
     return flusso(e) > 3801.0F;
 }
 
-/// Share of the right turns; 0 for a row without vehicles.
-double quotaDestra(const EsameRamo& e) {
-    return e.somma > 0.0F ? static_cast<double>(e.destra) / static_cast<double>(e.somma) : 0.0;
+/// Share of the right turns, worked out from the figures as they read, to the nearest single; 0 for a row without
+/// vehicles.
+float quotaDestra(const EsameRamo& e) {
+    const auto letto = [](float valore) { return leggiNumero(testoNumero(valore)).value_or(0.0); };
+    return e.somma > 0.0F ? static_cast<float>(letto(e.destra) / letto(e.somma)) : 0.0F;
 }
 
 bool categorieNulle(const EsameRamo& e) {
@@ -227,11 +229,11 @@ constexpr std::string_view campoGriglia = "ctlGrid";
 // A share of exactly 0.7 is in neither of the first two.
 constexpr std::array matriceVeicoli{
     RegolaRamo{Livello::Yellow, titoliRegole::matrice,
-               [](const EsameRamo& e) { return quotaDestra(e) > 0.4 && quotaDestra(e) < 0.7; },
+               [](const EsameRamo& e) { return quotaDestra(e) > 0.4F && quotaDestra(e) < 0.7F; },
                "Attenzione. Più del 40% dei veicoli entranti da {ramo} eseguono la manovra di svolta a destra "
                ".Verificare possibilità di inserimento corsia preferenziale di svolta.",
                campoGriglia},
-    RegolaRamo{Livello::Yellow, titoliRegole::matrice, [](const EsameRamo& e) { return quotaDestra(e) > 0.7; },
+    RegolaRamo{Livello::Yellow, titoliRegole::matrice, [](const EsameRamo& e) { return quotaDestra(e) > 0.7F; },
                "Attenzione. Più del 70% dei veicoli entranti da {ramo} eseguono la manovra di svolta a destra "
                ".Verificare possibilità di inserimento corsia preferenziale di svolta.",
                campoGriglia},

@@ -72,8 +72,11 @@ void aggiungiLivello(D& documento, const RisposteCheckList& risposte) {
 
 }  // namespace
 
-DocumentoPagine documentoReport(DocumentoPagine documento, const AlberoRiscontri& elenco) {
+DocumentoPagine documentoReport(DocumentoPagine documento, const AlberoRiscontri& elenco, const std::string& avviso) {
     documento.blocchi.emplace_back(D::Titolo{elenco.radice, 2});
+    if (!avviso.empty()) {
+        documento.blocchi.emplace_back(D::Paragrafo{.testo = avviso, .quieto = true});
+    }
     if (elenco.riscontri.empty()) {
         documento.blocchi.emplace_back(D::Paragrafo{std::string{testoNessunRiscontro}});
     }

@@ -9,8 +9,9 @@
 namespace kelvo {
 
 /// The findings of a list behind what stands in `documento` already: the text of its root, one paragraph a finding with
-/// the sign of its level, and what the signs mean.
-DocumentoPagine documentoReport(DocumentoPagine documento, const AlberoRiscontri& elenco);
+/// the sign of its level, and what the signs mean. `avviso`: a remark on all of them, below the root; empty for none.
+DocumentoPagine documentoReport(DocumentoPagine documento, const AlberoRiscontri& elenco,
+                                const std::string& avviso = {});
 
 /// Answers by the row of their question: true for "SI". An unanswered question is not there.
 using RisposteCheckList = std::map<int, bool>;

@@ -61,7 +61,7 @@ void Impaginatore::scorri(const std::shared_ptr<QTextLayout>& testo, double x) {
             ++a;
         }
         // Neither the first nor the last line of a paragraph stands alone on a page.
-        const bool sola = da == 0 && a == 1 && righe > 1;
+        const bool sola = da == 0 && righe > 1 && (a == 1 || (a == 2 && righe == 3));
         if ((a == da || sola) && !vuota()) {
             nuovaPagina();
             continue;

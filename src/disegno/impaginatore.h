@@ -58,5 +58,7 @@ private:
 
 /// Lays out a table from where the page stands.
 void impaginaTabella(Impaginatore& dove, const DocumentoPagine::Tabella& tabella);
+/// Room that a table asks for to begin on a page: its headings and the first row, of a row higher than a page a part.
+double inizioTabella(const QRectF& corpo, const DocumentoPagine::Tabella& tabella);
 
 }  // namespace kelvo::disegno

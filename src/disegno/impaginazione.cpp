@@ -149,6 +149,9 @@ private:
             return altezzaRighe(*testo, 0, testo->lineCount()) + sottoTitolo + (altro ? sopraTitolo : 0.0) +
                    minimo(dopo);
         }
+        if (const auto* tabella = std::get_if<D::Tabella>(&documento_.blocchi[posto])) {
+            return inizioTabella(pagine_.corpo(), *tabella);
+        }
         const auto* figura = std::get_if<D::Figura>(&documento_.blocchi[posto]);
         return figura == nullptr ? conTitolo : altezza(*figura);
     }

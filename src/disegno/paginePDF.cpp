@@ -158,7 +158,7 @@ EsitoDisegno pdfPagine(const DocumentoPagine& documento) {
     scrittore.setCreator(QStringLiteral("Kelvo"));
     QPainter pennello;
     if (!pennello.begin(&scrittore)) {
-        return {.dati = {}, .errore = "il documento non si lascia scrivere"};
+        return {.dati = {}, .errore = "impossibile comporre il documento"};
     }
     const QRectF foglio(0.0, 0.0, scrittore.width(), scrittore.height());
     for (std::size_t i = 0; i < impaginato.pagine.size(); ++i) {

@@ -20,6 +20,8 @@ constexpr double ariaLato = 4.0 * punto;
 constexpr double ariaAlto = 3.0 * punto;
 constexpr double filo = 0.75 * punto;
 constexpr double latoCasella = 9.0 * punto;
+/// A row higher than a page begins where more room is left than so many times the headings.
+constexpr double testatePrima = 3.0;
 
 QString q(const std::string& testo) {
     return QString::fromStdString(testo);
@@ -113,8 +115,7 @@ public:
             const RigaComposta riga = componiRiga(celle);
             const double serve = riga.alta + (sotto ? 0.0 : testate.alta);
             // A row higher than a page begins where it is, if there is some room.
-            const bool lunga = riga.alta + testate.alta > dove_.corpo().height();
-            const bool comincia = lunga && !sotto && dove_.resto() > 3.0 * testate.alta;
+            const bool comincia = lunga(riga, testate) && !sotto && dove_.resto() > testatePrima * testate.alta;
             if (serve > dove_.resto() && !dove_.vuota() && !comincia) {
                 dove_.nuovaPagina();
                 sotto = false;
@@ -130,7 +131,22 @@ public:
         }
     }
 
+    /// Room that the headings and the first row ask for.
+    double inizio() const {
+        const RigaComposta testate = componiTestate();
+        if (tabella_.righe.empty()) {
+            return testate.alta;
+        }
+        const RigaComposta riga = componiRiga(tabella_.righe.front());
+        return lunga(riga, testate) ? testatePrima * testate.alta + punto : testate.alta + riga.alta;
+    }
+
 private:
+    /// Higher than a page with the headings.
+    bool lunga(const RigaComposta& riga, const RigaComposta& testate) const {
+        return riga.alta + testate.alta > dove_.corpo().height();
+    }
+
     std::vector<double> larghezzeMinime() const {
         const QFontMetricsF normale(caratterePagina(corpo_, false));
         const QFontMetricsF forte(caratterePagina(corpo_, true));
@@ -258,6 +274,14 @@ void impaginaTabella(Impaginatore& dove, const DocumentoPagine::Tabella& tabella
     if (!tabella.colonne.empty()) {
         Tavola(dove, tabella).disponi();
     }
+}
+
+double inizioTabella(const QRectF& corpo, const DocumentoPagine::Tabella& tabella) {
+    if (tabella.colonne.empty()) {
+        return 0.0;
+    }
+    Impaginatore pagina(corpo);
+    return Tavola(pagina, tabella).inizio();
 }
 
 }  // namespace kelvo::disegno

@@ -152,7 +152,7 @@ void DocumentoOoxml::SelezionaSegnalibro(std::string_view nome) {
             return;
         }
     }
-    rifiuta(fmt::format("Il segnalibro \"{}\" non esiste nel documento", nome));
+    throw SegnalibroMancante(fmt::format("Il segnalibro \"{}\" non esiste nel documento", nome));
 }
 
 void DocumentoOoxml::SelezionaFine() {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/file.h"
+#include "base/guasto.h"
 
 namespace kelvo {
 
@@ -62,6 +63,13 @@ struct ImmagineRelazione {
     bool conSeguente = true;  ///< on the page of the paragraph behind it: its caption
 };
 
+/// Fault 5 of a bookmark that the document does not have.
+class SegnalibroMancante : public Guasto {
+public:
+    explicit SegnalibroMancante(std::string_view parole)
+        : Guasto(Guasto::conParole(NumeroGuasto::chiamataNonValida, parole)) {}
+};
+
 /// The operations of a word processor that a report needs, on one document.
 ///
 /// Texts are UTF-8. In them a line break (CR LF, LF or CR) becomes a line break of the paragraph and a tab a tab; what
@@ -88,7 +96,7 @@ public:
     virtual int Sbianca(std::span<const std::string_view> elenco) = 0;
 
     virtual bool HaSegnalibro(std::string_view nome) const = 0;
-    /// Selects what a bookmark spans. Fault 5 if there is none of that name.
+    /// Selects what a bookmark spans. A SegnalibroMancante if there is none of that name.
     virtual void SelezionaSegnalibro(std::string_view nome) = 0;
     /// Puts the selection behind the last paragraph of the body.
     virtual void SelezionaFine() = 0;

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <exception>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -135,10 +136,16 @@ void modStampaRelazione::corsie() {
 EsitoRelazione modStampaRelazione::gestisci(const std::string& metodo,
                                             const std::function<EsitoRelazione()>& procedura) {
     EsitoRelazione esito = EsitoRelazione::fallita;
+    const auto registra = [&](const Guasto& guasto) {
+        app_.comune.erroreLog(guasto.codice(), std::string{modulo} + metodo, guasto.descrizione(), true);
+    };
     try {
         esito = procedura();
     } catch (const Guasto& guasto) {
-        app_.comune.erroreLog(guasto.codice(), std::string{modulo} + metodo, guasto.descrizione(), true);
+        registra(guasto);
+    } catch (const std::exception& errore) {
+        // What is no fault of the program's own, such as memory that is not there, ends the run just so.
+        registra(Guasto(NumeroGuasto::operazioneImpossibile, errore.what()));
     }
     if (servizi_.avanzamento != nullptr) {
         servizi_.avanzamento->chiudi();
@@ -205,12 +212,16 @@ void modStampaRelazione::chiude(const std::string& percorso) {
     bool apre = false;
     if (servizi_.percorso.empty()) {
         const std::string testo = fmt::format(
-            "Relazione correttamente compilata.\r\nIl file è stato salvato nella directory: {}\r\nAprire il file ora?",
-            cartellaDi(percorso));
-        apre = servizi_.messaggi.mostra(testo, testi::fatto, Icona::informazione, Pulsanti::siNo) == Risposta::si;
+            "Relazione correttamente compilata.\r\nIl file è stato salvato nella directory: {}", cartellaDi(percorso));
+        if (servizi_.documenti == nullptr) {
+            servizi_.messaggi.mostra(testo, testi::fatto, Icona::informazione, Pulsanti::ok);
+        } else {
+            apre = servizi_.messaggi.mostra(testo + "\r\nAprire il file ora?", testi::fatto, Icona::informazione,
+                                            Pulsanti::siNo) == Risposta::si;
+        }
     }
     fattoPasso();
-    if (apre && (servizi_.documenti == nullptr || !servizi_.documenti->apri(percorso))) {
+    if (apre && !servizi_.documenti->apri(percorso)) {
         servizi_.messaggi.mostra(fmt::format("{}\r\n{}", testi::nonAperto, percorso), testi::attenzione,
                                  Icona::esclamazione, Pulsanti::ok);
     }
@@ -283,13 +294,15 @@ void modStampaRelazione::diceMancanti() {
 void modStampaRelazione::sezione(std::string_view nome, const Passo& procedura) {
     try {
         procedura();
-    } catch (const Guasto& guasto) {
+    } catch (const SegnalibroMancante& guasto) {
         // A template of the user's own may leave sections out: they are told together, not one by one.
         constexpr std::string_view riempi = "riempi";
         if (proprio_ && nome.substr(0, riempi.size()) == riempi) {
             mancanti_.emplace_back(nome.substr(riempi.size()));
         }
         app_.comune.erroreLog(guasto.codice(), fmt::format("{}{}", modulo, nome), guasto.descrizione(), !proprio_);
+    } catch (const Guasto& guasto) {
+        app_.comune.erroreLog(guasto.codice(), fmt::format("{}{}", modulo, nome), guasto.descrizione(), true);
     }
 }
 

@@ -41,7 +41,7 @@ struct AnalisiCorsiaDX {
 struct ServiziRelazione {
     FinestraMessaggi& messaggi;
     DialogoFile* dialogo = nullptr;               ///< where the report is saved; needed without `percorso`
-    ApriDocumenti* documenti = nullptr;           ///< opens it; null: nobody is asked whether to
+    ApriDocumenti* documenti = nullptr;           ///< opens it; null: the end is told and nobody is asked
     AvanzamentoRelazione* avanzamento = nullptr;  ///< null for nobody who looks
     Disegnatore* disegnatore = nullptr;           ///< null: reports have no plan, and there are none of charts
     /// The comparison that is to go into the report; nothing where there is none.
@@ -62,7 +62,7 @@ enum class EsitoRelazione {
 /// section, and whose sections that do not apply are taken away.
 ///
 /// A procedure of a section ends in its own handler: what it cannot do is recorded and the next one runs. A fault of
-/// the run itself ends it; no file is left then.
+/// the run itself, and any other exception, ends it; no file is left then.
 class modStampaRelazione {
 public:
     static constexpr int passiRelazione = 19;

@@ -87,6 +87,8 @@ void modStampaRelazione::riempiAnagraficaRotonda() {
         for (std::size_t i = 0; i < valori.size(); ++i) {
             InserisciVariabileWord(segnaposto::anagrafica[i], valori[i]);
         }
+        InserisciVariabileWord(segnaposto::denominazione,
+                               r.Titolo().empty() ? std::string{} : ", nel progetto denominato «" + r.Titolo() + "»");
         const bool notte = r.CondizioniNotturne();
         InserisciVariabileWord(segnaposto::numeroRami, testoNumero(static_cast<int>(r.NumeroRami())));
         InserisciVariabileWord(segnaposto::tipoAnalisi, nomeAnalisi(r.TipoAnalisi()));

@@ -17,9 +17,9 @@ constexpr Formato dueDecimali = "0.00";
 constexpr double colonnaTempoMm = 28.0;
 constexpr double colonnaRamoMm = 24.0;
 
-/// The vehicle classes as the table of vehicles by segments names them.
-constexpr std::array<const char*, numeroClassi> categorie{"Autoarticolati", "Autocarri", "Autobus",    "Furgoni",
-                                                          "Roulotte",       "Motocicli", "Autovetture"};
+/// The vehicle classes by the names that the window of the shares and the other tables of a report have.
+constexpr std::array<const char*, numeroClassi> categorie{
+    "Autoarticolati", "Autotreni", "Autobus", "Camper", "Roulotte", "Veicoli a due ruote", "Autovetture"};
 
 /// Counts by segments of all legs, and their totals.
 TabellaRelazione tabellaConteggi(const Rotonda& rotonda) {

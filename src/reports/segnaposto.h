@@ -21,6 +21,8 @@ inline constexpr std::array<std::string_view, 7> veicoliEquivalenti{"%VE1%", "%V
 inline constexpr std::string_view condizioniNotturne = "%CN%";
 inline constexpr std::array<std::string_view, 4> ipotesi{"%Ipotesi1%", "%Ipotesi2%", "%Ipotesi3%", "%Ipotesi4%"};
 // What the program adds: of the calculation, of the document, of a report of charts.
+/// Names the project within a sentence, comma included; nothing where it has no title.
+inline constexpr std::string_view denominazione = "%DenominazioneProgetto%";
 inline constexpr std::string_view numeroRami = "%NumeroRami%";
 inline constexpr std::string_view tipoAnalisi = "%TipoAnalisi%";
 inline constexpr std::string_view percentile = "%Percentile%";
@@ -32,10 +34,10 @@ inline constexpr std::string_view sottotitoloGrafico = "%SottotitoloGrafico%";
 
 /// All of them.
 inline constexpr auto tutti = [] {
-    std::array<std::string_view, 37> elenco{tempoIniziale, intervallo,    tempoFinale,   condizioniNotturne,
-                                            numeroRami,    tipoAnalisi,   percentile,    incidenzaNotte,
-                                            versioneKelvo, dataRelazione, titoloGrafico, sottotitoloGrafico};
-    std::size_t posto = 12;
+    std::array<std::string_view, 38> elenco{
+        tempoIniziale,  intervallo,    tempoFinale,   condizioniNotturne, numeroRami,         tipoAnalisi,  percentile,
+        incidenzaNotte, versioneKelvo, dataRelazione, titoloGrafico,      sottotitoloGrafico, denominazione};
+    std::size_t posto = 13;
     for (const auto nome : anagrafica) {
         elenco[posto++] = nome;
     }

@@ -139,7 +139,14 @@ bool MDI_Form::mostraFinestra(std::string_view nome) {
         avviso(std::string{notaNonAncora});
         return false;
     }
-    return gestione.ShowForm(&finestre.finestra(nome, contorno()));
+    const bool nuova = finestre.viva(nome) == nullptr;
+    Finestra& finestra = finestre.finestra(nome, contorno());
+    const bool mostrata = gestione.ShowForm(&finestra);
+    if (!mostrata && nuova && gestione.corrente() != &finestra) {
+        // Never shown, it has read nothing: whoever asks what it shows would be told that all is empty.
+        finestre.distruggi(nome);
+    }
+    return mostrata;
 }
 
 bool MDI_Form::scriviFinestra(Finestra& finestra) {

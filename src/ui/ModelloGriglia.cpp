@@ -34,6 +34,8 @@ QVariant ModelloGriglia::data(const QModelIndex& indice, int ruolo) const {
     const Cella& cella = griglia_.tabella().cella(dove.riga, dove.colonna);
     switch (ruolo) {
         case Qt::DisplayRole:
+        case Qt::AccessibleTextRole:
+            return q(griglia_.testoFuori(dove));
         case Qt::EditRole:
             return q(cella.testo);
         case Qt::TextAlignmentRole:

@@ -187,7 +187,9 @@ void VistaGriglia::mostra() {
         }
         disponi();
     }
-    mostraCorrente();
+    // Who asks for a row on top gets it, wherever the cursor has gone at the same time.
+    const bool altra = rigaAlta_ >= 0 && griglia_.rigaAlta() != rigaAlta_;
+    mostraCorrente(!altra);
     mostraRigaAlta();
     mostraEditor();
     viewport()->update();
@@ -195,16 +197,18 @@ void VistaGriglia::mostra() {
     verticalHeader()->viewport()->update();
 }
 
-void VistaGriglia::mostraCorrente() {
+void VistaGriglia::mostraCorrente(bool scorrendo) {
     const QModelIndex indice = modello_->indice(griglia_.corrente());
     if (currentIndex() != indice) {
+        setAutoScroll(scorrendo);
         selectionModel()->setCurrentIndex(indice, QItemSelectionModel::NoUpdate);
+        setAutoScroll(true);
     }
     if (!(estremo_ == griglia_.estremo()) || !(corrente_ == griglia_.corrente())) {
         corrente_ = griglia_.corrente();
         estremo_ = griglia_.estremo();
         const QModelIndex visto = modello_->indice(estremo_);
-        if (visto.isValid()) {
+        if (scorrendo && visto.isValid()) {
             scrollTo(visto);
         }
     }

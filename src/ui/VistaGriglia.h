@@ -59,7 +59,7 @@ private:
     void disponiLarghezze();
     void disponiAltezze();
     void disponiTestate();
-    void mostraCorrente();
+    void mostraCorrente(bool scorrendo);
     void mostraRigaAlta();
     void mostraEditor();
     void chiudiEditor();

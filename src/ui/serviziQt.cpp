@@ -204,7 +204,8 @@ bool AttesaQt::pausa(int millisecondi) {
 }
 
 void AttesaQt::eventi() {
-    QCoreApplication::processEvents();
+    // What the user does meanwhile waits: a menu or a field must not change the project below the work.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 CronometroQt::CronometroQt() : tempo_(std::make_unique<QTimer>()) {

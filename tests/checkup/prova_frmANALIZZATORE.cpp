@@ -261,6 +261,16 @@ TEST_F(ProveAnalizzatore, TheExportWritesTheTreeOfTheTabInViewAndOpensIt) {
     EXPECT_TRUE(messaggi.mostrati.empty());
 }
 
+TEST_F(ProveAnalizzatore, OverTheCheckListTheExportWritesTheFindingsOfTheInnerTab) {
+    finestra.attivata();
+    finestra.TabStrip1.scegli(3);
+    finestra.TabStrip2.scegli(1);
+    finestra.ctlToolbar.premi("keyAnteprima");
+    EXPECT_EQ(report(), atteso("Report-errore.txt"));
+    EXPECT_EQ(finestra.TabStrip2.corrente(), 1);
+    EXPECT_EQ(documenti.aperti.size(), 1U);
+}
+
 TEST_F(ProveAnalizzatore, AReportThatNobodyOpensIsToldWhereItStands) {
     finestra.attivata();
     documenti.riesce = false;

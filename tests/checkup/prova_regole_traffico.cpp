@@ -123,6 +123,21 @@ TEST_F(RegoleMatrice, SharesOfExactlyTheBoundsAreExactForAnyNumberOfVehicles) {
     }
 }
 
+TEST_F(RegoleMatrice, SharesOfExactlyTheBoundsAreExactForFiguresWithDecimalsToo) {
+    struct Riga {
+        float destra, altre, totale;
+    };
+    for (const Riga& r : {Riga{0.7F, 0.3F, 1.0F}, Riga{2.8F, 1.2F, 4.0F}, Riga{34.3F, 14.7F, 49.0F},
+                          Riga{28.7F, 12.3F, 41.0F}, Riga{0.4F, 0.6F, 1.0F}, Riga{40.4F, 60.6F, 101.0F}}) {
+        ramo(2).theDatiTraffico().FlussoTotale(r.totale);
+        riga(2, r.destra, r.altre, 0.0F);
+        EXPECT_EQ(trova(), Testi{}) << r.destra;
+    }
+    ramo(2).theDatiTraffico().FlussoTotale(101.0F);
+    riga(2, 40.5F, 60.5F, 0.0F);
+    EXPECT_EQ(trova(), Testi{destra("40")});
+}
+
 TEST_F(RegoleMatrice, TheRightTurnOfTheLastLegIsTheCellOfTheFirst) {
     rotonda().MatriceSvolte(60.0F, 4, 1);
     rotonda().MatriceSvolte(20.0F, 4, 2);

@@ -2,13 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "checkup/checkList.h"
 #include "checkup/frmANALIZZATORE.h"
 #include "checkup/stampaControllo.h"
+#include "comune/appunti.h"
 #include "comune/stampaFinta.h"
 #include "scenaControllo.h"
+#include "shell/servizi/MenuChiavi.h"
 #include "shell/servizi/stampaDocumento.h"
 
 namespace kelvo::prove {
@@ -133,6 +136,66 @@ TEST_F(ProveStampa, PapersBearProjectDesignerProgramAndMoment) {
     EXPECT_EQ(documento.chiusura, "Kelvo 1.0.0 - 21/11/2026 10:30:05");
 }
 
+TEST_F(ProveStampa, FindingsOlderThanTheProjectSaySoOnPaper) {
+    const std::string cambiato = "Il progetto è cambiato dopo l'analisi";
+    EXPECT_EQ(paroleDi(finestra.documento()).at(1), "Anagrafica rotatoria:campo 'Comune' non inserito.");
+    rotonda().Comune("Lucca");
+    finestra.attivata();
+    const D documento = finestra.documento();
+    const auto& avviso = std::get<D::Paragrafo>(documento.blocchi.at(1));
+    EXPECT_EQ(avviso.testo, cambiato);
+    EXPECT_TRUE(avviso.quieto);
+    EXPECT_EQ(paroleDi(documento).at(2), "Anagrafica rotatoria:campo 'Comune' non inserito.");
+    finestra.TabStrip2.scegli(1);
+    EXPECT_NE(paroleDi(finestra.documento()).at(1), cambiato) << "answers do not grow old";
+    finestra.Analizza();
+    EXPECT_NE(paroleDi(finestra.documento()).at(1), cambiato);
+}
+
+/// Parts of a text between ends of lines.
+Testi righeDi(const std::string& testo) {
+    Testi righe;
+    for (std::size_t da = 0; da < testo.size();) {
+        const std::size_t fine = std::min(testo.find("\r\n", da), testo.size());
+        righe.push_back(testo.substr(da, fine - da));
+        da = fine + 2;
+    }
+    return righe;
+}
+
+TEST_F(ProveStampa, TheCheckListIsSavedUnderTheNameOfItsPageWithItsAnswersInWords) {
+    finestra.TabStrip2.scegli(1);
+    finestra.ctlGrid.clic(3, frmANALIZZATORE::colonnaSI);
+    finestra.ctlGrid.clic(43, frmANALIZZATORE::colonnaNO);
+    dialogo.risposta = cartella.file("t.csv");
+    finestra.ctlGrid.menu()->premi("mnuXDatiCSV");
+    ASSERT_EQ(dialogo.richieste.size(), 1U);
+    EXPECT_EQ(dialogo.richieste[0].nome, "Check Up Rotatoria- Analisi Check List Progetto.csv");
+    const Testi righe = righeDi(contenuto(*dialogo.risposta));
+    ASSERT_EQ(righe.size(), 44U) << "no empty rows at the end";
+    EXPECT_EQ(righe[1], "VISIBILITA' E LEGGIBILITA';;");
+    EXPECT_EQ(righe[2], ";SI;NO");
+    EXPECT_TRUE(righe[3].ends_with("di giorno che di notte?;X;")) << righe[3];
+    EXPECT_TRUE(righe[4].ends_with("1/4 dell'anello)?;;")) << righe[4];
+    EXPECT_TRUE(righe[43].ends_with("dalla carreggiata?;;X")) << righe[43];
+}
+
+TEST_F(ProveStampa, TheCheckListIsCopiedWithItsAnswersInWords) {
+    AppuntiFinti blocco;
+    app.appunti = &blocco;
+    finestra.TabStrip2.scegli(1);
+    finestra.ctlGrid.clic(3, frmANALIZZATORE::colonnaNO);
+    finestra.ctlGrid.menu()->premi("mnuXDatiCopia");
+    EXPECT_EQ(blocco.testo, "X");
+    finestra.ctlGrid.premiTasto(Griglia::Tasto::tutto);
+    finestra.ctlGrid.menu()->premi("mnuXDatiCopia");
+    const Testi righe = righeDi(blocco.testo);
+    ASSERT_EQ(righe.size(), 44U);
+    EXPECT_TRUE(righe[3].ends_with("di giorno che di notte?\t\tX")) << righe[3];
+    EXPECT_TRUE(righe[43].ends_with("dalla carreggiata?\t\t")) << righe[43];
+    app.appunti = nullptr;
+}
+
 TEST_F(ProveStampa, APrintThatIsGivenUpSaysNothingAndOneThatFailsSaysWhy) {
     stampa.annulla = true;
     finestra.ctlToolbar.premi("keyXStampa");
@@ -165,10 +228,10 @@ TEST_F(ProveStampa, APdfThatCannotBeWrittenIsTold) {
     ASSERT_EQ(messaggi.mostrati.size(), 1U);
     EXPECT_TRUE(messaggi.mostrati[0].testo.starts_with("Impossibile scrivere il file: ")) << messaggi.mostrati[0].testo;
     dialogo.risposta = cartella.file("Controllo.pdf");
-    stampa.errore = "il documento non si lascia scrivere";
+    stampa.errore = "impossibile comporre il documento";
     finestra.ctlToolbar.premi("keyXPDF");
     EXPECT_EQ(messaggi.mostrati.back().testo,
-              "Impossibile scrivere il file: il documento non si lascia scrivere (" + *dialogo.risposta + ")");
+              "Impossibile scrivere il file: impossibile comporre il documento (" + *dialogo.risposta + ")");
     EXPECT_FALSE(std::filesystem::exists(*dialogo.risposta));
 }
 

@@ -105,12 +105,26 @@ TEST_F(Controllo, JsonTellsLevelHeadingTextAndPlace) {
               R"("campo":"txtLungSvasatura","ramo":2}}])");
 }
 
+TEST_F(Controllo, JsonNamesTheRowOfTheTableThatIsWrong) {
+    const Esito esito = kelvoCli(
+        {"controllo", "--json", progetto("Rotatoria_Viale_della_Stazione", "", "[50, 30, 0, 20]", "[50, 30, 0, 21]")});
+    EXPECT_EQ(esito.codice, 3);
+    nlohmann::ordered_json rossi = nlohmann::ordered_json::array();
+    const auto json = nlohmann::ordered_json::parse(esito.uscita);
+    for (const auto& riscontro : json["riscontri"]) {
+        if (riscontro["livello"] == "Red") {
+            rossi.push_back(riscontro["meta"]);
+        }
+    }
+    EXPECT_EQ(rossi.dump(), R"([{"chiave":"keyMatriceSvolte","campo":"ctlGrid","riga":3}])");
+}
+
 TEST_F(Controllo, SeveralFilesComeInOrderAndOneThatFailsDoesNotStopTheOthers) {
     const std::string buono = progetto(mulini);
     const std::string storto = errato();
     const Esito uno = kelvoCli({"controllo", "--json", buono});
     const Esito esito = kelvoCli({"controllo", "--json", "manca.klv", storto, buono});
-    EXPECT_EQ(esito.codice, 1);
+    EXPECT_EQ(esito.codice, 3);
     EXPECT_EQ(esito.errori, "kelvo-cli: manca.klv: il file non esiste\n");
     EXPECT_TRUE(esito.uscita.starts_with("{\"file\":\"manca.klv\",\"errori\":[{\"numero\":53,"));
     EXPECT_TRUE(esito.uscita.ends_with("\n" + uno.uscita));
@@ -130,6 +144,18 @@ TEST_F(Controllo, CoefficientsAreThoseOfTheConfigurationThatIsNamed) {
     EXPECT_NE(esito.uscita.find("[2]  - Composizione traffico:Attenzione.Valore di rapporto equivalenza veicolo "
                                 "personalizzato (Autobus =2,2veic.eq.) .Verificare\r\n"),
               std::string::npos);
+}
+
+TEST_F(Controllo, ACoefficientThatIsMissingOrNotANumberIsAFindingAndStopsNothing) {
+    const std::string ini = cartella_.file("altro.ini");
+    const std::string fabbrica = contenuto(KELVO_SORGENTI "/assets/Kelvo.ini");
+    for (const char* pullman : {"Pullman=", "Pullman=0"}) {
+        scriviContenuto(ini, conCambio(fabbrica, "", "Pullman=1,8", pullman));
+        const Esito esito = kelvoCli({"controllo", "--ini", ini, progetto(mulini)});
+        EXPECT_EQ(esito.codice, 0) << pullman;
+        EXPECT_NE(esito.uscita.find("(Autobus =0veic.eq.)"), std::string::npos) << pullman;
+        EXPECT_EQ(kelvoCli({"calcola", "--ini", ini, progetto(mulini)}).codice, 2) << pullman;
+    }
 }
 
 TEST_F(Controllo, WithoutAUsableConfigurationNothingIsChecked) {

@@ -156,6 +156,69 @@ TEST_F(Pagine, ATitleNeverStandsAloneAtTheFoot) {
     }
 }
 
+TEST_F(Pagine, ATitleStaysWithTheHeadingsAndTheWholeFirstRowOfATable) {
+    for (int sopra = 25; sopra < 45; ++sopra) {
+        D documento = vuoto();
+        for (int i = 0; i < sopra; ++i) {
+            documento.blocchi.emplace_back(D::Paragrafo{"Riga."});
+        }
+        documento.blocchi.emplace_back(D::Titolo{"Un titolo", 1});
+        D::Tabella alta = tabella(1);
+        alta.righe[0][0].testo = "uno\ndue\ntre\nquattro\ncinque\nsei";
+        documento.blocchi.emplace_back(alta);
+        for (const PaginaImpaginata& pagina : impagina(documento).pagine) {
+            EXPECT_EQ(contiene(pagina, "Un titolo"), contiene(pagina, "12,5")) << sopra;
+            EXPECT_EQ(contiene(pagina, "Un titolo"), contiene(pagina, "Segmento")) << sopra;
+        }
+    }
+}
+
+TEST_F(Pagine, ATitleStaysWithTheBeginningOfARowHigherThanAPage) {
+    D::Tabella alta = tabella(1);
+    alta.righe[0][0].testo = "voce0";
+    for (int i = 1; i < 200; ++i) {
+        alta.righe[0][0].testo += "\nvoce" + std::to_string(i);
+    }
+    for (int sopra = 25; sopra < 45; ++sopra) {
+        D documento = vuoto();
+        for (int i = 0; i < sopra; ++i) {
+            documento.blocchi.emplace_back(D::Paragrafo{"Riga."});
+        }
+        documento.blocchi.emplace_back(D::Titolo{"Un titolo", 1});
+        documento.blocchi.emplace_back(alta);
+        for (const PaginaImpaginata& pagina : impagina(documento).pagine) {
+            bool comincia = false;
+            for (const PaginaImpaginata::Brano& brano : pagina.brani) {
+                comincia = comincia || (brano.da == 0 && brano.testo->text().startsWith(QStringLiteral("voce0")));
+            }
+            EXPECT_EQ(contiene(pagina, "Un titolo"), comincia) << sopra;
+        }
+    }
+}
+
+TEST_F(Pagine, ThreeLinesAreNotParted) {
+    // Paragraphs of two sizes above it bring its first line to any place of the page.
+    for (int sopra = 28; sopra < 36; ++sopra) {
+        for (int quieti = 0; quieti < 12; ++quieti) {
+            D documento = vuoto();
+            for (int i = 0; i < sopra + quieti; ++i) {
+                documento.blocchi.emplace_back(D::Paragrafo{.testo = "Riga.", .quieto = i < quieti});
+            }
+            documento.blocchi.emplace_back(D::Paragrafo{"uno\ndue\ntre"});
+            int volte = 0;
+            for (const PaginaImpaginata& pagina : impagina(documento).pagine) {
+                for (const PaginaImpaginata::Brano& brano : pagina.brani) {
+                    if (brano.testo->text().startsWith(QStringLiteral("uno"))) {
+                        EXPECT_EQ(brano.a - brano.da, 3) << sopra << " " << quieti;
+                        ++volte;
+                    }
+                }
+            }
+            EXPECT_EQ(volte, 1) << sopra << " " << quieti;
+        }
+    }
+}
+
 TEST_F(Pagine, TheHeadingsOfATableStandOnEachOfItsPages) {
     D documento = vuoto();
     documento.blocchi.emplace_back(tabella(120));
@@ -330,6 +393,84 @@ TEST_F(Pagine, TheWordsOfThePdfCanBeReadBack) {
     for (const char* parola : {"Documento di prova", "Rotatoria", "Ing. Bianchi", "Pagina 1 di", "Geometria:Lunghezza",
                                "L'isola centrale è centrata?", "Ritardi"}) {
         EXPECT_NE(testo.find(parola), std::string::npos) << parola << "\n" << testo;
+    }
+}
+
+/// A page at two pixels to the point, and places on it.
+class Foto {
+public:
+    Foto(const Impaginato& impaginato, std::size_t pagina)
+        : scala_(lunga / impaginato.foglio.height()),
+          immagine_(static_cast<int>(impaginato.foglio.width() * scala_), static_cast<int>(lunga),
+                    QImage::Format_RGB32) {
+        immagine_.fill(Qt::white);
+        QPainter pennello(&immagine_);
+        dipingiPagina(pennello, impaginato, pagina, QRectF(QPointF(0.0, 0.0), impaginato.foglio * scala_));
+    }
+    /// At a place of a square that is told from 0 to 1.
+    QColor in(const QRectF& quadro, double x, double y) const {
+        return immagine_.pixelColor(static_cast<int>((quadro.left() + x * quadro.width()) * scala_),
+                                    static_cast<int>((quadro.top() + y * quadro.height()) * scala_));
+    }
+    /// Dark pixels in a rectangle.
+    int scuri(const QRectF& dove) const {
+        int quanti = 0;
+        for (auto y = static_cast<int>(dove.top() * scala_); y < static_cast<int>(dove.bottom() * scala_); ++y) {
+            for (auto x = static_cast<int>(dove.left() * scala_); x < static_cast<int>(dove.right() * scala_); ++x) {
+                quanti += qGray(immagine_.pixel(x, y)) < 128 ? 1 : 0;
+            }
+        }
+        return quanti;
+    }
+
+private:
+    static constexpr double lunga = 1684.0;
+    double scala_;
+    QImage immagine_;
+};
+
+void simile(const QColor& trovato, const QColor& atteso, const char* dove) {
+    constexpr int scarto = 24;
+    EXPECT_LT(std::abs(trovato.red() - atteso.red()), scarto) << dove << " " << trovato.name().toStdString();
+    EXPECT_LT(std::abs(trovato.green() - atteso.green()), scarto) << dove << " " << trovato.name().toStdString();
+    EXPECT_LT(std::abs(trovato.blue() - atteso.blue()), scarto) << dove << " " << trovato.name().toStdString();
+}
+
+TEST_F(Pagine, EachSignIsPaintedWhereItStands) {
+    const D documento = campione();
+    const Impaginato impaginato = impagina(documento);
+    const auto& segni = impaginato.pagine.at(0).segni;
+    ASSERT_EQ(segni.size(), 3U);
+    const Foto foto(impaginato, 0);
+    // The ground beside the stroke, the stroke, the paper in the corner.
+    simile(foto.in(segni[0].dove, 0.5, 0.15), QColor(176, 0, 32), "errore");
+    simile(foto.in(segni[0].dove, 0.5, 0.5), QColor(255, 255, 255), "errore, croce");
+    simile(foto.in(segni[1].dove, 0.27, 0.85), QColor(255, 210, 77), "verifica");
+    EXPECT_LT(foto.in(segni[1].dove, 0.5, 0.5).lightness(), 100) << "verifica, punto esclamativo";
+    simile(foto.in(segni[1].dove, 0.08, 0.2), QColor(255, 255, 255), "verifica, fuori");
+    simile(foto.in(segni[2].dove, 0.2, 0.5), QColor(0, 98, 0), "informazione");
+    simile(foto.in(segni[2].dove, 0.5, 0.6), QColor(255, 255, 255), "informazione, lettera");
+}
+
+TEST_F(Pagine, ATickedBoxIsPaintedWithItsTickAndAnEmptyOneWithout) {
+    const D documento = campione();
+    const Impaginato impaginato = impagina(documento);
+    const auto& caselle = impaginato.pagine.at(0).caselle;
+    ASSERT_EQ(caselle.size(), 2U);
+    ASSERT_TRUE(caselle[0].spuntata);
+    ASSERT_FALSE(caselle[1].spuntata);
+    const Foto foto(impaginato, 0);
+    for (const PaginaImpaginata::Casella& casella : caselle) {
+        const double bordo = casella.dove.width() * 0.15;
+        const QRectF dentro = casella.dove.adjusted(bordo, bordo, -bordo, -bordo);
+        const QRectF fuori = casella.dove.adjusted(-bordo, -bordo, bordo, bordo);
+        if (casella.spuntata) {
+            EXPECT_GT(foto.scuri(dentro), 15);
+        } else {
+            EXPECT_EQ(foto.scuri(dentro), 0);
+        }
+        // 18 pixels a side.
+        EXPECT_GT(foto.scuri(fuori) - foto.scuri(dentro), 36);
     }
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "comune/fintiFinestre.h"
 #include "progettoProva.h"
 #include "reports/frmOPZrelazione.h"
@@ -115,6 +117,19 @@ TEST(FrmOPZrelazione, NothingElseStartsWhileAReportIsCompiled) {
     EXPECT_EQ(f.dialogo.richieste.size(), 1U);
     EXPECT_TRUE(f.finestra.cmd[0].abilitato());
     EXPECT_TRUE(f.finestra.cmd[4].abilitato());
+}
+
+TEST(FrmOPZrelazione, AnExceptionInTheRunClosesTheProgressAndFreesTheButtons) {
+    Finestre f;
+    f.attesa.guarda = [] { throw std::runtime_error("imprevisto"); };
+    EXPECT_NO_THROW(f.finestra.cmd[0].premi());
+    EXPECT_EQ(f.errori.size(), 1U);
+    EXPECT_EQ(f.collegate.passi.back(), "chiudi frmRelazioneProgressBar");
+    EXPECT_TRUE(f.finestra.cmd[0].abilitato());
+    EXPECT_FALSE(f.salvato());
+    f.attesa.guarda = {};
+    f.finestra.cmd[0].premi();
+    EXPECT_TRUE(f.salvato()) << "the next run is not refused";
 }
 
 TEST(FrmOPZrelazione, TheReportThatTheOptionsOfferFirstHasTheFocus) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <stdexcept>
 
 #include "comune/fileDifettosi.h"
 #include "progettoProva.h"
@@ -84,6 +85,21 @@ TEST(Relazione, TheQuestionAtTheEndOpensTheReportOnYes) {
             apre ? std::vector{scena.cartella.file("Uscita.docx")} : std::vector<std::string>{};
         EXPECT_EQ(scena.documenti.aperti, aperti);
     }
+}
+
+TEST(Relazione, WithoutAnyoneToOpenItTheEndIsToldAndNothingIsAsked) {
+    Scena scena;
+    scena.messaggi.risposta = Risposta::si;
+    ServiziRelazione servizi = scena.servizi();
+    servizi.documenti = nullptr;
+    modStampaRelazione modulo(scena.app, servizi);
+    EXPECT_EQ(modulo.compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::fatta);
+    EXPECT_TRUE(scena.salvato());
+    ASSERT_EQ(scena.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(
+        scena.messaggi.mostrati.front().testo,
+        "Relazione correttamente compilata.\r\nIl file è stato salvato nella directory: " + scena.cartella.percorso());
+    EXPECT_EQ(scena.messaggi.mostrati.front().pulsanti, Pulsanti::ok);
 }
 
 TEST(Relazione, AFileThatNothingOpensIsTold) {
@@ -207,6 +223,23 @@ TEST(Relazione, AMissingTemplateEndsTheRunWithItsLabel) {
     }
 }
 
+TEST(Relazione, AnExceptionThatIsNoFaultOfTheProgramEndsTheRunLikeAFault) {
+    Scena scena;
+    ServiziRelazione servizi = scena.servizi();
+    servizi.corsiaDX = []() -> std::optional<AnalisiCorsiaDX> { throw std::runtime_error("imprevisto"); };
+    modStampaRelazione modulo(scena.app, servizi);
+    EXPECT_EQ(modulo.compilaRelazioneWord("RelazioneMasterTOT"), EsitoRelazione::fallita);
+    ASSERT_EQ(scena.errori.size(), 1U);
+    EXPECT_EQ(scena.errori.front().metodo, "modStampaRelazione:compilaRelazioneWord");
+    EXPECT_EQ(scena.errori.front().numero, 17);
+    EXPECT_EQ(scena.errori.front().descrizione, "Impossibile eseguire l'operazione richiesta (imprevisto)");
+    EXPECT_EQ(scena.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(scena.avanzamento.passi.back(), "chiudi");
+    EXPECT_FALSE(scena.salvato());
+    // What does not need it is compiled all the same.
+    EXPECT_EQ(modulo.compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::fatta);
+}
+
 TEST(Relazione, ADamagedTemplateEndsTheRunAndLeavesNoFile) {
     Scena scena;
     const std::string percorso = scena.cartella.file("Modelli/RelazioneMasterIN.dotx");
@@ -320,6 +353,19 @@ TEST(Relazione, ATemplateOfTheUsersOwnIsFilledAndWhatItLacksIsToldOnce) {
               "Il modello scelto non ha le sezioni seguenti, che non sono state compilate:\r\n- CapacitaCodeRitardi");
     EXPECT_EQ(scena.messaggi.mostrati[0].titolo, "KELVO 2014 - Informazione");
     EXPECT_EQ(scena.errori.front().metodo, "modStampaRelazione:riempiCapacitaCodeRitardi");
+}
+
+TEST(Relazione, AFaultInATemplateOfTheUsersOwnIsToldWithItsReasonAndIsNoMissingSection) {
+    Scena scena;
+    scena.modelloProprio = scena.cartella.file("Studio.dotx");
+    scriviContenuto(scena.modelloProprio, archivio(parti(par(segno("CapacitaUltima", 1) + r("fuori di una tabella")))));
+    EXPECT_EQ(scena.modulo().compilaAllegatiWord("RelazioneMasterOUT"), EsitoRelazione::fatta);
+    ASSERT_EQ(scena.messaggi.mostrati.size(), 3U) << "the fault, what is missing, the question";
+    EXPECT_NE(scena.messaggi.mostrati[0].testo.find("La selezione non sta in una tabella"), std::string::npos);
+    EXPECT_EQ(scena.messaggi.mostrati[1].testo,
+              "Il modello scelto non ha le sezioni seguenti, che non sono state compilate:\r\n- CapacitaCodeRitardi");
+    ASSERT_EQ(scena.errori.size(), 2U);
+    EXPECT_EQ(scena.errori.front().metodo, "modStampaRelazione:riempiCapacitaUltima");
 }
 
 TEST(Relazione, TheProjectIsNotChanged) {

@@ -124,6 +124,16 @@ TEST(Segnaposto, ValuesOfTheProjectStandWhereTheirTokensStood) {
               "Kelvo " + std::string(versione()) + " - Rotatoria_prova - 21/11/2026\tpagina 2 di 2");
 }
 
+TEST(Segnaposto, ATitleStandsInASentenceThatReadsWellWithoutItToo) {
+    Scena scena;
+    scena.modulo().compilaRelazioneWord("RelazioneMasterIN");
+    EXPECT_NE(Letto::testo(scena.letto().corpo()).find("a 4 rami, nel progetto denominato «Nodo di prova». I rami"),
+              std::string::npos);
+    scena.app.theRotonda().Titolo("");
+    scena.modulo().compilaRelazioneWord("RelazioneMasterIN");
+    EXPECT_NE(Letto::testo(scena.letto().corpo()).find("una rotatoria a 4 rami. I rami"), std::string::npos);
+}
+
 TEST(Segnaposto, ASegmentOfAWholeHourReadsAsTheFormatHasIt) {
     Scena scena;
     scena.app.theRotonda().SegmentoTempo(oraDelGiorno(1, 0));

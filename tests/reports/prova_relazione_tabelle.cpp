@@ -136,11 +136,20 @@ TEST(Sezioni, CompositionBySegments) {
     const Celle2D attese{
         {"INGRESSO B - Via B"},
         {"TEMPO\n[h]", "TIPO [%]"},
-        {"", "Autoarticolati", "Autocarri", "Autobus", "Furgoni", "Roulotte", "Motocicli", "Autovetture"},
+        {"", "Autoarticolati", "Autotreni", "Autobus", "Camper", "Roulotte", "Veicoli a due ruote", "Autovetture"},
         {"08:00 - 08:15", "2", "3", "4", "5", "6", "7", "8"},
         {"08:15 - 08:30", "2", "3", "4", "5", "6", "7", "8"},
         {"08:30 - 08:45", "2", "3", "4", "5", "6", "7", "8"}};
     EXPECT_EQ(celle, attese);
+    // One report calls a class by one name.
+    const Celle2D coefficienti = tabellaDopo(letto, "Coefficienti di equivalenza");
+    const Celle2D quote = tabellaDi(ingresso({}), "ComposizioneTraffico");
+    ASSERT_EQ(coefficienti.size(), 8U);
+    ASSERT_EQ(quote[0].size(), 8U);
+    for (std::size_t c = 1; c < 8; ++c) {
+        EXPECT_EQ(celle[2][c], coefficienti[c][0]);
+        EXPECT_EQ(celle[2][c], quote[0][c]);
+    }
     EXPECT_FALSE(haSegnalibro(letto, "ParagrafoComposizioneTraffico"));
     EXPECT_EQ(tabellaDopo(letto, "- Ingresso C").size(), 6U);
 }

@@ -44,6 +44,30 @@ TEST_F(ProveCSVTabella, ACopyOfTheWholeTableHasTabsAndHeadingsOnWish) {
     EXPECT_EQ(testoDiTabella(griglia, true), "C0\tC1\tC2\tC3\r\nR1\t11\t12\t13\r\nR2\t21\t22\t23\r\nR3\t31\t32\t33");
 }
 
+TEST_F(ProveCSVTabella, WhatLeavesTheTableReadsAsItsOwnerSaysAndEndsWithTheLastRowThatTellsSomething) {
+    Tabella tabella(6, 3);
+    tabella.cella(0, 1).testo = "C1";
+    tabella.cella(0, 2).testo = "C2";
+    tabella.cella(1, 0).testo = "R1";
+    tabella.cella(1, 1).testo = "o";
+    tabella.cella(1, 2).testo = "x";
+    tabella.cella(3, 2).testo = "x";
+    griglia.modificabile = [](Posto) { return false; };
+    griglia.letturaFuori = [this](Posto p) -> std::optional<std::string> {
+        const std::string& scritto = testo(p.riga, p.colonna);
+        return scritto == "x"   ? std::optional<std::string>("X")
+               : scritto == "o" ? std::optional<std::string>("")
+                                : std::nullopt;
+    };
+    griglia.tabella(tabella);
+    EXPECT_EQ(csvDiTabella(griglia), segno + ";C1;C2\r\nR1;;X\r\n;;\r\n;;X\r\n");
+    EXPECT_EQ(testoDiTabella(griglia, false), "\tX\r\n\t\r\n\tX");
+    griglia.premiTasto(Griglia::Tasto::tutto);
+    EXPECT_EQ(griglia.testoSelezione(false), "\tX\r\n\t\r\n\tX");
+    griglia.modificabile = [](Posto) { return true; };
+    EXPECT_EQ(griglia.testoSelezione(false), "\tX\r\n\t\r\n\tX\r\n\t\r\n\t") << "rows to be filled are rows";
+}
+
 TEST(CSVGrafico, ARowForEachPlaceAndAColumnForEachSeries) {
     Grafico::Contenuto contenuto;
     contenuto.x = {.titolo = "[ora]", .etichette = {"08:00", "08:15"}, .passiPerEtichetta = 1.0};

@@ -79,7 +79,48 @@ TEST_F(ProveCampiFinestre, TheFieldsThatFindingsLeadToStandInTheirWindows) {
           Meta{"keyTempoModellazione", "txtSegmentoTempo"}}) {
         ASSERT_TRUE(cornice.albero.UserClick(meta.chiave)) << meta.chiave;
         EXPECT_TRUE(campi.fuocoSu(meta.campo, 0)) << meta.chiave << " " << meta.campo;
+        ASSERT_NE(cornice.gestione.corrente()->fuoco(), nullptr);
+        EXPECT_EQ(cornice.gestione.corrente()->fuoco()->nome(), meta.campo) << meta.chiave;
     }
+}
+
+TEST_F(ProveCampiFinestre, TheTextsThatTheRulesReadStandInTheirWindows) {
+    struct Campo {
+        const char* chiave;
+        const char* finestra;
+        std::vector<const char*> campi;
+    };
+    for (const Campo& uno : {Campo{"keyAnagraficaRotonda",
+                                   "frmAnagraficaRotonda",
+                                   {"txtNomeFile", "txtData", "txtStatoAvanzamento", "txtLocalita", "txtComune",
+                                    "txtProvincia", "txtTitolo", "txtNote"}},
+                             Campo{"keyAnagraficaProfessionista",
+                                   "frmCommittenteProfessionista",
+                                   {"txtNomeProfessionista", "txtIndirizzoProfessionista", "txtCAPProfessionista",
+                                    "txtCittaProfessionista", "txtProvinciaProfessionista", "txtTelefonoProfessionista",
+                                    "txtEMailProfessionista"}},
+                             Campo{"keyTempoModellazione",
+                                   "frmTempoModellazione",
+                                   {"txtTempoIniziale", "txtTempoFinale", "txtSegmentoTempo"}}}) {
+        ASSERT_TRUE(cornice.albero.UserClick(uno.chiave)) << uno.chiave;
+        for (const char* campo : uno.campi) {
+            EXPECT_NE(campi.testo(uno.finestra, campo), std::nullopt) << uno.finestra << " " << campo;
+        }
+    }
+}
+
+TEST_F(ProveCampiFinestre, AWindowThatWasRefusedShowsNothing) {
+    ASSERT_TRUE(cornice.albero.UserClick("keyTempoModellazione"));
+    Finestra* tempi = cornice.gestione.corrente();
+    for (Controllo* c : tempi->ordine()) {
+        if (c->nome() == "txtSegmentoTempo") {
+            ASSERT_TRUE(tempi->fuocoSu(*c));
+            dynamic_cast<tBox&>(*c).scrivi("10");  // empties the end as it is left
+        }
+    }
+    EXPECT_FALSE(cornice.albero.UserClick("keyAnagraficaProfessionista"));
+    EXPECT_EQ(cornice.gestione.corrente(), tempi);
+    EXPECT_EQ(campi.testo("frmCommittenteProfessionista", "txtNomeProfessionista"), std::nullopt);
 }
 
 TEST_F(ProveCampiFinestre, CountsAndCompositionBySegmentsHaveTheirTables) {

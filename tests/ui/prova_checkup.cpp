@@ -1,11 +1,16 @@
 // The check-up by keyboard and mouse: findings and the way to their fields, messages, check list, papers.
 
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <set>
 #include <string>
 
 #include "checkup/checkList.h"
@@ -13,6 +18,7 @@
 #include "ui/VistaGriglia.h"
 #include "ui/banco.h"
 #include "ui/checkup/VistaRiscontri.h"
+#include "ui/stile.h"
 
 namespace kelvo::prove {
 namespace {
@@ -106,6 +112,86 @@ protected:
         rotonda().Data(rotonda().Data() - 400.0);
     }
 
+    /// The keyboard is on the widget of a control or on a part of it.
+    static bool fuocoIn(const std::string& campo) {
+        const QWidget* oggetto = QApplication::focusWidget();
+        while (oggetto != nullptr && oggetto->objectName().toStdString() != campo) {
+            oggetto = oggetto->parentWidget();
+        }
+        return oggetto != nullptr;
+    }
+    /// Goes from every finding to its field by Enter; the places that they lead to.
+    std::set<std::string> percorriTutti() {
+        std::set<std::string> mete;
+        const int quanti = albero().topLevelItem(0)->childCount();
+        for (int i = 0; i < quanti; ++i) {
+            mete.insert(percorri(i));
+            if (testing::Test::HasFatalFailure()) {
+                break;
+            }
+        }
+        return mete;
+    }
+    std::string percorri(int quale) {
+        std::string dove;
+        const auto prova = [&] {
+            gesti::clicNodo(banco.albero(), "keyAnalizzatore");
+            ASSERT_TRUE(attendi([&] { return banco.nomeCorrente() == "frmANALIZZATORE"; }))
+                << banco.nomeCorrente() << " keeps the user: " << banco.ultimo() << banco.cornice.ctlStatusBar.avviso();
+            smaltisci();
+            QTreeWidgetItem* riga = albero().topLevelItem(0)->child(quale);
+            const std::string chiave = ui::VistaRiscontri::chiaveDi(riga);
+            const Meta meta = finestra().riscontro(finestra().ctlTreeAnalizzatore, chiave)->meta;
+            dove = meta.chiave + " " + meta.campo;
+            banco.entra("ctlTreeAnalizzatore");
+            albero().setCurrentItem(riga);
+            tasto(Qt::Key_Return);
+            smaltisci();
+            ASSERT_NE(banco.nomeCorrente(), "frmANALIZZATORE") << riga->text(0).toStdString();
+            EXPECT_EQ(gesti::selezionato(banco.albero()), meta.chiave);
+            const Controllo* campo = banco.cornice.gestione.corrente()->fuoco();
+            ASSERT_NE(campo, nullptr) << dove;
+            EXPECT_EQ(campo->nome(), meta.campo) << meta.chiave;
+            EXPECT_TRUE(fuocoIn(meta.campo)) << dove << ": " << gesti::fuoco();
+            if (const auto* griglia = dynamic_cast<const Griglia*>(campo); griglia != nullptr && meta.riga > 0) {
+                EXPECT_EQ(griglia->corrente().riga, meta.riga) << dove;
+            }
+        };
+        prova();
+        return dove;
+    }
+    static bool vicino(const QColor& a, const QColor& b) {
+        constexpr int scarto = 3;  // of a smooth edge
+        return std::abs(a.red() - b.red()) <= scarto && std::abs(a.green() - b.green()) <= scarto &&
+               std::abs(a.blue() - b.blue()) <= scarto;
+    }
+    /// A cell of the check list as the screen shows it: pixels of a colour in its box, which is 15 wide, and the colour
+    /// beside the tick.
+    struct CasellaVista {
+        QColor fondo;
+        int bianchi = 0;
+        int orlo = 0;
+    };
+    CasellaVista guarda(Posto cella) {
+        auto& griglia = banco.oggetto<ui::VistaGriglia>("ctlGrid");
+        const QImage foto = griglia.grab().toImage();
+        const double scala = foto.devicePixelRatio();
+        const QPoint centro = griglia.posto(cella).center();
+        const auto colore = [&](int dx, int dy) {
+            return foto.pixelColor(static_cast<int>(std::lround((centro.x() + dx) * scala)),
+                                   static_cast<int>(std::lround((centro.y() + dy) * scala)));
+        };
+        CasellaVista vista{.fondo = colore(-4, -4)};
+        for (int dx = -8; dx <= 8; ++dx) {
+            for (int dy = -8; dy <= 8; ++dy) {
+                const bool dentro = std::max(std::abs(dx), std::abs(dy)) <= 5;
+                vista.bianchi += dentro && colore(dx, dy).lightness() > 200 ? 1 : 0;
+                vista.orlo += !dentro && vicino(colore(dx, dy), ui::qcolore(tinta::bordoCampo)) ? 1 : 0;
+            }
+        }
+        return vista;
+    }
+
     Banco banco;
 };
 
@@ -137,25 +223,50 @@ TEST_F(CheckUp, EveryFindingLeadsByEnterToAFieldThatStandsInItsWindow) {
     nuovo();
     tuttoSbagliato();
     apri();
-    const int quanti = albero().topLevelItem(0)->childCount();
-    for (int i = 0; i < quanti; ++i) {
-        gesti::clicNodo(banco.albero(), "keyAnalizzatore");
-        ASSERT_TRUE(attendi([&] { return banco.nomeCorrente() == "frmANALIZZATORE"; }))
-            << banco.nomeCorrente() << " keeps the user: " << banco.ultimo() << banco.cornice.ctlStatusBar.avviso();
-        smaltisci();
-        QTreeWidgetItem* riga = albero().topLevelItem(0)->child(i);
-        const std::string chiave = ui::VistaRiscontri::chiaveDi(riga);
-        const Meta meta = finestra().riscontro(finestra().ctlTreeAnalizzatore, chiave)->meta;
-        banco.entra("ctlTreeAnalizzatore");
-        albero().setCurrentItem(riga);
-        tasto(Qt::Key_Return);
-        smaltisci();
-        ASSERT_NE(banco.nomeCorrente(), "frmANALIZZATORE") << riga->text(0).toStdString();
-        EXPECT_EQ(gesti::selezionato(banco.albero()), meta.chiave);
-        ASSERT_NE(banco.cornice.gestione.corrente()->fuoco(), nullptr) << meta.chiave << " " << meta.campo;
-        EXPECT_EQ(banco.cornice.gestione.corrente()->fuoco()->nome(), meta.campo) << meta.chiave;
-        EXPECT_EQ(gesti::fuoco(), meta.campo) << meta.chiave;
+    const auto mete = percorriTutti();
+    for (const char* meta : {"keyDatiTraffico1 txtFlussoTempo1", "keyDatiTraffico4 txtFlussoTempo2",
+                             "keyMatriceSvolte ctlGrid", "keyComposizioneTraffico4 txtAutotreni"}) {
+        EXPECT_TRUE(mete.contains(meta)) << meta;
     }
+}
+
+TEST_F(CheckUp, OfAStudyOfTheSaturationInPerCentEveryFindingLeadsToItsFieldToo) {
+    nuovo();
+    tuttoSbagliato();
+    rotonda().TipoAnalisi(0);
+    rotonda().TipoMatriceSvolte(1);
+    banco.cornice.SetUpOpzioni();
+    const std::string ini = banco.app.theAmbiente.PercorsoIni();
+    std::string scritto = contenuto(ini);
+    for (const auto& [prima, dopo] :
+         {std::pair{"Autoarticolati=2,5", "Autoarticolati=3"}, std::pair{"Motocicli=0,8", "Motocicli=0,5"}}) {
+        const auto posto = scritto.find(prima);
+        ASSERT_NE(posto, std::string::npos) << prima;
+        scritto.replace(posto, std::string{prima}.size(), dopo);
+    }
+    scriviContenuto(ini, scritto);
+    apri();
+    const auto mete = percorriTutti();
+    for (const char* meta : {"keyOpzioni grpTipoAnalisi", "keyOpzioni txtAutoarticolati", "keyOpzioni txtMotocicli",
+                             "keyMatriceSvolte ctlGrid", "keyComposizioneTraffico1 txtAutoarticolati"}) {
+        EXPECT_TRUE(mete.contains(meta)) << meta;
+    }
+    EXPECT_FALSE(mete.contains("keyOpzioni txtCamper"));
+}
+
+TEST_F(CheckUp, OfAStudyBySegmentsEveryFindingLeadsToItsTableToo) {
+    nuovo();
+    tuttoSbagliato();
+    rotonda().TipoAnalisi(2);
+    rotonda().TipoFlusso(1);
+    banco.cornice.SetUpOpzioni();
+    apri();
+    const auto mete = percorriTutti();
+    for (const char* meta : {"keyDatiTraffico1 ctlGrid", "keyDatiTraffico4 ctlGrid", "keyMatriceSvolte ctlGrid",
+                             "keyComposizioneTraffico1 ctlGrid", "keyComposizioneTraffico4 ctlGrid"}) {
+        EXPECT_TRUE(mete.contains(meta)) << meta;
+    }
+    EXPECT_FALSE(mete.contains("keyDatiTraffico1 txtFlussoTempo1"));
 }
 
 TEST_F(CheckUp, AFindingOnAMatrixRowPutsTheCursorThere) {
@@ -196,6 +307,24 @@ TEST_F(CheckUp, AClickShowsTheMessageAndEscapeClosesIt) {
     EXPECT_EQ(titolo, "Kelvo 1.0 - CheckUp Rotatoria messaggio - Prova");
     EXPECT_EQ(gruppo, "Messaggi di Informazione : ");
     EXPECT_EQ(testo, "Anagrafica rotatoria:campo 'Comune' non inserito.");
+    EXPECT_EQ(banco.nomeCorrente(), "frmANALIZZATORE");
+}
+
+TEST_F(CheckUp, ThePictureOfTheMessageClosesIt) {
+    nuovo();
+    tuttoInOrdine();
+    rotonda().Comune("");
+    apri();
+    gesti::AlModale messaggio("frmCheckUpMessaggio", [&](QWidget& dialogo) {
+        auto* chiudi = dialogo.findChild<QAbstractButton*>(QStringLiteral("ImageCHIUDI"));
+        ASSERT_NE(chiudi, nullptr);
+        EXPECT_FALSE(chiudi->icon().isNull());
+        gesti::clic(*chiudi, chiudi->rect().center());
+    });
+    banco.entra("ctlTreeAnalizzatore");
+    tasto(Qt::Key_Space);
+    ASSERT_TRUE(attendi([&] { return messaggio.avvenuto(); }));
+    EXPECT_FALSE(messaggio.rimasto());
     EXPECT_EQ(banco.nomeCorrente(), "frmANALIZZATORE");
 }
 
@@ -319,6 +448,65 @@ TEST_F(CheckUp, SectionsAreTurnedByKeysAndByTheirArrows) {
     smaltisci();
     EXPECT_EQ(finestra().ctlGrid.rigaAlta(), 0);
     EXPECT_EQ(banco.oggetto("cmdAVANTIsezione").toolTip().toStdString(), "Sezione seguente (Ctrl+PagGiù)");
+}
+
+TEST_F(CheckUp, InTheSmallestWindowTooTheSectionsStandOnTop) {
+    nuovo();
+    apri();
+    apriCheckList();
+    for (std::size_t r = 0; r < righeCheckList.size(); ++r) {
+        finestra().ctlGrid.clic(static_cast<int>(r), no);
+    }
+    finestra().ctlGrid.corrente({3, si});
+    ASSERT_FALSE(parole("lblCommento").empty());
+    const auto& griglia = banco.oggetto<ui::VistaGriglia>("ctlGrid");
+    const auto premi = [&](const char* nome) {
+        auto& freccia = banco.oggetto<QAbstractButton>(nome);
+        gesti::clic(freccia, freccia.rect().center());
+        smaltisci();
+    };
+    for (const QSize misura : {QSize(ui::misura::larghezzaMinima, ui::misura::altezzaMinima), QSize(1366, 768)}) {
+        banco.vista.resize(misura);
+        smaltisci();
+        for (int i = 0; i < 6; ++i) {
+            premi("cmdINDIETROsezione");
+        }
+        EXPECT_EQ(griglia.rowAt(0), 0) << misura.height();
+        for (const int riga : {8, 21, 28, 34}) {
+            premi("cmdAVANTIsezione");
+            EXPECT_EQ(finestra().ctlGrid.rigaAlta(), riga) << misura.height();
+            EXPECT_EQ(griglia.rowAt(0), riga) << misura.height();
+        }
+        for (const int riga : {28, 21, 8, 0}) {
+            premi("cmdINDIETROsezione");
+            EXPECT_EQ(finestra().ctlGrid.rigaAlta(), riga) << misura.height();
+            EXPECT_EQ(griglia.rowAt(0), riga) << misura.height();
+        }
+    }
+}
+
+TEST_F(CheckUp, TheBoxesAreDrawnEmptyAndTicked) {
+    nuovo();
+    apri();
+    apriCheckList();
+    const CasellaVista prima = guarda({4, no});
+    EXPECT_EQ(prima.fondo, QColor(Qt::white));
+    EXPECT_GT(prima.orlo, 30);
+    auto& griglia = banco.oggetto<ui::VistaGriglia>("ctlGrid");
+    gesti::clic(*griglia.viewport(), griglia.posto({4, no}).center() - griglia.viewport()->pos());
+    smaltisci();
+    const CasellaVista spuntata = guarda({4, no});
+    EXPECT_TRUE(vicino(spuntata.fondo, ui::qcolore(tinta::principale))) << spuntata.fondo.name().toStdString();
+    EXPECT_GT(spuntata.bianchi, 5) << "the tick";
+    EXPECT_LT(spuntata.bianchi, 60);
+    EXPECT_EQ(spuntata.orlo, 0);
+    const CasellaVista vuota = guarda({4, si});
+    EXPECT_EQ(vuota.fondo, QColor(Qt::white));
+    EXPECT_EQ(vuota.bianchi, 121) << "nothing in it";
+    EXPECT_GT(vuota.orlo, 30);
+    EXPECT_EQ(griglia.model()->index(4, no).data(Qt::AccessibleTextRole).toString(), QStringLiteral("X"));
+    EXPECT_EQ(griglia.model()->index(4, no).data().toString(), QStringLiteral("X"));
+    EXPECT_EQ(griglia.model()->index(4, si).data().toString(), QString());
 }
 
 TEST_F(CheckUp, ABoxIsTickedByTheMouse) {

@@ -1,10 +1,13 @@
 #include <fmt/format.h>
 
 #include <array>
+#include <filesystem>
 #include <functional>
+#include <system_error>
 
 #include "Pittore.h"
 #include "argomenti.h"
+#include "base/file.h"
 #include "base/guasto.h"
 #include "base/testo.h"
 #include "documenti/documenti.h"
@@ -36,6 +39,17 @@ std::string nomiTipi() {
         nomi += (nomi.empty() ? "" : ", ") + std::string{tipo.nome};
     }
     return nomi;
+}
+
+/// True if the file `uscita` is the template that `modello` names, however either is spelled.
+bool eIlModello(const std::string& uscita, const std::string& modello) {
+    if (modello.empty()) {
+        return false;
+    }
+    const std::filesystem::path scelto = percorsoDaTesto(modello);
+    const std::string trovato = trovaModello(testoDaPercorso(scelto.parent_path()), testoDaPercorso(scelto.filename()));
+    std::error_code errore;
+    return !trovato.empty() && std::filesystem::equivalent(percorsoDaTesto(uscita), percorsoDaTesto(trovato), errore);
 }
 
 class ComandoRelazione final : public Comando {
@@ -72,6 +86,9 @@ public:
     int esegui() override {
         if (maiuscoleAscii(ultimiCaratteri(uscita_, 5)) != ".DOCX") {
             return usoErrato(*app_, fmt::format("{}: serve un nome che finisce con .docx", citato(uscita_)));
+        }
+        if (eIlModello(uscita_, modello_)) {
+            return usoErrato(*app_, fmt::format("{}: è il modello, che la relazione sostituirebbe", citato(uscita_)));
         }
         Contesto contesto;
         if (!contesto.configura(comuni_)) {

@@ -92,6 +92,9 @@ public:
     std::function<bool(Posto)> salta;
     /// What stands in a cell beside its text.
     std::function<OrnamentoCella(Posto)> ornamento;
+    /// What a cell reads like outside of the grid where that is not its text: to who copies or saves it and to who is
+    /// read to. Nothing for a cell that reads like its text.
+    std::function<std::optional<std::string>(Posto)> letturaFuori;
     /// A typed text is to go into a cell, which may mend or refuse it; refused, the editor stays open, with what the
     /// outcome puts in the place of the text.
     std::function<EsitoUscita(Posto, std::string&)> allaConferma;
@@ -141,7 +144,12 @@ public:
     std::size_t lunghezzaAmmessa() const;
     /// The last text was refused.
     bool fallita() const { return fallita_; }
+    /// What a cell reads like outside of the grid.
+    std::string testoFuori(Posto posto) const;
+    /// A row that tells nothing outside: no text in it and no cell that may be typed into.
+    bool muta(int riga) const;
     /// The selected cells as text: tabs between cells, CR LF between rows; with the fixed ones that belong to them.
+    /// Mute rows at the end stay out.
     std::string testoSelezione(bool conIntestazioni) const;
     /// Counts the changes of texts, colours and columns.
     unsigned versione() const { return versione_; }

@@ -74,8 +74,25 @@ bool Griglia::comanda(Tasto tasto) {
     }
 }
 
+std::string Griglia::testoFuori(Posto posto) const {
+    const std::optional<std::string> altra = letturaFuori ? letturaFuori(posto) : std::nullopt;
+    return altra ? *altra : testo(posto.riga, posto.colonna);
+}
+
+bool Griglia::muta(int riga) const {
+    for (int c = 0; c < tabella_.colonne(); ++c) {
+        if (visibile(c) && (puoModificare({riga, c}) || !testoFuori({riga, c}).empty())) {
+            return false;
+        }
+    }
+    return true;
+}
+
 std::string Griglia::testoSelezione(bool conIntestazioni) const {
-    const AreaCelle area = selezione();
+    AreaCelle area = selezione();
+    while (area.a.riga > area.da.riga && muta(area.a.riga)) {
+        --area.a.riga;
+    }
     std::string uscita;
     bool prima = true;
     for (int r = conIntestazioni ? 0 : area.da.riga; r <= area.a.riga; ++r) {
@@ -89,7 +106,7 @@ std::string Griglia::testoSelezione(bool conIntestazioni) const {
             if (!visibile(c) || (c < area.da.colonna && c >= colonneFisse_)) {
                 continue;
             }
-            uscita += (primaCella ? "" : "\t") + inUnaRiga(testo(r, c));
+            uscita += (primaCella ? "" : "\t") + inUnaRiga(testoFuori({r, c}));
             primaCella = false;
         }
     }

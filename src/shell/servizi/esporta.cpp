@@ -48,12 +48,16 @@ std::string testoCSV(const Righe& righe) {
 
 Righe righeDi(const Griglia& griglia, bool conIntestazioni) {
     const Tabella& tabella = griglia.tabella();
+    int fine = tabella.righe();
+    while (fine > griglia.righeFisse() && griglia.muta(fine - 1)) {
+        --fine;
+    }
     Righe righe;
-    for (int r = conIntestazioni ? 0 : griglia.righeFisse(); r < tabella.righe(); ++r) {
+    for (int r = conIntestazioni ? 0 : griglia.righeFisse(); r < fine; ++r) {
         std::vector<std::string>& riga = righe.emplace_back();
         for (int c = conIntestazioni ? 0 : griglia.colonneFisse(); c < tabella.colonne(); ++c) {
             if (!griglia.colonna(c).nascosta) {
-                riga.push_back(inUnaRiga(tabella.testo(r, c)));
+                riga.push_back(inUnaRiga(griglia.testoFuori({r, c})));
             }
         }
     }

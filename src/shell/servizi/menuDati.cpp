@@ -114,11 +114,11 @@ void MenuDati::segnala(const std::string& testo) {
 void MenuDati::salva(std::string_view estensione, const std::function<EsitoDisegno()>& dati) {
     const auto* voce = std::find_if(estensioni.begin(), estensioni.end(),
                                     [&](const Estensione& e) { return e.estensione == estensione; });
-    const RichiestaFile richiesta{
-        .estensione = std::string{estensione},
-        .filtro = voce->filtro,
-        .cartella = cartellaProgetti(contorno_.app.theAmbiente),
-        .nome = nomeFileDati(finestra_.didascalia(), finestra_.sottotitolo.testo()) + "." + std::string{estensione}};
+    const RichiestaFile richiesta{.estensione = std::string{estensione},
+                                  .filtro = voce->filtro,
+                                  .cartella = cartellaProgetti(contorno_.app.theAmbiente),
+                                  .nome = nomeFileDati(finestra_.pannello.testo(), finestra_.sottotitolo.testo()) +
+                                          "." + std::string{estensione}};
     const std::optional<std::string> percorso = contorno_.servizi.dialogo->salva(richiesta);
     if (!percorso) {
         return;

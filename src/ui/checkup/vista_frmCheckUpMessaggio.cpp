@@ -42,6 +42,8 @@ public:
         colonna()->addLayout(testa);
         auto* vai = qobject_cast<QPushButton*>(collega(f.cmdVaiAlCampo, this));
         auto* chiudi = qobject_cast<QPushButton*>(collega(f.ImageCHIUDI, this));
+        chiudi->setIcon(icona("Chiudi", false));
+        chiudi->setIconSize({misura::icona, misura::icona});
         (f.cmdVaiAlCampo.abilitato() ? vai : chiudi)->setDefault(true);
         alPiede(vai);
         alPiede(chiudi);

@@ -104,6 +104,26 @@ TEST_F(ComandoRelazione, ATemplateOfOnesOwnTakesThePlaceOfTheMaster) {
     EXPECT_TRUE(scritto("r.docx")->HaSegnalibro("GeometriaIngressi"));
 }
 
+TEST_F(ComandoRelazione, TheTemplateIsNotReplacedByItsReport) {
+    ASSERT_EQ(relazione("ingresso", esempio(stazione), file("mio.docx")).codice, 0);
+    const std::string prima = contenuto(file("mio.docx"));
+    std::filesystem::create_directories(file("sotto"));
+    std::filesystem::create_symlink(file("mio.docx"), file("altro.docx"));
+    const std::vector<std::pair<std::string, std::string>> coppie{
+        {"mio.docx", "mio.docx"}, {"sotto/../mio.docx", "./mio.docx"}, {"altro.docx", "mio.docx"}, {"mio", "mio.docx"}};
+    for (const auto& [modello, uscita] : coppie) {
+        const Esito esito = relazione("ingresso", esempio(stazione), file(uscita), {"--modello", file(modello)});
+        EXPECT_EQ(esito.codice, 2) << modello;
+        EXPECT_NE(esito.errori.find("è il modello"), std::string::npos) << esito.errori;
+        EXPECT_EQ(contenuto(file("mio.docx")), prima) << modello;
+    }
+    // Another file is replaced as ever.
+    scriviContenuto(file("r.docx"), "vecchio");
+    EXPECT_EQ(relazione("ingresso", esempio(stazione), file("r.docx"), {"--modello", file("mio.docx")}).codice, 0);
+    EXPECT_EQ(contenuto(file("r.docx")).substr(0, 2), "PK");
+    EXPECT_EQ(contenuto(file("mio.docx")), prima);
+}
+
 TEST_F(ComandoRelazione, AStudyOfSaturationAloneHasNoCharts) {
     const Esito esito = relazione("grafici", esempio(saturazione), file("r.docx"));
     EXPECT_EQ(esito.codice, 1);
