@@ -1,7 +1,10 @@
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QTextLayout>
 #include <algorithm>
+#include <cstddef>
 #include <numeric>
+#include <type_traits>
+#include <utility>
 
 #include "disegno/caratteri.h"
 #include "disegno/impaginatore.h"
@@ -16,6 +19,9 @@ using D = DocumentoPagine;
 constexpr double corpoMassimo = 9.0;
 constexpr double corpoMinimo = 6.0;
 constexpr double passoCorpo = 0.5;
+constexpr double corpoComodo = 7.5;  ///< what needs a smaller one on a page that stands, lies
+constexpr double corpoFasce = 8.0;   ///< of what is parted in bands
+constexpr double traFasce = 10.0 * punto;
 constexpr double ariaLato = 4.0 * punto;
 constexpr double ariaAlto = 3.0 * punto;
 constexpr double filo = 0.75 * punto;
@@ -86,6 +92,24 @@ std::vector<double> dividi(double larghezza, const D::Tabella& tabella, const st
     return parti;
 }
 
+/// What each column needs at least in a type.
+std::vector<double> larghezzeMinime(const D::Tabella& tabella, double corpo) {
+    const QFontMetricsF normale(caratterePagina(corpo, false));
+    const QFontMetricsF forte(caratterePagina(corpo, true));
+    std::vector<double> minime;
+    for (std::size_t c = 0; c < tabella.colonne.size(); ++c) {
+        double minima = parolaPiuLunga(q(tabella.colonne[c].titolo), forte);
+        for (const std::vector<D::Cella>& celle : tabella.righe) {
+            const D::Cella& cella = celle.at(c);
+            minima =
+                std::max(minima, cella.casella ? latoCasella
+                                               : parolaPiuLunga(q(cella.testo), cella.grassetto ? forte : normale));
+        }
+        minime.push_back(minima + 2.0 * ariaLato + filo);
+    }
+    return minime;
+}
+
 /// A row with its texts in the widths of their columns.
 struct RigaComposta {
     std::vector<std::shared_ptr<QTextLayout>> testi;
@@ -96,22 +120,33 @@ struct RigaComposta {
 
 class Tavola {
 public:
-    Tavola(Impaginatore& dove, const D::Tabella& tabella) : dove_(dove), tabella_(tabella) {
+    /// In the largest type, from `corpo` points down, in which all columns have room.
+    Tavola(Impaginatore& dove, const D::Tabella& tabella, double corpo = corpoMassimo)
+        : dove_(dove), tabella_(tabella), corpo_(corpo) {
         const double larghezza = dove.corpo().width();
-        std::vector<double> minime = larghezzeMinime();
+        std::vector<double> minime = larghezzeMinime(tabella, corpo_);
         while (somma(minime) > larghezza && corpo_ > corpoMinimo) {
             corpo_ -= passoCorpo;
-            minime = larghezzeMinime();
+            minime = larghezzeMinime(tabella, corpo_);
         }
         larghezze_ = dividi(larghezza, tabella, minime);
+    }
+
+    /// Height of the whole table, headings once.
+    double alta() const {
+        double tutta = componiTestate().alta;
+        for (const std::vector<D::Cella>& celle : tabella_.righe) {
+            tutta += componiRiga(celle).alta;
+        }
+        return tutta;
     }
 
     void disponi() {
         const RigaComposta testate = componiTestate();
         bool sotto = false;  // the headings stand on this page
-        for (const std::vector<D::Cella>& celle : tabella_.righe) {
-            const RigaComposta riga = componiRiga(celle);
-            const double serve = riga.alta + (sotto ? 0.0 : testate.alta);
+        for (std::size_t r = 0; r < tabella_.righe.size(); ++r) {
+            const RigaComposta riga = componiRiga(tabella_.righe[r]);
+            const double serve = riga.alta + conSeguente(r) + (sotto ? 0.0 : testate.alta);
             // A row higher than a page begins where it is, if there is some room.
             const bool lunga = riga.alta + testate.alta > dove_.corpo().height();
             const bool comincia = lunga && !sotto && dove_.resto() > 3.0 * testate.alta;
@@ -131,21 +166,11 @@ public:
     }
 
 private:
-    std::vector<double> larghezzeMinime() const {
-        const QFontMetricsF normale(caratterePagina(corpo_, false));
-        const QFontMetricsF forte(caratterePagina(corpo_, true));
-        std::vector<double> minime;
-        for (std::size_t c = 0; c < tabella_.colonne.size(); ++c) {
-            double minima = parolaPiuLunga(q(tabella_.colonne[c].titolo), forte);
-            for (const std::vector<D::Cella>& celle : tabella_.righe) {
-                const D::Cella& cella = celle.at(c);
-                minima =
-                    std::max(minima, cella.casella ? latoCasella
-                                                   : parolaPiuLunga(q(cella.testo), cella.grassetto ? forte : normale));
-            }
-            minime.push_back(minima + 2.0 * ariaLato + filo);
-        }
-        return minime;
+    /// Height of the row behind one that does not stand last on a page.
+    double conSeguente(std::size_t r) const {
+        const auto& capi = tabella_.capi;
+        const bool capo = r + 1 < tabella_.righe.size() && std::find(capi.begin(), capi.end(), r) != capi.end();
+        return capo ? componiRiga(tabella_.righe[r + 1]).alta : 0.0;
     }
 
     std::shared_ptr<QTextLayout> testo(const std::string& parole, std::size_t colonna, bool grassetto,
@@ -175,8 +200,9 @@ private:
         riga.celle = &celle;
         for (std::size_t c = 0; c < tabella_.colonne.size(); ++c) {
             const Colore fondo = celle.at(c).fondo.value_or(colori::bianco);
-            riga.testi.push_back(testo(celle[c].casella ? std::string{" "} : celle[c].testo, c, celle[c].grassetto,
-                                       qcolore(inchiostroLeggibile(tinta::inchiostro, fondo))));
+            riga.testi.push_back(
+                testo(celle[c].casella ? std::string{" "} : celle[c].testo, c, celle[c].grassetto,
+                      qcolore(inchiostroLeggibile(celle[c].inchiostro.value_or(tinta::inchiostro), fondo))));
         }
         misura(riga);
         return riga;
@@ -248,15 +274,78 @@ private:
 
     Impaginatore& dove_;
     const D::Tabella& tabella_;
-    double corpo_ = corpoMassimo;
+    double corpo_;
     std::vector<double> larghezze_;
 };
 
+/// Bands of columns, each from its first to before its end, as many in each as goes evenly; none where the columns that
+/// stand in each band leave no room for another one.
+std::vector<std::pair<std::size_t, std::size_t>> fasce(const D::Tabella& tabella, double larghezza) {
+    const std::vector<double> minime = larghezzeMinime(tabella, corpoFasce);
+    const std::size_t guida = std::min(tabella.guida, minime.size());
+    const double guide = std::accumulate(minime.begin(), minime.begin() + static_cast<std::ptrdiff_t>(guida), 0.0);
+    std::size_t quante = 0;  // bands, filled one after the other
+    double libera = 0.0;
+    for (std::size_t c = guida; c < minime.size(); ++c) {
+        if (guide + minime[c] > larghezza) {
+            return {};
+        }
+        if (quante == 0 || minime[c] > libera) {
+            ++quante;
+            libera = larghezza - guide;
+        }
+        libera -= minime[c];
+    }
+    std::vector<std::pair<std::size_t, std::size_t>> tutte;
+    const std::size_t colonne = minime.size() - guida;
+    for (std::size_t i = 0; i < quante; ++i) {
+        tutte.emplace_back(guida + colonne * i / quante, guida + colonne * (i + 1) / quante);
+    }
+    return tutte;
+}
+
+D::Tabella fascia(const D::Tabella& tabella, std::size_t da, std::size_t a) {
+    const auto scelte = [&](const auto& tutte) {
+        using Tutte = std::decay_t<decltype(tutte)>;
+        const auto posto = [&](std::size_t i) { return tutte.begin() + static_cast<std::ptrdiff_t>(i); };
+        Tutte quelle(tutte.begin(), posto(tabella.guida));
+        quelle.insert(quelle.end(), posto(da), posto(a));
+        return quelle;
+    };
+    D::Tabella sua{.colonne = scelte(tabella.colonne), .righe = {}, .guida = tabella.guida, .capi = tabella.capi};
+    for (const std::vector<D::Cella>& celle : tabella.righe) {
+        sua.righe.push_back(scelte(celle));
+    }
+    return sua;
+}
+
 }  // namespace
 
+bool tabellaLarga(const DocumentoPagine::Tabella& tabella, double larghezza) {
+    return somma(larghezzeMinime(tabella, corpoComodo)) > larghezza;
+}
+
 void impaginaTabella(Impaginatore& dove, const DocumentoPagine::Tabella& tabella) {
-    if (!tabella.colonne.empty()) {
+    if (tabella.colonne.empty()) {
+        return;
+    }
+    const double larghezza = dove.corpo().width();
+    const auto tutte = somma(larghezzeMinime(tabella, corpoMinimo)) > larghezza
+                           ? fasce(tabella, larghezza)
+                           : std::vector<std::pair<std::size_t, std::size_t>>{};
+    if (tutte.empty()) {
         Tavola(dove, tabella).disponi();
+        return;
+    }
+    for (const auto& [da, a] : tutte) {
+        const D::Tabella sua = fascia(tabella, da, a);
+        Tavola tavola(dove, sua, corpoFasce);
+        dove.stacca(da == tutte.front().first ? 0.0 : traFasce);
+        const double alta = tavola.alta();
+        if (alta > dove.resto() && alta <= dove.corpo().height() && !dove.vuota()) {
+            dove.nuovaPagina();
+        }
+        tavola.disponi();
     }
 }
 
