@@ -21,6 +21,7 @@ constexpr double corpoMinimo = 6.0;
 constexpr double passoCorpo = 0.5;
 constexpr double corpoComodo = 7.5;  ///< what needs a smaller one on a page that stands, lies
 constexpr double corpoFasce = 8.0;   ///< of what is parted in bands
+constexpr double quotaGuida = 0.2;   ///< of the width of a page, at most, for each column that stands in all bands
 constexpr double traFasce = 10.0 * punto;
 constexpr double ariaLato = 4.0 * punto;
 constexpr double ariaAlto = 3.0 * punto;
@@ -43,12 +44,18 @@ Qt::Alignment lato(AllineamentoCella allineamento) {
     return Qt::AlignRight;
 }
 
-double parolaPiuLunga(const QString& testo, const QFontMetricsF& metrica) {
-    double massima = 0.0;
-    for (const QString& parola : testo.split(QLatin1Char(' '))) {
-        massima = std::max(massima, metrica.horizontalAdvance(parola));
+/// How much of a text has to stand in one line.
+enum class Intero { parola, riga };
+
+/// Width of the longest of its words, or of the lines that it is written in.
+double piuLungo(const QString& testo, Intero intero, const QFontMetricsF& metrica) {
+    double massimo = 0.0;
+    for (const QString& riga : testo.split(QLatin1Char('\n'))) {
+        for (const QString& parte : intero == Intero::riga ? QStringList{riga} : riga.split(QLatin1Char(' '))) {
+            massimo = std::max(massimo, metrica.horizontalAdvance(parte));
+        }
     }
-    return massima;
+    return massimo;
 }
 
 double somma(const std::vector<double>& valori) {
@@ -92,18 +99,17 @@ std::vector<double> dividi(double larghezza, const D::Tabella& tabella, const st
     return parti;
 }
 
-/// What each column needs at least in a type.
-std::vector<double> larghezzeMinime(const D::Tabella& tabella, double corpo) {
+/// What each column needs in a type so that no word of its heading is broken, nor such a part of its cells.
+std::vector<double> larghezze(const D::Tabella& tabella, double corpo, Intero intero) {
     const QFontMetricsF normale(caratterePagina(corpo, false));
     const QFontMetricsF forte(caratterePagina(corpo, true));
     std::vector<double> minime;
     for (std::size_t c = 0; c < tabella.colonne.size(); ++c) {
-        double minima = parolaPiuLunga(q(tabella.colonne[c].titolo), forte);
+        double minima = piuLungo(q(tabella.colonne[c].titolo), Intero::parola, forte);
         for (const std::vector<D::Cella>& celle : tabella.righe) {
             const D::Cella& cella = celle.at(c);
-            minima =
-                std::max(minima, cella.casella ? latoCasella
-                                               : parolaPiuLunga(q(cella.testo), cella.grassetto ? forte : normale));
+            const QFontMetricsF& metrica = cella.grassetto ? forte : normale;
+            minima = std::max(minima, cella.casella ? latoCasella : piuLungo(q(cella.testo), intero, metrica));
         }
         minime.push_back(minima + 2.0 * ariaLato + filo);
     }
@@ -120,14 +126,23 @@ struct RigaComposta {
 
 class Tavola {
 public:
-    /// In the largest type, from `corpo` points down, in which all columns have room.
+    /// In the largest type, from `corpo` points down, in which all cells have room in one line, else all words.
     Tavola(Impaginatore& dove, const D::Tabella& tabella, double corpo = corpoMassimo)
         : dove_(dove), tabella_(tabella), corpo_(corpo) {
         const double larghezza = dove.corpo().width();
-        std::vector<double> minime = larghezzeMinime(tabella, corpo_);
+        // All cells in one line, as long as the type need not be small for it.
+        std::vector<double> minime = larghezze(tabella, corpo_, Intero::riga);
+        while (somma(minime) > larghezza && corpo_ > corpoComodo) {
+            corpo_ -= passoCorpo;
+            minime = larghezze(tabella, corpo_, Intero::riga);
+        }
+        if (somma(minime) > larghezza) {
+            corpo_ = corpo;
+            minime = larghezze(tabella, corpo_, Intero::parola);
+        }
         while (somma(minime) > larghezza && corpo_ > corpoMinimo) {
             corpo_ -= passoCorpo;
-            minime = larghezzeMinime(tabella, corpo_);
+            minime = larghezze(tabella, corpo_, Intero::parola);
         }
         larghezze_ = dividi(larghezza, tabella, minime);
     }
@@ -186,10 +201,21 @@ private:
         }
     }
 
+    /// The heading of a column; a unit that does not fit behind it stands whole below it.
+    std::string titolo(std::size_t colonna) const {
+        std::string parole = tabella_.colonne[colonna].titolo;
+        const QFontMetricsF forte(caratterePagina(corpo_, true));
+        const bool largo = forte.horizontalAdvance(q(parole)) > larghezze_[colonna] - 2.0 * ariaLato - filo;
+        if (const auto posto = parole.rfind(" ["); largo && posto != std::string::npos) {
+            parole[posto] = '\n';
+        }
+        return parole;
+    }
+
     RigaComposta componiTestate() const {
         RigaComposta riga;
         for (std::size_t c = 0; c < tabella_.colonne.size(); ++c) {
-            riga.testi.push_back(testo(tabella_.colonne[c].titolo, c, true, Qt::white));
+            riga.testi.push_back(testo(titolo(c), c, true, Qt::white));
         }
         misura(riga);
         return riga;
@@ -281,8 +307,13 @@ private:
 /// Bands of columns, each from its first to before its end, as many in each as goes evenly; none where the columns that
 /// stand in each band leave no room for another one.
 std::vector<std::pair<std::size_t, std::size_t>> fasce(const D::Tabella& tabella, double larghezza) {
-    const std::vector<double> minime = larghezzeMinime(tabella, corpoFasce);
+    std::vector<double> minime = larghezze(tabella, corpoFasce, Intero::parola);
     const std::size_t guida = std::min(tabella.guida, minime.size());
+    // What stands in each band is read in each: in one line, if it is not too long.
+    const std::vector<double> intere = larghezze(tabella, corpoFasce, Intero::riga);
+    for (std::size_t c = 0; c < guida; ++c) {
+        minime[c] = std::max(minime[c], std::min(intere[c], larghezza * quotaGuida));
+    }
     const double guide = std::accumulate(minime.begin(), minime.begin() + static_cast<std::ptrdiff_t>(guida), 0.0);
     std::size_t quante = 0;  // bands, filled one after the other
     double libera = 0.0;
@@ -322,7 +353,7 @@ D::Tabella fascia(const D::Tabella& tabella, std::size_t da, std::size_t a) {
 }  // namespace
 
 bool tabellaLarga(const DocumentoPagine::Tabella& tabella, double larghezza) {
-    return somma(larghezzeMinime(tabella, corpoComodo)) > larghezza;
+    return somma(larghezze(tabella, corpoComodo, Intero::parola)) > larghezza;
 }
 
 void impaginaTabella(Impaginatore& dove, const DocumentoPagine::Tabella& tabella) {
@@ -330,7 +361,7 @@ void impaginaTabella(Impaginatore& dove, const DocumentoPagine::Tabella& tabella
         return;
     }
     const double larghezza = dove.corpo().width();
-    const auto tutte = somma(larghezzeMinime(tabella, corpoMinimo)) > larghezza
+    const auto tutte = somma(larghezze(tabella, corpoMinimo, Intero::parola)) > larghezza
                            ? fasce(tabella, larghezza)
                            : std::vector<std::pair<std::size_t, std::size_t>>{};
     if (tutte.empty()) {

@@ -1,4 +1,8 @@
 #include "results/FinestraRisultati.h"
+
+#include <string_view>
+#include <utility>
+
 #include "shell/servizi/stampaDocumento.h"
 
 namespace kelvo {
@@ -11,6 +15,7 @@ namespace testi {
 constexpr const char* nonDisponibile = "Non disponibile";
 constexpr const char* senzaFigure = "Non ci sono cifre da stampare: premere Calcola (F9)";
 constexpr const char* inVigore = "In vigore nel calcolo";
+constexpr const char* voce = "Voce";
 constexpr const char* eta = "Età delle cifre: ";
 constexpr const char* attuali = "calcolate sui dati del progetto come sono al momento della stampa.";
 /// What a warning says to whoever sits before the window; on paper there is nothing to press.
@@ -57,7 +62,9 @@ DocumentoPagine FinestraRisultati::documento() {
         carta.blocchi.push_back(std::move(blocco));
     }
     carta.blocchi.emplace_back(D::Titolo{testi::inVigore, 1});
-    carta.blocchi.emplace_back(tabellaSuCarta(ctlInVigore));
+    D::Tabella voci = tabellaSuCarta(ctlInVigore);
+    voci.colonne.front().titolo = testi::voce;  // the title above has told it
+    carta.blocchi.emplace_back(std::move(voci));
     carta.blocchi.emplace_back(
         D::Paragrafo{.testo = lblVecchi.testo().empty() ? testi::attuali : perLaCarta(lblVecchi.testo()),
                      .inizio = testi::eta,

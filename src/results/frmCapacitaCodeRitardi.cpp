@@ -190,7 +190,11 @@ FinestraRisultati::Blocchi frmCapacitaCodeRitardi::figureSuCarta() const {
     for (const Etichetta* nota : {&lblOra, &lblFigure}) {
         blocchi.emplace_back(D::Paragrafo{.testo = nota->testo(), .quieto = true});
     }
-    blocchi.insert(blocchi.end(), {titolo(2), tabellaSuCarta(ctlMappa)});
+    D::Tabella mappa = tabellaSuCarta(ctlMappa);
+    for (std::size_t c = 1; c < mappa.colonne.size(); ++c) {
+        mappa.colonne[c].allineamento = AllineamentoCella::centro;
+    }
+    blocchi.insert(blocchi.end(), {titolo(2), std::move(mappa)});
     std::string fasce;
     for (const FasciaLivello& fascia : fasceLivelli) {
         fasce += (fasce.empty() ? "" : "; ") + std::string{fascia.livello} + " " + std::string{fascia.ritardo};

@@ -338,7 +338,7 @@ std::string frmConfronti::motivoFlussi() const {
 
 FinestraRisultati::Blocchi frmConfronti::figureSuCarta() const {
     using D = DocumentoPagine;
-    constexpr double quota = 0.75;
+    constexpr double quota = 0.65;  // below the chart on the same page
     Blocchi blocchi{D::Titolo{txtVARselezionata.testo() + " - " + txtIstanteTEMPO.testo(), 1},
                     kelvo::figuraSuCarta(ctlChartConfronti.contenuto())};
     if (!ctlPianta.dati().rami.empty()) {

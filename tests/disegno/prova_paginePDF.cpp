@@ -352,6 +352,33 @@ TEST_F(Pagine, WhatIsTooWideEvenSoStandsInBandsWithItsFirstColumn) {
     ordinate(impaginato);
 }
 
+TEST_F(Pagine, CellsStandInOneLineWhereThereIsRoomForIt) {
+    D documento = vuoto();
+    D::Tabella t{.colonne = {{"Ingresso", 1.0, AllineamentoCella::sinistra}, {"Ora", 1.0}}, .righe = {}};
+    for (int c = 0; c < 6; ++c) {
+        t.colonne.push_back({"Riserva di capacità [veic/h]", 1.0});
+    }
+    std::vector<D::Cella> riga(8, D::Cella{.testo = "1234,56"});
+    riga[0].testo = "Strada Provinciale 9";
+    riga[1].testo = "08:00 - 09:00";
+    t.righe.push_back(riga);
+    documento.blocchi.emplace_back(t);
+    const Impaginato impaginato = impagina(documento);
+    EXPECT_TRUE(contiene(impaginato.pagine[0], "Strada Provinciale 9"));
+    for (const PaginaImpaginata::Brano& brano : impaginato.pagine[0].brani) {
+        const QString testo = brano.testo->text();
+        if (testo.startsWith(QStringLiteral("Strada")) || testo.startsWith(QStringLiteral("08:00"))) {
+            EXPECT_EQ(brano.a - brano.da, 1) << testo.toStdString();
+        }
+        if (testo.startsWith(QStringLiteral("Riserva"))) {
+            const QTextLine ultima = brano.testo->lineAt(brano.a - 1);
+            EXPECT_EQ(testo.mid(ultima.textStart(), ultima.textLength()).trimmed(), QStringLiteral("[veic/h]"))
+                << "a unit is not broken at its stroke";
+        }
+    }
+    ordinate(impaginato);
+}
+
 TEST_F(Pagine, ABandThatFitsOnAPageIsNotParted) {
     D documento = vuoto();
     documento.blocchi.emplace_back(larga(72, 12, "1234,56"));

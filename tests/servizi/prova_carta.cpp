@@ -82,10 +82,13 @@ TEST(TabellaSuCarta, GroundsThatSaySomethingStayAndThePlainOneGoes) {
         OrnamentoCella ornamento;
         if (posto == Posto{2, 2}) {
             ornamento.distintivo = distintivoLivello("A");
+            ornamento.allineamento = AllineamentoCella::centro;
         }
         return ornamento;
     };
     const D::Tabella carta = tabellaSuCarta(griglia);
+    EXPECT_EQ(carta.colonne[1].allineamento, AllineamentoCella::destra);
+    EXPECT_EQ(carta.colonne[2].allineamento, AllineamentoCella::centro) << "a box stands in the middle";
     EXPECT_EQ(carta.righe[0][0].fondo, colori::nomeIngresso);
     EXPECT_EQ(carta.righe[0][0].inchiostro, colori::bianco);
     EXPECT_EQ(carta.righe[0][1].fondo, std::nullopt);
@@ -97,12 +100,16 @@ TEST(TabellaSuCarta, GroundsThatSaySomethingStayAndThePlainOneGoes) {
     EXPECT_EQ(carta.righe[1][2].inchiostro, distintivoLivello("A").testo);
 }
 
-TEST(TabellaSuCarta, RowsOnTheGroundOfHeadingsHeadThoseBehindThem) {
+TEST(TabellaSuCarta, RowsOfAHeadingAloneHeadThoseBehindThem) {
     Griglia griglia{"g"};
     Tabella t = quadro(6, 2);
     t.cella(0, 0).sfondo = colori::intestazione;
     t.cella(1, 0).sfondo = colori::intestazione;
     t.cella(4, 0).sfondo = colori::intestazione;
+    t.cella(5, 0).sfondo = colori::intestazione;
+    for (const int r : {1, 4}) {
+        t.cella(r, 1).testo.clear();
+    }
     griglia.tabella(t);
     EXPECT_EQ(tabellaSuCarta(griglia).capi, (std::vector<std::size_t>{0, 3}));
 }

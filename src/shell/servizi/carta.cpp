@@ -32,6 +32,22 @@ std::vector<int> visibili(const Griglia& griglia) {
     return colonne;
 }
 
+/// A row that holds a heading and nothing else.
+bool capo(const Tabella& tabella, int riga, const std::vector<int>& colonne) {
+    return !colonne.empty() && tabella.cella(riga, colonne.front()).sfondo == colori::intestazione &&
+           std::all_of(colonne.begin() + 1, colonne.end(), [&](int c) { return tabella.testo(riga, c).empty(); });
+}
+
+/// That of the boxes in a column, where it has one of their own.
+AllineamentoCella allineamento(const Griglia& griglia, int colonna) {
+    for (int r = griglia.righeFisse(); griglia.ornamento && r < griglia.tabella().righe(); ++r) {
+        if (const auto suo = griglia.ornamento({r, colonna}).allineamento) {
+            return *suo;
+        }
+    }
+    return griglia.colonna(colonna).allineamento;
+}
+
 D::Cella cella(const Griglia& griglia, Posto posto) {
     const Cella& da = griglia.tabella().cella(posto.riga, posto.colonna);
     D::Cella a{.testo = da.testo, .grassetto = da.grassetto};
@@ -56,12 +72,12 @@ DocumentoPagine::Tabella tabellaSuCarta(const Griglia& griglia) {
     for (const int c : colonne) {
         const auto posto = static_cast<std::size_t>(c);
         const int larghezza = posto < tabella.larghezze.size() ? tabella.larghezze[posto] : 0;
-        carta.colonne.push_back({titolo(griglia, c), larghezza > 0 ? static_cast<double>(larghezza) : 1000.0,
-                                 griglia.colonna(c).allineamento});
+        carta.colonne.push_back(
+            {titolo(griglia, c), larghezza > 0 ? static_cast<double>(larghezza) : 1000.0, allineamento(griglia, c)});
         carta.guida += c < griglia.colonneFisse() ? 1U : 0U;
     }
     for (int r = griglia.righeFisse(); r < tabella.righe(); ++r) {
-        if (!colonne.empty() && tabella.cella(r, colonne.front()).sfondo == colori::intestazione) {
+        if (capo(tabella, r, colonne)) {
             carta.capi.push_back(carta.righe.size());
         }
         std::vector<D::Cella>& riga = carta.righe.emplace_back();

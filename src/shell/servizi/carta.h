@@ -26,8 +26,8 @@ public:
 };
 
 /// The visible columns of a table with its alignments, strong texts, grounds and boxes. Its fixed rows are the
-/// headings, its fixed columns stand in each band of one too wide for a page; a row that begins on the ground of
-/// headings heads those behind it. The plain ground of figures is left out: it would only cost ink.
+/// headings, its fixed columns stand in each band of one too wide for a page; a row of a heading alone heads those
+/// behind it. The plain ground of figures is left out: it would only cost ink.
 DocumentoPagine::Tabella tabellaSuCarta(const Griglia& griglia);
 
 /// The chart as wide as the page.

@@ -101,7 +101,7 @@ TEST_F(ProveStampaRisultati, EveryPageTellsProjectDesignerWhatIsInForceAndTheAge
     EXPECT_EQ(carta.progetto, "Prova");
     EXPECT_EQ(carta.progettista, "Ing. Bianchi");
     EXPECT_EQ(carta.chiusura, "Kelvo 1.0.0 - 21/11/2026 10:30:05");
-    EXPECT_EQ(tabella(carta, 3).colonne[0].titolo, "In vigore nel calcolo");
+    EXPECT_EQ(tabella(carta, 3).colonne[0].titolo, "Voce");
     EXPECT_EQ(tabella(carta, 3).righe[0][0].testo, finestra.ctlInVigore.testo(1, 0));
     EXPECT_EQ(eta(carta), "Età delle cifre: calcolate sui dati del progetto come sono al momento della stampa.");
     EXPECT_TRUE(avvisi(carta).empty());
@@ -182,6 +182,8 @@ TEST_F(ProveStampaRisultati, TheChecksAreTheirThreeTabs) {
                      "tabella 4x" + std::to_string(finestra.ctlSintesi.tabella().colonne()), "# Mappa dei livelli",
                      "tabella 3x5", "# In vigore nel calcolo", vigore(finestra)}));
     EXPECT_EQ(tabella(carta, 0).capi, (std::vector<std::size_t>{0, 4, 8, 12}));
+    EXPECT_EQ(tabella(carta, 0).colonne[6].allineamento, AllineamentoCella::centro);
+    EXPECT_EQ(tabella(carta, 2).colonne[1].allineamento, AllineamentoCella::centro);
     const Testi parole = paroleDi(carta);
     for (const std::string& parola : {finestra.lblPeggiore.testo(), finestra.lblOra.testo(), finestra.lblFigure.testo(),
                                       std::string{"Ritardo [s/veic]: A fino a 10; B fino a 15; C fino a 25; D fino a "
