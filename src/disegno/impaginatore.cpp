@@ -46,11 +46,28 @@ double altezzaRighe(const QTextLayout& testo, int da, int a) {
     return da >= a ? 0.0 : testo.lineAt(a - 1).y() + testo.lineAt(a - 1).height() - testo.lineAt(da).y();
 }
 
-Impaginatore::Impaginatore(const QRectF& corpo) : corpo_(corpo), y_(corpo.top()), pagine_(1) {}
+Impaginatore::Impaginatore(const Foglio& ritto, const Foglio& coricato)
+    : ritto_(ritto), coricato_(coricato), foglio_(ritto), y_(ritto.corpo.top()) {
+    nuovaPagina();
+}
 
 void Impaginatore::nuovaPagina() {
-    pagine_.emplace_back();
-    y_ = corpo_.top();
+    pagine_.emplace_back().foglio = foglio_.misura;
+    y_ = corpo().top();
+}
+
+void Impaginatore::volta(bool coricata) {
+    if (coricata == this->coricata()) {
+        return;
+    }
+    const bool piena = !vuota();
+    foglio_ = coricata ? coricato_ : ritto_;
+    if (piena) {
+        nuovaPagina();
+    } else {
+        pagine_.back().foglio = foglio_.misura;
+        y_ = corpo().top();
+    }
 }
 
 void Impaginatore::scorri(const std::shared_ptr<QTextLayout>& testo, double x) {
@@ -70,7 +87,7 @@ void Impaginatore::scorri(const std::shared_ptr<QTextLayout>& testo, double x) {
             --a;
         }
         a = std::max(a, da + 1);
-        pagina().brani.push_back({testo, da, a, QPointF(corpo_.left() + x, y_)});
+        pagina().brani.push_back({testo, da, a, QPointF(corpo().left() + x, y_)});
         y_ += altezzaRighe(*testo, da, a);
         da = a;
         if (da < righe) {

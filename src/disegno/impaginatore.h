@@ -27,18 +27,28 @@ std::shared_ptr<QTextLayout> componi(const Parole& parole, double larghezza);
 /// Height of the lines from `da` to before `a`.
 double altezzaRighe(const QTextLayout& testo, int da, int a);
 
+/// A sheet and the room on it between head and foot.
+struct Foglio {
+    QSizeF misura;
+    QRectF corpo;
+};
+
 /// Where on the pages the next thing goes. All measures are units of a page.
 class Impaginatore {
 public:
-    /// `corpo`: the room between head and foot.
-    explicit Impaginatore(const QRectF& corpo);
+    Impaginatore(const Foglio& ritto, const Foglio& coricato);
 
-    const QRectF& corpo() const { return corpo_; }
+    const QRectF& corpo() const { return foglio_.corpo; }
+    /// The page lies on its long side.
+    bool coricata() const { return foglio_.misura.width() > foglio_.misura.height(); }
+    /// What follows stands on pages that lie, or do not: on the one at hand if nothing stands there yet, else on a new
+    /// one where it is not so already.
+    void volta(bool coricata);
     double y() const { return y_; }
     /// Room left on the page.
-    double resto() const { return corpo_.bottom() - y_; }
+    double resto() const { return corpo().bottom() - y_; }
     /// Nothing stands on the page yet.
-    bool vuota() const { return y_ <= corpo_.top(); }
+    bool vuota() const { return y_ <= corpo().top(); }
     PaginaImpaginata& pagina() { return pagine_.back(); }
     void nuovaPagina();
     /// Goes down; what is left of a gap at the foot does not go on to the next page.
@@ -51,7 +61,9 @@ public:
     std::vector<PaginaImpaginata> prendi() { return std::move(pagine_); }
 
 private:
-    QRectF corpo_;
+    Foglio ritto_;
+    Foglio coricato_;
+    Foglio foglio_;  ///< of the page at hand
     double y_;
     std::vector<PaginaImpaginata> pagine_;
 };
@@ -60,5 +72,8 @@ private:
 void impaginaTabella(Impaginatore& dove, const DocumentoPagine::Tabella& tabella);
 /// Room that a table asks for to begin on a page: its headings and the first row, of a row higher than a page a part.
 double inizioTabella(const QRectF& corpo, const DocumentoPagine::Tabella& tabella);
+
+/// The table, in a type that reads well, is wider than the room.
+bool tabellaLarga(const DocumentoPagine::Tabella& tabella, double larghezza);
 
 }  // namespace kelvo::disegno

@@ -48,9 +48,10 @@ std::shared_ptr<QTextLayout> composto(const D::Titolo& titolo, double larghezza)
 /// The blocks one after the other.
 class Flusso {
 public:
-    Flusso(const D& documento, const QRectF& corpo) : documento_(documento), pagine_(corpo) {
-        const auto titolo =
-            componi({q(documento.titolo), {}, corpoTitolo, false, qcolore(tinta::titolo)}, corpo.width());
+    Flusso(const D& documento, const Foglio& ritto, const Foglio& coricato)
+        : documento_(documento), pagine_(ritto, coricato), ritta_(ritto.corpo.width()) {
+        pagine_.volta(coricata(0));
+        const auto titolo = componi({q(documento.titolo), {}, corpoTitolo, false, qcolore(tinta::titolo)}, larghezza());
         pagine_.scorri(titolo, 0.0);
         pagine_.scendi(sopraTitolo);
     }
@@ -63,6 +64,9 @@ public:
     }
 
     void operator()(const D::Titolo& titolo) {
+        if (titolo.livello <= 1) {
+            pagine_.volta(coricata(posto_));
+        }
         pagine_.stacca(sopraTitolo);
         if (!pagine_.vuota() && minimo(posto_) > pagine_.resto()) {
             pagine_.nuovaPagina();
@@ -106,12 +110,35 @@ public:
     }
 
     void operator()(const D::NuovaPagina& /*pagina*/) {
-        if (!pagine_.vuota()) {
+        const bool piena = !pagine_.vuota();
+        const bool prima = pagine_.coricata();
+        pagine_.volta(coricata(posto_ + 1));
+        if (piena && prima == pagine_.coricata()) {
             pagine_.nuovaPagina();
         }
     }
 
 private:
+    /// The part that begins at a block lies on its side.
+    bool coricata(std::size_t da) const {
+        if (documento_.orizzontale) {
+            return true;
+        }
+        for (std::size_t i = da; i < documento_.blocchi.size(); ++i) {
+            const D::Blocco& blocco = documento_.blocchi[i];
+            const auto* titolo = std::get_if<D::Titolo>(&blocco);
+            if (std::holds_alternative<D::NuovaPagina>(blocco) ||
+                (i > da && titolo != nullptr && titolo->livello <= 1)) {
+                return false;
+            }
+            if (const auto* tabella = std::get_if<D::Tabella>(&blocco);
+                tabella != nullptr && tabellaLarga(*tabella, ritta_)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
     double larghezza() const { return pagine_.corpo().width(); }
 
     std::shared_ptr<QTextLayout> didascalia(const D::Figura& figura) const {
@@ -170,6 +197,7 @@ private:
 
     const D& documento_;
     Impaginatore pagine_;
+    double ritta_;  ///< width of the room on a page that stands
     std::size_t posto_ = 0;
 };
 
@@ -200,14 +228,18 @@ void piede(const D& documento, PaginaImpaginata& pagina, const QRectF& dove, con
 }  // namespace
 
 Impaginato impagina(const DocumentoPagine& documento) {
+    const auto dentro = [](const QSizeF& foglio) {
+        return QRectF(QPointF(0.0, 0.0), foglio).adjusted(margineLato, margineAlto, -margineLato, -margineBasso);
+    };
+    const auto foglio = [&](const QSizeF& misura) {
+        return Foglio{misura, dentro(misura).adjusted(0.0, fascia, 0.0, -fascia)};
+    };
     Impaginato impaginato;
-    impaginato.foglio = documento.orizzontale ? a4.transposed() : a4;
-    const QRectF tutto(QPointF(0.0, 0.0), impaginato.foglio);
-    const QRectF dentro = tutto.adjusted(margineLato, margineAlto, -margineLato, -margineBasso);
-    impaginato.pagine = Flusso(documento, dentro.adjusted(0.0, fascia, 0.0, -fascia)).disponi();
-    const QRectF su(dentro.topLeft(), QSizeF(dentro.width(), fascia));
-    const QRectF giu(dentro.left(), dentro.bottom() - fascia, dentro.width(), fascia);
+    impaginato.pagine = Flusso(documento, foglio(a4), foglio(a4.transposed())).disponi();
     for (std::size_t i = 0; i < impaginato.pagine.size(); ++i) {
+        const QRectF spazio = dentro(impaginato.pagine[i].foglio);
+        const QRectF su(spazio.topLeft(), QSizeF(spazio.width(), fascia));
+        const QRectF giu(spazio.left(), spazio.bottom() - fascia, spazio.width(), fascia);
         testata(documento, impaginato.pagine[i], su);
         piede(documento, impaginato.pagine[i], giu,
               QStringLiteral("Pagina %1 di %2").arg(i + 1).arg(impaginato.pagine.size()));

@@ -40,6 +40,7 @@ struct PaginaImpaginata {
         QRectF dove;
         const DocumentoPagine::Figura* figura = nullptr;  ///< of the document, which must live as long
     };
+    QSizeF foglio;  ///< size of the page
     std::vector<Fondo> fondi;
     std::vector<Brano> brani;
     std::vector<Segno> segni;
@@ -49,7 +50,6 @@ struct PaginaImpaginata {
 
 /// A document on its pages.
 struct Impaginato {
-    QSizeF foglio;  ///< size of a page
     std::vector<PaginaImpaginata> pagine;
 };
 

@@ -121,7 +121,7 @@ void dipingiPagina(QPainter& pennello, const Impaginato& impaginato, std::size_t
     pennello.save();
     pennello.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     pennello.translate(spazio.topLeft());
-    pennello.scale(spazio.width() / impaginato.foglio.width(), spazio.height() / impaginato.foglio.height());
+    pennello.scale(spazio.width() / contenuto.foglio.width(), spazio.height() / contenuto.foglio.height());
     for (const PaginaImpaginata::Fondo& fondo : contenuto.fondi) {
         pennello.fillRect(fondo.dove, fondo.colore);
     }
@@ -143,29 +143,35 @@ void dipingiPagina(QPainter& pennello, const Impaginato& impaginato, std::size_t
     pennello.restore();
 }
 
+QPageLayout::Orientation verso(const Impaginato& impaginato, std::size_t pagina) {
+    const QSizeF foglio = impaginato.pagine.at(pagina).foglio;
+    return foglio.width() > foglio.height() ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
 EsitoDisegno pdfPagine(const DocumentoPagine& documento) {
     const Impaginato impaginato = impagina(documento);
     QByteArray byte;
     QBuffer memoria(&byte);
     memoria.open(QIODevice::WriteOnly);
     QPdfWriter scrittore(&memoria);
-    scrittore.setPageLayout(QPageLayout(QPageSize(QPageSize::A4),
-                                        documento.orizzontale ? QPageLayout::Landscape : QPageLayout::Portrait,
-                                        QMarginsF(0.0, 0.0, 0.0, 0.0)));
     constexpr int fine = 1200;
     scrittore.setResolution(fine);
+    const auto volta = [&](std::size_t pagina) {
+        scrittore.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), verso(impaginato, pagina), QMarginsF()));
+    };
+    volta(0);
     scrittore.setTitle(QString::fromStdString(documento.titolo));
     scrittore.setCreator(QStringLiteral("Kelvo"));
     QPainter pennello;
     if (!pennello.begin(&scrittore)) {
         return {.dati = {}, .errore = "impossibile comporre il documento"};
     }
-    const QRectF foglio(0.0, 0.0, scrittore.width(), scrittore.height());
     for (std::size_t i = 0; i < impaginato.pagine.size(); ++i) {
         if (i > 0) {
+            volta(i);
             scrittore.newPage();
         }
-        dipingiPagina(pennello, impaginato, i, foglio);
+        dipingiPagina(pennello, impaginato, i, QRectF(0.0, 0.0, scrittore.width(), scrittore.height()));
     }
     pennello.end();
     return {.dati = byte.toStdString(), .errore = {}};

@@ -1,7 +1,10 @@
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QTextLayout>
 #include <algorithm>
+#include <cstddef>
 #include <numeric>
+#include <type_traits>
+#include <utility>
 
 #include "disegno/caratteri.h"
 #include "disegno/impaginatore.h"
@@ -16,6 +19,10 @@ using D = DocumentoPagine;
 constexpr double corpoMassimo = 9.0;
 constexpr double corpoMinimo = 6.0;
 constexpr double passoCorpo = 0.5;
+constexpr double corpoComodo = 7.5;  ///< what needs a smaller one on a page that stands, lies
+constexpr double corpoFasce = 8.0;   ///< of what is parted in bands
+constexpr double quotaGuida = 0.2;   ///< of the width of a page, at most, for each column that stands in all bands
+constexpr double traFasce = 10.0 * punto;
 constexpr double ariaLato = 4.0 * punto;
 constexpr double ariaAlto = 3.0 * punto;
 constexpr double filo = 0.75 * punto;
@@ -39,12 +46,18 @@ Qt::Alignment lato(AllineamentoCella allineamento) {
     return Qt::AlignRight;
 }
 
-double parolaPiuLunga(const QString& testo, const QFontMetricsF& metrica) {
-    double massima = 0.0;
-    for (const QString& parola : testo.split(QLatin1Char(' '))) {
-        massima = std::max(massima, metrica.horizontalAdvance(parola));
+/// How much of a text has to stand in one line.
+enum class Intero { parola, riga };
+
+/// Width of the longest of its words, or of the lines that it is written in.
+double piuLungo(const QString& testo, Intero intero, const QFontMetricsF& metrica) {
+    double massimo = 0.0;
+    for (const QString& riga : testo.split(QLatin1Char('\n'))) {
+        for (const QString& parte : intero == Intero::riga ? QStringList{riga} : riga.split(QLatin1Char(' '))) {
+            massimo = std::max(massimo, metrica.horizontalAdvance(parte));
+        }
     }
-    return massima;
+    return massimo;
 }
 
 double somma(const std::vector<double>& valori) {
@@ -88,6 +101,23 @@ std::vector<double> dividi(double larghezza, const D::Tabella& tabella, const st
     return parti;
 }
 
+/// What each column needs in a type so that no word of its heading is broken, nor such a part of its cells.
+std::vector<double> larghezze(const D::Tabella& tabella, double corpo, Intero intero) {
+    const QFontMetricsF normale(caratterePagina(corpo, false));
+    const QFontMetricsF forte(caratterePagina(corpo, true));
+    std::vector<double> minime;
+    for (std::size_t c = 0; c < tabella.colonne.size(); ++c) {
+        double minima = piuLungo(q(tabella.colonne[c].titolo), Intero::parola, forte);
+        for (const std::vector<D::Cella>& celle : tabella.righe) {
+            const D::Cella& cella = celle.at(c);
+            const QFontMetricsF& metrica = cella.grassetto ? forte : normale;
+            minima = std::max(minima, cella.casella ? latoCasella : piuLungo(q(cella.testo), intero, metrica));
+        }
+        minime.push_back(minima + 2.0 * ariaLato + filo);
+    }
+    return minime;
+}
+
 /// A row with its texts in the widths of their columns.
 struct RigaComposta {
     std::vector<std::shared_ptr<QTextLayout>> testi;
@@ -98,22 +128,42 @@ struct RigaComposta {
 
 class Tavola {
 public:
-    Tavola(Impaginatore& dove, const D::Tabella& tabella) : dove_(dove), tabella_(tabella) {
+    /// In the largest type, from `corpo` points down, in which all cells have room in one line, else all words.
+    Tavola(Impaginatore& dove, const D::Tabella& tabella, double corpo = corpoMassimo)
+        : dove_(dove), tabella_(tabella), corpo_(corpo) {
         const double larghezza = dove.corpo().width();
-        std::vector<double> minime = larghezzeMinime();
+        // All cells in one line, as long as the type need not be small for it.
+        std::vector<double> minime = larghezze(tabella, corpo_, Intero::riga);
+        while (somma(minime) > larghezza && corpo_ > corpoComodo) {
+            corpo_ -= passoCorpo;
+            minime = larghezze(tabella, corpo_, Intero::riga);
+        }
+        if (somma(minime) > larghezza) {
+            corpo_ = corpo;
+            minime = larghezze(tabella, corpo_, Intero::parola);
+        }
         while (somma(minime) > larghezza && corpo_ > corpoMinimo) {
             corpo_ -= passoCorpo;
-            minime = larghezzeMinime();
+            minime = larghezze(tabella, corpo_, Intero::parola);
         }
         larghezze_ = dividi(larghezza, tabella, minime);
+    }
+
+    /// Height of the whole table, headings once.
+    double alta() const {
+        double tutta = componiTestate().alta;
+        for (const std::vector<D::Cella>& celle : tabella_.righe) {
+            tutta += componiRiga(celle).alta;
+        }
+        return tutta;
     }
 
     void disponi() {
         const RigaComposta testate = componiTestate();
         bool sotto = false;  // the headings stand on this page
-        for (const std::vector<D::Cella>& celle : tabella_.righe) {
-            const RigaComposta riga = componiRiga(celle);
-            const double serve = riga.alta + (sotto ? 0.0 : testate.alta);
+        for (std::size_t r = 0; r < tabella_.righe.size(); ++r) {
+            const RigaComposta riga = componiRiga(tabella_.righe[r]);
+            const double serve = riga.alta + conSeguente(r) + (sotto ? 0.0 : testate.alta);
             // A row higher than a page begins where it is, if there is some room.
             const bool comincia = lunga(riga, testate) && !sotto && dove_.resto() > testatePrima * testate.alta;
             if (serve > dove_.resto() && !dove_.vuota() && !comincia) {
@@ -138,7 +188,7 @@ public:
             return testate.alta;
         }
         const RigaComposta riga = componiRiga(tabella_.righe.front());
-        return lunga(riga, testate) ? testatePrima * testate.alta + punto : testate.alta + riga.alta;
+        return lunga(riga, testate) ? testatePrima * testate.alta + punto : testate.alta + riga.alta + conSeguente(0);
     }
 
 private:
@@ -147,21 +197,11 @@ private:
         return riga.alta + testate.alta > dove_.corpo().height();
     }
 
-    std::vector<double> larghezzeMinime() const {
-        const QFontMetricsF normale(caratterePagina(corpo_, false));
-        const QFontMetricsF forte(caratterePagina(corpo_, true));
-        std::vector<double> minime;
-        for (std::size_t c = 0; c < tabella_.colonne.size(); ++c) {
-            double minima = parolaPiuLunga(q(tabella_.colonne[c].titolo), forte);
-            for (const std::vector<D::Cella>& celle : tabella_.righe) {
-                const D::Cella& cella = celle.at(c);
-                minima =
-                    std::max(minima, cella.casella ? latoCasella
-                                                   : parolaPiuLunga(q(cella.testo), cella.grassetto ? forte : normale));
-            }
-            minime.push_back(minima + 2.0 * ariaLato + filo);
-        }
-        return minime;
+    /// Height of the row behind one that does not stand last on a page.
+    double conSeguente(std::size_t r) const {
+        const auto& capi = tabella_.capi;
+        const bool capo = r + 1 < tabella_.righe.size() && std::find(capi.begin(), capi.end(), r) != capi.end();
+        return capo ? componiRiga(tabella_.righe[r + 1]).alta : 0.0;
     }
 
     std::shared_ptr<QTextLayout> testo(const std::string& parole, std::size_t colonna, bool grassetto,
@@ -177,10 +217,21 @@ private:
         }
     }
 
+    /// The heading of a column; a unit that does not fit behind it stands whole below it.
+    std::string titolo(std::size_t colonna) const {
+        std::string parole = tabella_.colonne[colonna].titolo;
+        const QFontMetricsF forte(caratterePagina(corpo_, true));
+        const bool largo = forte.horizontalAdvance(q(parole)) > larghezze_[colonna] - 2.0 * ariaLato - filo;
+        if (const auto posto = parole.rfind(" ["); largo && posto != std::string::npos) {
+            parole[posto] = '\n';
+        }
+        return parole;
+    }
+
     RigaComposta componiTestate() const {
         RigaComposta riga;
         for (std::size_t c = 0; c < tabella_.colonne.size(); ++c) {
-            riga.testi.push_back(testo(tabella_.colonne[c].titolo, c, true, Qt::white));
+            riga.testi.push_back(testo(titolo(c), c, true, Qt::white));
         }
         misura(riga);
         return riga;
@@ -191,8 +242,9 @@ private:
         riga.celle = &celle;
         for (std::size_t c = 0; c < tabella_.colonne.size(); ++c) {
             const Colore fondo = celle.at(c).fondo.value_or(colori::bianco);
-            riga.testi.push_back(testo(celle[c].casella ? std::string{" "} : celle[c].testo, c, celle[c].grassetto,
-                                       qcolore(inchiostroLeggibile(tinta::inchiostro, fondo))));
+            riga.testi.push_back(
+                testo(celle[c].casella ? std::string{" "} : celle[c].testo, c, celle[c].grassetto,
+                      qcolore(inchiostroLeggibile(celle[c].inchiostro.value_or(tinta::inchiostro), fondo))));
         }
         misura(riga);
         return riga;
@@ -264,15 +316,86 @@ private:
 
     Impaginatore& dove_;
     const D::Tabella& tabella_;
-    double corpo_ = corpoMassimo;
+    double corpo_;
     std::vector<double> larghezze_;
 };
 
+/// Bands of columns, each from its first to before its end, as many in each as goes evenly; none where the columns that
+/// stand in each band leave no room for another one.
+std::vector<std::pair<std::size_t, std::size_t>> fasce(const D::Tabella& tabella, double larghezza) {
+    std::vector<double> minime = larghezze(tabella, corpoFasce, Intero::parola);
+    const std::size_t guida = std::min(tabella.guida, minime.size());
+    // What stands in each band is read in each: in one line, if it is not too long.
+    const std::vector<double> intere = larghezze(tabella, corpoFasce, Intero::riga);
+    for (std::size_t c = 0; c < guida; ++c) {
+        minime[c] = std::max(minime[c], std::min(intere[c], larghezza * quotaGuida));
+    }
+    const double guide = std::accumulate(minime.begin(), minime.begin() + static_cast<std::ptrdiff_t>(guida), 0.0);
+    std::size_t quante = 0;  // bands, filled one after the other
+    double libera = 0.0;
+    for (std::size_t c = guida; c < minime.size(); ++c) {
+        if (guide + minime[c] > larghezza) {
+            return {};
+        }
+        if (quante == 0 || minime[c] > libera) {
+            ++quante;
+            libera = larghezza - guide;
+        }
+        libera -= minime[c];
+    }
+    std::vector<std::pair<std::size_t, std::size_t>> tutte;
+    const std::size_t colonne = minime.size() - guida;
+    for (std::size_t i = 0; i < quante; ++i) {
+        tutte.emplace_back(guida + colonne * i / quante, guida + colonne * (i + 1) / quante);
+    }
+    return tutte;
+}
+
+/// The bands of a table that is too wide for a page in any type; none for one that stands whole.
+std::vector<std::pair<std::size_t, std::size_t>> fasceDi(const D::Tabella& tabella, double larghezza) {
+    const bool larga = somma(larghezze(tabella, corpoMinimo, Intero::parola)) > larghezza;
+    return larga ? fasce(tabella, larghezza) : std::vector<std::pair<std::size_t, std::size_t>>{};
+}
+
+D::Tabella fascia(const D::Tabella& tabella, std::size_t da, std::size_t a) {
+    const auto scelte = [&](const auto& tutte) {
+        using Tutte = std::decay_t<decltype(tutte)>;
+        const auto posto = [&](std::size_t i) { return tutte.begin() + static_cast<std::ptrdiff_t>(i); };
+        Tutte quelle(tutte.begin(), posto(tabella.guida));
+        quelle.insert(quelle.end(), posto(da), posto(a));
+        return quelle;
+    };
+    D::Tabella sua{.colonne = scelte(tabella.colonne), .righe = {}, .guida = tabella.guida, .capi = tabella.capi};
+    for (const std::vector<D::Cella>& celle : tabella.righe) {
+        sua.righe.push_back(scelte(celle));
+    }
+    return sua;
+}
+
 }  // namespace
 
+bool tabellaLarga(const DocumentoPagine::Tabella& tabella, double larghezza) {
+    return somma(larghezze(tabella, corpoComodo, Intero::parola)) > larghezza;
+}
+
 void impaginaTabella(Impaginatore& dove, const DocumentoPagine::Tabella& tabella) {
-    if (!tabella.colonne.empty()) {
+    if (tabella.colonne.empty()) {
+        return;
+    }
+    const auto tutte = fasceDi(tabella, dove.corpo().width());
+    if (tutte.empty()) {
         Tavola(dove, tabella).disponi();
+        return;
+    }
+    for (const auto& [da, a] : tutte) {
+        const D::Tabella sua = fascia(tabella, da, a);
+        Tavola tavola(dove, sua, corpoFasce);
+        dove.stacca(da == tutte.front().first ? 0.0 : traFasce);
+        const double alta = tavola.alta();
+        if (alta > dove.resto() && alta <= dove.corpo().height() && !dove.vuota()) {
+            dove.nuovaPagina();
+        }
+        tavola.disponi();
     }
 }
 
@@ -281,7 +404,15 @@ double inizioTabella(const QRectF& corpo, const DocumentoPagine::Tabella& tabell
         return 0.0;
     }
     Impaginatore pagina(corpo);
-    return Tavola(pagina, tabella).inizio();
+    const auto tutte = fasceDi(tabella, corpo.width());
+    if (tutte.empty()) {
+        return Tavola(pagina, tabella).inizio();
+    }
+    // A band that a page holds is not parted.
+    const D::Tabella prima = fascia(tabella, tutte.front().first, tutte.front().second);
+    const Tavola tavola(pagina, prima, corpoFasce);
+    const double alta = tavola.alta();
+    return alta <= corpo.height() ? alta : tavola.inizio();
 }
 
 }  // namespace kelvo::disegno

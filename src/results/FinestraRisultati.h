@@ -9,12 +9,13 @@
 #include "results/frmAnteprimaTesto.h"
 #include "shell/servizi/Grafico.h"
 #include "shell/servizi/Griglia.h"
+#include "shell/servizi/carta.h"
 
 namespace kelvo {
 
 /// Base of the windows that show results: the keys that they have in common, and beside the tables what the reader of a
 /// figure has to know of it.
-class FinestraRisultati : public Finestra {
+class FinestraRisultati : public Finestra, public SuCarta {
 public:
     FinestraRisultati(const Contorno& contorno, const ServiziRisultati& servizi, std::string nome,
                       std::string didascalia);
@@ -30,6 +31,13 @@ public:
     Casella cmdInVigore;    ///< shows the table below
     Griglia ctlInVigore;    ///< the same with all legs and coefficients, name and value; hidden until it is asked for
     Bottone cmdDati;        ///< brings up `menuDati`
+
+    /// The figures on paper: what the reader has to be warned of, the figures, what is in force and how old they are.
+    DocumentoPagine documento();
+    // SuCarta
+    std::string impedimentoStampa() const override;
+    void stampaFigure() override;
+    void salvaFigurePDF() override;
 
     /// What copies and saves the table or chart in view; null where there is none.
     MenuChiavi* menuDati() const;
@@ -63,6 +71,10 @@ protected:
     virtual std::string motivoVecchi() const;
     /// Why all flows are 0; asked only while there are figures.
     virtual std::string motivoFlussi() const = 0;
+
+    using Blocchi = std::vector<DocumentoPagine::Blocco>;
+    /// Tables, charts and plan as they go on paper, asked only while there are figures; all that are not empty.
+    virtual Blocchi figureSuCarta() const;
 
     /// Runs the operation of the project's kind of analysis; nothing for any kind but curve and table.
     void simula();

@@ -6,6 +6,7 @@
 #include "app/serviziSistema.h"
 #include "results/relazioneSensibilita.h"
 #include "shell/servizi/FinestreCollegate.h"
+#include "shell/servizi/documentoPagine.h"
 
 namespace kelvo {
 
@@ -19,6 +20,8 @@ struct ServiziRisultati {
     std::function<void()> relazione{};
     /// Makes the report of a sensitivity analysis; empty while there is none.
     std::function<void(const RelazioneSensibilita&)> relazioneSensibilita{};
+    /// Paper and PDF; null for none.
+    StampaPagine* stampa = nullptr;
 };
 
 }  // namespace kelvo

@@ -179,6 +179,30 @@ std::string frmCapacitaCodeRitardi::motivoFlussi() const {
     return figureDelProgetto() ? notaFlussi(app()) : std::string{};
 }
 
+FinestraRisultati::Blocchi frmCapacitaCodeRitardi::figureSuCarta() const {
+    using D = DocumentoPagine;
+    const auto titolo = [this](int scheda) { return D::Titolo{ctlTab.scheda(scheda).titolo, 1}; };
+    Blocchi blocchi{titolo(0), tabellaSuCarta(ctlGrid), titolo(1), tabellaSuCarta(ctlSintesi)};
+    if (!lblSaturazione.testo().empty()) {
+        blocchi.emplace_back(D::Paragrafo{.testo = lblSaturazione.testo(), .segno = D::Segno::verifica});
+    }
+    blocchi.emplace_back(D::Paragrafo{lblPeggiore.testo()});
+    for (const Etichetta* nota : {&lblOra, &lblFigure}) {
+        blocchi.emplace_back(D::Paragrafo{.testo = nota->testo(), .quieto = true});
+    }
+    D::Tabella mappa = tabellaSuCarta(ctlMappa);
+    for (std::size_t c = 1; c < mappa.colonne.size(); ++c) {
+        mappa.colonne[c].allineamento = AllineamentoCella::centro;
+    }
+    blocchi.insert(blocchi.end(), {titolo(2), std::move(mappa)});
+    std::string fasce;
+    for (const FasciaLivello& fascia : fasceLivelli) {
+        fasce += (fasce.empty() ? "" : "; ") + std::string{fascia.livello} + " " + std::string{fascia.ritardo};
+    }
+    blocchi.emplace_back(D::Paragrafo{.testo = std::string{titoloFasce} + ": " + fasce, .quieto = true});
+    return blocchi;
+}
+
 void frmCapacitaCodeRitardi::altroTasto(const std::string& chiave) {
     if (chiave == chiaveFoglio) {
         esportaFoglio();

@@ -46,6 +46,7 @@ protected:
     std::string testoAnteprima() override;
     void altroTasto(const std::string& chiave) override;
     std::string motivoFlussi() const override;
+    Blocchi figureSuCarta() const override;
 
 private:
     void collega();

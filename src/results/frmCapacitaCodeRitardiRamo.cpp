@@ -15,6 +15,9 @@ namespace testi {
 constexpr const char* didascalia = "Risultati: Verifiche prestazionali";
 constexpr const char* legenda = "Premi tasto Dx del Mouse per visualizzare legenda valori e colori.";
 constexpr const char* valori = "Valori riassuntivi";
+constexpr const char* grandezza = "Grandezza";
+constexpr const char* unita = "Unità";
+constexpr const char* grafici = "Grafici";
 constexpr const char* voceLegenda = "Legenda valori e colori";
 }  // namespace testi
 
@@ -263,6 +266,35 @@ std::string frmCapacitaCodeRitardiRamo::testoAnteprima() {
 
 std::string frmCapacitaCodeRitardiRamo::motivoFlussi() const {
     return figureDelProgetto() ? notaFlussi(app(), indice_) : std::string{};
+}
+
+DocumentoPagine::Tabella frmCapacitaCodeRitardiRamo::riassuntiSuCarta() const {
+    using D = DocumentoPagine;
+    D::Tabella tabella{.colonne = {{testi::grandezza, 3.0, AllineamentoCella::sinistra},
+                                   {lblMINIMO.testo(), 1.0},
+                                   {lblMASSIMO.testo(), 1.0},
+                                   {lblMEDIO.testo(), 1.0},
+                                   {testi::unita, 1.0, AllineamentoCella::sinistra}},
+                       .righe = {}};
+    for (std::size_t i = 0; i < riassunti.size(); ++i) {
+        const Riassunto& r = riassunti[i];
+        tabella.righe.push_back({{.testo = ctlTab.scheda(static_cast<int>(i) + 1).titolo},
+                                 {.testo = r.minimo.testo()},
+                                 {.testo = r.massimo.testo()},
+                                 {.testo = r.medio.testo()},
+                                 {.testo = r.unita.testo()}});
+    }
+    return tabella;
+}
+
+FinestraRisultati::Blocchi frmCapacitaCodeRitardiRamo::figureSuCarta() const {
+    using D = DocumentoPagine;
+    Blocchi blocchi{D::Titolo{ctlTab.scheda(0).titolo, 1}, tabellaSuCarta(ctlGrid), D::Titolo{testi::valori, 1},
+                    riassuntiSuCarta(), D::Titolo{testi::grafici, 1}};
+    for (const Grafico& grafico : grafici) {
+        blocchi.emplace_back(kelvo::figuraSuCarta(grafico.contenuto()));
+    }
+    return blocchi;
 }
 
 void frmCapacitaCodeRitardiRamo::premuto2(const std::string& chiave) {

@@ -66,6 +66,7 @@ protected:
     void calcola() override;
     std::string testoAnteprima() override;
     std::string motivoFlussi() const override;
+    Blocchi figureSuCarta() const override;
 
 private:
     const Ramo& ramo() const { return app().theRotonda().Ramo(indice_); }
@@ -74,6 +75,7 @@ private:
     void svuota();
     void mostraScheda();
     void mostraRiassunti();
+    DocumentoPagine::Tabella riassuntiSuCarta() const;
     void disegna(int segmenti);
     void ridisegna();
     OpzioniGrafici opzioni() const;

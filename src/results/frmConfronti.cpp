@@ -336,6 +336,23 @@ std::string frmConfronti::motivoFlussi() const {
     return figureDelProgetto() ? notaFlussi(app()) : std::string{};
 }
 
+FinestraRisultati::Blocchi frmConfronti::figureSuCarta() const {
+    using D = DocumentoPagine;
+    constexpr double quota = 0.65;  // below the chart on the same page
+    Blocchi blocchi{D::Titolo{txtVARselezionata.testo() + " - " + txtIstanteTEMPO.testo(), 1},
+                    kelvo::figuraSuCarta(ctlChartConfronti.contenuto())};
+    if (!ctlPianta.dati().rami.empty()) {
+        blocchi.emplace_back(
+            D::Figura{.contenuto = D::Pianta{std::make_shared<const pianta::DatiPianta>(ctlPianta.dati()),
+                                             std::make_shared<const pianta::OpzioniPianta>(ctlPianta.opzioni())},
+                      .larghezza = quota,
+                      .forma = 1.0,
+                      .didascalia = txtIstanteTEMPO.testo() + ": " + ctlPianta.descrizione()});
+    }
+    blocchi.insert(blocchi.end(), {D::Titolo{nomeVariabile(scelta()), 1}, tabellaSuCarta(ctlGrid)});
+    return blocchi;
+}
+
 RelazioneConfronto frmConfronti::perRelazione() const {
     return relazioneConfronto(scelta(), txtIstanteTEMPO.testo(), ctlChartConfronti.contenuto());
 }

@@ -76,6 +76,7 @@ protected:
     std::string testoAnteprima() override;
     std::string nomeAnteprima() const override { return "Confronto.txt"; }
     std::string motivoFlussi() const override;
+    Blocchi figureSuCarta() const override;
 
 private:
     /// What the title of the chart tells: the variable; the instant too; a running playback.

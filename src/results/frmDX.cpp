@@ -14,6 +14,7 @@ namespace kelvo {
 namespace {
 
 namespace testi {
+constexpr const char* nelleCifre = "Corsie di svolta a destra: ";
 constexpr const char* didascalia = "Analisi e Simulazione: Corsia preferenziale svolta in destra";
 constexpr const char* scelta = "Scegliere corsia di svolta a destra da verificare:";
 constexpr const char* stampa = "Inserisci il confronto nella relazione";
@@ -192,6 +193,19 @@ std::string frmDX::motivoVecchi() const {
 
 std::string frmDX::motivoFlussi() const {
     return notaFlussi(app());
+}
+
+/// The lanes named are those of the figures.
+FinestraRisultati::Blocchi frmDX::figureSuCarta() const {
+    using D = DocumentoPagine;
+    std::string scelte;
+    for (std::size_t i = 0; i < calcolate_.size(); ++i) {
+        if (calcolate_[i]) {
+            scelte += (scelte.empty() ? "" : "; ") + std::string{posizioniDX[i].testo};
+        }
+    }
+    return {D::Paragrafo{.testo = scelte + ".", .inizio = testi::nelleCifre}, tabellaSuCarta(ctlGrid),
+            D::Paragrafo{.testo = lblLegenda.testo(), .quieto = true}};
 }
 
 std::optional<RelazioneDX> frmDX::perRelazione() {

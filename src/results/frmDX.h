@@ -60,6 +60,7 @@ protected:
     void anteprimaFallita(const Guasto& guasto) override;
     std::string motivoVecchi() const override;
     std::string motivoFlussi() const override;
+    Blocchi figureSuCarta() const override;
 
 private:
     void ordinaControlli();

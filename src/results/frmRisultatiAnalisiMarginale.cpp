@@ -18,6 +18,7 @@ namespace kelvo {
 namespace {
 
 namespace testi {
+constexpr const char* vecchie = "I dati sono cambiati dopo il calcolo di questa tabella.";
 constexpr const char* didascalia = "Risultati: Ottimizzazione Geometrica";
 constexpr const char* riepilogo = "Riepilogo";
 constexpr const char* variabile = "Variabile prestazionale";
@@ -399,6 +400,38 @@ void frmRisultatiAnalisiMarginale::entrato(Controllo& campo) {
     if (dynamic_cast<tBox*>(&campo) == nullptr) {
         ctlHelp.pagina(&campo == &opzOBIETTIVO || &campo == &cmdQuantoServe ? paginaQuantoServe : paginaMetodo);
     }
+}
+
+FinestraRisultati::Blocchi frmRisultatiAnalisiMarginale::figureSuCarta() const {
+    using D = DocumentoPagine;
+    Blocchi blocchi;
+    for (std::size_t i = 0; i < numeroParametri; ++i) {
+        if (!analisi_.tabella(i).calcolata()) {
+            continue;
+        }
+        blocchi.emplace_back(D::Titolo{ctlTab.scheda(static_cast<int>(i)).titolo, 1});
+        // The warning of the window tells the tab in view alone.
+        if (superato(timbri_.at(i))) {
+            blocchi.emplace_back(D::Paragrafo{.testo = testi::vecchie, .segno = D::Segno::verifica});
+        }
+        blocchi.emplace_back(tabellaSuCarta(griglie.at(i)));
+        if (variabile()) {
+            blocchi.emplace_back(kelvo::figuraSuCarta(graficoSensibilita(analisi_.tabella(i), variabile())));
+        }
+    }
+    blocchi.emplace_back(D::Titolo{ctlTab.scheda(schedaRiepilogo).titolo, 1});
+    if (variabile()) {
+        blocchi.emplace_back(kelvo::figuraSuCarta(graficoTornado(analisi_, *variabile())));
+    }
+    if (risposta_) {
+        blocchi.emplace_back(
+            D::Paragrafo{.testo = lblQuantoServe.testo(), .inizio = std::string{testi::quantoServe} + ": "});
+        if (!lblEffetto.testo().empty()) {
+            blocchi.emplace_back(D::Paragrafo{lblEffetto.testo()});
+        }
+    }
+    blocchi.emplace_back(D::Paragrafo{.testo = lblSoloLettura.testo(), .quieto = true});
+    return blocchi;
 }
 
 void frmRisultatiAnalisiMarginale::mostraObiettivo() {

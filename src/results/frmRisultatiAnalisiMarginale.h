@@ -69,6 +69,7 @@ protected:
     void anteprimaFallita(const Guasto& guasto) override;
     std::string motivoVecchi() const override;
     std::string motivoFlussi() const override;
+    Blocchi figureSuCarta() const override;
 
 private:
     const Ramo& ramo() const { return app().theRotonda().Ramo(indice_); }

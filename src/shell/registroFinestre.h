@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/campiMostrati.h"
+#include "app/convertitorePDF.h"
 #include "app/serviziSistema.h"
 #include "results/ServiziRisultati.h"
 #include "shell/FabbricaFinestre.h"
@@ -29,9 +30,13 @@ struct ServiziFinestre {
     CampiMostrati* campi = nullptr;
     /// Paper and PDF; null for none.
     StampaPagine* stampa = nullptr;
+    /// Makes the PDF of whole documents; null for none.
+    ConvertitorePDF* pdf = nullptr;
 
     /// What of it the result windows are handed.
-    ServiziRisultati risultati() const { return {documenti, collegate, foglio, relazione, relazioneSensibilita}; }
+    ServiziRisultati risultati() const {
+        return {documenti, collegate, foglio, relazione, relazioneSensibilita, stampa};
+    }
 };
 
 /// Registers every window of the work area, and those over it. The services must outlive the windows.

@@ -6,8 +6,10 @@
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 #include <clocale>
+#include <optional>
 
 #include "app/Applicazione.h"
+#include "app/convertitorePDF.h"
 #include "disegno/DisegnatoreQt.h"
 #include "shell/CampiFinestre.h"
 #include "shell/Main.h"
@@ -80,12 +82,17 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
         {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
     CampiFinestre campi(cornice.finestre, cornice.gestione);
     StampaQt stampa;
+    std::optional<ConvertitoreUfficio> ufficio;
+    if (piattaforma.processi != nullptr) {
+        ufficio.emplace(*piattaforma.processi, piattaforma.file, piattaforma.cartellaLavoro);
+    }
     registraFinestre(cornice.finestre, {.documenti = documenti,
                                         .anteprima = anteprima,
                                         .collegate = collegate,
                                         .cronometro = simulazione,
                                         .campi = &campi,
-                                        .stampa = &stampa});
+                                        .stampa = &stampa,
+                                        .pdf = ufficio ? &*ufficio : nullptr});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});

@@ -7,7 +7,9 @@
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -70,9 +72,9 @@ protected:
                 const QTextLine ultima = brano.testo->lineAt(brano.a - 1);
                 const double alta = ultima.y() + ultima.height() - brano.testo->lineAt(brano.da).y();
                 EXPECT_GE(brano.posto.y(), 0.0);
-                EXPECT_LE(brano.posto.y() + alta, impaginato.foglio.height()) << parole(brano);
+                EXPECT_LE(brano.posto.y() + alta, pagina.foglio.height()) << parole(brano);
                 EXPECT_GE(brano.posto.x(), 500.0) << parole(brano);
-                EXPECT_LE(brano.posto.x() + ultima.width(), impaginato.foglio.width() - 500.0) << parole(brano);
+                EXPECT_LE(brano.posto.x() + ultima.width(), pagina.foglio.width() - 500.0) << parole(brano);
             }
         }
     }
@@ -93,8 +95,8 @@ TEST_F(Pagine, AnEmptyDocumentIsOnePageWithHeadAndFoot) {
     const D documento = vuoto();
     const Impaginato impaginato = impagina(documento);
     ASSERT_EQ(impaginato.pagine.size(), 1U);
-    EXPECT_NEAR(impaginato.foglio.width(), larghezzaA4, 1.0);
-    EXPECT_NEAR(impaginato.foglio.height(), altezzaA4, 1.0);
+    EXPECT_NEAR(impaginato.pagine[0].foglio.width(), larghezzaA4, 1.0);
+    EXPECT_NEAR(impaginato.pagine[0].foglio.height(), altezzaA4, 1.0);
     for (const char* parola : {"Documento di prova", "Rotatoria", "Ing. Bianchi", "Kelvo 1.0.0", "Pagina 1 di 1"}) {
         EXPECT_TRUE(contiene(impaginato.pagine[0], parola)) << parola;
     }
@@ -327,9 +329,174 @@ TEST_F(Pagine, ATallFigureIsMadeSmallerUntilItFits) {
 TEST_F(Pagine, PagesMayLieOnTheirLongSide) {
     D documento = vuoto();
     documento.orizzontale = true;
-    EXPECT_NEAR(impagina(documento).foglio.width(), altezzaA4, 1.0);
+    EXPECT_NEAR(impagina(documento).pagine[0].foglio.width(), altezzaA4, 1.0);
     const std::string pdf = pdfPagine(documento).dati;
     EXPECT_NE(pdf.find("/MediaBox [0 0 842"), std::string::npos) << pdf.substr(pdf.find("/MediaBox"), 40);
+}
+
+/// A table of many columns: "Ramo" and `colonne` more, each of `cifra` in `righe` rows.
+D::Tabella larga(int colonne, int righe, const std::string& cifra) {
+    D::Tabella t{.colonne = {{"Ramo", 1.0, AllineamentoCella::sinistra}}, .righe = {}, .guida = 1};
+    for (int c = 1; c <= colonne; ++c) {
+        t.colonne.push_back({"c" + std::to_string(c), 1.0});
+    }
+    for (int r = 1; r <= righe; ++r) {
+        std::vector<D::Cella> riga{{.testo = "ingresso" + std::to_string(r)}};
+        riga.resize(static_cast<std::size_t>(colonne) + 1, D::Cella{.testo = cifra});
+        t.righe.push_back(riga);
+    }
+    return t;
+}
+
+bool giace(const PaginaImpaginata& pagina) {
+    return pagina.foglio.width() > pagina.foglio.height();
+}
+
+TEST_F(Pagine, APartWithAWideTableLiesAndTheOthersStand) {
+    D documento = vuoto();
+    documento.blocchi = {D::Titolo{"Prima", 1},        D::Paragrafo{"Poche parole."}, D::Titolo{"Larga", 1},
+                         D::Titolo{"Di essa", 2},      larga(14, 3, "1234,56"),       D::Titolo{"Ancora di essa", 2},
+                         D::Paragrafo{"Sta con lei."}, D::Titolo{"Dopo", 1},          tabella(3)};
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_EQ(impaginato.pagine.size(), 3U);
+    EXPECT_FALSE(giace(impaginato.pagine[0]));
+    EXPECT_TRUE(giace(impaginato.pagine[1]));
+    EXPECT_FALSE(giace(impaginato.pagine[2]));
+    EXPECT_TRUE(contiene(impaginato.pagine[0], "Prima"));
+    for (const char* parola : {"Larga", "Di essa", "c14", "Sta con lei.", "Pagina 2 di 3", "Ing. Bianchi"}) {
+        EXPECT_TRUE(contiene(impaginato.pagine[1], parola)) << parola;
+    }
+    EXPECT_TRUE(contiene(impaginato.pagine[2], "riga 3"));
+    ordinate(impaginato);
+    const std::string pdf = pdfPagine(documento).dati;
+    EXPECT_EQ(pagineDi(pdf), 3);
+    EXPECT_NE(pdf.find("/MediaBox [0 0 842"), std::string::npos);
+    EXPECT_NE(pdf.find("/MediaBox [0 0 595"), std::string::npos);
+}
+
+TEST_F(Pagine, ADocumentThatBeginsWithAWideTableLiesFromItsTitleOn) {
+    D documento = vuoto();
+    documento.blocchi = {larga(14, 3, "1234,56"), D::NuovaPagina{}, D::Paragrafo{"Poche parole."}};
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_EQ(impaginato.pagine.size(), 2U);
+    EXPECT_TRUE(giace(impaginato.pagine[0]));
+    EXPECT_TRUE(contiene(impaginato.pagine[0], "Documento di prova"));
+    EXPECT_FALSE(giace(impaginato.pagine[1]));
+    EXPECT_TRUE(contiene(impaginato.pagine[1], "Poche parole."));
+}
+
+TEST_F(Pagine, WhatIsTooWideEvenSoStandsInBandsWithItsFirstColumn) {
+    D documento = vuoto();
+    documento.blocchi.emplace_back(larga(72, 7, "1234,56"));
+    const Impaginato impaginato = impagina(documento);
+    int nomi = 0;
+    int cifre = 0;
+    std::vector<bool> viste(73, false);
+    for (const PaginaImpaginata& pagina : impaginato.pagine) {
+        EXPECT_TRUE(giace(pagina));
+        for (const PaginaImpaginata::Brano& brano : pagina.brani) {
+            const std::string parola = parole(brano);
+            nomi += parola == "ingresso7" ? 1 : 0;
+            cifre += parola == "1234,56" ? 1 : 0;
+            if (parola == "1234,56") {
+                EXPECT_EQ(brano.a - brano.da, 1) << "a figure is never broken";
+                EXPECT_GE(brano.testo->font().pixelSize(), 7.0 * punto) << "it reads without a glass";
+            }
+            if (parola.size() > 1 && parola[0] == 'c' && std::isdigit(parola[1]) != 0) {
+                viste.at(static_cast<std::size_t>(std::stoi(parola.substr(1)))) = true;
+            }
+        }
+    }
+    EXPECT_GE(nomi, 4);
+    EXPECT_LE(nomi, 8);
+    EXPECT_EQ(cifre, 72 * 7);
+    EXPECT_EQ(std::count(viste.begin(), viste.end(), true), 72);
+    EXPECT_LE(impaginato.pagine.size(), 3U);
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, CellsStandInOneLineWhereThereIsRoomForIt) {
+    D documento = vuoto();
+    D::Tabella t{.colonne = {{"Ingresso", 1.0, AllineamentoCella::sinistra}, {"Ora", 1.0}}, .righe = {}};
+    for (int c = 0; c < 6; ++c) {
+        t.colonne.push_back({"Riserva di capacità [veic/h]", 1.0});
+    }
+    std::vector<D::Cella> riga(8, D::Cella{.testo = "1234,56"});
+    riga[0].testo = "Strada Provinciale 9";
+    riga[1].testo = "08:00 - 09:00";
+    t.righe.push_back(riga);
+    documento.blocchi.emplace_back(t);
+    const Impaginato impaginato = impagina(documento);
+    EXPECT_TRUE(contiene(impaginato.pagine[0], "Strada Provinciale 9"));
+    for (const PaginaImpaginata::Brano& brano : impaginato.pagine[0].brani) {
+        const QString testo = brano.testo->text();
+        if (testo.startsWith(QStringLiteral("Strada")) || testo.startsWith(QStringLiteral("08:00"))) {
+            EXPECT_EQ(brano.a - brano.da, 1) << testo.toStdString();
+        }
+        if (testo.startsWith(QStringLiteral("Riserva"))) {
+            const QTextLine ultima = brano.testo->lineAt(brano.a - 1);
+            EXPECT_EQ(testo.mid(ultima.textStart(), ultima.textLength()).trimmed(), QStringLiteral("[veic/h]"))
+                << "a unit is not broken at its stroke";
+        }
+    }
+    ordinate(impaginato);
+}
+
+TEST_F(Pagine, ABandThatFitsOnAPageIsNotParted) {
+    D documento = vuoto();
+    documento.blocchi.emplace_back(larga(72, 12, "1234,56"));
+    for (const PaginaImpaginata& pagina : impagina(documento).pagine) {
+        EXPECT_EQ(contiene(pagina, "ingresso1"), contiene(pagina, "ingresso12"));
+    }
+}
+
+TEST_F(Pagine, ARowThatHeadsOthersNeverStandsLast) {
+    for (int sopra = 0; sopra < 40; ++sopra) {
+        D documento = vuoto();
+        D::Tabella t = tabella(0);
+        for (int r = 0; r < sopra; ++r) {
+            t.righe.push_back({{.testo = "riga"}, {}, {}});
+        }
+        for (int g = 0; g < 12; ++g) {
+            t.capi.push_back(t.righe.size());
+            t.righe.push_back({{.testo = "capo" + std::to_string(g)}, {}, {}});
+            t.righe.push_back({{.testo = "segue" + std::to_string(g)}, {}, {}});
+        }
+        documento.blocchi.emplace_back(t);
+        for (const PaginaImpaginata& pagina : impagina(documento).pagine) {
+            for (int g = 0; g < 12; ++g) {
+                EXPECT_EQ(contiene(pagina, "capo" + std::to_string(g)), contiene(pagina, "segue" + std::to_string(g)))
+                    << sopra;
+            }
+        }
+    }
+}
+
+TEST_F(Pagine, TheInkOfACellIsItsOwnAsFarAsItCanBeRead) {
+    D documento = vuoto();
+    D::Tabella t = tabella(1);
+    t.righe[0][0] = {.testo = "rosso", .inchiostro = colori::livelloF};
+    t.righe[0][1] = {.testo = "bianco", .inchiostro = colori::bianco};
+    t.righe[0][2] = {.testo = "chiaro", .fondo = colori::intestazione, .inchiostro = colori::bianco};
+    documento.blocchi.emplace_back(t);
+    const Impaginato impaginato = impagina(documento);
+    const auto colore = [&](const char* parola) {
+        for (const PaginaImpaginata::Brano& brano : impaginato.pagine[0].brani) {
+            if (parole(brano) == parola) {
+                return brano.testo->formats().at(0).format.foreground().color();
+            }
+        }
+        return QColor();
+    };
+    EXPECT_EQ(colore("chiaro"), QColor(Qt::white));
+    EXPECT_GT(colore("rosso").red(), colore("rosso").green() + 100);
+    EXPECT_LT(qGray(colore("bianco").rgb()), 128) << "white on white would not be read";
+}
+
+TEST_F(Pagine, ChartsAndPlansOfAPdfAreNoBitmaps) {
+    D documento = vuoto();
+    documento.blocchi.emplace_back(D::Figura{.contenuto = prove::prestazioni(prove::ritardi, 10)});
+    EXPECT_EQ(pdfPagine(documento).dati.find("/Subtype /Image"), std::string::npos);
 }
 
 /// A document with everything.

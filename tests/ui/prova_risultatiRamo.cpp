@@ -235,7 +235,9 @@ TEST_F(RisultatiRamo, TheButtonBelowSavesTheTableOrTheChartInView) {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
     banco.dialogo.scelte = {banco.cartella.file("tabella.csv")};
-    tasto(Qt::Key_Up);  // the last entry
+    for (int i = 0; i < 3; ++i) {
+        tasto(Qt::Key_Up);  // from the end: the two for paper stand behind it
+    }
     tasto(Qt::Key_Return);
     smaltisci();
     const std::string csv = contenuto(banco.cartella.file("tabella.csv"));

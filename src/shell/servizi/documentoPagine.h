@@ -12,7 +12,9 @@
 
 namespace kelvo {
 
-/// A document for paper: what stands in it, in its order. Where its pages end is the business of whoever lays it out.
+/// A document for paper: what stands in it, in its order. Where its pages end is the business of whoever lays it out. A
+/// part, from a title of level 1 or a new page to the next, lies on the long side of its pages where a table of it is
+/// too wide for them as they stand.
 struct DocumentoPagine {
     /// Heading; 1 opens a part of the document, 2 stands inside one. It never stands alone at the foot of a page.
     struct Titolo {
@@ -38,11 +40,16 @@ struct DocumentoPagine {
         std::optional<bool> casella{};  ///< a box, ticked or not, in place of the text
         bool grassetto = false;
         std::optional<Colore> fondo{};
+        std::optional<Colore>
+            inchiostro{};  ///< as far as it can be read on the ground; that of texts where none is told
     };
-    /// Its headings stand again on each page that it goes on to. A row that fits on a page is not parted.
+    /// Its headings stand again on each page that it goes on to. A row that fits on a page is not parted. What is too
+    /// wide for a page stands in bands of columns, one below the other.
     struct Tabella {
         std::vector<Colonna> colonne;
         std::vector<std::vector<Cella>> righe;  ///< as many cells as columns in each
+        std::size_t guida = 0;                  ///< columns, from the first on, that stand again in each band
+        std::vector<std::size_t> capi{};        ///< rows that do not stand last on a page: they head those behind them
     };
     /// The plan of the roundabout; both parts are there.
     struct Pianta {
@@ -67,7 +74,7 @@ struct DocumentoPagine {
     std::string progetto;       ///< stands at the head of every page
     std::string progettista{};  ///< the same; empty for none
     std::string chiusura{};     ///< stands at the foot of every page, beside its number
-    bool orizzontale = false;   ///< pages lie on their long side
+    bool orizzontale = false;   ///< all pages lie on their long side
     std::vector<Blocco> blocchi{};
 };
 

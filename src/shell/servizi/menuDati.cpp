@@ -4,6 +4,7 @@
 #include <array>
 
 #include "app/percorsi.h"
+#include "shell/servizi/carta.h"
 #include "shell/servizi/esporta.h"
 
 namespace kelvo {
@@ -20,6 +21,8 @@ constexpr const char* copiaImmagine = "mnuXDatiCopiaImmagine";
 constexpr const char* png = "mnuXDatiPNG";
 constexpr const char* svg = "mnuXDatiSVG";
 constexpr const char* pdf = "mnuXDatiPDF";
+constexpr const char* stampa = "mnuXDatiStampa";
+constexpr const char* stampaPDF = "mnuXDatiStampaPDF";
 }  // namespace chiave
 
 namespace testi {
@@ -87,21 +90,41 @@ MenuChiavi& MenuDati::menu() {
         menu_.aggiungi({.padre = chiave::radice, .testo = "-", .chiave = {}});
     }
     for (const Voce& voce : voci()) {
-        const std::string perche = chiusa(voce.chiave);
-        menu_.aggiungi({.padre = chiave::radice,
-                        .testo = voce.testo,
-                        .chiave = voce.chiave,
-                        .abilitata = perche.empty(),
-                        .scorciatoia = voce.scorciatoia,
-                        .nota = perche});
+        aggiungi(voce, chiusa(voce.chiave));
     }
+    aggiungiStampa();
     return menu_;
+}
+
+void MenuDati::aggiungi(const Voce& voce, const std::string& perche) {
+    menu_.aggiungi({.padre = chiave::radice,
+                    .testo = voce.testo,
+                    .chiave = voce.chiave,
+                    .abilitata = perche.empty(),
+                    .scorciatoia = voce.scorciatoia,
+                    .nota = perche});
+}
+
+void MenuDati::aggiungiStampa() {
+    const auto* carta = dynamic_cast<const SuCarta*>(&finestra_);
+    if (carta == nullptr) {
+        return;
+    }
+    const std::string perche = carta->impedimentoStampa();
+    const bool senzaDialogo = perche.empty() && contorno_.servizi.dialogo == nullptr;
+    aggiungi({"mnuXDatiLineaStampa", "-", ""}, {});
+    aggiungi({chiave::stampa, "Stampa...", tastoStampa}, perche);
+    aggiungi({chiave::stampaPDF, "Stampa in PDF...", ""}, senzaDialogo ? testi::nonDisponibile : perche);
 }
 
 void MenuDati::premuta(const std::string& chiave) {
     MenuChiavi* altro = proprio();
     if (altro != nullptr && altro->contiene(chiave)) {
         altro->premi(chiave);
+    } else if (chiave == chiave::stampa) {
+        dynamic_cast<SuCarta&>(finestra_).stampaFigure();
+    } else if (chiave == chiave::stampaPDF) {
+        dynamic_cast<SuCarta&>(finestra_).salvaFigurePDF();
     } else if (finestra_.lasciaFuoco()) {
         esegui(chiave);
     }

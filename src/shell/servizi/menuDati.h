@@ -16,9 +16,12 @@ namespace kelvo {
 /// Pixels of a saved or copied picture to one logical pixel: it stays sharp on paper.
 inline constexpr double scalaImmagineDati = 2.0;
 
-/// The context menu of a table or a chart: the entries that it has of its own, behind them those that copy and save it.
+/// The context menu of a table or a chart: the entries that it has of its own, behind them those that copy and save it,
+/// at last those that put its window on paper.
 class MenuDati {
 public:
+    static constexpr const char* tastoStampa = "Ctrl+Shift+P";
+
     /// The window that it stands in, whose focus is left before an entry runs.
     MenuDati(Finestra& finestra, const Contorno& contorno, const std::string& nome);
     MenuDati(const MenuDati&) = delete;
@@ -47,6 +50,8 @@ protected:
 
 private:
     void aggiungiProprie(const MenuChiavi& menu, const std::string& da, const std::string& a);
+    void aggiungi(const Voce& voce, const std::string& perche);
+    void aggiungiStampa();
     void premuta(const std::string& chiave);
 
     Finestra& finestra_;

@@ -12,6 +12,7 @@
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 
+#include "shell/servizi/menuDati.h"
 #include "ui/VistaGriglia.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
@@ -104,6 +105,8 @@ VistaRisultati::VistaRisultati(FinestraRisultati& finestra, QWidget* genitore)
     colonnaFigure_->setSpacing(misura::spazio);
     piano->addLayout(colonnaFigure_, 1);
     colonnaFigure_->addWidget(note());
+    auto* stampa = new QShortcut(QKeySequence(QLatin1String(MenuDati::tastoStampa)), this);
+    QObject::connect(stampa, &QShortcut::activated, this, [this] { f_.stampaFigure(); });
     figure_ = new QVBoxLayout;
     figure_->setSpacing(misura::spazio);
     colonnaFigure_->addLayout(figure_, 1);

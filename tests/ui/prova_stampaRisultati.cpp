@@ -1,0 +1,126 @@
+// The result windows on paper by key and mouse, and their real pages.
+
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "results/FinestraRisultati.h"
+#include "ui/StampaQt.h"
+#include "ui/banco.h"
+
+namespace kelvo::prove {
+namespace {
+
+using gesti::attendi;
+using gesti::clic;
+using gesti::smaltisci;
+using gesti::tasto;
+
+class StampaRisultati : public testing::Test {
+protected:
+    void apri(const std::string& esempio, const std::string& chiave) {
+        if (!mostrato_) {
+            banco.mostra();
+            mostrato_ = true;
+        }
+        banco.apri(std::string{KELVO_SORGENTI} + "/assets/Progetti/" + esempio + ".klv");
+        banco.vai(chiave);
+        smaltisci();
+    }
+    FinestraRisultati& finestra() { return dynamic_cast<FinestraRisultati&>(*banco.cornice.gestione.corrente()); }
+    static void calcola() {
+        tasto(Qt::Key_F9);
+        smaltisci();
+    }
+    static void stampa() {
+        tasto(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+        smaltisci();
+    }
+    /// The entry of those words in the menu that is up.
+    static QAction* voce(const QString& testo) {
+        const auto* tendina = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        for (QAction* azione : tendina == nullptr ? QList<QAction*>() : tendina->actions()) {
+            if (azione->text().section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&')) == testo) {
+                return azione;
+            }
+        }
+        return nullptr;
+    }
+    /// Presses "Copia e salva" and looks for an entry of the menu that comes up.
+    QAction* premiCopiaESalva(const QString& testo) {
+        clic(banco.oggetto<QAbstractButton>("cmdDati"));
+        smaltisci();
+        return voce(testo);
+    }
+
+    Banco banco;
+
+private:
+    bool mostrato_ = false;
+};
+
+TEST_F(StampaRisultati, TheShortcutPrintsTheFiguresWhereverTheKeyboardIs) {
+    apri("Rotatoria_Via_dei_Mulini", "keyCodeRitardi_Out");
+    stampa();
+    EXPECT_TRUE(banco.stampa.stampati.empty()) << "there are no figures yet";
+    calcola();
+    stampa();
+    ASSERT_EQ(banco.stampa.stampati.size(), 1U);
+    banco.entra("ctlGrid");
+    stampa();
+    ASSERT_EQ(banco.stampa.stampati.size(), 2U);
+    EXPECT_EQ(banco.stampa.stampati[0].titolo, "Risultati: Verifiche prestazionali");
+    EXPECT_EQ(banco.stampa.stampati[0].progetto, "Rotatoria_Via_dei_Mulini");
+    EXPECT_TRUE(banco.messaggi.mostrati.empty()) << banco.ultimo();
+}
+
+TEST_F(StampaRisultati, TheButtonBelowTheFiguresOffersPaperAndPdf) {
+    apri("Rotatoria_Via_dei_Mulini", "keyCodeRitardi_Out2");
+    QAction* chiusa = premiCopiaESalva(QStringLiteral("Stampa..."));
+    ASSERT_NE(chiusa, nullptr);
+    EXPECT_FALSE(chiusa->isEnabled());
+    QApplication::activePopupWidget()->close();
+    calcola();
+    QAction* pdf = premiCopiaESalva(QStringLiteral("Stampa in PDF..."));
+    ASSERT_NE(pdf, nullptr);
+    ASSERT_TRUE(pdf->isEnabled());
+    const std::string file = banco.cartella.file("Ingresso.pdf");
+    banco.dialogo.scelte = {file};
+    pdf->trigger();
+    QApplication::activePopupWidget()->close();
+    smaltisci();
+    ASSERT_EQ(banco.dialogo.richieste.size(), 1U);
+    EXPECT_EQ(contenuto(file), "pagine");
+    EXPECT_EQ(banco.stampa.salvati.size(), 1U);
+}
+
+TEST_F(StampaRisultati, EveryWindowHasSoundPagesOfTheLargestStudy) {
+    const bool legge = std::system("command -v pdftotext > /dev/null 2>&1") == 0;
+    const char* dove = std::getenv("KELVO_PAGINE");
+    for (const char* chiave : {"keyCapacitaUltima_Out", "keyCodeRitardi_Out", "keyCodeRitardi_Out7", "keyConfronti"}) {
+        apri("Rotatoria_Aurelia_Sette_Strade", chiave);
+        calcola();
+        const DocumentoPagine carta = finestra().documento();
+        const EsitoDisegno esito = ui::StampaQt().pdf(carta);
+        ASSERT_EQ(esito.errore, "") << chiave;
+        EXPECT_EQ(esito.dati.substr(0, 5), "%PDF-") << chiave;
+        const std::string file = (dove == nullptr ? banco.cartella.percorso() : std::string{dove}) + "/" + chiave;
+        scriviContenuto(file + ".pdf", esito.dati);
+        if (legge) {
+            ASSERT_EQ(std::system(("pdftotext -layout '" + file + ".pdf' '" + file + ".txt'").c_str()), 0);
+            const std::string testo = contenuto(file + ".txt");
+            for (const std::string& parola :
+                 {std::string{"Rotatoria_Aurelia_Sette_Strade"}, std::string{"Pagina 1 di "},
+                  std::string{"In vigore nel calcolo"}, std::string{"Età delle cifre: calcolate sui dati"},
+                  banco.app.theRotonda().NomeProfessionista(), banco.app.theRotonda().Ramo(7).Descrizione()}) {
+                EXPECT_NE(testo.find(parola), std::string::npos) << chiave << " " << parola;
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace kelvo::prove
