@@ -9,8 +9,8 @@
 
 #include "app/Applicazione.h"
 #include "app/serviziSistema.h"
-#include "calc/simulazione.h"
 #include "reports/DocumentoRelazione.h"
+#include "results/corsiaDestra.h"
 #include "results/graficiRamo.h"
 #include "shell/servizi/disegnatore.h"
 #include "shell/servizi/relazioneGrafica.h"
@@ -29,12 +29,6 @@ public:
     /// Step `n` of the total, from 1, is done.
     virtual void passo(int n) = 0;
     virtual void chiudi() = 0;
-};
-
-/// Right-turn lanes as their window compared them.
-struct AnalisiCorsiaDX {
-    CorsieDestra corsie{};
-    Tabella tabella;
 };
 
 /// What a report asks of the outside.

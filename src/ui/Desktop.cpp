@@ -80,12 +80,14 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
         {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
     CampiFinestre campi(cornice.finestre, cornice.gestione);
     StampaQt stampa;
+    AttesaPittura pittura;
     registraFinestre(cornice.finestre, {.documenti = documenti,
                                         .anteprima = anteprima,
                                         .collegate = collegate,
                                         .cronometro = simulazione,
                                         .campi = &campi,
-                                        .stampa = &stampa});
+                                        .stampa = &stampa,
+                                        .attesa = &pittura});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});

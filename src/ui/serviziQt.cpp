@@ -207,6 +207,14 @@ void AttesaQt::eventi() {
     QCoreApplication::processEvents();
 }
 
+bool AttesaPittura::pausa(int /*millisecondi*/) {
+    return false;
+}
+
+void AttesaPittura::eventi() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 CronometroQt::CronometroQt() : tempo_(std::make_unique<QTimer>()) {
     QObject::connect(tempo_.get(), &QTimer::timeout, tempo_.get(), [this] {
         const std::function<void()> questa = cosa_;  // it may ask for another one while it runs

@@ -69,6 +69,13 @@ public:
     void eventi() override;
 };
 
+/// Lets what was changed be painted: gestures wait in their queue, and a run that they could disturb is not.
+class AttesaPittura final : public Attesa {
+public:
+    bool pausa(int millisecondi) override;
+    void eventi() override;
+};
+
 /// Calls back from the event loop.
 class CronometroQt final : public Cronometro {
 public:

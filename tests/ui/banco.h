@@ -9,6 +9,7 @@
 #include "comune/cronometro.h"
 #include "comune/fintiShell.h"
 #include "comune/stampaFinta.h"
+#include "disegno/DisegnatoreQt.h"
 #include "shell/CampiFinestre.h"
 #include "shell/registroFinestre.h"
 #include "ui/gesti.h"
@@ -69,6 +70,7 @@ public:
     shell::ImpostazioniFinte impostazioni;
     shell::CronometroFinto cronometro;
     CronometroATempo simulazione;
+    disegno::DisegnatoreQt disegnatore;
     Applicazione app;
     StatoFinestre stato;
     ui::VistaMDI_Form vista;
@@ -76,6 +78,7 @@ public:
     MDI_Form cornice;
     CampiFinestre campi{cornice.finestre, cornice.gestione};
     StampaFinta stampa;
+    ui::AttesaPittura pittura;
 };
 
 /// Every property of a project with its value as text: "Ramo 3/DatiTraffico/Tempo1" and the like.
