@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/processi.h"
 #include "app/serviziSistema.h"
 #include "base/file.h"
 
@@ -20,6 +21,7 @@ public:
     virtual SistemaFile& file() = 0;
     virtual IstanzaUnica& istanza() = 0;
     virtual LocaleUtente& locale() = 0;
+    virtual Processi& processi() = 0;
     /// Null where the desktop's toolkit has the means.
     virtual ImpostazioniUtente* impostazioni() = 0;
     virtual ApriDocumenti* documenti() = 0;

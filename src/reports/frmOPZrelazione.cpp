@@ -23,6 +23,9 @@ constexpr const char* scegli = "Scegli un modello...";
 constexpr const char* torna = "Usa i modelli di Kelvo";
 constexpr const char* senzaGrafici =
     "L'analisi è di sola saturazione: non ci sono grandezze nel tempo da rappresentare.";
+constexpr const char* anchePDF = "Salva anche in PDF";
+constexpr const char* nientePDF = "PDF: {}.";
+constexpr const char* senzaConvertitore = "qui nessun programma lo può fare";
 constexpr const char* filtroModelli = "Modello di relazione (*.dotx)|*.dotx|Documento (*.docx)|*.docx";
 }  // namespace testi
 
@@ -32,6 +35,7 @@ constexpr const char* carattereTitolo = "Segoe UI Semilight";
 constexpr const char* applicazione = "Kelvo";
 constexpr const char* sezioneRelazione = "Relazione";
 constexpr const char* chiaveModello = "Modello";
+constexpr const char* chiavePDF = "PDF";
 constexpr std::size_t vociConModello = 4;  ///< the reports that are made from a master template
 
 template <std::size_t... I>
@@ -55,6 +59,8 @@ frmOPZrelazione::frmOPZrelazione(const Contorno& contorno, const ServiziOPZrelaz
       lblModello("lblModello", testi::modelliKelvo),
       cmdModello("cmdModello", testi::scegli),
       cmdModelloKelvo("cmdModelloKelvo", testi::torna),
+      chkPDF("chkPDF", testi::anchePDF),
+      lblPDF("lblPDF", {}, "GREY"),
       avanzamento(contorno),
       servizi_(servizi),
       passi_(*this) {
@@ -66,8 +72,9 @@ frmOPZrelazione::frmOPZrelazione(const Contorno& contorno, const ServiziOPZrelaz
     }
     cmdModello.allaPressione = [this] { scegliModello(); };
     cmdModelloKelvo.allaPressione = [this] { modello({}); };
-    for (Controllo* c :
-         std::initializer_list<Controllo*>{&lblSaturazione, &lblModello, &cmdModello, &cmdModelloKelvo}) {
+    chkPDF.alClic = [this] { sceltoPDF(); };
+    for (Controllo* c : std::initializer_list<Controllo*>{&lblSaturazione, &lblModello, &cmdModello, &cmdModelloKelvo,
+                                                          &chkPDF, &lblPDF}) {
         controlli.push_back(c);
     }
     ordina(controlli);
@@ -101,6 +108,7 @@ void frmOPZrelazione::attivata() {
     const bool nelTempo = tipo == analisi::curva || tipo == analisi::tabella;
     lblSaturazione.visibile(!nelTempo);
     aggiornaModello();
+    aggiornaPDF();
     if (!inCorso_) {
         abilita(true);
         // The report that the options offer first: input, results, all of it.
@@ -116,6 +124,7 @@ void frmOPZrelazione::abilita(bool valore) {
     }
     cmdModello.abilitato(valore);
     cmdModelloKelvo.abilitato(valore);
+    chkPDF.abilitato(valore && puoPDF_);
     if (lblSaturazione.visibile()) {
         cmd.back().abilitato(false);
     }
@@ -166,6 +175,7 @@ void frmOPZrelazione::corri(const std::function<void(modStampaRelazione&)>& proc
         servizi.disegnatore = contorno().servizi.disegnatore;
         servizi.corsiaDX = servizi_.corsiaDX;
         servizi.modelloProprio = modello();
+        servizi.pdf = puoPDF_ && chkPDF.spuntata() ? servizi_.pdf : nullptr;
         modStampaRelazione modulo(app(), servizi);
         procedura(modulo);
     });
@@ -184,6 +194,12 @@ void frmOPZrelazione::Passi::mostra(int totale) {
 
 void frmOPZrelazione::Passi::passo(int n) {
     finestra_.avanzamento.avanza(n);
+    if (finestra_.servizi_.attesa != nullptr) {
+        finestra_.servizi_.attesa->eventi();
+    }
+}
+
+void frmOPZrelazione::Passi::attende() {
     if (finestra_.servizi_.attesa != nullptr) {
         finestra_.servizi_.attesa->eventi();
     }
@@ -224,6 +240,24 @@ void frmOPZrelazione::modello(const std::string& percorso) {
         impostazioni->scrivi(applicazione, sezioneRelazione, chiaveModello, percorso);
     }
     aggiornaModello();
+}
+
+/// The office program may have been installed or taken away since.
+void frmOPZrelazione::aggiornaPDF() {
+    const std::string motivo = servizi_.pdf == nullptr ? testi::senzaConvertitore : servizi_.pdf->impedimento();
+    puoPDF_ = motivo.empty();
+    lblPDF.testo(puoPDF_ ? std::string{} : fmt::format(testi::nientePDF, motivo));
+    lblPDF.visibile(!puoPDF_);
+    const ImpostazioniUtente* impostazioni = contorno().servizi.impostazioni;
+    if (impostazioni != nullptr) {
+        chkPDF.spuntata(impostazioni->leggi(applicazione, sezioneRelazione, chiavePDF) == "1");
+    }
+}
+
+void frmOPZrelazione::sceltoPDF() {
+    if (ImpostazioniUtente* impostazioni = contorno().servizi.impostazioni; impostazioni != nullptr) {
+        impostazioni->scrivi(applicazione, sezioneRelazione, chiavePDF, chkPDF.spuntata() ? "1" : "0");
+    }
 }
 
 void frmOPZrelazione::aggiornaModello() {

@@ -42,6 +42,8 @@ struct ServiziOPZrelazione {
     std::function<std::optional<AnalisiCorsiaDX>()> corsiaDX{};
     /// How the charts are drawn; empty for bars with their values.
     std::function<OpzioniGrafici()> grafici{};
+    /// Makes the PDF of a report; null for none.
+    ConvertitorePDF* pdf = nullptr;
 };
 
 /// "Compila relazione": the reports of the project, and the template of the user's own that they are made from.
@@ -58,6 +60,8 @@ public:
     Etichetta lblModello;        ///< which templates are used
     Bottone cmdModello;          ///< chooses one of the user's own
     Bottone cmdModelloKelvo;     ///< goes back to those of the program; hidden while they are used
+    Casella chkPDF;    ///< a PDF of each report too, beside it; kept from run to run, closed where there is none
+    Etichetta lblPDF;  ///< why `chkPDF` is closed; else hidden
     frmRelazioneProgressBar avanzamento;
 
     PannelloAiuto ctlHelp{"ctlHelp"};  ///< what the button in use makes
@@ -81,6 +85,7 @@ private:
         explicit Passi(frmOPZrelazione& finestra) : finestra_(finestra) {}
         void mostra(int totale) override;
         void passo(int n) override;
+        void attende() override;
         void chiudi() override;
 
     private:
@@ -93,12 +98,15 @@ private:
     void modello(const std::string& percorso);
     std::string modello();
     void aggiornaModello();
+    void aggiornaPDF();
+    void sceltoPDF();
     void abilita(bool valore);
 
     ServiziOPZrelazione servizi_;
     Passi passi_;
     std::string modello_;  ///< where there are no settings to keep it in
     bool inCorso_ = false;
+    bool puoPDF_ = false;
 };
 
 }  // namespace kelvo

@@ -32,6 +32,7 @@ constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
 constexpr const char* nonAperto = "Nessun programma del sistema ha aperto il file:";
 constexpr const char* mancanti = "Il modello scelto non ha le sezioni seguenti, che non sono state compilate:";
+constexpr const char* senzaPDF = "La relazione è stata salvata: {}\r\nIl PDF non è stato fatto: {}.";
 constexpr const char* senzaDestinazione = "Nessuno può chiedere dove salvare la relazione";
 }  // namespace testi
 
@@ -196,8 +197,25 @@ EsitoRelazione modStampaRelazione::salva(const Corsa& corsa) {
     documento_->Sbianca(segnaposto::tutti);
     documento_->Salva(app_.file, percorso);
     fattoPasso();
+    const bool intera = servizi_.pdf == nullptr || faPDF(percorso);
     chiude(percorso);
-    return EsitoRelazione::fatta;
+    return intera ? EsitoRelazione::fatta : EsitoRelazione::senzaPDF;
+}
+
+/// False if there is none; the reason has been shown then.
+bool modStampaRelazione::faPDF(const std::string& percorso) {
+    const std::string pdf = percorsoPDF(percorso);
+    const std::string errore = servizi_.pdf->converti(percorso, pdf, [this] {
+        if (servizi_.avanzamento != nullptr) {
+            servizi_.avanzamento->attende();
+        }
+    });
+    if (!errore.empty()) {
+        app_.comune.traceLog(fmt::format("{}faPDF {}: {}", modulo, pdf, errore));
+        servizi_.messaggi.mostra(fmt::format(testi::senzaPDF, percorso, errore), testi::attenzione, Icona::esclamazione,
+                                 Pulsanti::ok);
+    }
+    return errore.empty();
 }
 
 /// The last two steps: the question, and what follows from its answer.

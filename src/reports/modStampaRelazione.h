@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/Applicazione.h"
+#include "app/convertitorePDF.h"
 #include "app/serviziSistema.h"
 #include "reports/DocumentoRelazione.h"
 #include "results/corsiaDestra.h"
@@ -28,6 +29,8 @@ public:
     virtual void mostra(int totale) = 0;
     /// Step `n` of the total, from 1, is done.
     virtual void passo(int n) = 0;
+    /// Some 20 times a second while the run waits for another program.
+    virtual void attende() {}
     virtual void chiudi() = 0;
 };
 
@@ -42,12 +45,15 @@ struct ServiziRelazione {
     std::function<std::optional<AnalisiCorsiaDX>()> corsiaDX{};
     /// Where the report is written without asking; empty to ask.
     std::string percorso{};
+    /// Makes a PDF of the report too, beside it and under its name; null for none.
+    ConvertitorePDF* pdf = nullptr;
     /// A template of the user's own, whole path, in the place of the master templates; empty for none.
     std::string modelloProprio{};
 };
 
 enum class EsitoRelazione {
     fatta,
+    senzaPDF,   ///< the report is written, its PDF is not; the reason was shown
     annullata,  ///< the user did not choose a file; nothing was written
     fallita,    ///< the reason was shown
 };
@@ -131,6 +137,7 @@ private:
     std::string cartellaRelazioni();
     void diceMancanti();
     void chiude(const std::string& percorso);
+    bool faPDF(const std::string& percorso);
 
     /// Runs a section in its handler.
     void sezione(std::string_view nome, const Passo& procedura);

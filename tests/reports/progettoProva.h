@@ -13,6 +13,7 @@
 #include "calc/modCalcolo.h"
 #include "comune/finti.h"
 #include "comune/fintiFinestre.h"
+#include "comune/processiFinti.h"
 #include "modelloProva.h"
 #include "reports/modStampaRelazione.h"
 
@@ -62,6 +63,7 @@ class AvanzamentoFinto final : public AvanzamentoRelazione {
 public:
     void mostra(int totale) override { passi.push_back("mostra " + std::to_string(totale)); }
     void passo(int n) override { passi.push_back(std::to_string(n)); }
+    void attende() override { passi.emplace_back("attende"); }
     void chiudi() override { passi.emplace_back("chiudi"); }
     std::vector<std::string> passi;
 };
@@ -86,6 +88,7 @@ public:
         s.disegnatore = conDisegni ? &disegnatore : nullptr;
         s.corsiaDX = [this] { return corsia; };
         s.modelloProprio = modelloProprio;
+        s.pdf = conPDF ? &convertitore : nullptr;
         return s;
     }
     modStampaRelazione modulo() { return {app, servizi()}; }
@@ -127,6 +130,8 @@ public:
     bool conDisegni = true;
     std::optional<AnalisiCorsiaDX> corsia;
     std::string modelloProprio;
+    ConvertitoreFinto convertitore;
+    bool conPDF = false;
     std::vector<ErroreRegistrato> errori;
 
 private:

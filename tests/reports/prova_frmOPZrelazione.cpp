@@ -184,6 +184,69 @@ TEST(FrmOPZrelazione, TheWholeReportTakesTheRightTurnLanes) {
     EXPECT_EQ(tabellaDopo(f.letto(), "corsie di svolta a destra").size(), 18U);
 }
 
+/// The window with somebody who makes PDF files.
+class FinestreConPDF : public Finestre {
+public:
+    FinestreConPDF() { attiva(); }
+    void attiva() { conUfficio.attivata(); }
+    std::string pdf() const { return cartella.file("Uscita.pdf"); }
+    frmOPZrelazione conUfficio{contorno(), {documenti, collegate, &attesa, {}, {}, &convertitore}};
+};
+
+TEST(FrmOPZrelazione, ATickMakesAPdfOfEachReportBesideIt) {
+    FinestreConPDF f;
+    EXPECT_EQ(f.conUfficio.chkPDF.testo(), "Salva anche in PDF");
+    EXPECT_FALSE(f.conUfficio.chkPDF.spuntata());
+    EXPECT_FALSE(f.conUfficio.lblPDF.visibile());
+    f.conUfficio.cmd[0].premi();
+    EXPECT_TRUE(f.convertitore.fatti.empty());
+    f.conUfficio.chkPDF.clicca();
+    int giri = 0;
+    f.attesa.guarda = [&] {
+        ++giri;
+        EXPECT_FALSE(f.conUfficio.chkPDF.abilitato());
+    };
+    f.conUfficio.cmd[1].premi();
+    ASSERT_EQ(f.convertitore.fatti.size(), 1U);
+    EXPECT_EQ(f.convertitore.fatti[0].first, f.cartella.file("Uscita.docx"));
+    EXPECT_EQ(f.convertitore.fatti[0].second, f.pdf());
+    EXPECT_EQ(contenuto(f.pdf()), "pagine");
+    EXPECT_EQ(giri, 10) << "nine steps, and once while it waited";
+    EXPECT_TRUE(f.conUfficio.chkPDF.abilitato());
+    EXPECT_TRUE(f.conUfficio.chkPDF.spuntata());
+}
+
+TEST(FrmOPZrelazione, TheTickIsKeptFromRunToRun) {
+    FinestreConPDF f;
+    f.conUfficio.chkPDF.clicca();
+    frmOPZrelazione altra{f.contorno(), {f.documenti, f.collegate, nullptr, {}, {}, &f.convertitore}};
+    altra.attivata();
+    EXPECT_TRUE(altra.chkPDF.spuntata());
+    altra.chkPDF.clicca();
+    f.attiva();
+    EXPECT_FALSE(f.conUfficio.chkPDF.spuntata());
+}
+
+TEST(FrmOPZrelazione, WithoutAnOfficeProgramTheTickIsClosedAndSaysWhy) {
+    FinestreConPDF f;
+    f.conUfficio.chkPDF.clicca();
+    f.convertitore.manca = "non c'è un programma d'ufficio";
+    f.attiva();
+    EXPECT_FALSE(f.conUfficio.chkPDF.abilitato());
+    EXPECT_TRUE(f.conUfficio.lblPDF.visibile());
+    EXPECT_EQ(f.conUfficio.lblPDF.testo(), "PDF: non c'è un programma d'ufficio.");
+    f.conUfficio.cmd[0].premi();
+    EXPECT_TRUE(f.convertitore.fatti.empty()) << "a tick of before does not count";
+    EXPECT_FALSE(f.conUfficio.chkPDF.abilitato());
+    f.convertitore.manca.clear();
+    f.attiva();
+    EXPECT_TRUE(f.conUfficio.chkPDF.abilitato());
+    EXPECT_FALSE(f.conUfficio.lblPDF.visibile());
+    f.finestra.attivata();
+    EXPECT_FALSE(f.finestra.chkPDF.abilitato());
+    EXPECT_EQ(f.finestra.lblPDF.testo(), "PDF: qui nessun programma lo può fare.");
+}
+
 TEST(FrmOPZrelazione, ItsProgressWindowGoesWithIt) {
     CollegateFinte collegate;
     {

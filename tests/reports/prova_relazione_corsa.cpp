@@ -332,5 +332,42 @@ TEST(Relazione, TheProjectIsNotChanged) {
     EXPECT_EQ(scena.app.theRotonda().revisione().tutto, revisione);
 }
 
+TEST(Relazione, APdfIsMadeBeforeTheClosingQuestionAndThePathIsThatOfTheReport) {
+    Scena scena;
+    scena.conPDF = true;
+    EXPECT_EQ(scena.modulo().compilaAllegatiWord("RelazioneMasterOUT"), EsitoRelazione::fatta);
+    ASSERT_EQ(scena.convertitore.fatti.size(), 1U);
+    EXPECT_EQ(scena.convertitore.fatti[0].first, scena.cartella.file("Uscita.docx"));
+    EXPECT_EQ(contenuto(scena.cartella.file("Uscita.pdf")), "pagine");
+    EXPECT_EQ(scena.avanzamento.passi,
+              (std::vector<std::string>{"mostra 9", "1", "2", "3", "4", "5", "6", "7", "attende", "8", "9", "chiudi"}));
+    ASSERT_EQ(scena.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(scena.messaggi.mostrati[0].testo.substr(0, 34), "Relazione correttamente compilata.");
+}
+
+TEST(Relazione, AReportWhosePdfFailsStaysAndTheReasonIsTold) {
+    Scena scena;
+    scena.conPDF = true;
+    scena.convertitore.errore = "il programma non si avvia";
+    EXPECT_EQ(scena.modulo().compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::senzaPDF);
+    EXPECT_TRUE(scena.salvato());
+    EXPECT_FALSE(std::filesystem::exists(scena.cartella.file("Uscita.pdf")));
+    ASSERT_EQ(scena.messaggi.mostrati.size(), 2U);
+    EXPECT_EQ(scena.messaggi.mostrati[0].testo, "La relazione è stata salvata: " + scena.cartella.file("Uscita.docx") +
+                                                    "\r\nIl PDF non è stato fatto: il programma non si avvia.");
+    EXPECT_EQ(scena.messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
+    EXPECT_EQ(scena.messaggi.mostrati[1].testo.substr(0, 34), "Relazione correttamente compilata.");
+}
+
+TEST(Relazione, WithoutADocumentThereIsNoPdf) {
+    Scena scena;
+    scena.conPDF = true;
+    scena.dialogo.risposta.reset();
+    EXPECT_EQ(scena.modulo().compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::annullata);
+    scena.dialogo.risposta = scena.cartella.file("manca/Uscita.docx");
+    EXPECT_EQ(scena.modulo().compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::fallita);
+    EXPECT_TRUE(scena.convertitore.fatti.empty());
+}
+
 }  // namespace
 }  // namespace kelvo::prove

@@ -4,12 +4,14 @@
 #include <functional>
 
 #include "Pittore.h"
+#include "app/convertitorePDF.h"
 #include "argomenti.h"
 #include "base/guasto.h"
 #include "base/testo.h"
 #include "documenti/documenti.h"
 #include "errori.h"
 #include "impedimenti.h"
+#include "platform/Piattaforma.h"
 #include "reports/modStampaRelazione.h"
 
 namespace kelvo::cli {
@@ -43,7 +45,8 @@ public:
     explicit ComandoRelazione(CLI::App& radice)
         : Comando(radice, "relazione", "Compila una relazione del progetto in un documento .docx",
                   "  kelvo-cli relazione --tipo completa -o Relazione.docx Rotatoria.klv\n"
-                  "  kelvo-cli relazione --tipo ingresso --modello Studio.dotx -o Ipotesi.docx Rotatoria.klv") {
+                  "  kelvo-cli relazione --tipo ingresso --modello Studio.dotx -o Ipotesi.docx Rotatoria.klv\n"
+                  "  kelvo-cli relazione --tipo totale --pdf -o Relazione.docx Rotatoria.klv") {
         app_->add_option_function<std::string>(
                 "--tipo",
                 [this](const std::string& testo) {
@@ -64,6 +67,8 @@ public:
         aggiungiTesto(*app_, "--modello", modello_,
                       "modello .dotx proprio, al posto di quello di Kelvo; non vale per i grafici")
             ->type_name("FILE");
+        app_->add_flag("--pdf", pdf_,
+                       "scrive accanto al documento anche il suo PDF; serve un programma d'ufficio (LibreOffice)");
         aggiungiIni(comuni_);
         aggiungiNotte(comuni_);
         aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
@@ -98,6 +103,9 @@ private:
         servizi.disegnatore = pittore ? &pittore->disegnatore() : nullptr;
         servizi.percorso = uscita_;
         servizi.modelloProprio = modello_;
+        const auto sistema = creaPiattaforma();
+        ConvertitoreUfficio convertitore(sistema->processi(), sistema->file(), sistema->cartellaTemporanea());
+        servizi.pdf = pdf_ ? &convertitore : nullptr;
         modStampaRelazione modulo(contesto.app(), servizi);
         const EsitoRelazione esito = tipo_->compila(modulo);
         // What a template of one's own leaves out has been told and is no failure.
@@ -110,6 +118,7 @@ private:
     std::string uscita_;
     std::string modello_;
     std::string file_;
+    bool pdf_ = false;
 };
 
 }  // namespace

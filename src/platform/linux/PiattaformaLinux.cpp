@@ -1,4 +1,5 @@
 #include "platform/Piattaforma.h"
+#include "platform/linux/ProcessiLinux.h"
 #include "platform/linux/ServiziLinux.h"
 #include "platform/linux/SistemaFileLinux.h"
 #include "platform/linux/cartelle.h"
@@ -12,6 +13,7 @@ public:
     SistemaFile& file() override { return file_; }
     IstanzaUnica& istanza() override { return istanza_; }
     LocaleUtente& locale() override { return locale_; }
+    Processi& processi() override { return processi_; }
     ImpostazioniUtente* impostazioni() override { return nullptr; }
     ApriDocumenti* documenti() override { return nullptr; }
 
@@ -30,6 +32,7 @@ private:
     SistemaFileLinux file_;
     IstanzaLinux istanza_{lavoro_};
     LocaleLinux locale_;
+    ProcessiLinux processi_;
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "platform/Piattaforma.h"
+#include "platform/windows/ProcessiWindows.h"
 #include "platform/windows/ServiziWindows.h"
 #include "platform/windows/SistemaFileWindows.h"
 #include "platform/windows/cartelle.h"
@@ -19,6 +20,7 @@ public:
     SistemaFile& file() override { return file_; }
     IstanzaUnica& istanza() override { return istanza_; }
     LocaleUtente& locale() override { return locale_; }
+    Processi& processi() override { return processi_; }
     ImpostazioniUtente* impostazioni() override { return &impostazioni_; }
     ApriDocumenti* documenti() override { return &documenti_; }
 
@@ -47,6 +49,7 @@ private:
     SistemaFileWindows file_;
     IstanzaWindows istanza_;
     LocaleWindows locale_;
+    ProcessiWindows processi_;
     ImpostazioniWindows impostazioni_;
     ApriDocumentiWindows documenti_;
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 
@@ -109,6 +110,69 @@ TEST_F(ComandoRelazione, AStudyOfSaturationAloneHasNoCharts) {
     EXPECT_EQ(esito.codice, 1);
     EXPECT_NE(esito.errori.find("sola saturazione"), std::string::npos) << esito.errori;
     EXPECT_FALSE(std::filesystem::exists(file("r.docx")));
+}
+
+/// Runs of the program that find these programs alone.
+class ComandoRelazionePDF : public ComandoRelazione {
+protected:
+    ComandoRelazionePDF() {
+        if (const char* prima = std::getenv("PATH")) {
+            percorsi_ = prima;
+        }
+        std::filesystem::create_directory(file("programmi"));
+        setenv("PATH", file("programmi").c_str(), 1);
+    }
+    ~ComandoRelazionePDF() override { setenv("PATH", percorsi_.c_str(), 1); }
+    void programma(const std::string& nome, const std::string& righe) const {
+        const std::string percorso = file("programmi/" + nome);
+        scriviContenuto(percorso, "#!/bin/sh\n" + righe);
+        std::filesystem::permissions(percorso, std::filesystem::perms::owner_all);
+    }
+    Esito conPDF() const { return relazione("ingresso", esempio(stazione), file("r 1.docx"), {"--pdf"}); }
+    const std::string& percorsi() const { return percorsi_; }
+
+private:
+    std::string percorsi_;
+};
+
+TEST_F(ComandoRelazionePDF, ThePdfStandsBesideTheDocument) {
+    programma("soffice",
+              "printf '%%PDF-1.7 di ' > \"$7/documento.pdf\"\n/usr/bin/head -c 2 \"$8\" >> \"$7/documento.pdf\"\n");
+    const Esito esito = conPDF();
+    EXPECT_EQ(esito.codice, 0) << esito.errori;
+    EXPECT_EQ(esito.errori, "");
+    EXPECT_EQ(contenuto(file("r 1.pdf")), "%PDF-1.7 di PK");
+    EXPECT_EQ(contenuto(file("r 1.docx")).substr(0, 2), "PK");
+}
+
+TEST_F(ComandoRelazionePDF, WithoutAnOfficeProgramTheDocumentStaysAndItIsTold) {
+    const Esito esito = conPDF();
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_NE(esito.errori.find("Il PDF non è stato fatto: non c'è un programma d'ufficio che lo faccia"),
+              std::string::npos)
+        << esito.errori;
+    EXPECT_EQ(contenuto(file("r 1.docx")).substr(0, 2), "PK");
+    EXPECT_FALSE(std::filesystem::exists(file("r 1.pdf")));
+}
+
+TEST_F(ComandoRelazionePDF, AProgramThatFailsIsTold) {
+    programma("libreoffice", "exit 3\n");
+    const Esito esito = conPDF();
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_NE(esito.errori.find("libreoffice è terminato con il codice 3"), std::string::npos) << esito.errori;
+    EXPECT_FALSE(std::filesystem::exists(file("r 1.pdf")));
+}
+
+TEST_F(ComandoRelazionePDF, TheOfficeProgramOfTheMachineMakesSoundPages) {
+    setenv("PATH", percorsi().c_str(), 1);
+    if (!std::filesystem::exists("/usr/bin/soffice")) {
+        GTEST_SKIP() << "no office program on this machine";
+    }
+    const Esito esito = relazione("completa", esempio(stazione), file("r.docx"), {"--pdf"});
+    ASSERT_EQ(esito.codice, 0) << esito.errori;
+    const std::string pdf = contenuto(file("r.pdf"));
+    EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
+    EXPECT_GT(pdf.size(), 50000U);
 }
 
 #ifdef KELVO_CON_DISEGNO
