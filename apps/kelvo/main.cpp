@@ -11,5 +11,6 @@ int main(int argc, char** argv) {
                                     .impostazioni = sistema->impostazioni(),
                                     .cartellaProgramma = sistema->cartellaProgramma(),
                                     .cartellaLavoro = sistema->cartellaTemporanea(),
-                                    .cartellaRecupero = sistema->cartellaDati() + "/Recupero"});
+                                    .cartellaRecupero = sistema->cartellaDati() + "/Recupero",
+                                    .processi = &sistema->processi()});
 }

@@ -66,22 +66,18 @@ CreatoreFinestra creaRisultati(const ServiziFinestre& servizi, FabbricaFinestre&
 /// The comparison and the look of the charts are asked of their windows, where these live.
 std::unique_ptr<Finestra> creaRelazioni(const Contorno& contorno, const ServiziFinestre& servizi,
                                         const FabbricaFinestre& finestre) {
-    return std::make_unique<frmOPZrelazione>(
-        contorno, ServiziOPZrelazione{.documenti = servizi.documenti,
-                                      .finestre = servizi.collegate,
-                                      .attesa = servizi.attesa,
-                                      .corsiaDX =
-                                          [&finestre] {
-                                              auto* corsie = viva<frmDX>(finestre, "frmDX");
-                                              return corsie == nullptr ? std::optional<AnalisiCorsiaDX>{}
-                                                                       : corsie->perRelazione();
-                                          },
-                                      .grafici =
-                                          [&finestre] {
-                                              const auto* ingresso = viva<frmCapacitaCodeRitardiRamo>(
-                                                  finestre, "frmCapacitaCodeRitardiRamo");
-                                              return ingresso == nullptr ? OpzioniGrafici{} : ingresso->opzioni();
-                                          }});
+    ServiziOPZrelazione suoi{.documenti = servizi.documenti, .finestre = servizi.collegate};
+    suoi.attesa = servizi.attesa;
+    suoi.pdf = servizi.pdf;
+    suoi.corsiaDX = [&finestre] {
+        auto* corsie = viva<frmDX>(finestre, "frmDX");
+        return corsie == nullptr ? std::optional<AnalisiCorsiaDX>{} : corsie->perRelazione();
+    };
+    suoi.grafici = [&finestre] {
+        const auto* ingresso = viva<frmCapacitaCodeRitardiRamo>(finestre, "frmCapacitaCodeRitardiRamo");
+        return ingresso == nullptr ? OpzioniGrafici{} : ingresso->opzioni();
+    };
+    return std::make_unique<frmOPZrelazione>(contorno, suoi);
 }
 
 /// Shows texts that the system has no program for, over the main window.

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/campiMostrati.h"
+#include "app/convertitorePDF.h"
 #include "app/serviziSistema.h"
 #include "shell/FabbricaFinestre.h"
 #include "shell/servizi/DialogoAnteprima.h"
@@ -26,6 +27,8 @@ struct ServiziFinestre {
     StampaPagine* stampa = nullptr;
     /// Lets the progress of a report be painted and nothing else happen; null where nothing is painted.
     Attesa* attesa = nullptr;
+    /// Makes the PDF of a report; null for none.
+    ConvertitorePDF* pdf = nullptr;
 };
 
 /// Registers every window of the work area, and those over it. The services must outlive the windows; what a result

@@ -6,8 +6,10 @@
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 #include <clocale>
+#include <optional>
 
 #include "app/Applicazione.h"
+#include "app/convertitorePDF.h"
 #include "disegno/DisegnatoreQt.h"
 #include "shell/CampiFinestre.h"
 #include "shell/Main.h"
@@ -81,13 +83,18 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     CampiFinestre campi(cornice.finestre, cornice.gestione);
     StampaQt stampa;
     AttesaPittura pittura;
+    std::optional<ConvertitoreUfficio> pdf;
+    if (piattaforma.processi != nullptr) {
+        pdf.emplace(*piattaforma.processi, piattaforma.file, piattaforma.cartellaLavoro);
+    }
     registraFinestre(cornice.finestre, {.documenti = documenti,
                                         .anteprima = anteprima,
                                         .collegate = collegate,
                                         .cronometro = simulazione,
                                         .campi = &campi,
                                         .stampa = &stampa,
-                                        .attesa = &pittura});
+                                        .attesa = &pittura,
+                                        .pdf = pdf ? &*pdf : nullptr});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});

@@ -97,6 +97,7 @@ public:
         motivo->setWordWrap(true);
         colonna()->addWidget(motivo);
         colonna()->addWidget(modelli(f));
+        colonna()->addWidget(pdf(f));
         aggiungiAiuto(QStringLiteral("Che cosa contiene"))->soloPagina();
         chiudiDisposizione();
     }
@@ -114,6 +115,20 @@ private:
         riga->addWidget(quale, 1);
         riga->addWidget(collega(f.cmdModello, fila));
         riga->addWidget(collega(f.cmdModelloKelvo, fila));
+        return fila;
+    }
+
+    /// The tick for a PDF, and why it is closed.
+    QWidget* pdf(frmOPZrelazione& f) {
+        auto* fila = new QWidget(corpo());
+        auto* riga = new QHBoxLayout(fila);
+        riga->setContentsMargins(0, 0, 0, 0);
+        riga->setSpacing(misura::spazio);
+        riga->addWidget(collega(f.chkPDF, fila));
+        QLabel* motivo = collega(f.lblPDF, fila);
+        motivo->setFont(dati(punti::nota));
+        motivo->setWordWrap(true);
+        riga->addWidget(motivo, 1);
         return fila;
     }
 };
