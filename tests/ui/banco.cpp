@@ -88,7 +88,8 @@ Banco::Banco(int disposizione, SistemaFile& file)
                                         .cronometro = simulazione,
                                         .campi = &campi,
                                         .stampa = &stampa,
-                                        .attesa = &pittura});
+                                        .attesa = &pittura,
+                                        .pdf = &pdf});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
 }

@@ -8,6 +8,7 @@
 
 #include "comune/cronometro.h"
 #include "comune/fintiShell.h"
+#include "comune/processiFinti.h"
 #include "comune/stampaFinta.h"
 #include "disegno/DisegnatoreQt.h"
 #include "shell/CampiFinestre.h"
@@ -79,6 +80,7 @@ public:
     CampiFinestre campi{cornice.finestre, cornice.gestione};
     StampaFinta stampa;
     ui::AttesaPittura pittura;
+    ConvertitoreFinto pdf;
 };
 
 /// Every property of a project with its value as text: "Ramo 3/DatiTraffico/Tempo1" and the like.

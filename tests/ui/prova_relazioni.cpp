@@ -1,14 +1,15 @@
 // The reports by key and mouse, from their own window and from those whose results they show.
 
-#include <QtCore/QPointer>
-#include <QtGui/QKeyEvent>
+#include <QtCore/QEvent>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTextBrowser>
 #include <array>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "reports/frmOPZrelazione.h"
 #include "reports/modelloProva.h"
@@ -98,6 +99,10 @@ TEST_F(Relazioni, TheMenuLeadsToTheWindowAndTheOptionsTellWhereTheKeyboardStarts
     EXPECT_EQ(banco.oggetto<QLabel>("lblTitolo").text(),
               QStringLiteral("Nome Progetto: Rotatoria_Viale_della_Stazione"));
     EXPECT_TRUE(banco.oggetto<QTextBrowser>("ctlHelp").toPlainText().contains(QStringLiteral("soli risultati")));
+    const auto& tasti = banco.cornice.ctlStatusBar.suggerimenti();
+    ASSERT_EQ(tasti.size(), 4U);
+    EXPECT_EQ(tasti[1], (SuggerimentoTasto{"Alt+1 ... 5", "scelta diretta"}));
+    EXPECT_EQ(tasti[2], (SuggerimentoTasto{"Invio", "compila"}));
     tasto(Qt::Key_Tab);
     EXPECT_EQ(gesti::fuoco(), "cmd3");
     tasto(Qt::Key_Down);
@@ -176,21 +181,30 @@ TEST_F(Relazioni, TheProgressStandsBesideTheButtonsWhileARunGoesOn) {
     }
 }
 
-TEST_F(Relazioni, GesturesDuringARunWaitAndDoNothingToIt) {
+/// Counts how often a widget of a name was painted.
+class Contapitture final : public QObject {
+public:
+    explicit Contapitture(const char* nome) : nome_(QString::fromLatin1(nome)) { qApp->installEventFilter(this); }
+    int quante = 0;
+
+protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        quante += evento->type() == QEvent::Paint && oggetto->objectName() == nome_ ? 1 : 0;
+        return QObject::eventFilter(oggetto, evento);
+    }
+
+private:
+    QString nome_;
+};
+
+TEST_F(Relazioni, EachStepIsPaintedWhileARunGoesOn) {
     apri();
     apriRelazioni();
-    int dipinti = 0;
-    QPointer<QWidget> veduto;
-    banco.dialogo.allaRichiesta = [&] {
-        veduto = avanzamento();
-        // What the system's queue holds meanwhile: a key that would close the project.
-        QCoreApplication::postEvent(&banco.vista, new QKeyEvent(QEvent::KeyPress, Qt::Key_W, Qt::ControlModifier));
-        dipinti += veduto != nullptr ? 1 : 0;
-    };
+    Contapitture barra("ctlProgressBar");
+    int prima = 0;
+    banco.dialogo.allaRichiesta = [&] { prima = barra.quante; };
     compila(Qt::Key_1, Qt::AltModifier);
-    EXPECT_EQ(dipinti, 1);
-    EXPECT_TRUE(fs::exists(uscita()));
-    EXPECT_TRUE(banco.stato.ProgettoAperto);
+    EXPECT_GE(prima, 12) << "of 15 steps, each longer than the last";
 }
 
 TEST_F(Relazioni, CancelEndsQuietlyAndLeavesNoFile) {
@@ -293,6 +307,28 @@ TEST_F(Relazioni, ATemplateOfTheUsersOwnIsChosenByItsButtonAndGivenBack) {
     clic(banco.oggetto("cmdModelloKelvo"));
     ASSERT_TRUE(attendi([&] { return !banco.oggetto("cmdModelloKelvo").isVisible(); }));
     EXPECT_EQ(banco.oggetto<QLabel>("lblModello").text(), QStringLiteral("Modelli: quelli di Kelvo"));
+}
+
+TEST_F(Relazioni, ThePDFIsTickedOnceForAllAndMadeBesideTheReport) {
+    apri();
+    apriRelazioni();
+    auto& spunta = banco.oggetto<QAbstractButton>("chkPDF");
+    ASSERT_TRUE(spunta.isEnabled());
+    EXPECT_FALSE(banco.oggetto("lblPDF").isVisible());
+    compila(Qt::Key_1, Qt::AltModifier);
+    EXPECT_TRUE(banco.pdf.fatti.empty());
+    banco.entra("chkPDF");
+    tasto(Qt::Key_Space);
+    ASSERT_TRUE(attendi([&] { return spunta.isChecked(); }));
+    compila(Qt::Key_1, Qt::AltModifier);
+    ASSERT_EQ(banco.pdf.fatti.size(), 1U);
+    EXPECT_EQ(banco.pdf.fatti.front(), std::pair(uscita(), banco.cartella.file("Uscita.pdf")));
+    EXPECT_TRUE(fs::exists(banco.cartella.file("Uscita.pdf")));
+    banco.pdf.manca = "manca il programma d'ufficio";
+    banco.vai("keyMyProject");
+    apriRelazioni();
+    EXPECT_FALSE(banco.oggetto("chkPDF").isEnabled());
+    EXPECT_TRUE(banco.oggetto("lblPDF").isVisible());
 }
 
 TEST_F(Relazioni, TheResultWindowsLeadToTheirWindow) {
