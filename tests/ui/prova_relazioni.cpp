@@ -5,7 +5,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTextBrowser>
 #include <array>
 #include <filesystem>
 #include <string>
@@ -98,7 +97,7 @@ TEST_F(Relazioni, TheMenuLeadsToTheWindowAndTheOptionsTellWhereTheKeyboardStarts
     EXPECT_EQ(gesti::fuoco(), "cmd2");
     EXPECT_EQ(banco.oggetto<QLabel>("lblTitolo").text(),
               QStringLiteral("Nome Progetto: Rotatoria_Viale_della_Stazione"));
-    EXPECT_TRUE(banco.oggetto<QTextBrowser>("ctlHelp").toPlainText().contains(QStringLiteral("soli risultati")));
+    EXPECT_EQ(finestra<frmOPZrelazione>().ctlHelp.pagina(), "RelazioneRisultati.htm");
     const auto& tasti = banco.cornice.ctlStatusBar.suggerimenti();
     ASSERT_EQ(tasti.size(), 4U);
     EXPECT_EQ(tasti[1], (SuggerimentoTasto{"Alt+1 ... 5", "scelta diretta"}));
@@ -110,7 +109,7 @@ TEST_F(Relazioni, TheMenuLeadsToTheWindowAndTheOptionsTellWhereTheKeyboardStarts
     tasto(Qt::Key_Up);
     EXPECT_EQ(gesti::fuoco(), "cmd3");
     banco.entra("cmdModello");
-    EXPECT_TRUE(banco.oggetto<QTextBrowser>("ctlHelp").toPlainText().contains(QStringLiteral("segnaposto")));
+    EXPECT_EQ(finestra<frmOPZrelazione>().ctlHelp.pagina(), "ModelloRelazione.htm");
 }
 
 TEST_F(Relazioni, AltAndItsNumberMakesEachReport) {

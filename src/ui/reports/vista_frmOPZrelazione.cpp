@@ -17,7 +17,7 @@ namespace kelvo::ui {
 
 namespace {
 
-constexpr int larghezzaBottoni = 600;
+constexpr int larghezzaBottoni = 540;
 constexpr int altezzaBottone = 68;
 
 /// Number, icon and two lines: a report. Alt and its number make it from anywhere in the window.
@@ -112,6 +112,7 @@ private:
         QLabel* quale = collega(f.lblModello, fila);
         quale->setFont(dati(punti::corpo));
         quale->setWordWrap(true);
+        quale->setContentsMargins(misura::sporgenza, 0, 0, 0);  // in line with the sign of the tick
         riga->addWidget(quale, 1);
         riga->addWidget(collega(f.cmdModello, fila));
         riga->addWidget(collega(f.cmdModelloKelvo, fila));

@@ -18,7 +18,7 @@ public:
         titoloAccanto(*this);
         constexpr int m = misura::margine;
         corpo()->layout()->setContentsMargins(m, m, m, m);
-        larghezzaColonna(QWIDGETSIZE_MAX);
+        larghezzaColonna(misura::colonnaRisultati - 2 * m - 2);
         destra()->parentWidget()->hide();
         colonna()->setSpacing(misura::spazio);
         QLabel* passo = collega(f.lblAvanzamento, corpo());

@@ -5,6 +5,7 @@
 #include "base/numeri.h"
 #include "comune/guasti.h"
 #include "results/graficiSensibilita.h"
+#include "results/relazioneSensibilita.h"
 #include "scenaRisultati.h"
 
 namespace kelvo::prove {
