@@ -13,6 +13,7 @@
 #include <functional>
 
 #include "disegno/caratteri.h"
+#include "disegno/codificaPng.h"
 #include "disegno/pittoreGrafico.h"
 #include "disegno/pittorePianta.h"
 #include "pianta/Pianta.h"
@@ -42,7 +43,7 @@ EsitoDisegno finito(const QByteArray& byte) {
 
 EsitoDisegno png(const Foglio& foglio, double scala) {
     const QSize pixel = (foglio.misura * scala).toSize();
-    QImage immagine(pixel, QImage::Format_ARGB32_Premultiplied);
+    QImage immagine(pixel, QImage::Format_RGB32);
     if (immagine.isNull()) {
         return nonRiuscito("l'immagine è troppo grande");
     }
@@ -53,10 +54,8 @@ EsitoDisegno png(const Foglio& foglio, double scala) {
     pennello.scale(scala, scala);
     foglio.dipingi(pennello);
     pennello.end();
-    QByteArray byte;
-    QBuffer memoria(&byte);
-    memoria.open(QIODevice::WriteOnly);
-    return immagine.save(&memoria, "PNG") ? finito(byte) : nonRiuscito("l'immagine non si lascia scrivere");
+    const QByteArray byte = codificaPng(immagine);
+    return byte.isEmpty() ? nonRiuscito("l'immagine non si lascia scrivere") : finito(byte);
 }
 
 /// The families of a face as a list for style sheets, the one that was measured first.

@@ -29,6 +29,7 @@ constexpr const char* senzaConvertitore = "qui nessun programma lo può fare";
 constexpr const char* filtroModelli = "Modello di relazione (*.dotx)|*.dotx|Documento (*.docx)|*.docx";
 }  // namespace testi
 
+constexpr const char* paginaModello = "ModelloRelazione.htm";
 constexpr const char* carattereTitolo = "Segoe UI Semilight";
 // Where the template of the user's own is kept from run to run.
 constexpr const char* applicazione = "Kelvo";
@@ -78,10 +79,27 @@ frmOPZrelazione::frmOPZrelazione(const Contorno& contorno, const ServiziOPZrelaz
     }
     ordina(controlli);
     cmdModello.visibile(this->contorno().servizi.dialogo != nullptr);
+    ctlHelp.pagina(std::string{vociRelazione.front().pagina});
 }
 
 frmOPZrelazione::~frmOPZrelazione() {
     servizi_.finestre.dimentica(avanzamento);
+}
+
+std::vector<SuggerimentoTasto> frmOPZrelazione::suggerimenti() const {
+    return {{"Alt+1 ... 5", "scelta diretta"}, {"Invio", "compila"}};
+}
+
+void frmOPZrelazione::entrato(Controllo& campo) {
+    Finestra::entrato(campo);
+    if (&campo == &cmdModello || &campo == &cmdModelloKelvo) {
+        ctlHelp.pagina(paginaModello);
+    }
+    for (std::size_t i = 0; i < cmd.size(); ++i) {
+        if (&campo == &cmd.at(i)) {
+            ctlHelp.pagina(std::string{vociRelazione.at(i).pagina});
+        }
+    }
 }
 
 void frmOPZrelazione::attivata() {

@@ -5,10 +5,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "reports/frmRelazioneProgressBar.h"
 #include "reports/modStampaRelazione.h"
 #include "shell/servizi/FinestreCollegate.h"
+#include "shell/servizi/TastiPropri.h"
 
 namespace kelvo {
 
@@ -18,13 +20,16 @@ struct VoceRelazione {
     std::string_view titolo;       ///< first line
     std::string_view sottotitolo;  ///< second line
     std::string_view icona;
+    std::string_view pagina;  ///< of the help
 };
 inline constexpr std::array<VoceRelazione, 5> vociRelazione{{
-    {"cmd1", "Ipotesi progettuali", "(solo dati di input)", "DatiTraffico"},
-    {"cmd2", "Verifiche prestazionali", "(solo risultati)", "Risultati"},
-    {"cmd3", "Ipotesi progettuali e Verifiche prestazionali", "(dati di input e risultati)", "Relazione"},
-    {"cmd4", "Relazione di calcolo COMPLETA", "(dati di input, risultati e Corsia preferenziale)", "Progetto"},
-    {"cmd5", "ANALISI GRANDEZZE PRESTAZIONALI", "Singoli ingressi", "Analizzatore"},
+    {"cmd1", "Ipotesi progettuali", "(solo dati di input)", "DatiTraffico", "RelazioneDati.htm"},
+    {"cmd2", "Verifiche prestazionali", "(solo risultati)", "Risultati", "RelazioneRisultati.htm"},
+    {"cmd3", "Ipotesi progettuali e Verifiche prestazionali", "(dati di input e risultati)", "Relazione",
+     "RelazioneDatiRisultati.htm"},
+    {"cmd4", "Relazione di calcolo COMPLETA", "(dati di input, risultati e Corsia preferenziale)", "Progetto",
+     "RelazioneCompleta.htm"},
+    {"cmd5", "ANALISI GRANDEZZE PRESTAZIONALI", "Singoli ingressi", "Analizzatore", "RelazioneGrafici.htm"},
 }};
 
 /// What the window asks of the outside beyond what every window is handed; the references outlive it.
@@ -42,7 +47,7 @@ struct ServiziOPZrelazione {
 };
 
 /// "Compila relazione": the reports of the project, and the template of the user's own that they are made from.
-class frmOPZrelazione final : public Finestra {
+class frmOPZrelazione final : public Finestra, public TastiPropri {
 public:
     frmOPZrelazione(const Contorno& contorno, const ServiziOPZrelazione& servizi);
     frmOPZrelazione(const frmOPZrelazione&) = delete;
@@ -58,6 +63,11 @@ public:
     Casella chkPDF;    ///< a PDF of each report too, beside it; kept from run to run, closed where there is none
     Etichetta lblPDF;  ///< why `chkPDF` is closed; else hidden
     frmRelazioneProgressBar avanzamento;
+
+    PannelloAiuto ctlHelp{"ctlHelp"};  ///< what the button in use makes
+    PannelloAiuto* aiuto() override { return &ctlHelp; }
+    std::vector<SuggerimentoTasto> suggerimenti() const override;
+    void entrato(Controllo& campo) override;
 
     /// Compiles the report of a button, from 0. A run at a time: nothing happens while one goes on.
     void compila(std::size_t quale);

@@ -10,8 +10,8 @@
 #include "app/Applicazione.h"
 #include "app/convertitorePDF.h"
 #include "app/serviziSistema.h"
-#include "calc/simulazione.h"
 #include "reports/DocumentoRelazione.h"
+#include "results/corsiaDestra.h"
 #include "results/graficiRamo.h"
 #include "shell/servizi/disegnatore.h"
 #include "shell/servizi/relazioneGrafica.h"
@@ -32,12 +32,6 @@ public:
     /// Some 20 times a second while the run waits for another program.
     virtual void attende() {}
     virtual void chiudi() = 0;
-};
-
-/// Right-turn lanes as their window compared them.
-struct AnalisiCorsiaDX {
-    CorsieDestra corsie{};
-    Tabella tabella;
 };
 
 /// What a report asks of the outside.

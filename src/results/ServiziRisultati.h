@@ -4,9 +4,9 @@
 #include <string>
 
 #include "app/serviziSistema.h"
-#include "results/relazioneSensibilita.h"
 #include "shell/servizi/FinestreCollegate.h"
 #include "shell/servizi/documentoPagine.h"
+#include "shell/servizi/relazioneGrafica.h"
 
 namespace kelvo {
 
@@ -18,8 +18,10 @@ struct ServiziRisultati {
     std::function<void(const std::string&)> foglio{};
     /// Leads to the window of the reports; empty while there is none.
     std::function<void()> relazione{};
-    /// Makes the report of a sensitivity analysis; empty while there is none.
-    std::function<void(const RelazioneSensibilita&)> relazioneSensibilita{};
+    /// Makes the report of what a window shows; empty while there is none.
+    std::function<void(const RelazioneGrafica&)> relazioneGrafica{};
+    /// Makes the whole report, with the right-turn lanes; empty while there is none.
+    std::function<void()> relazioneTotale{};
     /// Paper and PDF; null for none.
     StampaPagine* stampa = nullptr;
 };

@@ -15,6 +15,7 @@ namespace {
 namespace testi {
 constexpr const char* didascalia = "Analizzatore";
 constexpr const char* variabile = "Variabile prestazionale: ";
+constexpr const char* didascaliaFigura = "Confronto ingressi - ";
 constexpr const char* intervallo = "Intervallo di tempo: ";
 constexpr const char* ingresso = "Ingresso";
 constexpr const char* linea = "---------------";
@@ -200,16 +201,15 @@ std::string testoConfronto(const Tabella& tabella, const SceltaConfronto& scelta
     return testo.append(righeDiChiusura(momento, nomeFile));
 }
 
-RelazioneConfronto relazioneConfronto(const SceltaConfronto& scelta, const std::string& istante,
-                                      const Grafico::Contenuto& grafico) {
+RelazioneGrafica relazioneConfronto(const SceltaConfronto& scelta, const std::string& istante,
+                                    const Grafico::Contenuto& grafico) {
+    const std::string variabile{nomeVariabile(scelta)};
     return {.modello = "\\Modelli\\Grafico.dot",
+            .prefisso = "Analizzatore_",
             .titolo = "ANALISI GRANDEZZE PRESTAZIONALI",
             .sottotitolo = "Confronto ingressi",
-            .variabile = testi::variabile + nomeVariabile(scelta),
-            .intervallo = testi::intervallo + istante,
-            .inizioNome = "Analizzatore_",
-            .immagine = "Grafico.PNG",
-            .grafico = grafico};
+            .righe = {testi::variabile + variabile, testi::intervallo + istante},
+            .figure = {{.grafico = grafico, .didascalia = testi::didascaliaFigura + variabile + ", " + istante}}};
 }
 
 }  // namespace kelvo

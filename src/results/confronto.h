@@ -9,6 +9,7 @@
 #include "model/Rotonda.h"
 #include "results/grandezze.h"
 #include "shell/servizi/Grafico.h"
+#include "shell/servizi/relazioneGrafica.h"
 
 namespace kelvo {
 
@@ -124,19 +125,8 @@ Tabella tabellaConfronto(const Confronto& confronto, const SceltaConfronto& scel
 std::string testoConfronto(const Tabella& tabella, const SceltaConfronto& scelta, DataOra momento,
                            std::string_view nomeFile);
 
-/// What the report of a comparison is made of.
-struct RelazioneConfronto {
-    std::string modello;  ///< path of its template below the program's folder
-    std::string titolo;
-    std::string sottotitolo;
-    std::string variabile;   ///< line that names what is compared
-    std::string intervallo;  ///< line that names the instant
-    std::string inizioNome;  ///< its file name begins with it
-    std::string immagine;    ///< file name of its picture
-    Grafico::Contenuto grafico;
-};
 /// The report of what a chart shows at an instant, "HH:NN".
-RelazioneConfronto relazioneConfronto(const SceltaConfronto& scelta, const std::string& istante,
-                                      const Grafico::Contenuto& grafico);
+RelazioneGrafica relazioneConfronto(const SceltaConfronto& scelta, const std::string& istante,
+                                    const Grafico::Contenuto& grafico);
 
 }  // namespace kelvo

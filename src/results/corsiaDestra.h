@@ -43,6 +43,12 @@ bool corsieDisponibili(const Rotonda& rotonda);
 /// True where at least one lane is switched on.
 bool almenoUnaCorsia(const CorsieDestra& corsie);
 
+/// Right-turn lanes as their window compared them: the lanes, and the table of the comparison.
+struct AnalisiCorsiaDX {
+    CorsieDestra corsie{};
+    Tabella tabella;
+};
+
 /// Flow of a right turn, by its place from 0: vehicles (" [veic.]") or, where the matrix is in per cent, per cent of
 /// the entry's flow (" [%]"). Fault 9 where the legs of the turn do not exist.
 std::string flussoSvolta(const Rotonda& rotonda, std::size_t posizione);

@@ -61,6 +61,8 @@ public:
     std::int16_t indiceRamo() const { return indice_; }
     /// What the figures of the window add up to; not present before a calculation.
     const StatisticheIngresso& statistiche() const { return statistiche_; }
+    /// How the charts are drawn.
+    OpzioniGrafici opzioni() const;
 
 protected:
     void calcola() override;
@@ -78,7 +80,6 @@ private:
     DocumentoPagine::Tabella riassuntiSuCarta() const;
     void disegna(int segmenti);
     void ridisegna();
-    OpzioniGrafici opzioni() const;
     void premuto2(const std::string& chiave);
     void Visualizza();
     void Aggiuntivi();

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/guasto.h"
 #include "base/numeri.h"
+#include "results/calcoloIpotesi.h"
 #include "results/inVigore.h"
 #include "results/livelloServizio.h"
 
@@ -19,6 +21,8 @@ constexpr const char* inSimulazione = " - simulazione";
 constexpr const char* variabile =
     "Grandezza in cui si confrontano gli ingressi.\nL'asse dei valori è fissato sul valore più grande di tutti gli "
     "ingressi e di tutto il periodo.";
+constexpr const char* senzaGrandezze =
+    "L'analisi del progetto è di sola saturazione: non ci sono grandezze nel tempo da rappresentare.";
 }  // namespace testi
 
 constexpr const char* metodoSimulazione = "frmConfronti:cmdPLAY";
@@ -353,7 +357,25 @@ FinestraRisultati::Blocchi frmConfronti::figureSuCarta() const {
     return blocchi;
 }
 
-RelazioneConfronto frmConfronti::perRelazione() const {
+void frmConfronti::relazione() {
+    if (inSimulazione_) {
+        fine();
+    }
+    const std::int16_t tipo = rotonda().TipoAnalisi();
+    if ((tipo != analisi::curva && tipo != analisi::tabella) || posizione_ == 0) {
+        throw Guasto::conParole(NumeroGuasto::operazioneImpossibile, testi::senzaGrandezze);
+    }
+    if (!app().risultatiAttuali()) {
+        calcola();
+        aggiornaNote();
+        if (!motore().riuscita()) {
+            return;  // the engine has told why
+        }
+    }
+    servizi().relazioneGrafica(perRelazione());
+}
+
+RelazioneGrafica frmConfronti::perRelazione() const {
     return relazioneConfronto(scelta(), txtIstanteTEMPO.testo(), ctlChartConfronti.contenuto());
 }
 

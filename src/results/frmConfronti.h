@@ -69,10 +69,12 @@ public:
     /// Top of the axis of values for the variable in view.
     float MassimoGrafico() const { return MassimoGrafico_; }
     /// The report of the chart in view.
-    RelazioneConfronto perRelazione() const;
+    RelazioneGrafica perRelazione() const;
 
 protected:
     void calcola() override;
+    /// The report of the chart in view; what is missing or old is calculated first. A playback ends.
+    void relazione() override;
     std::string testoAnteprima() override;
     std::string nomeAnteprima() const override { return "Confronto.txt"; }
     std::string motivoFlussi() const override;

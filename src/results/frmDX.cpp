@@ -1,7 +1,5 @@
 #include "results/frmDX.h"
 
-#include <fmt/format.h>
-
 #include <utility>
 
 #include "base/guasto.h"
@@ -28,7 +26,6 @@ constexpr const char* interrotto = "Il calcolo si è interrotto: le cifre non so
 }  // namespace testi
 
 constexpr const char* paginaCorsie = "CorsiaDX.htm";
-constexpr const char* nonScelta = " -";
 constexpr std::array tastiConCorsie{"keyCalcola", "keyAnteprima", "keyRelazione"};
 /// Rows of the level of service: without and with the lanes.
 constexpr int righeLivello = 2;
@@ -208,7 +205,22 @@ FinestraRisultati::Blocchi frmDX::figureSuCarta() const {
             D::Paragrafo{.testo = lblLegenda.testo(), .quieto = true}};
 }
 
-std::optional<RelazioneDX> frmDX::perRelazione() {
+void frmDX::relazione() {
+    if (!chkStampaDX.spuntata() || !servizi().relazioneTotale) {
+        FinestraRisultati::relazione();
+        return;
+    }
+    if (nelTempo() && (!conFigure() || !motivoVecchi().empty())) {
+        calcola();
+        aggiornaNote();
+        if (!confronto_.calcolato()) {
+            return;  // the engine has told why
+        }
+    }
+    servizi().relazioneTotale();
+}
+
+std::optional<AnalisiCorsiaDX> frmDX::perRelazione() {
     if (!chkStampaDX.spuntata() || !corsieDisponibili(rotonda()) || !almenoUnaCorsia(corsie()) || !conFigure()) {
         return std::nullopt;
     }
@@ -219,12 +231,7 @@ std::optional<RelazioneDX> frmDX::perRelazione() {
             return std::nullopt;
         }
     }
-    RelazioneDX dati{.ipotesi = {}, .tabella = confronto_.tabella()};
-    for (std::size_t i = 0; i < posizioniDX.size(); ++i) {
-        dati.ipotesi[i] =
-            corsie()[i] ? fmt::format("{} ==> {}", posizioniDX[i].testo, flussoSvolta(rotonda(), i)) : nonScelta;
-    }
-    return dati;
+    return AnalisiCorsiaDX{.corsie = corsie(), .tabella = confronto_.tabella()};
 }
 
 }  // namespace kelvo

@@ -12,13 +12,6 @@
 
 namespace kelvo {
 
-/// What a report takes of the comparison.
-struct RelazioneDX {
-    /// One text a position: the line of the list, " ==> ", the flow of the turn; " -" where it is not chosen.
-    std::array<std::string, posizioniDX.size()> ipotesi;
-    Tabella tabella;
-};
-
 /// The four entries with and without right-turn lanes, side by side. The lanes that are chosen live in the window and
 /// are no part of the project.
 class frmDX final : public FinestraRisultati {
@@ -49,11 +42,14 @@ public:
     /// The comparison for a report; nothing where it was not asked for, or no calculation was, or no lane is chosen, or
     /// the calculation fails. Figures that are not those of the project and of the lanes as they stand, and those of a
     /// calculation that failed, are calculated anew.
-    std::optional<RelazioneDX> perRelazione();
+    std::optional<AnalisiCorsiaDX> perRelazione();
 
 protected:
     bool ammette(const std::string& chiave) override;
     void calcola() override;
+    /// With the comparison asked for, the whole report with it, which is calculated first where it is missing or old;
+    /// else the window of the reports.
+    void relazione() override;
     /// The lanes named in it are those of the figures. Fault 5 where there are no whole figures.
     std::string testoAnteprima() override;
     std::string nomeAnteprima() const override { return "RisultatiDX.txt"; }

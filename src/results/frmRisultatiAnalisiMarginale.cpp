@@ -246,7 +246,7 @@ void frmRisultatiAnalisiMarginale::apriTasti() {
     ctlToolbar.annota("keyCalcola", analisi_.nessunoAttivo() ? testi::nessunaGrandezza : "");
     ctlToolbar.abilita("keyAnteprima", grandezza);
     ctlToolbar.annota("keyAnteprima", soloGrandezze);
-    const bool conRelazione = servizi().relazioneSensibilita != nullptr;
+    const bool conRelazione = servizi().relazioneGrafica != nullptr;
     ctlToolbar.abilita("keyRelazione", conRelazione && grandezza);
     ctlToolbar.annota("keyRelazione", conRelazione ? soloGrandezze : std::string{notaNonAncora});
     Command1.abilitato(grandezza && analisi_.attivo(static_cast<std::size_t>(ctlTab.corrente())));
@@ -342,8 +342,14 @@ void frmRisultatiAnalisiMarginale::calcolata(std::size_t parametro) {
 }
 
 void frmRisultatiAnalisiMarginale::relazione() {
-    servizi().relazioneSensibilita(
-        relazioneSensibilita(inVista(), *variabile(), ramo(), rotonda(), app().orologio.adesso()));
+    const auto scheda = static_cast<std::size_t>(ctlTab.corrente());
+    if (superato(timbri_.at(scheda))) {
+        calcolaScheda();
+        if (!timbri_.at(scheda)) {
+            return;  // the engine has told why
+        }
+    }
+    servizi().relazioneGrafica(relazioneSensibilita(inVista(), *variabile(), ramo()));
 }
 
 std::string frmRisultatiAnalisiMarginale::testoAnteprima() {

@@ -2,35 +2,20 @@
 
 #include <fmt/format.h>
 
-#include "base/date.h"
-#include "results/graficiSensibilita.h"
-
 namespace kelvo {
 
-namespace {
-
-constexpr std::string_view titolo = "OTTIMIZZAZIONE GEOMETRICA";
-constexpr std::string_view sottotitolo = "Analisi risultati";
-constexpr std::string_view prefissoFile = "Ottimizzazione_geometrica_";
-
-/// "21-11-2026--10-30"
-std::string momentoNelNome(DataOra momento) {
-    const PartiData p = partiDi(momento);
-    return fmt::format("{:02}-{:02}-{}--{:02}-{:02}", p.giorno, p.mese, p.anno, p.ora, p.minuto);
-}
-
-}  // namespace
-
-RelazioneSensibilita relazioneSensibilita(const TabellaSensibilita& tabella, Prestazione quale, const Ramo& ramo,
-                                          const Rotonda& rotonda, DataOra momento) {
-    return {.titolo = std::string{titolo},
-            .sottotitolo = std::string{sottotitolo},
-            .ramo = "Denominazione ramo:  " + ramo.Descrizione(),
-            .variabile = fmt::format("Variabile prestazionale:  {}", voce(quale).nomeRelazione),
-            .grandezza = fmt::format("Grandezza geometrica: {}", tabella.parametro().nomeRelazione),
+RelazioneGrafica relazioneSensibilita(const TabellaSensibilita& tabella, Prestazione quale, const Ramo& ramo) {
+    const Grafico::Contenuto grafico = graficoSensibilita(tabella, quale);
+    return {.modello = "\\Modelli\\Grafico_AM.dot",
+            .prefisso = "Ottimizzazione_geometrica_",
+            .titolo = "OTTIMIZZAZIONE GEOMETRICA",
+            .sottotitolo = "Analisi risultati",
+            .righe = {"Denominazione ramo:  " + ramo.Descrizione(),
+                      fmt::format("Variabile prestazionale:  {}", voce(quale).nomeRelazione),
+                      fmt::format("Grandezza geometrica: {}", tabella.parametro().nomeRelazione)},
             .tabella = tabella.tabella(),
-            .grafico = graficoSensibilita(tabella, quale),
-            .nomeFile = fmt::format("{}{}_{}.doc", prefissoFile, rotonda.NomeFile(), momentoNelNome(momento))};
+            .didascaliaTabella = fmt::format("Passi di: {}", tabella.parametro().nome),
+            .figure = {{.grafico = grafico, .didascalia = grafico.titolo}}};
 }
 
 }  // namespace kelvo

@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <utility>
 
 #include "shell/MDI_Form.h"
 #include "shell/menuPrincipale.h"
+#include "shell/servizi/TastiPropri.h"
 #include "shell/servizi/scorciatoie.h"
 
 namespace kelvo {
@@ -100,6 +102,13 @@ void MDI_Form::aggiornaSuggerimenti(Finestra* finestra) {
                                           [&](const auto& b) { return b.abilitato && b.chiave == s.tasto; });
             if (suo != bottoni.end() && tutti.size() + 1 < BarraStato::suggerimentiMassimi) {
                 tutti.push_back(mostrato(s.tasti, suo->testo));
+            }
+        }
+    }
+    if (const auto* propri = dynamic_cast<const TastiPropri*>(finestra)) {
+        for (SuggerimentoTasto& proprio : propri->suggerimenti()) {
+            if (tutti.size() + 1 < BarraStato::suggerimentiMassimi) {
+                tutti.push_back(std::move(proprio));
             }
         }
     }

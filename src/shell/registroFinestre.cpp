@@ -12,6 +12,7 @@
 #include "input/frmParametriRamo.h"
 #include "input/frmTempoModellazione.h"
 #include "input/frmToponomasticaIntersezione.h"
+#include "reports/frmOPZrelazione.h"
 #include "results/frmAnteprimaTesto.h"
 #include "results/frmCapacitaCodeRitardi.h"
 #include "results/frmCapacitaCodeRitardiRamo.h"
@@ -34,11 +35,50 @@ std::unique_ptr<Finestra> crea(const Contorno& contorno) {
     return std::make_unique<F>(contorno);
 }
 
+constexpr const char* finestraRelazioni = "frmOPZrelazione";
+
+/// The window of a class, if it lives; else null.
 template <class F>
-CreatoreFinestra creaRisultati(const ServiziFinestre& servizi) {
-    return [risultati = servizi.risultati()](const Contorno& contorno) {
-        return std::make_unique<F>(contorno, risultati);
+F* viva(const FabbricaFinestre& finestre, std::string_view nome) {
+    return dynamic_cast<F*>(finestre.viva(nome));
+}
+
+/// What the result windows are handed. Their reports are made by the window of the reports.
+ServiziRisultati perRisultati(const ServiziFinestre& servizi, FabbricaFinestre& finestre, const Contorno& contorno) {
+    const auto relazioni = [&finestre, contorno]() -> frmOPZrelazione& {
+        return dynamic_cast<frmOPZrelazione&>(finestre.finestra(finestraRelazioni, contorno));
     };
+    ServiziRisultati risultati{.documenti = servizi.documenti, .finestre = servizi.collegate};
+    risultati.foglio = servizi.foglio;
+    risultati.stampa = servizi.stampa;
+    risultati.relazione = [relazioni, &collegate = servizi.collegate] { collegate.mostra(relazioni()); };
+    risultati.relazioneGrafica = [relazioni](const RelazioneGrafica& r) { relazioni().compilaGrafico(r); };
+    risultati.relazioneTotale = [relazioni] { relazioni().compilaTotale(); };
+    return risultati;
+}
+
+template <class F>
+CreatoreFinestra creaRisultati(const ServiziFinestre& servizi, FabbricaFinestre& finestre) {
+    return [servizi, &finestre](const Contorno& contorno) {
+        return std::make_unique<F>(contorno, perRisultati(servizi, finestre, contorno));
+    };
+}
+
+/// The comparison and the look of the charts are asked of their windows, where these live.
+std::unique_ptr<Finestra> creaRelazioni(const Contorno& contorno, const ServiziFinestre& servizi,
+                                        const FabbricaFinestre& finestre) {
+    ServiziOPZrelazione suoi{.documenti = servizi.documenti, .finestre = servizi.collegate};
+    suoi.attesa = servizi.attesa;
+    suoi.pdf = servizi.pdf;
+    suoi.corsiaDX = [&finestre] {
+        auto* corsie = viva<frmDX>(finestre, "frmDX");
+        return corsie == nullptr ? std::optional<AnalisiCorsiaDX>{} : corsie->perRelazione();
+    };
+    suoi.grafici = [&finestre] {
+        const auto* ingresso = viva<frmCapacitaCodeRitardiRamo>(finestre, "frmCapacitaCodeRitardiRamo");
+        return ingresso == nullptr ? OpzioniGrafici{} : ingresso->opzioni();
+    };
+    return std::make_unique<frmOPZrelazione>(contorno, suoi);
 }
 
 /// Shows texts that the system has no program for, over the main window.
@@ -92,13 +132,16 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
         return std::make_unique<frmParametriRamo>(contorno,
                                                   frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});
     });
-    finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi));
-    finestre.registra("frmCapacitaCodeRitardi", creaRisultati<frmCapacitaCodeRitardi>(servizi));
-    finestre.registra("frmCapacitaCodeRitardiRamo", creaRisultati<frmCapacitaCodeRitardiRamo>(servizi));
-    finestre.registra("frmDX", creaRisultati<frmDX>(servizi));
-    finestre.registra("frmRisultatiAnalisiMarginale", creaRisultati<frmRisultatiAnalisiMarginale>(servizi));
-    finestre.registra("frmConfronti", [servizi](const Contorno& contorno) {
-        return std::make_unique<frmConfronti>(contorno, servizi.risultati(), servizi.cronometro);
+    finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi, finestre));
+    finestre.registra("frmCapacitaCodeRitardi", creaRisultati<frmCapacitaCodeRitardi>(servizi, finestre));
+    finestre.registra("frmCapacitaCodeRitardiRamo", creaRisultati<frmCapacitaCodeRitardiRamo>(servizi, finestre));
+    finestre.registra("frmDX", creaRisultati<frmDX>(servizi, finestre));
+    finestre.registra("frmRisultatiAnalisiMarginale", creaRisultati<frmRisultatiAnalisiMarginale>(servizi, finestre));
+    finestre.registra("frmConfronti", [servizi, &finestre](const Contorno& contorno) {
+        return std::make_unique<frmConfronti>(contorno, perRisultati(servizi, finestre, contorno), servizi.cronometro);
+    });
+    finestre.registra(finestraRelazioni, [servizi, &finestre](const Contorno& contorno) {
+        return creaRelazioni(contorno, servizi, finestre);
     });
     finestre.registra("frmANALIZZATORE",
                       [servizi](const Contorno& contorno) { return creaAnalizzatore(contorno, servizi); });

@@ -6,9 +6,9 @@
 #include "app/campiMostrati.h"
 #include "app/convertitorePDF.h"
 #include "app/serviziSistema.h"
-#include "results/ServiziRisultati.h"
 #include "shell/FabbricaFinestre.h"
 #include "shell/servizi/DialogoAnteprima.h"
+#include "shell/servizi/FinestreCollegate.h"
 #include "shell/servizi/documentoPagine.h"
 
 namespace kelvo {
@@ -21,25 +21,18 @@ struct ServiziFinestre {
     Cronometro& cronometro;  ///< of the playback of the comparison alone
     /// Hands a file, whole path, over to the spreadsheet; empty while there is no such export.
     std::function<void(const std::string&)> foglio{};
-    /// Leads to the window of the reports; empty while there is none.
-    std::function<void()> relazione{};
-    /// Makes the report of a sensitivity analysis; empty while there is none.
-    std::function<void(const RelazioneSensibilita&)> relazioneSensibilita{};
-
     /// What open windows show, and the way to their fields, for the check-up; null for none.
     CampiMostrati* campi = nullptr;
     /// Paper and PDF; null for none.
     StampaPagine* stampa = nullptr;
-    /// Makes the PDF of whole documents; null for none.
+    /// Lets the progress of a report be painted and nothing else happen; null where nothing is painted.
+    Attesa* attesa = nullptr;
+    /// Makes the PDF of a report; null for none.
     ConvertitorePDF* pdf = nullptr;
-
-    /// What of it the result windows are handed.
-    ServiziRisultati risultati() const {
-        return {documenti, collegate, foglio, relazione, relazioneSensibilita, stampa};
-    }
 };
 
-/// Registers every window of the work area, and those over it. The services must outlive the windows.
+/// Registers every window of the work area, and those over it. The services must outlive the windows; what a result
+/// window makes a report of goes through the window of the reports, made where it does not live.
 void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi);
 
 }  // namespace kelvo

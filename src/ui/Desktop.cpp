@@ -82,9 +82,9 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
         {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
     CampiFinestre campi(cornice.finestre, cornice.gestione);
     StampaQt stampa;
-    std::optional<ConvertitoreUfficio> ufficio;
+    std::optional<ConvertitoreUfficio> pdf;
     if (piattaforma.processi != nullptr) {
-        ufficio.emplace(*piattaforma.processi, piattaforma.file, piattaforma.cartellaLavoro);
+        pdf.emplace(*piattaforma.processi, piattaforma.file, piattaforma.cartellaLavoro);
     }
     registraFinestre(cornice.finestre, {.documenti = documenti,
                                         .anteprima = anteprima,
@@ -92,7 +92,8 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
                                         .cronometro = simulazione,
                                         .campi = &campi,
                                         .stampa = &stampa,
-                                        .pdf = ufficio ? &*ufficio : nullptr});
+                                        .attesa = &attesa,
+                                        .pdf = pdf ? &*pdf : nullptr});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
     modMain avvio(app, stato, cornice, {piattaforma.locale, piattaforma.istanza, documenti, attesa});

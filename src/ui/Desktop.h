@@ -18,7 +18,7 @@ struct Piattaforma {
     std::string cartellaProgramma;               ///< without a separator at its end
     std::string cartellaLavoro;                  ///< temporary files of the user's own
     std::string cartellaRecupero;                ///< recovery copies of the user's own
-    Processi* processi = nullptr;                ///< runs other programs; null: none is run
+    Processi* processi = nullptr;                ///< runs other programs; null: none are run
 };
 
 /// Language, faces, look and drawings of the program for the application object that was just made.

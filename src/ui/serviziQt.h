@@ -62,7 +62,8 @@ public:
     bool scrivi(const std::string& png) override;
 };
 
-/// Waits in the event loop; a key or a click ends a pause.
+/// Waits in the event loop; a key or a click ends a pause. Beside some work it lets what was changed be painted, while
+/// gestures wait in their queue.
 class AttesaQt final : public Attesa {
 public:
     bool pausa(int millisecondi) override;

@@ -79,6 +79,12 @@ QPushButton[aSinistra="true"] { text-align: left; padding: 0px 14px; }
 QPushButton[aSinistra="true"]:focus { padding: 0px 13px; }
 QPushButton[basso="true"] { min-height: 22px; padding: 0px 10px; }
 QPushButton[basso="true"]:focus { min-height: 20px; padding: 0px 9px; }
+QPushButton[relazione="true"] { background: white; border-color: {bordo}; padding: 0px; min-height: 66px; }
+QPushButton[relazione="true"]:hover, QPushButton[relazione="true"]:focus { background: {sfiorato}; }
+QPushButton[relazione="true"]:hover { border-color: {principale}; }
+QPushButton[relazione="true"]:focus { border: 2px solid {principale}; min-height: 64px; }
+QPushButton[relazione="true"]:pressed { background: {scelto}; border-color: {titolo}; }
+QPushButton[relazione="true"]:disabled { background: {fondo}; border-color: {bordoSpento}; }
 QCheckBox, QRadioButton { border: 2px solid transparent; border-radius: 2px; padding: 0px 4px; spacing: 8px; }
 QCheckBox:focus, QRadioButton:focus { border-color: {principale}; }
 QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid {bordoCampo}; border-radius: 2px; background: white; }
@@ -190,7 +196,7 @@ QTabBar::tab:focus { border: 2px solid {principale}; border-top-width: 3px; }
 QWidget#piede { background: {barra}; }
 QDialog { background: white; }
 QDialog#frmSplash { border: 1px solid {bordoCampo}; }
-QLabel#pagina { color: {titolo}; }
+QLabel#pagina, QLabel[titoloPagina="true"] { color: {titolo}; }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: {principale}; }
 QCalendarWidget QToolButton { color: white; background: transparent; border: none; padding: 4px 8px; }
 QCalendarWidget QToolButton:hover { background: {principaleScuro}; }

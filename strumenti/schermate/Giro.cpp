@@ -89,7 +89,8 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
                                          .anteprima = anteprima_,
                                          .collegate = collegate_,
                                          .cronometro = cronometro_,
-                                         .stampa = &stampa_});
+                                         .stampa = &stampa_,
+                                         .attesa = &attesa_});
     collegate_.collegaA(cornice_);
     vista_.collegaA(cornice_);
     app_.comune.LeggiConfigurazione();
@@ -128,6 +129,7 @@ std::string Giro::progetto(const std::string& percorso, bool primo) {
         return "il progetto '" + percorso + "' non si apre\n";
     }
     finestre(nomeDi(percorso));
+    relazioni(nomeDi(percorso));
     if (primo) {
         disposizioniAlbero();
         menu();

@@ -52,6 +52,8 @@ private:
     bool ipotesi(Finestra& finestra, const std::string& nome);
     void confrontoCorsie(frmDX& finestra, const std::string& nome);
     void tutteLeSchede(frmRisultatiAnalisiMarginale& finestra, const std::string& nome);
+    /// The window of the reports, and the progress of one.
+    void relazioni(const std::string& progetto);
     void disposizioniAlbero();
     void menu();
     void campoRifiutato();
@@ -78,6 +80,7 @@ private:
     ui::VistaMDI_Form vista_;
     ui::FinestreCollegateQt collegate_{vista_};
     ui::StampaQt stampa_;
+    ui::AttesaQt attesa_;
     MDI_Form cornice_;
     Fotografo fotografo_;
     std::set<std::string> mostrate_;  ///< names of the windows that were seen in the work area

@@ -80,7 +80,9 @@ TEST(PagineAiuto, EveryPageThatAPaneBeginsWithStandsAndSaysSomething) {
     EXPECT_GE(proprie, 1);
     for (const char* aperta :
          {"DatiRiassuntivi.htm", "SogliaFlusso.htm", "SogliaCapacita.htm", "SogliaSaturazione.htm", "SogliaCoda.htm",
-          "SogliaRitardo.htm", "SogliaLivello.htm", "LivelloMinimo.htm", "LivelloMassimo.htm", "MappaLivelli.htm"}) {
+          "SogliaRitardo.htm", "SogliaLivello.htm", "LivelloMinimo.htm", "LivelloMassimo.htm", "MappaLivelli.htm",
+          "RelazioneDati.htm", "RelazioneRisultati.htm", "RelazioneDatiRisultati.htm", "RelazioneCompleta.htm",
+          "RelazioneGrafici.htm", "ModelloRelazione.htm"}) {
         ASSERT_TRUE(fs::exists(cartellaPagine + aperta)) << aperta;
         EXPECT_GT(testoVisibile(contenuto(cartellaPagine + aperta)).size(), 40U) << aperta;
     }

@@ -76,7 +76,8 @@ std::map<std::string, std::string> istantanea(const Rotonda& rotonda) {
 
 Banco::Banco(int disposizione, SistemaFile& file)
     : app(cartella.percorso(), cartella.percorso(), {messaggi, orologio, file}),
-      cornice(app, stato, {vista, dialogo, documenti, impostazioni, cronometro, cartella.file("Recupero")}) {
+      cornice(app, stato,
+              {vista, dialogo, documenti, impostazioni, cronometro, cartella.file("Recupero"), &disegnatore}) {
     scriviContenuto(cartella.file("Kelvo.ini"), configurazione(disposizione));
     app.configurazione.coefficienti(coefficientiDiFabbrica);
     app.configurazione.PathErrore = "FILELOGERROR.TXT";
@@ -86,7 +87,9 @@ Banco::Banco(int disposizione, SistemaFile& file)
                                         .collegate = collegate,
                                         .cronometro = simulazione,
                                         .campi = &campi,
-                                        .stampa = &stampa});
+                                        .stampa = &stampa,
+                                        .attesa = &attesa,
+                                        .pdf = &pdf});
     collegate.collegaA(cornice);
     vista.collegaA(cornice);
 }

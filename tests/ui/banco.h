@@ -8,7 +8,9 @@
 
 #include "comune/cronometro.h"
 #include "comune/fintiShell.h"
+#include "comune/processiFinti.h"
 #include "comune/stampaFinta.h"
+#include "disegno/DisegnatoreQt.h"
 #include "shell/CampiFinestre.h"
 #include "shell/registroFinestre.h"
 #include "ui/gesti.h"
@@ -69,6 +71,7 @@ public:
     shell::ImpostazioniFinte impostazioni;
     shell::CronometroFinto cronometro;
     CronometroATempo simulazione;
+    disegno::DisegnatoreQt disegnatore;
     Applicazione app;
     StatoFinestre stato;
     ui::VistaMDI_Form vista;
@@ -76,6 +79,8 @@ public:
     MDI_Form cornice;
     CampiFinestre campi{cornice.finestre, cornice.gestione};
     StampaFinta stampa;
+    ui::AttesaQt attesa;
+    ConvertitoreFinto pdf;
 };
 
 /// Every property of a project with its value as text: "Ramo 3/DatiTraffico/Tempo1" and the like.

@@ -70,7 +70,7 @@ TEST_F(Barre, WhatIsClosedTellsWhyOnTheButtonAndInTheMenu) {
     EXPECT_EQ(barra().findChild<QAction*>(QStringLiteral("Salva"))->toolTip(),
               QStringLiteral("Salva progetto (Ctrl+S)"));
     ASSERT_TRUE(attendi([&] { return banco.vista.findChild<QAction*>(QStringLiteral("keyterra")) != nullptr; }));
-    for (const char* chiave : {"keyterra", "mnuCompilaRelazione", "mnuKelvoCAD2"}) {
+    for (const char* chiave : {"keyterra", "mnuKelvoCAD2"}) {
         const auto* voce = banco.vista.findChild<QAction*>(QString::fromLatin1(chiave));
         ASSERT_NE(voce, nullptr) << chiave;
         EXPECT_FALSE(voce->isEnabled()) << chiave;

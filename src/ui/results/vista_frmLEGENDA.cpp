@@ -6,11 +6,11 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "results/frmLEGENDA.h"
-#include "ui/icone.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/shell/viste.h"
 #include "ui/stile.h"
+#include "ui/titoloAccanto.h"
 
 namespace kelvo::ui {
 
@@ -118,7 +118,7 @@ private:
 class Vista final : public VistaFinestra {
 public:
     Vista(frmLEGENDA& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {
-        qobject_cast<QVBoxLayout*>(layout())->insertWidget(0, titolo(f));
+        titolo(f);
         corpo()->layout()->setContentsMargins(misura::margine, misura::spazioStretto, misura::margine,
                                               misura::spazioStretto);
         colonna()->setSpacing(misura::spazio);
@@ -131,20 +131,9 @@ public:
     }
 
 private:
-    QWidget* titolo(frmLEGENDA& f) {
-        auto* barra = new QWidget(this);
-        barra->setObjectName(QStringLiteral("piede"));
-        barra->setAttribute(Qt::WA_StyledBackground);
-        auto* riga = new QHBoxLayout(barra);
-        riga->setContentsMargins(misura::spazioStretto, misura::canale, misura::canale, misura::canale);
-        riga->setSpacing(misura::spazio);
-        auto* disegno = new QLabel(barra);
-        disegno->setPixmap(segno("Kelvo").pixmap(QSize(misura::margine, misura::margine), devicePixelRatioF()));
-        riga->addWidget(disegno);
-        auto* nome = new QLabel(q(f.didascalia()), barra);
-        nome->setFont(dati(punti::corpo));
-        riga->addWidget(nome, 1);
-        auto* chiudi = new QToolButton(barra);
+    void titolo(frmLEGENDA& f) {
+        QHBoxLayout* riga = titoloAccanto(*this);
+        auto* chiudi = new QToolButton(riga->parentWidget());
         chiudi->setText(QStringLiteral("✕"));
         chiudi->setFont(dati(punti::corpo));
         chiudi->setAutoRaise(true);
@@ -155,7 +144,6 @@ private:
         legame->mostra({});
         QObject::connect(chiudi, &QToolButton::clicked, legame, [&f] { f.cmdChiudi.premi(); });
         riga->addWidget(chiudi);
-        return barra;
     }
 
     /// Each level by its badge, as the table shows it, and its bounds.

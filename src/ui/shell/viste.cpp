@@ -4,6 +4,7 @@
 #include <array>
 
 #include "ui/checkup/viste.h"
+#include "ui/reports/viste.h"
 
 namespace kelvo::ui {
 
@@ -47,6 +48,8 @@ constexpr std::array viste{
     VoceVista{"frmDX", vista_frmDX},
     VoceVista{"frmRisultatiAnalisiMarginale", vista_frmRisultatiAnalisiMarginale},
     VoceVista{"frmConfronti", vista_frmConfronti},
+    VoceVista{"frmOPZrelazione", vista_frmOPZrelazione},
+    VoceVista{"frmRelazioneProgressBar", vista_frmRelazioneProgressBar},
 };
 
 }  // namespace

@@ -228,15 +228,17 @@ TEST_F(Confronti, TheTableHasARowAnEntryAndAColumnAnInstant) {
 
 TEST_F(Confronti, TheReportTellsWhatItIsMadeOf) {
     const Grafico::Contenuto g = graficoConfronto(letto(), {variabileCoda, ora}, 2, 10.0F);
-    const RelazioneConfronto relazione = relazioneConfronto({variabileCoda, ora}, "08:15", g);
+    const RelazioneGrafica relazione = relazioneConfronto({variabileCoda, ora}, "08:15", g);
     EXPECT_EQ(relazione.modello, "\\Modelli\\Grafico.dot");
+    EXPECT_EQ(relazione.prefisso, "Analizzatore_");
     EXPECT_EQ(relazione.titolo, "ANALISI GRANDEZZE PRESTAZIONALI");
     EXPECT_EQ(relazione.sottotitolo, "Confronto ingressi");
-    EXPECT_EQ(relazione.variabile, "Variabile prestazionale: Lunghezza coda [veic]");
-    EXPECT_EQ(relazione.intervallo, "Intervallo di tempo: 08:15");
-    EXPECT_EQ(relazione.inizioNome, "Analizzatore_");
-    EXPECT_EQ(relazione.immagine, "Grafico.PNG");
-    EXPECT_EQ(relazione.grafico, g);
+    EXPECT_EQ(relazione.righe, (std::vector<std::string>{"Variabile prestazionale: Lunghezza coda [veic]",
+                                                         "Intervallo di tempo: 08:15"}));
+    ASSERT_EQ(relazione.figure.size(), 1U);
+    EXPECT_EQ(relazione.figure[0].grafico, g);
+    EXPECT_EQ(relazione.figure[0].didascalia, "Confronto ingressi - Lunghezza coda [veic], 08:15");
+    EXPECT_FALSE(relazione.tabella);
 }
 
 }  // namespace

@@ -634,10 +634,62 @@ TEST_F(ProveConfronti, TheReportIsOfTheChartInView) {
     apriConfronti();
     f->txtTipoVariabile.scegli(2);
     f->Slider1.imposta(3);
-    const RelazioneConfronto relazione = f->perRelazione();
-    EXPECT_EQ(relazione.variabile, "Variabile prestazionale: Coefficiente di Saturazione");
-    EXPECT_EQ(relazione.intervallo, "Intervallo di tempo: 08:30");
-    EXPECT_EQ(relazione.grafico, f->ctlChartConfronti.contenuto());
+    const RelazioneGrafica relazione = f->perRelazione();
+    EXPECT_EQ(relazione.righe, (std::vector<std::string>{"Variabile prestazionale: Coefficiente di Saturazione",
+                                                         "Intervallo di tempo: 08:30"}));
+    EXPECT_EQ(relazione.figure.at(0).grafico, f->ctlChartConfronti.contenuto());
+}
+
+TEST_F(ProveConfronti, TheReportCalculatesWhatIsOldAndEndsAPlayback) {
+    std::vector<RelazioneGrafica> fatte;
+    ServiziRisultati conRelazione = servizi();
+    conRelazione.relazione = [] {};
+    conRelazione.relazioneGrafica = [&fatte](const RelazioneGrafica& r) { fatte.push_back(r); };
+    frmConfronti altra(contorno(), conRelazione, cronometro);
+    apri(altra, "keyConfronti");
+    altra.Slider1.imposta(2);
+    altra.ctlToolbar.premi("keyRelazione");
+    ASSERT_EQ(fatte.size(), 1U);
+    const std::vector<double> prima = fatte[0].figure.at(0).grafico.serie.at(0).valori;
+    EXPECT_GT(prima.at(0), 0.0);
+    altra.cmdPLAY.premi();
+    ASSERT_TRUE(altra.inSimulazione());
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_FALSE(altra.inSimulazione());
+    ASSERT_EQ(fatte.size(), 2U);
+    EXPECT_EQ(fatte[1].figure.at(0).grafico.titolo.rfind("Grafico Confronto Rami:", 0), 0U) << "not of a playback";
+    // Other demand: the figures of the report are those of the project as it stands.
+    altra.Slider1.imposta(2);
+    ramo(1).theDatiTraffico().FlussoTempo2(ramo(1).theDatiTraffico().FlussoTempo2() + 5.0F);
+    altra.ctlToolbar.premi("keyRelazione");
+    ASSERT_EQ(fatte.size(), 3U);
+    EXPECT_NE(fatte[2].figure.at(0).grafico.serie.at(0).valori, prima);
+    EXPECT_EQ(fatte[2].figure.at(0).grafico, altra.ctlChartConfronti.contenuto());
+    EXPECT_FALSE(altra.lblVecchi.visibile());
+    gestione.chiudiCorrente();
+}
+
+TEST_F(ProveConfronti, AFailedCalculationAndAStudyOfSaturationAloneMakeNoReport) {
+    int fatte = 0;
+    ServiziRisultati conRelazione = servizi();
+    conRelazione.relazione = [] {};
+    conRelazione.relazioneGrafica = [&fatte](const RelazioneGrafica&) { ++fatte; };
+    frmConfronti altra(contorno(), conRelazione, cronometro);
+    apri(altra, "keyConfronti");
+    DatiTraffico& traffico = ramo(2).theDatiTraffico();
+    const auto picco = traffico.Tempo2();
+    traffico.Tempo2(traffico.Tempo1());
+    messaggi.mostrati.clear();
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(fatte, 0);
+    EXPECT_EQ(messaggi.mostrati.size(), 1U) << "the reason is told once";
+    traffico.Tempo2(picco);
+    r().TipoAnalisi(0);
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(fatte, 0);
+    ASSERT_EQ(messaggi.mostrati.size(), 2U);
+    EXPECT_NE(messaggi.mostrati.back().testo.find("sola saturazione"), std::string::npos);
+    gestione.chiudiCorrente();
 }
 
 TEST_F(ProveConfronti, ThePlanIsCopiedAndSavedByItsMenu) {

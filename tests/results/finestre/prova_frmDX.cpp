@@ -332,10 +332,7 @@ TEST_F(ProveDX, TheReportGetsTheComparisonOnlyWhereItWasAskedForAndCalculated) {
     finestra.ctlToolbar.premi("keyCalcola");
     auto dati = finestra.perRelazione();
     ASSERT_TRUE(dati);
-    EXPECT_EQ(dati->ipotesi[0], "Posizione 1: (svolta Ramo A-->Ramo B) ==> 10 [veic.]");
-    EXPECT_EQ(dati->ipotesi[1], " -");
-    EXPECT_EQ(dati->ipotesi[2], "Posizione 3: (svolta Ramo C-->Ramo D) ==> 10 [veic.]");
-    EXPECT_EQ(dati->ipotesi[3], " -");
+    EXPECT_EQ(dati->corsie, (CorsieDestra{true, false, true, false}));
     EXPECT_EQ(dati->tabella.testo(4, 1), testo(4, 1));
     // What is not the project's own any more is calculated anew.
     const std::string prima = testo(4, 1);
@@ -354,6 +351,37 @@ TEST_F(ProveDX, TheReportGetsTheComparisonOnlyWhereItWasAskedForAndCalculated) {
     finestra.listDX.clicca(2);
     r().TipoAnalisi(0);
     EXPECT_FALSE(finestra.perRelazione());
+}
+
+TEST_F(ProveDX, TheReportIsTheWholeOneWhereTheComparisonGoesIntoItElseTheirWindow) {
+    int finestre = 0;
+    int totali = 0;
+    ServiziRisultati conRelazione = servizi();
+    conRelazione.relazione = [&finestre] { ++finestre; };
+    conRelazione.relazioneTotale = [&totali] { ++totali; };
+    frmDX altra{contorno(), conRelazione};
+    apri(altra, "keyCorsiaDX");
+    altra.chkStampaDX.clicca();
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(messaggi.mostrati.back().testo,
+              "Attezione! Selezionare almeno una corsia di svolta a destra da verificare.");
+    EXPECT_EQ(finestre + totali, 0);
+    altra.listDX.clicca(0);
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(totali, 1);
+    EXPECT_TRUE(altra.perRelazione()) << "calculated first";
+    altra.chkStampaDX.clicca();
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(finestre, 1);
+    EXPECT_EQ(totali, 1);
+    // A calculation that fails makes no report and tells why.
+    altra.chkStampaDX.clicca();
+    ramo(2).theDatiTraffico().Tempo2(ramo(2).theDatiTraffico().Tempo1());
+    const std::size_t detti = messaggi.mostrati.size();
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(totali, 1);
+    EXPECT_GT(messaggi.mostrati.size(), detti);
+    gestione.chiudiCorrente();
 }
 
 TEST_F(ProveDX, NothingIsWrittenToTheProject) {

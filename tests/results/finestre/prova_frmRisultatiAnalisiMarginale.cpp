@@ -5,6 +5,7 @@
 #include "base/numeri.h"
 #include "comune/guasti.h"
 #include "results/graficiSensibilita.h"
+#include "results/relazioneSensibilita.h"
 #include "scenaRisultati.h"
 
 namespace kelvo::prove {
@@ -353,9 +354,9 @@ TEST_F(ProveSensibilita, AFileThatCannotBeWrittenIsTracedUnderTheNameOfAnotherWi
 }
 
 TEST_F(ProveSensibilita, TheReportIsMadeOfTheTabInViewAndTheChosenFigure) {
-    std::vector<RelazioneSensibilita> fatte;
+    std::vector<RelazioneGrafica> fatte;
     ServiziRisultati conRelazione = servizi();
-    conRelazione.relazioneSensibilita = [&fatte](const RelazioneSensibilita& r) { fatte.push_back(r); };
+    conRelazione.relazioneGrafica = [&fatte](const RelazioneGrafica& r) { fatte.push_back(r); };
     frmRisultatiAnalisiMarginale altra{contorno(), conRelazione};
     r().NomeFile("Prova");
     apri(altra, "keyOttimizzazioneGeometrica2");
@@ -369,17 +370,27 @@ TEST_F(ProveSensibilita, TheReportIsMadeOfTheTabInViewAndTheChosenFigure) {
     altra.ctlTab.scegli(angolo);
     altra.ctlToolbar.premi("keyRelazione");
     ASSERT_EQ(fatte.size(), 1U);
-    const RelazioneSensibilita& fatta = fatte[0];
+    const RelazioneGrafica& fatta = fatte[0];
+    EXPECT_EQ(fatta.modello, "\\Modelli\\Grafico_AM.dot");
+    EXPECT_EQ(fatta.prefisso, "Ottimizzazione_geometrica_");
     EXPECT_EQ(fatta.titolo, "OTTIMIZZAZIONE GEOMETRICA");
     EXPECT_EQ(fatta.sottotitolo, "Analisi risultati");
-    EXPECT_EQ(fatta.ramo, "Denominazione ramo:  Ramo B");
-    EXPECT_EQ(fatta.variabile, "Variabile prestazionale:  Lunghezza coda");
-    EXPECT_EQ(fatta.grandezza, "Grandezza geometrica: Angolo di conflitto");
-    EXPECT_EQ(fatta.nomeFile, "Ottimizzazione_geometrica_Prova_21-11-2026--10-30.doc");
-    EXPECT_EQ(fatta.tabella.testo(2, 4), altra.griglie[angolo].testo(2, 4));
-    EXPECT_EQ(fatta.grafico.titolo, "Relazione tra Angolo di Conflitto e Coda");
-    EXPECT_EQ(modelloSensibilita, "Grafico_AM.dot");
-    EXPECT_EQ(immagineSensibilita, "GraficoCapacita.PNG");
+    EXPECT_EQ(fatta.righe,
+              (std::vector<std::string>{"Denominazione ramo:  Ramo B", "Variabile prestazionale:  Lunghezza coda",
+                                        "Grandezza geometrica: Angolo di conflitto"}));
+    ASSERT_TRUE(fatta.tabella);
+    EXPECT_EQ(fatta.tabella->testo(2, 4), altra.griglie[angolo].testo(2, 4));
+    EXPECT_EQ(fatta.didascaliaTabella, "Passi di: Angolo di conflitto");
+    ASSERT_EQ(fatta.figure.size(), 1U);
+    EXPECT_EQ(fatta.figure[0].grafico.titolo, "Relazione tra Angolo di Conflitto e Coda");
+    EXPECT_EQ(fatta.figure[0].didascalia, "Relazione tra Angolo di Conflitto e Coda");
+    // Of a demand that changed since, the tab in view is calculated anew.
+    const std::string prima = fatta.tabella->testo(2, 4);
+    ramo(1).theDatiTraffico().FlussoTempo2(ramo(1).theDatiTraffico().FlussoTempo2() + 5.0F);
+    altra.ctlToolbar.premi("keyRelazione");
+    ASSERT_EQ(fatte.size(), 2U);
+    EXPECT_NE(fatte[1].tabella->testo(2, 4), prima);
+    EXPECT_EQ(fatte[1].tabella->testo(2, 4), altra.griglie[angolo].testo(2, 4));
     gestione.chiudiCorrente();
 }
 
@@ -389,10 +400,9 @@ TEST_F(ProveSensibilita, EveryFigureAndMeasureHasItsLineInTheReport) {
                                "Angolo di conflitto", "Raggio curvatura ingresso", "Diametro inscritto"};
     for (std::size_t v = 0; v < 3; ++v) {
         for (std::size_t g = 0; g < 6; ++g) {
-            const RelazioneSensibilita fatta =
-                relazioneSensibilita(TabellaSensibilita{g}, prestazioni.at(v), ramo(1), r(), app.orologio.adesso());
-            EXPECT_EQ(fatta.variabile, "Variabile prestazionale:  " + std::string{variabili[v]});
-            EXPECT_EQ(fatta.grandezza, "Grandezza geometrica: " + std::string{grandezze[g]});
+            const RelazioneGrafica fatta = relazioneSensibilita(TabellaSensibilita{g}, prestazioni.at(v), ramo(1));
+            EXPECT_EQ(fatta.righe.at(1), "Variabile prestazionale:  " + std::string{variabili[v]});
+            EXPECT_EQ(fatta.righe.at(2), "Grandezza geometrica: " + std::string{grandezze[g]});
         }
     }
 }
