@@ -21,3 +21,6 @@ riga "kelvo-cli --version" --version
 riga "kelvo-cli calcola, 7 legs by 72 segments" calcola "$progetto"
 riga "kelvo-cli calcola --json, 7 legs by 72 segments" calcola --json "$progetto"
 riga "kelvo-cli capacita-ultima, 7 legs" capacita-ultima "$progetto"
+foglio=$(mktemp -d)
+riga "kelvo-cli esporta --xlsx, 7 legs by 72 segments" esporta --xlsx "$foglio/Risultati.xlsx" "$progetto"
+rm -r "$foglio"
