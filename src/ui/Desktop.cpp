@@ -9,6 +9,7 @@
 
 #include "app/Applicazione.h"
 #include "disegno/DisegnatoreQt.h"
+#include "reports/modEXCEL.h"
 #include "shell/CampiFinestre.h"
 #include "shell/Main.h"
 #include "shell/registroFinestre.h"
@@ -80,10 +81,14 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
         {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
     CampiFinestre campi(cornice.finestre, cornice.gestione);
     StampaQt stampa;
+    const auto foglio = [&](const std::string& /*scambio*/) {
+        modEXCEL(app, {.messaggi = messaggi, .documenti = &documenti}).compilaRelazioneExcel();
+    };
     registraFinestre(cornice.finestre, {.documenti = documenti,
                                         .anteprima = anteprima,
                                         .collegate = collegate,
                                         .cronometro = simulazione,
+                                        .foglio = foglio,
                                         .campi = &campi,
                                         .stampa = &stampa});
     collegate.collegaA(cornice);
