@@ -55,6 +55,8 @@ relazioni_esempio() {
             muori "relazione $tipo non compilata"
         printf '   %s\n' "$tipo"
     done
+    "$CLI" esporta --xlsx "$USCITA/$nome - Risultati.xlsx" "$ESEMPIO" || muori "foglio di calcolo non scritto"
+    printf '   foglio di calcolo\n'
 }
 
 installa costruzione librerie desktop prove

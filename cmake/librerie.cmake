@@ -17,6 +17,7 @@ else()
   find_package(pugixml REQUIRED)
   # The CMake files of its package want programs that come with another one.
   pkg_check_modules(libzip REQUIRED IMPORTED_TARGET GLOBAL libzip)
+  pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET GLOBAL xlsxwriter)
 endif()
 if(KELVO_DESKTOP)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg Test)

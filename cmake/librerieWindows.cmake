@@ -7,7 +7,7 @@ set(KELVO_INTESTAZIONI /usr/include CACHE PATH "Where the header-only libraries 
 set(KELVO_SIGC_CONFIGURAZIONE /usr/lib/x86_64-linux-gnu/sigc++-3.0/include CACHE PATH "Folder of sigc++config.h")
 set(KELVO_FONTI_GTEST /usr/src/googletest CACHE PATH "Sources of GoogleTest")
 set(KELVO_SENZA_SIGC ON)
-# Of pugixml and libzip there is nothing for Windows: the room of the reports is left out.
+# Of pugixml, libzip and libxlsxwriter there is nothing for Windows: the room of the reports is left out.
 set(KELVO_SENZA_OOXML ON)
 
 # kelvo_intestazioni(<target> <file or folder>...)

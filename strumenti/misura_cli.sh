@@ -21,7 +21,8 @@ riga "kelvo-cli --version" --version
 riga "kelvo-cli calcola, 7 legs by 72 segments" calcola "$progetto"
 riga "kelvo-cli calcola --json, 7 legs by 72 segments" calcola --json "$progetto"
 riga "kelvo-cli capacita-ultima, 7 legs" capacita-ultima "$progetto"
-relazione=$(mktemp -d)
-trap 'rm -rf "$relazione"' EXIT
-riga "kelvo-cli relazione, complete, 7 legs by 72 segments" relazione --tipo completa -o "$relazione/r.docx" "$progetto"
-riga "kelvo-cli relazione, 35 charts of 7 legs by 72 segments" relazione --tipo grafici -o "$relazione/g.docx" "$progetto"
+documenti=$(mktemp -d)
+trap 'rm -rf "$documenti"' EXIT
+riga "kelvo-cli relazione, complete, 7 legs by 72 segments" relazione --tipo completa -o "$documenti/r.docx" "$progetto"
+riga "kelvo-cli relazione, 35 charts of 7 legs by 72 segments" relazione --tipo grafici -o "$documenti/g.docx" "$progetto"
+riga "kelvo-cli esporta --xlsx, 7 legs by 72 segments" esporta --xlsx "$documenti/Risultati.xlsx" "$progetto"

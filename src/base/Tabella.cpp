@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
+#include "base/chiusura.h"
 #include "base/guasto.h"
 #include "base/testo.h"
-#include "base/versione.h"
 
 namespace kelvo {
 
@@ -75,8 +75,7 @@ std::string testoTabella(const Tabella& tabella, const Impaginazione& impaginazi
 }
 
 std::string righeDiChiusura(DataOra momento, std::string_view nomeFile) {
-    return fmt::format("Output creato con Kelvo V{} il {}{}Nome Progetto: {}{}", versione(), testoDataOra(momento),
-                       fineRiga, nomeFile, fineRiga);
+    return chiusuraEsportazione(testoDataOra(momento), nomeFile);
 }
 
 }  // namespace kelvo

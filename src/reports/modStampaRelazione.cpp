@@ -11,9 +11,9 @@
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
-#include "calc/modCalcolo.h"
 #include "reports/segnaposto.h"
 #include "results/calcoloIpotesi.h"
+#include "results/risultatiProgetto.h"
 
 namespace kelvo {
 
@@ -160,7 +160,7 @@ EsitoRelazione modStampaRelazione::compila(const Corsa& corsa) {
 }
 
 EsitoRelazione modStampaRelazione::componiESalva(const Corsa& corsa) {
-    if (corsa.conRisultati && !assicuraRisultati()) {
+    if (corsa.conRisultati && !assicuraRisultati(app_)) {
         return EsitoRelazione::fallita;
     }
     passo_ = 0;
@@ -244,22 +244,6 @@ void modStampaRelazione::chiude(const std::string& percorso) {
                                  Icona::esclamazione, Pulsanti::ok);
     }
     fattoPasso();
-}
-
-bool modStampaRelazione::assicuraRisultati() {
-    if (app_.risultatiAttuali()) {
-        return true;
-    }
-    modCalcolo motore(app_);
-    const std::string modo = testoNumero(static_cast<int>(rotonda().TipoFlusso()));
-    if (rotonda().TipoAnalisi() == analisi::saturazione) {
-        motore.Calcola_Bilanciamento();
-    } else if (rotonda().TipoAnalisi() == analisi::curva) {
-        motore.Calcola_Tempo_Flusso(modo);
-    } else if (rotonda().TipoAnalisi() == analisi::tabella) {
-        motore.Calcola_Tempo_Flusso_ST(modo);
-    }
-    return motore.riuscita();
 }
 
 void modStampaRelazione::apriModello(const Corsa& corsa) {

@@ -130,7 +130,6 @@ private:
     EsitoRelazione componiESalva(const Corsa& corsa);
     EsitoRelazione salva(const Corsa& corsa);
     EsitoRelazione gestisci(const std::string& metodo, const std::function<EsitoRelazione()>& procedura);
-    bool assicuraRisultati();
     void apriModello(const Corsa& corsa);
     void fattoPasso();
     std::string nomePredefinito(const std::string& prefisso) const;

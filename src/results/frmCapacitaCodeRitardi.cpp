@@ -10,6 +10,7 @@
 #include "results/grandezze.h"
 #include "results/inVigore.h"
 #include "results/livelloServizio.h"
+#include "results/risultatiProgetto.h"
 #include "results/sintesiNodo.h"
 #include "results/tabellaVerifiche.h"
 #include "shell/servizi/nonAncora.h"
@@ -218,11 +219,19 @@ void frmCapacitaCodeRitardi::esportaFoglio() {
     traccia(metodoFoglio, [this] { apriFoglio(); });
 }
 
+/// What is exported are the figures of the project as it stands: those that are not are calculated first.
 void frmCapacitaCodeRitardi::apriFoglio() {
+    if (analisiNelTempo(rotonda()) && !motivoVecchi().empty()) {
+        calcola();
+        aggiornaNote();
+        if (!motore().riuscita()) {
+            return;
+        }
+    }
     const std::string percorso = app().theAmbiente.PercorsoProgramma(fileFoglio);
     std::error_code ignorato;  // a folder that cannot be made is told by the file that cannot be written
     std::filesystem::create_directories(percorsoDaTesto(percorso).parent_path(), ignorato);
-    scriviEsportazione(app(), percorso, testoAnteprima());
+    scriviEsportazione(app(), percorso, testoScambio(ctlGrid.tabella(), rotonda(), app().orologio.adesso()));
     servizi().foglio(percorso);
 }
 

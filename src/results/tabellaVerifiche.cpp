@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/chiusura.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
@@ -113,13 +114,25 @@ void riempiTabellaVerifiche(const Rotonda& rotonda, Tabella& tabella) {
     }
 }
 
-std::string testoVerifiche(const Tabella& tabella, const Rotonda& rotonda, DataOra momento) {
+namespace {
+
+/// What the two text exports of the table have in common.
+std::string corpoVerifiche(const Tabella& tabella) {
     const Impaginazione impaginazione{
         .allineamento = Allineamento::destra,
         .rigaVuotaPrima = [](const Tabella& t, int riga) { return t.cella(riga, 0).sfondo == colori::intestazione; }};
     std::string testo = "Risultati: Verifiche prestazionali";
-    testo.append(fineRiga).append(testoTabella(tabella, impaginazione)).append(fineRiga);
-    return testo.append(righeDiChiusura(momento, rotonda.NomeFile()));
+    return testo.append(fineRiga).append(testoTabella(tabella, impaginazione));
+}
+
+}  // namespace
+
+std::string testoVerifiche(const Tabella& tabella, const Rotonda& rotonda, DataOra momento) {
+    return corpoVerifiche(tabella).append(fineRiga).append(righeDiChiusura(momento, rotonda.NomeFile()));
+}
+
+std::string testoScambio(const Tabella& tabella, const Rotonda& rotonda, DataOra momento) {
+    return corpoVerifiche(tabella).append(chiusuraEsportazione(testoData(momento), rotonda.NomeFile()));
 }
 
 }  // namespace kelvo

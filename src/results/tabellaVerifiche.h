@@ -28,4 +28,7 @@ void riempiTabellaVerifiche(const Rotonda& rotonda, Tabella& tabella);
 /// The text of "Risultati.txt" for all entries; `momento` is the date and time of its closing lines.
 std::string testoVerifiche(const Tabella& tabella, const Rotonda& rotonda, DataOra momento);
 
+/// The text of the exchange file of the spreadsheet: the same table, behind it at once closing lines with the day.
+std::string testoScambio(const Tabella& tabella, const Rotonda& rotonda, DataOra momento);
+
 }  // namespace kelvo

@@ -11,6 +11,7 @@
 #include "app/Applicazione.h"
 #include "app/convertitorePDF.h"
 #include "disegno/DisegnatoreQt.h"
+#include "reports/modEXCEL.h"
 #include "shell/CampiFinestre.h"
 #include "shell/Main.h"
 #include "shell/registroFinestre.h"
@@ -86,10 +87,14 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     if (piattaforma.processi != nullptr) {
         pdf.emplace(*piattaforma.processi, piattaforma.file, piattaforma.cartellaLavoro);
     }
+    const auto foglio = [&](const std::string& /*scambio*/) {
+        modEXCEL(app, {.messaggi = messaggi, .documenti = &documenti}).compilaRelazioneExcel();
+    };
     registraFinestre(cornice.finestre, {.documenti = documenti,
                                         .anteprima = anteprima,
                                         .collegate = collegate,
                                         .cronometro = simulazione,
+                                        .foglio = foglio,
                                         .campi = &campi,
                                         .stampa = &stampa,
                                         .attesa = &attesa,

@@ -88,14 +88,14 @@ private:
     void trattaTesto(const std::string& riga) {
         struct Inizio {
             std::string_view segno;
-            Blocco::Genere genere;
             const char* stile;
+            Blocco::Genere genere;
             int livello;
         };
-        static constexpr Inizio inizi[] = {{"= ", Blocco::Genere::titolo, "", 1},
-                                           {"== ", Blocco::Genere::titolo, "", 2},
-                                           {"- ", Blocco::Genere::paragrafo, "Punto", 0},
-                                           {"$ ", Blocco::Genere::paragrafo, "Formula", 0}};
+        static constexpr Inizio inizi[] = {{"= ", "", Blocco::Genere::titolo, 1},
+                                           {"== ", "", Blocco::Genere::titolo, 2},
+                                           {"- ", "Punto", Blocco::Genere::paragrafo, 0},
+                                           {"$ ", "Formula", Blocco::Genere::paragrafo, 0}};
         for (const Inizio& inizio : inizi) {
             if (comincia(riga, inizio.segno)) {
                 chiudiParagrafo();

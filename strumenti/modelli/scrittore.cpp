@@ -168,7 +168,7 @@ private:
     }
 
     std::string inizio(Nodo nodo, const std::string& nome) {
-        const std::string id = std::to_string(++ultimoId_);
+        std::string id = std::to_string(++ultimoId_);
         con(con(nodo.append_child("w:bookmarkStart"), "w:id", id), "w:name", nome);
         return id;
     }

@@ -89,6 +89,7 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
                                          .anteprima = anteprima_,
                                          .collegate = collegate_,
                                          .cronometro = cronometro_,
+                                         .foglio = [](const std::string& /*scambio*/) {},
                                          .stampa = &stampa_,
                                          .attesa = &attesa_});
     collegate_.collegaA(cornice_);

@@ -237,8 +237,13 @@ TEST_F(TabellaVerifiche, ExportsItsTextByteForByte) {
         r +
         "         Ramo C\t               0,00\t               0,00\t               0,000\t          0,0\t"
         "               0,0\t       -\t" +
-        r + r + "Output creato con Kelvo V1.0.0 il 21/11/2026 10:30:05" + r + "Nome Progetto: Prova" + r;
-    EXPECT_EQ(testoVerifiche(piena(), rotonda(), momento), atteso);
+        r;
+    const std::string nome = r + "Nome Progetto: Prova" + r;
+    EXPECT_EQ(testoVerifiche(piena(), rotonda(), momento),
+              atteso + r + "Output creato con Kelvo V1.0.0 il 21/11/2026 10:30:05" + nome);
+    // The exchange file of the spreadsheet: the day alone, and no empty line before it.
+    EXPECT_EQ(testoScambio(piena(), rotonda(), momento),
+              atteso + "Output creato con Kelvo V1.0.0 il 21/11/2026" + nome);
 }
 
 }  // namespace

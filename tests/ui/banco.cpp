@@ -8,6 +8,7 @@
 #include <string>
 
 #include "model/proprieta.h"
+#include "reports/modEXCEL.h"
 
 namespace kelvo::prove {
 
@@ -82,10 +83,14 @@ Banco::Banco(int disposizione, SistemaFile& file)
     app.configurazione.coefficienti(coefficientiDiFabbrica);
     app.configurazione.PathErrore = "FILELOGERROR.TXT";
     app.configurazione.LayoutPannello = 3;
+    const auto foglio = [this](const std::string& /*scambio*/) {
+        modEXCEL(app, {.messaggi = messaggi, .documenti = &documenti}).compilaRelazioneExcel();
+    };
     registraFinestre(cornice.finestre, {.documenti = documenti,
                                         .anteprima = anteprima,
                                         .collegate = collegate,
                                         .cronometro = simulazione,
+                                        .foglio = foglio,
                                         .campi = &campi,
                                         .stampa = &stampa,
                                         .attesa = &attesa,

@@ -10,6 +10,7 @@
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTextBrowser>
 #include <algorithm>
+#include <filesystem>
 #include <string>
 
 #include "comune/appunti.h"
@@ -252,12 +253,34 @@ TEST_F(Verifiche, WhatCopiesAndSavesFollowsTheTab) {
     }
 }
 
-TEST_F(Verifiche, TheSpreadsheetIsClosedWithAWordWhileThereIsNone) {
+TEST_F(Verifiche, TheSpreadsheetIsMadeByKeyAndByButtonOnceThereAreFigures) {
+    apri("Rotatoria_Via_dei_Mulini");
+    const std::string foglio = banco.cartella.file("xls/Risultati.xlsx");
+    EXPECT_FALSE(banco.oggetto("Cmd_EXCEL").isEnabled());
+    EXPECT_EQ(parole("lblExcel"), "Disponibile dopo Calcola");
+    tasto(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_FALSE(std::filesystem::exists(foglio));
+    calcola();
+    tasto(Qt::Key_E, Qt::ControlModifier);
+    ASSERT_EQ(banco.documenti.aperti.size(), 1U);
+    EXPECT_EQ(banco.documenti.aperti.front(), foglio);
+    EXPECT_EQ(contenuto(foglio).substr(0, 2), "PK");
+    EXPECT_EQ(contenuto(banco.cartella.file("xls/Risultati.txt")).rfind("Risultati: Verifiche prestazionali\r\n", 0),
+              0U);
+    std::filesystem::remove(foglio);
+    banco.oggetto<QAbstractButton>("Cmd_EXCEL").click();
+    EXPECT_EQ(banco.documenti.aperti.size(), 2U);
+    EXPECT_TRUE(std::filesystem::exists(foglio));
+    EXPECT_TRUE(banco.messaggi.mostrati.empty());
+}
+
+TEST_F(Verifiche, WithoutASpreadsheetProgramTheWindowSaysWhereTheFileIs) {
     apri("Rotatoria_Via_dei_Mulini");
     calcola();
-    EXPECT_FALSE(banco.oggetto("Cmd_EXCEL").isEnabled());
-    EXPECT_EQ(parole("lblExcel"), "Non ancora disponibile in questa versione");
-    EXPECT_NE(finestra().ctlToolbar.spiegazione("keyExcel").find("Non ancora disponibile"), std::string::npos);
+    banco.documenti.riesce = false;
+    banco.oggetto<QAbstractButton>("Cmd_EXCEL").click();
+    ASSERT_EQ(banco.messaggi.mostrati.size(), 1U);
+    EXPECT_NE(banco.messaggi.mostrati.front().testo.find(banco.cartella.file("xls/Risultati.xlsx")), std::string::npos);
 }
 
 TEST_F(Verifiche, ALongTableIsScrolledByKeysFromEndToEnd) {

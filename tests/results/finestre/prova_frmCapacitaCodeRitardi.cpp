@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "calc/modCalcolo.h"
+#include "results/tabellaVerifiche.h"
 #include "scenaRisultati.h"
 
 namespace kelvo::prove {
@@ -234,10 +235,50 @@ TEST_F(ProveVerifiche, TheSpreadsheetOpensWithTheFirstCalculation) {
     altra.Cmd_EXCEL.premi();
     ASSERT_EQ(fogli.size(), 2U);
     EXPECT_EQ(fogli[0], app.theAmbiente.PercorsoProgramma("xls\\Risultati.txt"));
-    EXPECT_EQ(contenuto(fogli[0]).rfind("Risultati: Verifiche prestazionali\r\n\r\n", 0), 0U);
+    EXPECT_EQ(contenuto(fogli[0]), testoScambio(altra.ctlGrid.tabella(), r(), app.orologio.adesso()));
     EXPECT_EQ(file("Risultati.txt"), "");
     altra.ctlToolbar.premi("keyRelazione");
     EXPECT_EQ(relazioni, 1);
+}
+
+TEST_F(ProveVerifiche, TheSpreadsheetGetsTheFiguresOfTheProjectAsItStands) {
+    ServiziRisultati conFoglio = servizi();
+    std::vector<std::string> scambi;
+    conFoglio.foglio = [&](const std::string& percorso) { scambi.push_back(contenuto(percorso)); };
+    frmCapacitaCodeRitardi altra(contorno(), conFoglio);
+    apri(altra, "keyCodeRitardi_Out");
+    altra.cmdCalcola.premi();
+    altra.Cmd_EXCEL.premi();
+    // The data change while the table is shown: what is exported is calculated first, and shown.
+    ramo(2).LarghezzaIngresso(ramo(2).LarghezzaIngresso() + 1.0F);
+    const std::string prima = altra.ctlGrid.testo(3, 2);
+    altra.Cmd_EXCEL.premi();
+    ASSERT_EQ(scambi.size(), 2U);
+    EXPECT_NE(altra.ctlGrid.testo(3, 2), prima);
+    EXPECT_FALSE(altra.lblVecchi.visibile());
+    EXPECT_EQ(scambi[1], testoScambio(altra.ctlGrid.tabella(), r(), app.orologio.adesso()));
+    EXPECT_NE(scambi[1], scambi[0]);
+    // Data that no calculation comes through with: nothing is exported, the reason is shown.
+    ramo(2).RaggioIngresso(0.0F);
+    altra.ctlToolbar.premi("keyExcel");
+    EXPECT_EQ(scambi.size(), 2U);
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_NE(messaggi.mostrati[0].testo.find("Divisione per zero"), std::string::npos);
+    EXPECT_TRUE(altra.lblVecchi.visibile());
+}
+
+TEST_F(ProveVerifiche, AnExportWithoutResultsWritesTheFrameAlone) {
+    r().TipoAnalisi(0);
+    ServiziRisultati conFoglio = servizi();
+    std::string scambio;
+    conFoglio.foglio = [&](const std::string& percorso) { scambio = contenuto(percorso); };
+    frmCapacitaCodeRitardi altra(contorno(), conFoglio);
+    apri(altra, "keyCodeRitardi_Out");
+    altra.cmdCalcola.premi();
+    altra.Cmd_EXCEL.premi();
+    EXPECT_EQ(scambio, testoScambio(altra.ctlGrid.tabella(), r(), app.orologio.adesso()));
+    EXPECT_NE(scambio.find("08:00 - 08:15"), std::string::npos);
+    EXPECT_TRUE(messaggi.mostrati.empty());
 }
 
 TEST_F(ProveVerifiche, ASpreadsheetFileThatCannotBeWrittenIsTracedAndToldInTheStatusBar) {
