@@ -106,7 +106,7 @@ private:
 }  // namespace
 
 std::string ProcessiLinux::trova(const std::string& nome) const {
-    const char* tutte = std::getenv("PATH");
+    const char* tutte = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe): one thread
     std::string_view resto = tutte == nullptr ? std::string_view{} : std::string_view{tutte};
     while (!resto.empty()) {
         const std::size_t fine = resto.find(':');

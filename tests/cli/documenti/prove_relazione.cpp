@@ -148,7 +148,9 @@ protected:
         scriviContenuto(percorso, "#!/bin/sh\n" + righe);
         std::filesystem::permissions(percorso, std::filesystem::perms::owner_all);
     }
-    Esito conPDF() const { return relazione("ingresso", esempio(stazione), file("r 1.docx"), {"--pdf"}); }
+    Esito conPDF() const {
+        return relazione("ingresso", esempio(stazione), file("r 1.docx"), {"--pdf", "--notte", "15"});
+    }
     const std::string& percorsi() const { return percorsi_; }
 
 private:
@@ -188,7 +190,7 @@ TEST_F(ComandoRelazionePDF, TheOfficeProgramOfTheMachineMakesSoundPages) {
     if (!std::filesystem::exists("/usr/bin/soffice")) {
         GTEST_SKIP() << "no office program on this machine";
     }
-    const Esito esito = relazione("completa", esempio(stazione), file("r.docx"), {"--pdf"});
+    const Esito esito = relazione("completa", esempio(stazione), file("r.docx"), {"--pdf", "--notte", "15"});
     ASSERT_EQ(esito.codice, 0) << esito.errori;
     const std::string pdf = contenuto(file("r.pdf"));
     EXPECT_EQ(pdf.substr(0, 5), "%PDF-");

@@ -31,10 +31,13 @@ TEST(ProcessiWindows, FindsRunsAndEndsPrograms) {
     EXPECT_EQ(esito.fine, Fine::uscito);
     EXPECT_EQ(esito.codice, 7);
     EXPECT_EQ(processi.esegui(cmd + ".manca", {}, seconds(60), {}).fine, Fine::nonAvviato);
+    const std::string lento = processi.trova("ping");
+    if (lento.empty()) {
+        GTEST_SKIP() << "nothing here that takes its time";
+    }
     int giri = 0;
-    EXPECT_EQ(
-        processi.esegui(processi.trova("ping"), {"-n", "60", "127.0.0.1"}, milliseconds(800), [&] { ++giri; }).fine,
-        Fine::scaduto);
+    EXPECT_EQ(processi.esegui(lento, {"-n", "60", "127.0.0.1"}, milliseconds(800), [&] { ++giri; }).fine,
+              Fine::scaduto);
     EXPECT_GE(giri, 2);
 }
 
