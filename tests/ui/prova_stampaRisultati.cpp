@@ -100,8 +100,10 @@ TEST_F(StampaRisultati, TheButtonBelowTheFiguresOffersPaperAndPdf) {
 TEST_F(StampaRisultati, EveryWindowHasSoundPagesOfTheLargestStudy) {
     const bool legge = std::system("command -v pdftotext > /dev/null 2>&1") == 0;
     const char* dove = std::getenv("KELVO_PAGINE");
+    apri("Rotatoria_Aurelia_Sette_Strade", "keyCapacitaUltima_Out");
     for (const char* chiave : {"keyCapacitaUltima_Out", "keyCodeRitardi_Out", "keyCodeRitardi_Out7", "keyConfronti"}) {
-        apri("Rotatoria_Aurelia_Sette_Strade", chiave);
+        banco.vai(chiave);
+        smaltisci();
         calcola();
         const DocumentoPagine carta = finestra().documento();
         const EsitoDisegno esito = ui::StampaQt().pdf(carta);
