@@ -403,7 +403,8 @@ double inizioTabella(const QRectF& corpo, const DocumentoPagine::Tabella& tabell
     if (tabella.colonne.empty()) {
         return 0.0;
     }
-    Impaginatore pagina(corpo);
+    const Foglio foglio{corpo.size(), corpo};
+    Impaginatore pagina(foglio, foglio);
     const auto tutte = fasceDi(tabella, corpo.width());
     if (tutte.empty()) {
         return Tavola(pagina, tabella).inizio();

@@ -567,12 +567,13 @@ TEST_F(Pagine, TheWordsOfThePdfCanBeReadBack) {
 class Foto {
 public:
     Foto(const Impaginato& impaginato, std::size_t pagina)
-        : scala_(lunga / impaginato.foglio.height()),
-          immagine_(static_cast<int>(impaginato.foglio.width() * scala_), static_cast<int>(lunga),
+        : scala_(lunga / impaginato.pagine.at(pagina).foglio.height()),
+          immagine_(static_cast<int>(impaginato.pagine.at(pagina).foglio.width() * scala_), static_cast<int>(lunga),
                     QImage::Format_RGB32) {
         immagine_.fill(Qt::white);
         QPainter pennello(&immagine_);
-        dipingiPagina(pennello, impaginato, pagina, QRectF(QPointF(0.0, 0.0), impaginato.foglio * scala_));
+        dipingiPagina(pennello, impaginato, pagina,
+                      QRectF(QPointF(0.0, 0.0), impaginato.pagine[pagina].foglio * scala_));
     }
     /// At a place of a square that is told from 0 to 1.
     QColor in(const QRectF& quadro, double x, double y) const {
