@@ -75,6 +75,7 @@ private:
         QLabel* label = faccia();
         label->setFont(carattere);
         label->setText(q(std::string{testo}));
+        label->setWordWrap(true);
         return label;
     }
 };
