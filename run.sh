@@ -50,8 +50,14 @@ relazioni_esempio() {
     local nome tipo
     nome=$(basename -- "$ESEMPIO" .klv)
     di "Relazioni di $nome"
+    local pagine=()
+    if command -v soffice >/dev/null; then
+        pagine=(--pdf)
+    else
+        printf '   solo .docx: per averne le pagine in PDF serve un programma d'\''ufficio (libreoffice-writer)\n'
+    fi
     for tipo in ingresso risultati completa totale grafici; do
-        "$CLI" relazione --tipo "$tipo" -o "$USCITA/$nome - Relazione $tipo.docx" "$ESEMPIO" ||
+        "$CLI" relazione --tipo "$tipo" "${pagine[@]}" -o "$USCITA/$nome - Relazione $tipo.docx" "$ESEMPIO" ||
             muori "relazione $tipo non compilata"
         printf '   %s\n' "$tipo"
     done

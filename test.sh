@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs every check of the repository. --lungo adds the sanitizers and clang-tidy over everything, the
-# Windows rooms and a minute of each fuzzer.
+# Windows rooms, a minute of each fuzzer, and the pages of a report as an office program makes them.
 set -euo pipefail
 source "$(dirname -- "${BASH_SOURCE[0]}")/strumenti/comune.sh"
 source strumenti/passi.sh
@@ -23,6 +23,9 @@ for argomento in "$@"; do
 done
 
 installa costruzione librerie desktop prove controlli
+if $lungo; then
+    installa ufficio
+fi
 
 passo "Formato" formato
 passo "Compilazione Release" costruisci release

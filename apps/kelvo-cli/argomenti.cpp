@@ -4,8 +4,11 @@
 
 #include <array>
 #include <charconv>
+#include <filesystem>
+#include <system_error>
 #include <vector>
 
+#include "base/file.h"
 #include "base/numeri.h"
 #include "base/testo.h"
 
@@ -94,6 +97,11 @@ CLI::Option* aggiungiTesto(CLI::App& comando, const std::string& nome, std::stri
         valore = testo;
     };
     return comando.add_option_function<std::string>(nome, leggi, descrizione);
+}
+
+bool stessoFile(const std::string& uno, const std::string& altro) {
+    std::error_code errore;  // one that does not stand is not the other
+    return std::filesystem::equivalent(percorsoDaTesto(uno), percorsoDaTesto(altro), errore);
 }
 
 std::string citato(std::string_view testo) {

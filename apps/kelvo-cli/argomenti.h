@@ -35,6 +35,9 @@ CLI::Option* aggiungiIntero(CLI::App& comando, const std::string& nome, std::int
 CLI::Option* aggiungiTesto(CLI::App& comando, const std::string& nome, std::string& valore,
                            const std::string& descrizione);
 
+/// True if both name the same file that stands there, however either is spelled.
+bool stessoFile(const std::string& uno, const std::string& altro);
+
 /// The text as a message quotes it: in quotes, on one line, valid UTF-8, no longer than a line of the screen.
 std::string citato(std::string_view testo);
 

@@ -7,13 +7,6 @@
 
 namespace kelvo::cli {
 
-std::string impedimentoAnalisi(const Rotonda& rotonda) {
-    if (rotonda.TipoAnalisi() < analisi::saturazione || rotonda.TipoAnalisi() > analisi::tabella) {
-        return fmt::format("il tipo di analisi {} non è previsto: i valori sono 0, 1 e 2", rotonda.TipoAnalisi());
-    }
-    return {};
-}
-
 std::string impedimentoSintesi(const Rotonda& rotonda) {
     if (const std::string motivo = impedimentoAnalisi(rotonda); !motivo.empty()) {
         return motivo;

@@ -107,12 +107,12 @@ std::string ConvertitoreUfficio::converti(const std::string& documento, const st
     }
     const CartellaPropria lavoro(cartella_);
     if (!lavoro.fatta()) {
-        return fmt::format("la cartella dei file temporanei non si lascia scrivere ({})", lavoro.motivo());
+        return fmt::format("la cartella dei file temporanei non è scrivibile ({})", lavoro.motivo());
     }
     // A copy under a plain name: that of the document is the user's, and may be open elsewhere.
     std::error_code errore;
     if (!fs::copy_file(percorsoDaTesto(documento), percorsoDaTesto(lavoro.file(nomeDocumento)), errore)) {
-        return fmt::format("il documento non si lascia leggere ({})", paroleErrore(errore));
+        return fmt::format("il documento non è leggibile ({})", paroleErrore(errore));
     }
     if (std::string motivo = eseguiIn(ufficio, lavoro.percorso(), intanto); !motivo.empty()) {
         return motivo;

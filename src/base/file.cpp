@@ -89,7 +89,7 @@ public:
     void sincronizzaCartella(const std::string& /*percorso*/) override {}
 };
 
-/// The file that a link leads to, also where it does not stand yet, or the path itself.
+/// As `fileDelCollegamento`.
 fs::path bersaglio(const std::string& percorso) {
     constexpr int massimiPassi = 40;
     fs::path vero = percorsoDaTesto(percorso);
@@ -213,6 +213,10 @@ std::string componente(const fs::path& cartella, const std::string& nome) {
 SistemaFile& sistemaFileStandard() {
     static SistemaFileStandard sistema;
     return sistema;
+}
+
+std::string fileDelCollegamento(const std::string& percorso) {
+    return testoDaPercorso(bersaglio(percorso));
 }
 
 std::string scriviFileSicuro(SistemaFile& sistema, const std::string& percorso, std::string_view dati) {

@@ -54,6 +54,9 @@ public:
 /// The file system by the means of the standard library alone.
 SistemaFile& sistemaFileStandard();
 
+/// The file that a link leads to, also where it does not stand yet, or the path itself.
+std::string fileDelCollegamento(const std::string& percorso);
+
 /// Replaces the file by `dati` so that at any instant the old or the new content stands there, never a torn one:
 /// writes a temporary file beside it, checks the size written, flushes it to the disk and renames it. The temporary is
 /// called after the file, with eight random digits and ".tmp~" behind it, so that two processes that save the same

@@ -55,7 +55,7 @@ EsitoDisegno png(const Foglio& foglio, double scala) {
     foglio.dipingi(pennello);
     pennello.end();
     const QByteArray byte = codificaPng(immagine);
-    return byte.isEmpty() ? nonRiuscito("l'immagine non si lascia scrivere") : finito(byte);
+    return byte.isEmpty() ? nonRiuscito("l'immagine non può essere scritta") : finito(byte);
 }
 
 /// The families of a face as a list for style sheets, the one that was measured first.
@@ -93,7 +93,7 @@ EsitoDisegno svg(const Foglio& foglio) {
     generatore.setDescription(QStringLiteral("Kelvo"));
     QPainter pennello;
     if (!pennello.begin(&generatore)) {
-        return nonRiuscito("l'immagine non si lascia scrivere");
+        return nonRiuscito("l'immagine non può essere scritta");
     }
     pennello.fillRect(QRectF(QPointF(0, 0), foglio.misura), Qt::white);
     foglio.dipingi(pennello);
@@ -119,7 +119,7 @@ EsitoDisegno pdf(const Foglio& foglio) {
     scrittore.setCreator(QStringLiteral("Kelvo"));
     QPainter pennello;
     if (!pennello.begin(&scrittore)) {
-        return nonRiuscito("l'immagine non si lascia scrivere");
+        return nonRiuscito("l'immagine non può essere scritta");
     }
     const double scala = static_cast<double>(fine) / puntiPollice;
     pennello.scale(scala, scala);

@@ -119,10 +119,13 @@ public:
     }
 
 private:
-    /// The part that begins at a block lies on its side.
+    /// The part that begins at a block lies on its side. Words before the title of a part go with it.
     bool coricata(std::size_t da) const {
         if (documento_.orizzontale) {
             return true;
+        }
+        while (da < documento_.blocchi.size() && std::holds_alternative<D::Paragrafo>(documento_.blocchi[da])) {
+            ++da;
         }
         for (std::size_t i = da; i < documento_.blocchi.size(); ++i) {
             const D::Blocco& blocco = documento_.blocchi[i];

@@ -19,6 +19,7 @@ namespace {
 constexpr std::size_t massimoNome = 31;      // of a sheet, in units of UTF-16
 constexpr std::size_t massimoTesto = 32767;  // of a cell, the same
 constexpr std::string_view vietati = "[]:*?/\\";
+constexpr std::string_view sottolineatura = "_x005F_";  // '_' by its code
 constexpr std::string_view sostituto = "\xEF\xBF\xBD";
 
 /// Units of UTF-16 of a character.
@@ -44,6 +45,14 @@ std::string entro(std::string_view testo, std::size_t massimo) {
         uscita += controllo ? " " : scrivibile(carattere) ? carattere : std::string{sostituto};
     }
     return uscita;
+}
+
+/// A text begins with what a cell holds for a character by its code: "_x0041_".
+bool cominciaCodice(std::string_view testo) {
+    constexpr std::string_view cifre = "0123456789abcdefABCDEF";
+    constexpr std::size_t lungo = 7;
+    return testo.size() >= lungo && testo.substr(0, 2) == "_x" && testo[lungo - 1] == '_' &&
+           testo.substr(2, 4).find_first_not_of(cifre) == std::string_view::npos;
 }
 
 std::uint8_t posa(Aspetto::Posa posa) {
@@ -78,8 +87,25 @@ lxw_col_t colonna(int c) {
 
 }  // namespace
 
-std::string testoCella(std::string_view testo) {
+std::string testoPulito(std::string_view testo) {
     return std::string{rifila(entro(testo, massimoTesto))};
+}
+
+std::string testoCella(std::string_view testo) {
+    const std::string pulito = testoPulito(testo);
+    std::string uscita;
+    std::size_t usate = 0;
+    std::string_view resto = pulito;
+    for (const std::string& carattere : caratteri(pulito)) {
+        const bool codice = cominciaCodice(resto);
+        usate += codice ? sottolineatura.size() : unita(carattere);
+        if (usate > massimoTesto) {
+            break;
+        }
+        uscita += codice ? std::string{sottolineatura} : carattere;
+        resto.remove_prefix(carattere.size());
+    }
+    return uscita;
 }
 
 std::string nomeFoglioIngresso(int ramo, std::string_view descrizione) {
@@ -194,7 +220,7 @@ void Libro::proprieta(const std::string& titolo, const std::string& autore, Data
     locale.tm_min = parti.minuto;
     locale.tm_sec = parti.secondo;
     locale.tm_isdst = -1;
-    std::array<std::string, 3> testi{testoCella(titolo), testoCella(autore), "Kelvo"};
+    std::array<std::string, 3> testi{testoPulito(titolo), testoPulito(autore), "Kelvo"};
     lxw_doc_properties proprieta{};
     proprieta.title = testi[0].data();
     proprieta.author = testi[1].data();
@@ -208,6 +234,15 @@ void Libro::testo(lxw_worksheet* foglio, int r, int c, std::string_view testo, c
     lxw_format* formato = this->formato(aspetto);
     fatto(pulito.empty() ? worksheet_write_blank(foglio, riga(r), colonna(c), formato)
                          : worksheet_write_string(foglio, riga(r), colonna(c), pulito.c_str(), formato));
+}
+
+void Libro::testoLargo(lxw_worksheet* foglio, int r, int colonne, std::string_view testo, const Aspetto& aspetto) {
+    if (colonne < 2) {
+        this->testo(foglio, r, 0, testo, aspetto);
+        return;
+    }
+    const std::string pulito = testoCella(testo);
+    fatto(worksheet_merge_range(foglio, riga(r), 0, riga(r), colonna(colonne - 1), pulito.c_str(), formato(aspetto)));
 }
 
 void Libro::numero(lxw_worksheet* foglio, int r, int c, double valore, const Aspetto& aspetto) {

@@ -28,8 +28,10 @@ struct Aspetto {
     friend bool operator==(const Aspetto&, const Aspetto&) = default;
 };
 
-/// A text as a cell may hold it: blanks for control characters, none at its ends, U+FFFD for wrong bytes, cut where it
-/// is longer than a cell takes.
+/// A text without what the format cannot hold: blanks for control characters, none at its ends, U+FFFD for wrong bytes,
+/// cut where it is longer than a cell takes.
+std::string testoPulito(std::string_view testo);
+/// The same as a cell is written: "_x0041_" would be read there as the character of that code.
 std::string testoCella(std::string_view testo);
 
 /// Name of the sheet of an entry, from 1: its letter and its name, without what such a name may not hold and no longer
@@ -55,6 +57,8 @@ public:
 
     // Rows and columns from 0.
     void testo(lxw_worksheet* foglio, int riga, int colonna, std::string_view testo, const Aspetto& aspetto);
+    /// A text over the first `colonne` columns as if they were one.
+    void testoLargo(lxw_worksheet* foglio, int riga, int colonne, std::string_view testo, const Aspetto& aspetto);
     void numero(lxw_worksheet* foglio, int riga, int colonna, double valore, const Aspetto& aspetto);
     /// A formula with the value that it has.
     void formula(lxw_worksheet* foglio, int riga, int colonna, const std::string& formula, double valore,

@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <optional>
 
+#include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
 #include "results/grandezze.h"
@@ -18,8 +20,12 @@ namespace kelvo::foglio {
 
 namespace {
 
-constexpr double altezzaTestata = 32.0;        // points
-constexpr double twipsPerCarattere = 105.0;    // of the type of the cells
+constexpr double altezzaTestata = 32.0;      // points
+constexpr double twipsPerCarattere = 105.0;  // of the type of the cells
+constexpr double minimaLarghezza = 9.0;      // of a column, characters
+constexpr double massimaLarghezza = 50.0;
+constexpr std::size_t margine = 2;
+constexpr double altezzaRiga = 15.0;           // points
 constexpr std::size_t massimoNomePagina = 60;  // in header and footer, characters
 constexpr std::array<double, colonneIngresso> larghezzeIngresso{8, 8, 12, 12, 13, 11, 12, 9, 9};
 constexpr const char* notaLivelli = "L.O.S. (Level of service) - HCM Americano";
@@ -38,7 +44,7 @@ std::string modello(int decimali, bool percento = false) {
 /// A text with the codes of header and footer taken for what they are.
 std::string perPagina(std::string_view testo) {
     std::string uscita;
-    for (const char c : testoCella(accorciato(testo, massimoNomePagina))) {
+    for (const char c : testoPulito(accorciato(testo, massimoNomePagina))) {
         uscita += c == '&' ? "&&" : std::string(1, c);
     }
     return uscita;
@@ -65,13 +71,45 @@ Aspetto diCella(const Cella& cella, Aspetto::Posa posa) {
     return {.sfondo = cella.sfondo, .inchiostro = cella.inchiostro, .grassetto = cella.grassetto, .posa = posa};
 }
 
-void rigaDiTestata(Libro& libro, lxw_worksheet* foglio, const Tabella& tabella) {
+/// Width that the longest text of a column asks for, and the longest word of its heading, in characters; texts that are
+/// longer still wrap.
+double larghezzaTesti(const Tabella& tabella, int colonna) {
+    std::size_t massima = 0;
+    for (int r = 1; r < tabella.righe(); ++r) {
+        massima = std::max(massima, lunghezza(tabella.testo(r, colonna)));
+    }
+    const std::string& titolo = tabella.testo(0, colonna);
+    for (std::size_t da = 0; da < titolo.size();) {
+        const std::size_t fine = std::min(titolo.find(' ', da), titolo.size());
+        massima = std::max(massima, lunghezza(titolo.substr(da, fine - da)));
+        da = fine + 1;
+    }
+    return std::min(massimaLarghezza, static_cast<double>(massima + margine));
+}
+
+/// Answers the width of all columns, in characters.
+double rigaDiTestata(Libro& libro, lxw_worksheet* foglio, const Tabella& tabella) {
+    double tutte = 0.0;
     for (int c = 0; c < tabella.colonne(); ++c) {
         libro.testo(foglio, rigaTestata, c, tabella.testo(0, c), aspettoTestata());
         const int twips = tabella.larghezze.empty() ? 0 : tabella.larghezze[static_cast<std::size_t>(c)];
-        if (twips > 0) {
-            libro.larghezza(foglio, c, std::max(9.0, twips / twipsPerCarattere));
-        }
+        const double larghezza = std::max({minimaLarghezza, twips / twipsPerCarattere, larghezzaTesti(tabella, c)});
+        libro.larghezza(foglio, c, larghezza);
+        tutte += larghezza;
+    }
+    return tutte;
+}
+
+/// Texts below a table, each as wide as the table is, in as many lines as it takes.
+void paroleSotto(Libro& libro, lxw_worksheet* foglio, const Tabella& tabella, double larghezza,
+                 const std::vector<std::string>& parole) {
+    int riga = rigaTestata + tabella.righe() + 1;
+    for (const std::string& testo : parole) {
+        const double righe = std::ceil(static_cast<double>(lunghezza(testo)) / larghezza);
+        libro.altezza(foglio, riga, altezzaRiga * std::max(1.0, righe));
+        libro.testoLargo(foglio, riga, tabella.colonne(), testo,
+                         {.inchiostro = tinta::inchiostro, .bordi = false, .aCapo = true});
+        ++riga;
     }
 }
 
@@ -83,6 +121,18 @@ void scriviRecord(Libro& libro, lxw_worksheet* foglio, int riga, int colonna, co
     }
     const std::string_view livello = livelloDiRitardo(record.Ritardo);
     libro.testo(foglio, riga, colonna, livello, aspettoLivello(livello));
+}
+
+/// Fault 9 for an entry with more segments than its window has intervals: the table has no rows for them.
+void controllaSegmenti(const Rotonda& rotonda, int intervalli) {
+    for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
+        const int segmenti = rotonda.Ramo(i).theDatiTraffico().NumSegmentiTempo();
+        if (segmenti > intervalli) {
+            throw Guasto(NumeroGuasto::indiceFuoriIntervallo,
+                         fmt::format("ingresso {}: {} segmenti, la finestra di modellazione ha {} intervalli",
+                                     static_cast<char>('A' + i - 1), segmenti, intervalli));
+        }
+    }
 }
 
 /// Headings of the sheet of an entry, in their order.
@@ -215,12 +265,16 @@ void foglioVerifiche(Libro& libro, const Rotonda& rotonda, bool conRecord) {
     const Tabella tabella = tabellaVerificheVuota(rotonda);
     rigaDiTestata(libro, foglio, tabella);
     const int perIntervallo = rotonda.NumeroRami() + 1;
+    if (conRecord) {
+        controllaSegmenti(rotonda, (tabella.righe() - 1) / perIntervallo);
+    }
     for (int r = 1; r < tabella.righe(); ++r) {
         const int ramo = (r - 1) % perIntervallo;
         const auto segmento = static_cast<std::int16_t>((r - 1) / perIntervallo + 1);
         const int riga = rigaTestata + r;
         Aspetto nome = diCella(tabella.cella(r, 0), Aspetto::Posa::sinistra);
         nome.grassetto = ramo == 0;
+        nome.aCapo = true;
         libro.testo(foglio, riga, 0, tabella.testo(r, 0), nome);
         if (conRecord && ramo > 0) {
             const DatiTraffico& traffico = rotonda.Ramo(static_cast<std::int16_t>(ramo)).theDatiTraffico();
@@ -280,7 +334,7 @@ void foglioIngresso(Libro& libro, const Rotonda& rotonda, std::int16_t ramo) {
 void foglioTabella(Libro& libro, const std::string& nome, const Testata& testata, const Tabella& tabella,
                    const std::vector<std::string>& parole) {
     lxw_worksheet* foglio = nuovoFoglio(libro, nome, testata);
-    rigaDiTestata(libro, foglio, tabella);
+    const double larghezza = rigaDiTestata(libro, foglio, tabella);
     for (int r = 1; r < tabella.righe(); ++r) {
         for (int c = 0; c < tabella.colonne(); ++c) {
             const Cella& cella = tabella.cella(r, c);
@@ -294,15 +348,12 @@ void foglioTabella(Libro& libro, const std::string& nome, const Testata& testata
                 libro.testo(foglio, riga, c, cella.testo, aspettoLivello(cella.testo));
             } else {
                 Aspetto aspetto = diCella(cella, c == 0 ? Aspetto::Posa::sinistra : Aspetto::Posa::centro);
-                aspetto.aCapo = tabella.colonne() <= 3;
+                aspetto.aCapo = c == 0 || tabella.colonne() <= 3;
                 libro.testo(foglio, riga, c, cella.testo, aspetto);
             }
         }
     }
-    int riga = rigaTestata + tabella.righe() + 1;
-    for (const std::string& testo : parole) {
-        libro.testo(foglio, riga++, 0, testo, {.inchiostro = tinta::inchiostro, .bordi = false});
-    }
+    paroleSotto(libro, foglio, tabella, larghezza, parole);
     worksheet_freeze_panes(foglio, primaRiga, 1);
     worksheet_set_landscape(foglio);
 }

@@ -37,7 +37,8 @@ struct Testata {
 /// Begins a sheet: title, project, page set-up.
 lxw_worksheet* nuovoFoglio(Libro& libro, const std::string& nome, const Testata& testata);
 
-/// The table of all entries; without records the frame alone.
+/// The table of all entries; without records the frame alone. Fault 9 if an entry has more segments than the table has
+/// intervals.
 void foglioVerifiche(Libro& libro, const Rotonda& rotonda, bool conRecord);
 /// One entry, from 1: its segments, extremes and means, its charts.
 void foglioIngresso(Libro& libro, const Rotonda& rotonda, std::int16_t ramo);

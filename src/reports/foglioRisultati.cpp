@@ -49,21 +49,9 @@ private:
     std::string percorso_;
 };
 
-Tabella tabellaInVigore(const Applicazione& app) {
-    const std::vector<VoceInVigore> voci = inVigore(app);
-    Tabella tabella(static_cast<int>(voci.size()) + 1, 2);
+Tabella tabellaVigore(const Applicazione& app) {
+    Tabella tabella = tabellaInVigore(inVigore(app));
     tabella.larghezze = {4000, 4000};
-    const auto colora = [](Cella& cella, Colore sfondo) {
-        cella.sfondo = sfondo;
-        cella.inchiostro = sfondo == colori::dati ? colori::nero : colori::bianco;
-    };
-    for (int r = 0; r < tabella.righe(); ++r) {
-        const auto voce = static_cast<std::size_t>(r) - 1;
-        tabella.cella(r, 0).testo = r == 0 ? "In vigore nel calcolo" : voci[voce].nome;
-        tabella.cella(r, 1).testo = r == 0 ? "Valore" : voci[voce].valore;
-        colora(tabella.cella(r, 0), r == 0 ? colori::intestazione : colori::nomeIngresso);
-        colora(tabella.cella(r, 1), r == 0 ? colori::intestazione : colori::dati);
-    }
     return tabella;
 }
 
@@ -91,7 +79,7 @@ void componi(Libro& libro, Applicazione& app) {
     }
     foglio::foglioTabella(libro, "Capacità ultima", {"Risultati: Capacità ultima", rotonda.NomeFile()},
                           tabellaUltima(rotonda), {});
-    foglio::foglioTabella(libro, "In vigore", {"In vigore nel calcolo", rotonda.NomeFile()}, tabellaInVigore(app), {});
+    foglio::foglioTabella(libro, "In vigore", {titoloInVigore, rotonda.NomeFile()}, tabellaVigore(app), {});
 }
 
 }  // namespace

@@ -12,8 +12,8 @@ namespace kelvo {
 /// row a segment, with its extremes and means and a chart of each quantity; "Sintesi nodo" the peak hours, "Capacità
 /// ultima" the ultimate capacities with the saturation index, "In vigore" what the calculation read beside the demand.
 /// Figures are numbers in their plain text form, under the patterns of the tables. A study that is no study over time
-/// has the frame of its first table, no peak hours and no sheets of entries. Fault 17 where it cannot be made, 75 where
-/// the folder for temporary files cannot be used.
+/// has the frame of its first table, no peak hours and no sheets of entries. Fault 17 where it cannot be made, so
+/// also where the folder for temporary files cannot be used; 75 where what was made cannot be read back.
 std::string foglioRisultati(Applicazione& app);
 
 }  // namespace kelvo

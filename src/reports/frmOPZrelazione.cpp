@@ -165,6 +165,7 @@ void frmOPZrelazione::corri(const std::function<void(modStampaRelazione&)>& proc
         return;
     }
     inCorso_ = true;
+    aggiornaPDF();  // the window may never have been shown
     Controllo* prima = fuoco();
     abilita(false);
     gestisci("frmOPZrelazione:compila", [&] {

@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 #include <vector>
 
 #include "base/date.h"
+#include "base/numeri.h"
 #include "base/testo.h"
 #include "reports/fogli.h"
 #include "results/graficiRamo.h"
@@ -37,6 +39,12 @@ struct Origine {
     int perEtichetta = 1;  ///< segments of an hour
 };
 
+/// Both ends of an axis of values.
+struct Estremi {
+    double fondo = 0.0;
+    double cima = 0.0;
+};
+
 lxw_chart_font tipo(double punti, Colore tinta, bool forte = false) {
     lxw_chart_font font{};
     font.size = punti;
@@ -45,7 +53,7 @@ lxw_chart_font tipo(double punti, Colore tinta, bool forte = false) {
     return font;
 }
 
-void vestiAssi(lxw_chart* grafico, const std::string& titoloY, double cima, const Origine& origine) {
+void vestiAssi(lxw_chart* grafico, const std::string& titoloY, const Estremi& estremi, const Origine& origine) {
     lxw_chart_axis* x = chart_axis_get(grafico, LXW_CHART_AXIS_TYPE_X);
     lxw_chart_axis* y = chart_axis_get(grafico, LXW_CHART_AXIS_TYPE_Y);
     lxw_chart_font parole = tipo(9, tinta::secondario);
@@ -63,8 +71,8 @@ void vestiAssi(lxw_chart* grafico, const std::string& titoloY, double cima, cons
     chart_axis_set_name(y, titoloY.c_str());
     chart_axis_set_interval_unit(x, static_cast<std::uint16_t>(origine.perEtichetta));
     chart_axis_set_interval_tick(x, static_cast<std::uint16_t>(origine.perEtichetta));
-    chart_axis_set_min(y, 0.0);
-    chart_axis_set_max(y, cima);
+    chart_axis_set_min(y, estremi.fondo);
+    chart_axis_set_max(y, estremi.cima);
     chart_axis_major_gridlines_set_line(y, &rete);
 }
 
@@ -98,12 +106,17 @@ void posa(lxw_worksheet* foglio, lxw_chart* grafico, int quale, const std::strin
                                      grafico, &opzioni));
 }
 
-double massimo(const DatiTraffico& traffico, const Grandezza& grandezza) {
+/// The axis of values of a quantity: it spans the figures as the tables show them, and 0.
+Estremi estremiAsse(const DatiTraffico& traffico, const Grandezza& grandezza, int colonna) {
+    double minimo = 0.0;
     double massimo = 0.0;
     for (std::int16_t s = 1; s <= traffico.NumSegmentiTempo(); ++s) {
-        massimo = std::max(massimo, valoreCella(traffico.GetIterazione(s).*grandezza.campo));
+        const std::string mostrato = formatta(traffico.GetIterazione(s).*grandezza.campo, grandezza.formato);
+        const double valore = leggiNumero(mostrato).value_or(0.0);
+        minimo = std::min(minimo, valore);
+        massimo = std::max(massimo, valore);
     }
-    return massimo;
+    return {.fondo = std::floor(minimo), .cima = cimaAsse(colonna, massimo)};
 }
 
 void graficoValori(Libro& libro, lxw_worksheet* foglio, int quale, const Origine& origine,
@@ -112,8 +125,7 @@ void graficoValori(Libro& libro, lxw_worksheet* foglio, int quale, const Origine
     const Grandezza& grandezza = grandezze.at(static_cast<std::size_t>(disegno.colonna) - 1);
     lxw_chart* grafico = nullptr;
     lxw_chart_series* valori = serie(libro, grafico, origine, disegno.colore);
-    vestiAssi(grafico, std::string{disegno.etichettaY}, cimaAsse(disegno.colonna, massimo(traffico, grandezza)),
-              origine);
+    vestiAssi(grafico, std::string{disegno.etichettaY}, estremiAsse(traffico, grandezza, disegno.colonna), origine);
     if (origine.segmenti <= massimiValori) {
         lxw_chart_font etichette = tipo(8, tinta::inchiostro);
         etichette.rotation = origine.segmenti > massimiValori / 2 ? -90.0 : 0.0;
@@ -132,7 +144,7 @@ void graficoLivelli(Libro& libro, lxw_worksheet* foglio, int quale, const Origin
                     const DatiTraffico& traffico) {
     lxw_chart* grafico = nullptr;
     lxw_chart_series* codici = serie(libro, grafico, origine, tinta::serieLOS);
-    vestiAssi(grafico, "L.O.S.", codiceLivello("F"), origine);
+    vestiAssi(grafico, "L.O.S.", {.fondo = 0.0, .cima = static_cast<double>(codiceLivello("F"))}, origine);
     lxw_chart_axis* y = chart_axis_get(grafico, LXW_CHART_AXIS_TYPE_Y);
     chart_axis_set_major_unit(y, passoCodici);
     chart_axis_set_label_position(y, LXW_CHART_AXIS_LABEL_POSITION_NONE);
@@ -168,7 +180,7 @@ void graficiIngresso(Libro& libro, lxw_worksheet* foglio, const std::string& nom
     const Ramo& suo = rotonda.Ramo(ramo);
     const DatiTraffico& traffico = suo.theDatiTraffico();
     const int passo = std::max(1, minutoCampo(rotonda.SegmentoTempo()));
-    const std::string ingresso = " - Ingresso " + testoCella(accorciato(suo.Descrizione(), massimoTitolo));
+    const std::string ingresso = " - Ingresso " + testoPulito(accorciato(suo.Descrizione(), massimoTitolo));
     Origine origine{
         .foglio = nome, .titolo = {}, .segmenti = traffico.NumSegmentiTempo(), .perEtichetta = std::max(1, 60 / passo)};
     int quale = 0;

@@ -29,7 +29,7 @@ constexpr const char* informazione = "KELVO 2014 - Informazione";
 }  // namespace
 
 std::string segnoFoglioAperto(const std::string& percorso) {
-    const fs::path file = percorsoDaTesto(percorso);
+    const fs::path file = percorsoDaTesto(fileDelCollegamento(percorso));
     const std::string nome = testoDaPercorso(file.filename());
     for (const std::string& segno : std::array{".~lock." + nome + "#", "~$" + nome}) {
         const fs::path accanto = file.parent_path() / percorsoDaTesto(segno);
@@ -82,7 +82,7 @@ bool modEXCEL::daSostituire(const std::string& percorso) {
     if (servizi_.documenti == nullptr) {
         throw Guasto::conParole(
             NumeroGuasto::autorizzazioneNegata,
-            fmt::format("Il file \"{}\" è aperto in un foglio di calcolo: va prima chiuso (se non lo è più, va "
+            fmt::format("Il file \"{}\" è aperto in un foglio di calcolo: va prima chiuso (se non è più aperto, va "
                         "eliminato \"{}\")",
                         percorso, segno));
     }

@@ -40,6 +40,7 @@ private:
 };
 
 /// The file that a spreadsheet program puts beside a workbook that it has open, whole path; empty where there is none.
+/// Of a link it is sought beside the workbook that the link leads to.
 std::string segnoFoglioAperto(const std::string& percorso);
 
 }  // namespace kelvo

@@ -34,6 +34,8 @@ constexpr const char* informazione = "KELVO 2014 - Informazione";
 constexpr const char* nonAperto = "Nessun programma del sistema ha aperto il file:";
 constexpr const char* mancanti = "Il modello scelto non ha le sezioni seguenti, che non sono state compilate:";
 constexpr const char* senzaPDF = "La relazione è stata salvata: {}\r\nIl PDF non è stato fatto: {}.";
+constexpr const char* alPostoDellaRelazione = "avrebbe il nome della relazione stessa e ne prenderebbe il posto";
+constexpr const char* sostituirePDF = "Il PDF della relazione esiste già:\r\n{}\r\nSostituirlo?";
 constexpr const char* senzaDestinazione = "Nessuno può chiedere dove salvare la relazione";
 }  // namespace testi
 
@@ -51,6 +53,17 @@ std::string nomeFileAmmesso(std::string_view nome) {
         ammesso += male ? '_' : c;
     }
     return ammesso;
+}
+
+/// One file under both paths, however they are spelled.
+bool stessoFile(const std::string& uno, const std::string& altro) {
+    std::error_code errore;
+    return uno == altro || fs::equivalent(percorsoDaTesto(uno), percorsoDaTesto(altro), errore);
+}
+
+bool eFile(const std::string& percorso) {
+    std::error_code errore;
+    return fs::is_regular_file(percorsoDaTesto(percorso), errore);
 }
 
 }  // namespace
@@ -165,6 +178,7 @@ EsitoRelazione modStampaRelazione::componiESalva(const Corsa& corsa) {
     }
     passo_ = 0;
     mancanti_.clear();
+    saltate_ = 0;
     if (servizi_.avanzamento != nullptr) {
         servizi_.avanzamento->mostra(corsa.totale);
     }
@@ -209,14 +223,25 @@ EsitoRelazione modStampaRelazione::salva(const Corsa& corsa) {
     return intera ? EsitoRelazione::fatta : EsitoRelazione::senzaPDF;
 }
 
-/// False if there is none; the reason has been shown then.
+/// False if there is none; the reason has been shown then, or the user keeps the file that stands in its place.
 bool modStampaRelazione::faPDF(const std::string& percorso) {
     const std::string pdf = percorsoPDF(percorso);
-    const std::string errore = servizi_.pdf->converti(percorso, pdf, [this] {
-        if (servizi_.avanzamento != nullptr) {
-            servizi_.avanzamento->attende();
-        }
-    });
+    // Who gives a path has agreed that what stands there is replaced.
+    const bool chiede = servizi_.percorso.empty();
+    std::string errore;
+    if (stessoFile(percorso, pdf)) {
+        errore = testi::alPostoDellaRelazione;
+    } else if (chiede && eFile(pdf) &&
+               servizi_.messaggi.mostra(fmt::format(testi::sostituirePDF, pdf), testi::attenzione, Icona::esclamazione,
+                                        Pulsanti::siNo) != Risposta::si) {
+        return false;
+    } else {
+        errore = servizi_.pdf->converti(percorso, pdf, [this] {
+            if (servizi_.avanzamento != nullptr) {
+                servizi_.avanzamento->attende();
+            }
+        });
+    }
     if (!errore.empty()) {
         app_.comune.traceLog(fmt::format("{}faPDF {}: {}", modulo, pdf, errore));
         servizi_.messaggi.mostra(fmt::format(testi::senzaPDF, percorso, errore), testi::attenzione, Icona::esclamazione,
@@ -299,6 +324,7 @@ void modStampaRelazione::sezione(std::string_view nome, const Passo& procedura) 
     } catch (const SegnalibroMancante& guasto) {
         // A template of the user's own may leave sections out: they are told together, not one by one.
         constexpr std::string_view riempi = "riempi";
+        saltate_ += proprio_ ? 1 : 0;
         if (proprio_ && nome.substr(0, riempi.size()) == riempi) {
             mancanti_.emplace_back(nome.substr(riempi.size()));
         }

@@ -45,7 +45,8 @@ struct ServiziRelazione {
     std::function<std::optional<AnalisiCorsiaDX>()> corsiaDX{};
     /// Where the report is written without asking; empty to ask.
     std::string percorso{};
-    /// Makes a PDF of the report too, beside it and under its name; null for none.
+    /// Makes a PDF of the report too, beside it and under its name; null for none. One that stands there is replaced
+    /// where the user says so, or where `percorso` is given.
     ConvertitorePDF* pdf = nullptr;
     /// A template of the user's own, whole path, in the place of the master templates; empty for none.
     std::string modelloProprio{};
@@ -53,7 +54,7 @@ struct ServiziRelazione {
 
 enum class EsitoRelazione {
     fatta,
-    senzaPDF,   ///< the report is written, its PDF is not; the reason was shown
+    senzaPDF,   ///< the report is written, its PDF is not; the reason was shown, or the user keeps an older one
     annullata,  ///< the user did not choose a file; nothing was written
     fallita,    ///< the reason was shown
 };
@@ -79,6 +80,9 @@ public:
     EsitoRelazione compilaGrafici(const OpzioniGrafici& opzioni = {});
     /// What a window shows.
     EsitoRelazione compilaGrafico(const RelazioneGrafica& relazione);
+
+    /// How many sections the last run passed over because a template of the user's own does not have them.
+    int sezioniMancanti() const { return saltate_; }
 
     /// Replaces a placeholder wherever it stands; answers how often it did.
     int InserisciVariabileWord(std::string_view testoCercato, std::string_view testoNuovo);
@@ -158,6 +162,7 @@ private:
     ServiziRelazione servizi_;
     std::unique_ptr<DocumentoRelazione> documento_;
     std::vector<std::string> mancanti_;  ///< sections that a template of the user's own does not have
+    int saltate_ = 0;                    ///< of all its sections, those that are taken away too
     bool proprio_ = false;               ///< the template at hand is the user's own
     int passo_ = 0;
 };

@@ -22,8 +22,6 @@ constexpr const char* datiCambiati =
 constexpr const char* interrotto = "Il calcolo si è interrotto: le cifre non sono complete.";
 constexpr const char* ipotesi = "Le cifre sono di un'analisi di ipotesi, non del progetto. Premere Calcola (F9).";
 constexpr const char* nonRiuscito = "Il calcolo non è riuscito: le cifre non sono quelle del progetto.";
-constexpr const char* inVigore = "In vigore nel calcolo";
-constexpr const char* valore = "Valore";
 constexpr const char* dati = "Copia e salva";
 }  // namespace testi
 
@@ -31,25 +29,6 @@ std::vector<BarraStrumenti::Tasto> tastiRisultati() {
     return {{"keyCalcola", "Calcola", "Calcola il progetto", "Calcola"},
             {"keyAnteprima", "Anteprima", "Scrive la tabella in un file di testo e lo apre", "Anteprima"},
             {"keyRelazione", "Relazione", "Apre la finestra delle relazioni", "Relazione"}};
-}
-
-Tabella tabellaInVigore(const std::vector<VoceInVigore>& voci) {
-    Tabella tabella(static_cast<int>(voci.size()) + 1, 2);
-    tabella.cella(0, 0).testo = testi::inVigore;
-    tabella.cella(0, 1).testo = testi::valore;
-    for (int r = 0; r < tabella.righe(); ++r) {
-        if (r > 0) {
-            const VoceInVigore& voce = voci[static_cast<std::size_t>(r) - 1];
-            tabella.cella(r, 0).testo = voce.nome;
-            tabella.cella(r, 1).testo = voce.valore;
-        }
-        for (int c = 0; c < 2; ++c) {
-            Cella& cella = tabella.cella(r, c);
-            cella.sfondo = r == 0 ? colori::intestazione : c == 0 ? colori::nomeIngresso : colori::dati;
-            cella.inchiostro = r == 0 || c == 0 ? colori::bianco : colori::nero;
-        }
-    }
-    return tabella;
 }
 
 void scriviNota(Etichetta& etichetta, const std::string& testo) {
@@ -68,7 +47,7 @@ FinestraRisultati::FinestraRisultati(const Contorno& contorno, const ServiziRisu
       lblFlussi("lblFlussi", {}, "ROSSO"),
       lblNotte("lblNotte", {}, "ROSSO"),
       lblInVigore("lblInVigore", {}, "GREY"),
-      cmdInVigore("cmdInVigore", testi::inVigore, Casella::bottone),
+      cmdInVigore("cmdInVigore", titoloInVigore, Casella::bottone),
       ctlInVigore("ctlInVigore"),
       cmdDati("cmdDati", testi::dati),
       servizi_(servizi),

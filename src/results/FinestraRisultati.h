@@ -69,6 +69,8 @@ protected:
     virtual void altroTasto(const std::string& /*chiave*/) {}
     /// Why the figures shown are not those of the project as it stands; empty where they are, or there are none.
     virtual std::string motivoVecchi() const;
+    /// The same of all that goes on paper, which may be more than what is in view.
+    virtual std::string vecchiSuCarta() const { return lblVecchi.testo(); }
     /// Why all flows are 0; asked only while there are figures.
     virtual std::string motivoFlussi() const = 0;
 

@@ -29,6 +29,14 @@ std::string perLaCarta(std::string avviso) {
     return avviso;
 }
 
+/// A sentence as it goes on behind a colon.
+std::string dopoDuePunti(std::string frase) {
+    if (!frase.empty() && frase.front() >= 'A' && frase.front() <= 'Z') {
+        frase.front() = static_cast<char>(frase.front() - 'A' + 'a');
+    }
+    return frase;
+}
+
 }  // namespace
 
 std::string FinestraRisultati::impedimentoStampa() const {
@@ -53,9 +61,10 @@ DocumentoPagine FinestraRisultati::documento() {
     aggiornaNote();
     const std::string& quale = sottotitolo.testo();
     D carta = documentoDiProgetto(app(), didascalia() + (quale.empty() ? "" : " - " + quale));
-    for (const Etichetta* nota : {&lblVecchi, &lblFlussi, &lblNotte}) {
-        if (!nota->testo().empty()) {
-            carta.blocchi.emplace_back(D::Paragrafo{.testo = perLaCarta(nota->testo()), .segno = D::Segno::verifica});
+    const std::string vecchi = perLaCarta(vecchiSuCarta());
+    for (const std::string& nota : {vecchi, perLaCarta(lblFlussi.testo()), perLaCarta(lblNotte.testo())}) {
+        if (!nota.empty()) {
+            carta.blocchi.emplace_back(D::Paragrafo{.testo = nota, .segno = D::Segno::verifica});
         }
     }
     for (D::Blocco& blocco : figureSuCarta()) {
@@ -65,10 +74,8 @@ DocumentoPagine FinestraRisultati::documento() {
     D::Tabella voci = tabellaSuCarta(ctlInVigore);
     voci.colonne.front().titolo = testi::voce;  // the title above has told it
     carta.blocchi.emplace_back(std::move(voci));
-    carta.blocchi.emplace_back(
-        D::Paragrafo{.testo = lblVecchi.testo().empty() ? testi::attuali : perLaCarta(lblVecchi.testo()),
-                     .inizio = testi::eta,
-                     .quieto = true});
+    carta.blocchi.emplace_back(D::Paragrafo{
+        .testo = vecchi.empty() ? testi::attuali : dopoDuePunti(vecchi), .inizio = testi::eta, .quieto = true});
     return carta;
 }
 

@@ -219,9 +219,11 @@ void frmCapacitaCodeRitardi::esportaFoglio() {
     traccia(metodoFoglio, [this] { apriFoglio(); });
 }
 
-/// What is exported are the figures of the project as it stands: those that are not are calculated first.
+/// What is exported are the figures of the project as it stands: those that are not are calculated first. A study that
+/// is no study over time has none: its table is empty, whatever the window still shows.
 void frmCapacitaCodeRitardi::apriFoglio() {
-    if (analisiNelTempo(rotonda()) && !motivoVecchi().empty()) {
+    const bool nelTempo = analisiNelTempo(rotonda());
+    if (nelTempo && !motivoVecchi().empty()) {
         calcola();
         aggiornaNote();
         if (!motore().riuscita()) {
@@ -231,7 +233,8 @@ void frmCapacitaCodeRitardi::apriFoglio() {
     const std::string percorso = app().theAmbiente.PercorsoProgramma(fileFoglio);
     std::error_code ignorato;  // a folder that cannot be made is told by the file that cannot be written
     std::filesystem::create_directories(percorsoDaTesto(percorso).parent_path(), ignorato);
-    scriviEsportazione(app(), percorso, testoScambio(ctlGrid.tabella(), rotonda(), app().orologio.adesso()));
+    const Tabella tabella = nelTempo ? ctlGrid.tabella() : tabellaVerificheVuota(rotonda());
+    scriviEsportazione(app(), percorso, testoScambio(tabella, rotonda(), app().orologio.adesso()));
     servizi().foglio(percorso);
 }
 

@@ -1,8 +1,10 @@
 #include "results/frmDX.h"
 
+#include <memory>
 #include <utility>
 
 #include "base/guasto.h"
+#include "pianta/Pianta.h"
 #include "results/calcoloIpotesi.h"
 #include "results/inVigore.h"
 #include "shell/servizi/tinte.h"
@@ -21,6 +23,8 @@ constexpr const char* legenda =
     "diminuzione.";
 constexpr const char* soloSaturazione =
     "Il confronto richiede una domanda nel tempo: l'analisi è di sola saturazione (Opzioni).";
+constexpr const char* tralasciato = "\r\nLa relazione lo tralascia.";
+constexpr const char* svolteNelleCifre = "Svolte a destra delle corsie del confronto";
 constexpr const char* altreCorsie = "Le corsie scelte non sono quelle del confronto mostrato. Premere Calcola (F9).";
 constexpr const char* interrotto = "Il calcolo si è interrotto: le cifre non sono complete.";
 }  // namespace testi
@@ -118,14 +122,18 @@ CorsieDestra frmDX::corsie() const {
 }
 
 std::vector<std::vector<float>> frmDX::svolteScelte() const {
-    if (!corsieDisponibili(app().theRotonda()) || !almenoUnaCorsia(corsie())) {
+    return svolte(corsie());
+}
+
+std::vector<std::vector<float>> frmDX::svolte(const CorsieDestra& quali) const {
+    if (!corsieDisponibili(app().theRotonda()) || !almenoUnaCorsia(quali)) {
         return {};
     }
     Matrice tutte;
     app().theRotonda().GetMatriceSvolte(tutte);
     std::vector<std::vector<float>> scelte(tutte.size(), std::vector<float>(tutte.size(), 0.0F));
     for (std::size_t i = 0; i < posizioniDX.size(); ++i) {
-        if (corsie()[i]) {
+        if (quali[i]) {
             const auto da = static_cast<std::size_t>(posizioniDX[i].origine - 1);
             const auto a = static_cast<std::size_t>(posizioniDX[i].destinazione - 1);
             scelte[da][a] = tutte[da][a];
@@ -192,17 +200,22 @@ std::string frmDX::motivoFlussi() const {
     return notaFlussi(app());
 }
 
-/// The lanes named are those of the figures.
+/// The lanes named and drawn are those of the figures.
 FinestraRisultati::Blocchi frmDX::figureSuCarta() const {
     using D = DocumentoPagine;
+    constexpr double quota = 0.55;  // on one page with the table
     std::string scelte;
     for (std::size_t i = 0; i < calcolate_.size(); ++i) {
         if (calcolate_[i]) {
             scelte += (scelte.empty() ? "" : "; ") + std::string{posizioniDX[i].testo};
         }
     }
-    return {D::Paragrafo{.testo = scelte + ".", .inizio = testi::nelleCifre}, tabellaSuCarta(ctlGrid),
-            D::Paragrafo{.testo = lblLegenda.testo(), .quieto = true}};
+    const D::Pianta disegno{std::make_shared<const pianta::DatiPianta>(pianta::datiPianta(app().theRotonda())),
+                            std::make_shared<const pianta::OpzioniPianta>(
+                                pianta::OpzioniPianta{.nomi = false, .flussi = svolte(calcolate_)})};
+    return {D::Paragrafo{.testo = scelte + ".", .inizio = testi::nelleCifre},
+            D::Figura{.contenuto = disegno, .larghezza = quota, .forma = 1.0, .didascalia = testi::svolteNelleCifre},
+            tabellaSuCarta(ctlGrid), D::Paragrafo{.testo = lblLegenda.testo(), .quieto = true}};
 }
 
 void frmDX::relazione() {
@@ -216,6 +229,10 @@ void frmDX::relazione() {
         if (!confronto_.calcolato()) {
             return;  // the engine has told why
         }
+    }
+    if (!nelTempo()) {
+        messaggio(std::string{testi::soloSaturazione} + testi::tralasciato,
+                  std::string{testiDX::nessunaPosizione.titolo}, Icona::esclamazione);
     }
     servizi().relazioneTotale();
 }

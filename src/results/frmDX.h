@@ -48,7 +48,8 @@ protected:
     bool ammette(const std::string& chiave) override;
     void calcola() override;
     /// With the comparison asked for, the whole report with it, which is calculated first where it is missing or old;
-    /// else the window of the reports.
+    /// else the window of the reports. Of saturation alone there is no comparison: that is told, and the report has
+    /// none.
     void relazione() override;
     /// The lanes named in it are those of the figures. Fault 5 where there are no whole figures.
     std::string testoAnteprima() override;
@@ -59,6 +60,8 @@ protected:
     Blocchi figureSuCarta() const override;
 
 private:
+    /// Flows of the right turns of these lanes.
+    std::vector<std::vector<float>> svolte(const CorsieDestra& quali) const;
     void ordinaControlli();
     void riempi();
     bool nelTempo() const;

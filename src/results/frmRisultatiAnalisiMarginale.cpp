@@ -19,6 +19,8 @@ namespace {
 
 namespace testi {
 constexpr const char* vecchie = "I dati sono cambiati dopo il calcolo di questa tabella.";
+constexpr const char* vecchioRiepilogo =
+    "I dati sono cambiati dopo il calcolo di almeno una delle grandezze del riepilogo.";
 constexpr const char* didascalia = "Risultati: Ottimizzazione Geometrica";
 constexpr const char* riepilogo = "Riepilogo";
 constexpr const char* variabile = "Variabile prestazionale";
@@ -373,6 +375,10 @@ bool frmRisultatiAnalisiMarginale::superato(const std::optional<Timbro>& timbro)
     return timbro && *timbro != momento();
 }
 
+bool frmRisultatiAnalisiMarginale::unaSuperata() const {
+    return std::any_of(timbri_.begin(), timbri_.end(), [this](const auto& timbro) { return superato(timbro); });
+}
+
 std::string frmRisultatiAnalisiMarginale::motivoVecchi() const {
     if (indice_ == 0) {
         return {};
@@ -387,6 +393,11 @@ std::string frmRisultatiAnalisiMarginale::motivoVecchi() const {
         }
     }
     return {};
+}
+
+/// All tables go on paper, whichever tab is in view.
+std::string frmRisultatiAnalisiMarginale::vecchiSuCarta() const {
+    return unaSuperata() ? testi::datiCambiati : motivoVecchi();
 }
 
 std::string frmRisultatiAnalisiMarginale::motivoFlussi() const {
@@ -416,7 +427,7 @@ FinestraRisultati::Blocchi frmRisultatiAnalisiMarginale::figureSuCarta() const {
             continue;
         }
         blocchi.emplace_back(D::Titolo{ctlTab.scheda(static_cast<int>(i)).titolo, 1});
-        // The warning of the window tells the tab in view alone.
+        // Each table has an age of its own.
         if (superato(timbri_.at(i))) {
             blocchi.emplace_back(D::Paragrafo{.testo = testi::vecchie, .segno = D::Segno::verifica});
         }
@@ -426,6 +437,9 @@ FinestraRisultati::Blocchi frmRisultatiAnalisiMarginale::figureSuCarta() const {
         }
     }
     blocchi.emplace_back(D::Titolo{ctlTab.scheda(schedaRiepilogo).titolo, 1});
+    if (unaSuperata()) {
+        blocchi.emplace_back(D::Paragrafo{.testo = testi::vecchioRiepilogo, .segno = D::Segno::verifica});
+    }
     if (variabile()) {
         blocchi.emplace_back(kelvo::figuraSuCarta(graficoTornado(analisi_, *variabile())));
     }

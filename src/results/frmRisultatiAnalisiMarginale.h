@@ -68,6 +68,7 @@ protected:
     std::string nomeAnteprima() const override { return "RisultatiMarginale.txt"; }
     void anteprimaFallita(const Guasto& guasto) override;
     std::string motivoVecchi() const override;
+    std::string vecchiSuCarta() const override;
     std::string motivoFlussi() const override;
     Blocchi figureSuCarta() const override;
 
@@ -90,6 +91,7 @@ private:
     void disegna();
     void apriTasti();
     bool superato(const std::optional<Timbro>& timbro) const;
+    bool unaSuperata() const;
     Timbro momento() const;
     void cerca();
     void scordaRisposta();

@@ -68,6 +68,25 @@ std::vector<VoceInVigore> inVigore(const Applicazione& app) {
     return voci;
 }
 
+Tabella tabellaInVigore(const std::vector<VoceInVigore>& voci) {
+    Tabella tabella(static_cast<int>(voci.size()) + 1, 2);
+    tabella.cella(0, 0).testo = titoloInVigore;
+    tabella.cella(0, 1).testo = "Valore";
+    for (int r = 0; r < tabella.righe(); ++r) {
+        if (r > 0) {
+            const VoceInVigore& voce = voci[static_cast<std::size_t>(r) - 1];
+            tabella.cella(r, 0).testo = voce.nome;
+            tabella.cella(r, 1).testo = voce.valore;
+        }
+        for (int c = 0; c < 2; ++c) {
+            Cella& cella = tabella.cella(r, c);
+            cella.sfondo = r == 0 ? colori::intestazione : c == 0 ? colori::nomeIngresso : colori::dati;
+            cella.inchiostro = r == 0 || c == 0 ? colori::bianco : colori::nero;
+        }
+    }
+    return tabella;
+}
+
 std::string rigaInVigore(const Applicazione& app) {
     std::string coefficienti;
     for (const float valore : app.configurazione.coefficienti()) {

@@ -4,8 +4,11 @@
 #include <vector>
 
 #include "app/Applicazione.h"
+#include "base/Tabella.h"
 
 namespace kelvo {
+
+inline constexpr const char* titoloInVigore = "In vigore nel calcolo";
 
 /// What weighs on the figures of a calculation and stands in no table of results.
 struct VoceInVigore {
@@ -17,6 +20,8 @@ struct VoceInVigore {
 /// Percentile of the queue, night percentage, external and pedestrian percentages of each leg, the seven coefficients,
 /// as a calculation would read them at this moment.
 std::vector<VoceInVigore> inVigore(const Applicazione& app);
+/// The same as a table of names and values below their headings.
+Tabella tabellaInVigore(const std::vector<VoceInVigore>& voci);
 /// The same in one line; of the legs only those with a reduction.
 std::string rigaInVigore(const Applicazione& app);
 /// Warns of night conditions that are on with an incidence of 0; empty where there is nothing to warn of.

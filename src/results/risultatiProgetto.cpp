@@ -1,16 +1,36 @@
 #include "results/risultatiProgetto.h"
 
+#include <fmt/format.h>
+
+#include "base/guasto.h"
 #include "base/numeri.h"
 #include "calc/modCalcolo.h"
 #include "results/calcoloIpotesi.h"
 
 namespace kelvo {
 
+namespace {
+
+constexpr const char* metodo = "risultatiProgetto:assicuraRisultati";
+
+}  // namespace
+
+std::string impedimentoAnalisi(const Rotonda& rotonda) {
+    if (rotonda.TipoAnalisi() < analisi::saturazione || rotonda.TipoAnalisi() > analisi::tabella) {
+        return fmt::format("il tipo di analisi {} non è previsto: i valori sono 0, 1 e 2", rotonda.TipoAnalisi());
+    }
+    return {};
+}
+
 bool assicuraRisultati(Applicazione& app) {
+    const Rotonda& rotonda = app.theRotonda();
+    if (const std::string motivo = impedimentoAnalisi(rotonda); !motivo.empty()) {
+        app.comune.erroreLog(static_cast<int>(NumeroGuasto::chiamataNonValida), metodo, motivo, true);
+        return false;
+    }
     if (app.risultatiAttuali()) {
         return true;
     }
-    const Rotonda& rotonda = app.theRotonda();
     modCalcolo motore(app);
     const std::string modo = testoNumero(static_cast<int>(rotonda.TipoFlusso()));
     if (rotonda.TipoAnalisi() == analisi::saturazione) {

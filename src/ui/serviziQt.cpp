@@ -62,6 +62,20 @@ std::optional<std::string> scelto(QFileDialog& dialogo) {
     return s(QDir::toNativeSeparators(dialogo.selectedFiles().constFirst()));
 }
 
+/// The path with the default extension unless it ends as the chosen filter wants it: of itself the toolkit adds it to
+/// names without a dot alone.
+QString conEstensione(const QString& percorso, const QFileDialog& dialogo) {
+    const QString filtro = dialogo.selectedNameFilter();
+    const QString dentro = filtro.mid(filtro.lastIndexOf(QLatin1Char('(')) + 1).remove(QLatin1Char(')'));
+    const QStringList modelli = dentro.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const bool come = std::any_of(modelli.begin(), modelli.end(), [&](const QString& modello) {
+        return percorso.endsWith(modello.mid(1), Qt::CaseInsensitive);  // "*" takes any name
+    });
+    return come || modelli.isEmpty() || dialogo.defaultSuffix().isEmpty()
+               ? percorso
+               : percorso + QLatin1Char('.') + dialogo.defaultSuffix();
+}
+
 /// Part of the screen that a dialogue takes at most.
 constexpr double parteSchermo = 0.92;
 
@@ -169,7 +183,16 @@ std::optional<std::string> DialogoFileQt::salva(const RichiestaFile& richiesta) 
     dialogo.setFileMode(QFileDialog::AnyFile);
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     prepara(dialogo, richiesta);
-    return scelto(dialogo);
+    while (const std::optional<std::string> percorso = scelto(dialogo)) {
+        std::string intero = s(conEstensione(q(*percorso), dialogo));
+        // The dialogue has asked about the name that was typed, not about this one.
+        if (intero == *percorso || !QFileInfo::exists(q(intero)) ||
+            MessaggiQt{}.mostra("Il file esiste già:\r\n" + intero + "\r\nSostituirlo?", "KELVO 2014 - Attenzione",
+                                Icona::esclamazione, Pulsanti::siNo) == Risposta::si) {
+            return intero;
+        }
+    }
+    return std::nullopt;
 }
 
 bool ApriDocumentiQt::apri(const std::string& percorso) {

@@ -116,14 +116,13 @@ TEST_F(ProveConvertitore, ATargetThatCannotBeWrittenAndADocumentThatIsGoneAreTol
     EXPECT_NE(converti(), "");
     EXPECT_TRUE(fs::is_directory(pdf));
     fs::remove(documento);
-    EXPECT_EQ(converti().substr(0, 36), "il documento non si lascia leggere (");
+    EXPECT_EQ(converti().substr(0, 31), "il documento non è leggibile (");
     EXPECT_TRUE(lavoroVuoto());
 }
 
 TEST_F(ProveConvertitore, AFolderThatCannotBeMadeIsTold) {
     ConvertitoreUfficio altro{processi, sistemaFileStandard(), documento};
-    EXPECT_EQ(altro.converti(documento, pdf, {}).substr(0, 56),
-              "la cartella dei file temporanei non si lascia scrivere (");
+    EXPECT_EQ(altro.converti(documento, pdf, {}).substr(0, 51), "la cartella dei file temporanei non è scrivibile (");
     EXPECT_TRUE(processi.eseguiti.empty());
 }
 

@@ -385,6 +385,21 @@ TEST_F(Pagine, ADocumentThatBeginsWithAWideTableLiesFromItsTitleOn) {
     EXPECT_TRUE(contiene(impaginato.pagine[1], "Poche parole."));
 }
 
+TEST_F(Pagine, AWarningBeforeAWidePartLiesWithIt) {
+    D documento = vuoto();
+    documento.blocchi = {D::Paragrafo{.testo = "I dati sono cambiati.", .segno = D::Segno::verifica},
+                         D::Titolo{"Larga", 1}, larga(14, 3, "1234,56"), D::Titolo{"Dopo", 1}, tabella(3)};
+    const Impaginato impaginato = impagina(documento);
+    ASSERT_EQ(impaginato.pagine.size(), 2U);
+    EXPECT_TRUE(giace(impaginato.pagine[0]));
+    for (const char* parola : {"Documento di prova", "I dati sono cambiati.", "Larga", "c14"}) {
+        EXPECT_TRUE(contiene(impaginato.pagine[0], parola)) << parola;
+    }
+    EXPECT_FALSE(giace(impaginato.pagine[1]));
+    documento.blocchi.erase(documento.blocchi.begin() + 1, documento.blocchi.begin() + 3);
+    EXPECT_FALSE(giace(impagina(documento).pagine[0])) << "the first part does not lie";
+}
+
 TEST_F(Pagine, WhatIsTooWideEvenSoStandsInBandsWithItsFirstColumn) {
     D documento = vuoto();
     documento.blocchi.emplace_back(larga(72, 7, "1234,56"));

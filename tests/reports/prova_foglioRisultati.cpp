@@ -236,6 +236,92 @@ TEST(Foglio, TheAxisOfValuesEndsAsInTheProgram) {
     }
 }
 
+TEST(Foglio, TheAxisOfValuesHoldsNegativeCapacitiesAndFollowsTheFiguresAsShown) {
+    Prodotto p({.segmenti = 2});
+    // A saturation of 0,9996 is shown as 1,000, one of 0,9994 as 0,999; a delay of 9,96 as 10,0.
+    p.r().Ramo(1).theDatiTraffico().SetIterazione(1, {1.0F, -12.4F, 0.9996F, 2.0F, 9.96F});
+    p.r().Ramo(1).theDatiTraffico().SetIterazione(2, {1.0F, 1400.0F, 0.25F, 2.4F, 4.0F});
+    p.r().Ramo(2).theDatiTraffico().SetIterazione(1, {1.0F, -5.004F, 0.9994F, 2.0F, 9.94F});
+    p.r().Ramo(2).theDatiTraffico().SetIterazione(2, {1.0F, -5.004F, 0.25F, 2.4F, 4.0F});
+    const FoglioLetto letto(foglioRisultati(p.scena.app));
+    const auto asse = [&](const char* foglio, std::size_t g, const char* quale) {
+        const auto grafici = letto.grafici(foglio);
+        return std::string(
+            grafici.at(g).select_node("//c:valAx/c:scaling").node().child(quale).attribute("val").value());
+    };
+    EXPECT_EQ(asse("A - Via A", 0, "c:min"), "-13");
+    EXPECT_EQ(asse("A - Via A", 0, "c:max"), "1405");
+    EXPECT_EQ(asse("A - Via A", 1, "c:max"), "2");
+    EXPECT_EQ(asse("A - Via A", 1, "c:min"), "0");
+    EXPECT_EQ(asse("A - Via A", 3, "c:max"), "15");
+    EXPECT_EQ(asse("B - Via B", 0, "c:min"), "-5") << "-5,004 is shown as -5,00";
+    EXPECT_EQ(asse("B - Via B", 0, "c:max"), "5");
+    EXPECT_EQ(asse("B - Via B", 1, "c:max"), "1");
+}
+
+TEST(Foglio, NamesOfEntriesHaveTheWidthThatTheyNeed) {
+    const std::string lungo = "Strada Provinciale dei Colli Euganei";  // 36 characters
+    const std::string troppo(80, 'x');
+    const auto larghezza = [](const FoglioLetto& letto, const std::string& foglio) {
+        const pugi::xml_document xml = letto.foglio(foglio);
+        const pugi::xml_node colonna = xml.select_node("//cols/col[@min='1']").node();
+        return leggiNumero(formatta(colonna.attribute("width").as_double(), "#0")).value_or(0.0);
+    };
+    for (const char* foglio : {"Verifiche", "Sintesi nodo"}) {
+        Prodotto p;
+        const double breve = larghezza(*p.letto, foglio);
+        EXPECT_LT(breve, 30.0) << foglio;
+        p.r().Ramo(2).Descrizione(lungo);
+        const FoglioLetto lunghi(foglioRisultati(p.scena.app));
+        EXPECT_GE(larghezza(lunghi, foglio), 38.0) << foglio;
+        EXPECT_LT(larghezza(lunghi, foglio), 40.0) << foglio;
+        p.r().Ramo(2).Descrizione(troppo);
+        const FoglioLetto troppi(foglioRisultati(p.scena.app));
+        EXPECT_LT(larghezza(troppi, foglio), 52.0) << foglio;
+        // What does not fit in goes on in the next line of its cell: the row is as high as that needs.
+        const pugi::xml_document xml = troppi.foglio(foglio);
+        const pugi::xml_document stili = troppi.documento("xl/styles.xml");
+        const auto celle = troppi.celle(foglio);
+        const auto trovata =
+            std::find_if(celle.begin(), celle.end(), [&](const auto& voce) { return voce.second.testo == troppo; });
+        ASSERT_NE(trovata, celle.end()) << foglio;
+        const unsigned stile =
+            xml.select_node(("//c[@r='" + trovata->first + "']").c_str()).node().attribute("s").as_uint();
+        const pugi::xml_node posa = stili.select_nodes("//cellXfs/xf")[stile].node().child("alignment");
+        EXPECT_STREQ(posa.attribute("wrapText").value(), "1") << foglio;
+    }
+}
+
+TEST(Foglio, NeitherTextsNorWordsOfHeadingsAreCutAndRemarksStandInTheWidthOfTheTable) {
+    Prodotto p;
+    const pugi::xml_document xml = p.letto->foglio("Sintesi nodo");
+    const auto larghezza = [&](int colonna) {
+        const std::string quale =
+            "//cols/col[@min<=" + std::to_string(colonna) + " and @max>=" + std::to_string(colonna) + "]";
+        return xml.select_node(quale.c_str()).node().attribute("width").as_double();
+    };
+    EXPECT_GE(larghezza(2), 15.0) << "07:00 - 08:00 is 13 characters";
+    EXPECT_GE(larghezza(7), 13.0) << "Saturazione is 11 characters";
+    EXPECT_GE(xml.select_nodes("//mergeCells/mergeCell").size(), 2U);
+    double alte = 0.0;
+    for (const pugi::xpath_node& unita : xml.select_nodes("//mergeCells/mergeCell")) {
+        const std::string riga = unita.node().attribute("ref").value();
+        EXPECT_EQ(riga[0], 'A');
+        const std::string numero = riga.substr(1, riga.find(':') - 1);
+        alte =
+            std::max(alte, xml.select_node(("//row[@r='" + numero + "']").c_str()).node().attribute("ht").as_double());
+    }
+    EXPECT_GE(alte, 30.0) << "the longest remark takes two lines at least";
+}
+
+TEST(Foglio, AnEntryWithMoreSegmentsThanTheWindowHasIntervalsIsRefused) {
+    Prodotto p;
+    p.r().Ramo(2).theDatiTraffico().NumSegmentiTempo(5);
+    const std::string parole = paroleDi([&] { foglioRisultati(p.scena.app); }, NumeroGuasto::indiceFuoriIntervallo);
+    EXPECT_NE(parole.find("ingresso B: 5 segmenti, la finestra di modellazione ha 4 intervalli"), std::string::npos)
+        << parole;
+}
+
 TEST(Foglio, ExtremesAndMeansAreFormulasWithTheirValue) {
     Prodotto p({.segmenti = 2});
     p.r().Ramo(1).theDatiTraffico().SetIterazione(1, {3.0F, 1500.0F, 0.5F, 2.0F, 12.0F});
@@ -323,6 +409,32 @@ TEST(Foglio, TextsAreCleanedOfWhatACellCannotHold) {
     EXPECT_EQ(foglio::testoCella("a\xEF\xBF\xBF"), "a\xEF\xBF\xBD");
     EXPECT_EQ(foglio::testoCella(std::string(40000, 'x')).size(), 32767U);
     EXPECT_EQ(foglio::testoCella(" "), "");
+}
+
+TEST(Foglio, ATextThatLooksLikeACharacterByItsCodeStaysWhatItIs) {
+    // Read back, "_x005F_" is an underline; each of two codes that share one needs its own.
+    EXPECT_EQ(foglio::testoCella("a_x0041_b"), "a_x005F_x0041_b");
+    EXPECT_EQ(foglio::testoCella("_x00e9_"), "_x005F_x00e9_");
+    EXPECT_EQ(foglio::testoCella("_x0041_x0042_"), "_x005F_x0041_x005F_x0042_");
+    EXPECT_EQ(foglio::testoCella("è_x005F_"), "è_x005F_x005F_");
+    for (const char* testo : {"_x0041", "x0041_", "_X0041_", "_x004g_", "_x041_", "_x00410_", "a_b__c"}) {
+        EXPECT_EQ(foglio::testoCella(testo), testo);
+    }
+    // No longer than a cell takes, and no code is cut through: 32760 and 7 make 32767.
+    EXPECT_EQ(foglio::testoCella(std::string(32760, 'y') + "_x0041_"), std::string(32760, 'y') + "_x005F_");
+    EXPECT_EQ(foglio::testoCella(std::string(32761, 'y') + "_x0041_"), std::string(32761, 'y') + "_x0041");
+    Prodotto p({}, [](Rotonda& r) {
+        r.Ramo(1).Descrizione("Via_x0041_");
+        r.NomeFile("P_x0042_");
+    });
+    EXPECT_EQ(p.letto->celle("Verifiche")["A5"].testo, "Via_x005F_x0041_");
+    EXPECT_EQ(p.letto->celle("Verifiche")["A2"].testo, "Nome Progetto: P_x005F_x0042_");
+    // Titles of charts and footers know no such codes.
+    const auto grafici = p.letto->grafici("A - Via_x0041_");
+    EXPECT_STREQ(grafici.at(0).select_node("//c:chart/c:title//a:t").node().text().get(),
+                 "Capacità - Ingresso Via_x0041_");
+    const std::string piede = p.letto->foglio("Verifiche").select_node("//oddFooter").node().text().get();
+    EXPECT_EQ(piede.rfind("&LP_x0042_&C", 0), 0U) << piede;
 }
 
 TEST(Foglio, NamesThatAreAlikeForbiddenOrTooLongMakeAWorkbookThatOpens) {

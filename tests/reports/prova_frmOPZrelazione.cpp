@@ -242,6 +242,18 @@ TEST(FrmOPZrelazione, TheTickIsKeptFromRunToRun) {
     EXPECT_FALSE(f.conUfficio.chkPDF.spuntata());
 }
 
+TEST(FrmOPZrelazione, AWindowThatWasNeverShownKeepsToTheTickAndToTheOfficeProgramToo) {
+    FinestreConPDF f;
+    f.conUfficio.chkPDF.clicca();
+    frmOPZrelazione altra{f.contorno(), {f.documenti, f.collegate, nullptr, {}, {}, &f.convertitore}};
+    altra.compilaTotale();
+    EXPECT_EQ(f.convertitore.fatti.size(), 1U);
+    EXPECT_TRUE(std::filesystem::exists(f.pdf()));
+    f.convertitore.manca = "non c'è un programma d'ufficio";
+    altra.compilaTotale();
+    EXPECT_EQ(f.convertitore.fatti.size(), 1U) << "it has gone since";
+}
+
 TEST(FrmOPZrelazione, WithoutAnOfficeProgramTheTickIsClosedAndSaysWhy) {
     FinestreConPDF f;
     f.conUfficio.chkPDF.clicca();

@@ -124,6 +124,45 @@ TEST(EsportaFoglio, AWorkbookThatIsOpenIsReplacedOnlyWhenTheUserSaysSo) {
     }
 }
 
+TEST(EsportaFoglio, ALinkToAWorkbookThatIsOpenIsNotWrittenThrough) {
+    for (const char* segno : {".~lock.Vero.xlsx#", "~$Vero.xlsx"}) {
+        Esportazione e;
+        std::filesystem::create_directory(e.cartella.file("altrove"));
+        const std::string vero = e.cartella.file("altrove/Vero.xlsx");
+        const std::string legame = e.cartella.file("Legame.xlsx");
+        scriviContenuto(vero, "vecchio");
+        std::filesystem::create_symlink("altrove/Vero.xlsx", legame);
+        EXPECT_EQ(segnoFoglioAperto(legame), "");
+        const std::string accanto = e.cartella.file(std::string("altrove/") + segno);
+        scriviContenuto(accanto, "");
+        EXPECT_EQ(segnoFoglioAperto(legame), accanto);
+        EXPECT_EQ(e.senzaNessuno(legame), EsitoFoglio::fallito);
+        EXPECT_EQ(contenuto(vero), "vecchio");
+        EXPECT_EQ(e.errori.back().descrizione, "Il file \"" + legame +
+                                                   "\" è aperto in un foglio di calcolo: va prima chiuso (se non è più "
+                                                   "aperto, va eliminato \"" +
+                                                   accanto + "\")");
+        std::filesystem::remove(accanto);
+        EXPECT_EQ(e.senzaNessuno(legame), EsitoFoglio::fatto);
+        EXPECT_EQ(contenuto(vero).substr(0, 2), "PK");
+        EXPECT_TRUE(std::filesystem::is_symlink(legame));
+    }
+}
+
+TEST(EsportaFoglio, AKindOfAnalysisThatDoesNotExistIsRefused) {
+    for (const std::int16_t analisi : std::initializer_list<std::int16_t>{-1, 3}) {
+        Esportazione e;
+        e.app.theRotonda().TipoAnalisi(analisi);
+        EXPECT_EQ(e.esporta(), EsitoFoglio::fallito);
+        ASSERT_EQ(e.errori.size(), 1U);
+        EXPECT_EQ(e.errori[0].numero, 5);
+        EXPECT_EQ(e.errori[0].descrizione,
+                  "il tipo di analisi " + std::to_string(analisi) + " non è previsto: i valori sono 0, 1 e 2");
+        EXPECT_EQ(e.messaggi.mostrati.size(), 1U);
+        EXPECT_FALSE(std::filesystem::exists(e.foglio()));
+    }
+}
+
 TEST(EsportaFoglio, AFullDiskLeavesTheOldFile) {
     Scena scena;
     std::string perche;
@@ -208,9 +247,12 @@ TEST(EsportaFoglio, AStudyOfSaturationAloneIsExportedWithItsUltimateCapacity) {
 
 TEST(EsportaFoglio, TheProjectIsNotChanged) {
     Esportazione e;
-    const auto prima = e.app.theRotonda().revisione().calcolo;
-    e.esporta();
-    EXPECT_EQ(e.app.theRotonda().revisione().calcolo, prima);
+    const Revisione prima = e.app.theRotonda().revisione();
+    const std::string testo = e.app.theRotonda().TestoFile();
+    ASSERT_EQ(e.esporta(), EsitoFoglio::fatto);
+    EXPECT_EQ(e.app.theRotonda().revisione().calcolo, prima.calcolo);
+    EXPECT_EQ(e.app.theRotonda().revisione().tutto, prima.tutto);
+    EXPECT_EQ(e.app.theRotonda().TestoFile(), testo);
 }
 
 }  // namespace

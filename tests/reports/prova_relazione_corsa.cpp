@@ -405,6 +405,51 @@ TEST(Relazione, AReportWhosePdfFailsStaysAndTheReasonIsTold) {
     EXPECT_EQ(scena.messaggi.mostrati[1].testo.substr(0, 34), "Relazione correttamente compilata.");
 }
 
+TEST(Relazione, APdfThatStandsThereIsReplacedOnlyIfTheUserSaysSo) {
+    for (const bool sostituisce : {true, false}) {
+        Scena scena;
+        scena.conPDF = true;
+        scena.messaggi.risposta = sostituisce ? Risposta::si : Risposta::no;
+        const std::string pdf = scena.cartella.file("Uscita.pdf");
+        scriviContenuto(pdf, "vecchio");
+        EXPECT_EQ(scena.modulo().compilaRelazioneWord("RelazioneMasterIN"),
+                  sostituisce ? EsitoRelazione::fatta : EsitoRelazione::senzaPDF);
+        EXPECT_EQ(contenuto(pdf), sostituisce ? "pagine" : "vecchio");
+        EXPECT_TRUE(scena.salvato());
+        ASSERT_EQ(scena.messaggi.mostrati.size(), 2U) << "who has said no is told nothing more of it";
+        EXPECT_EQ(scena.messaggi.mostrati[0].testo,
+                  "Il PDF della relazione esiste già:\r\n" + pdf + "\r\nSostituirlo?");
+        EXPECT_EQ(scena.messaggi.mostrati[0].pulsanti, Pulsanti::siNo);
+        EXPECT_EQ(scena.messaggi.mostrati[1].testo.substr(0, 34), "Relazione correttamente compilata.");
+    }
+}
+
+TEST(Relazione, WhereThePathIsGivenAPdfThatStandsThereIsReplacedWithoutAsking) {
+    Scena scena;
+    scena.conPDF = true;
+    ServiziRelazione servizi = scena.servizi();
+    servizi.percorso = scena.cartella.file("Altro.docx");
+    scriviContenuto(scena.cartella.file("Altro.pdf"), "vecchio");
+    modStampaRelazione modulo(scena.app, servizi);
+    EXPECT_EQ(modulo.compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::fatta);
+    EXPECT_EQ(contenuto(scena.cartella.file("Altro.pdf")), "pagine");
+    EXPECT_TRUE(scena.messaggi.mostrati.empty());
+}
+
+TEST(Relazione, APdfNeverTakesThePlaceOfItsReport) {
+    Scena scena;
+    scena.conPDF = true;
+    scena.messaggi.risposta = Risposta::si;
+    scena.dialogo.risposta = scena.cartella.file("Uscita.pdf");
+    EXPECT_EQ(scena.modulo().compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::senzaPDF);
+    EXPECT_EQ(contenuto(scena.cartella.file("Uscita.pdf")).substr(0, 2), "PK");
+    EXPECT_TRUE(scena.convertitore.fatti.empty());
+    ASSERT_FALSE(scena.messaggi.mostrati.empty());
+    EXPECT_EQ(scena.messaggi.mostrati[0].testo,
+              "La relazione è stata salvata: " + scena.cartella.file("Uscita.pdf") +
+                  "\r\nIl PDF non è stato fatto: avrebbe il nome della relazione stessa e ne prenderebbe il posto.");
+}
+
 TEST(Relazione, WithoutADocumentThereIsNoPdf) {
     Scena scena;
     scena.conPDF = true;

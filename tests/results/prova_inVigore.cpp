@@ -36,6 +36,21 @@ TEST_F(InVigore, ListsWhatWeighsOnAFigureOfANewProject) {
               "1,80 1,40 1,20 0,80 1,00");
 }
 
+TEST_F(InVigore, StandsInATableOfNamesAndValues) {
+    const Tabella tabella = tabellaInVigore({{"Percentile della coda", "95,00 %"}, {"Ramo A", "nessuna"}});
+    ASSERT_EQ(tabella.righe(), 3);
+    ASSERT_EQ(tabella.colonne(), 2);
+    EXPECT_EQ(tabella.testo(0, 0), "In vigore nel calcolo");
+    EXPECT_EQ(tabella.testo(0, 1), "Valore");
+    EXPECT_EQ(tabella.testo(2, 0), "Ramo A");
+    EXPECT_EQ(tabella.testo(1, 1), "95,00 %");
+    EXPECT_EQ(tabella.cella(0, 1).sfondo, colori::intestazione);
+    EXPECT_EQ(tabella.cella(0, 1).inchiostro, colori::bianco);
+    EXPECT_EQ(tabella.cella(2, 0).sfondo, colori::nomeIngresso);
+    EXPECT_EQ(tabella.cella(2, 1).sfondo, colori::dati);
+    EXPECT_EQ(tabella.cella(2, 1).inchiostro, colori::nero);
+}
+
 TEST_F(InVigore, TellsWhatCountsWhateverIsTicked) {
     r().ValorePercentile(90.5F);
     r().CondizioniNotturne(true);

@@ -15,7 +15,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
+#include <utility>
 
 #include "comune/cartella.h"
 #include "ui/DialogoMessaggio.h"
@@ -186,6 +188,40 @@ TEST_F(Dialogo, SavesUnderTheNameTypedWithTheDefaultExtension) {
     EXPECT_EQ(proposto, QStringLiteral("Rotatoria_001"));
     EXPECT_EQ(filtri,
               (QStringList{QStringLiteral("File definizione rotonda (*.klv)"), QStringLiteral("Tutti i files (*)")}));
+}
+
+TEST_F(Dialogo, ANameWithADotGetsTheExtensionUnlessItEndsAsTheChosenFilterWants) {
+    for (const auto& [scritto, salvato] : {std::pair{"Nodo 1.2", "Nodo 1.2.klv"}, {"Nodo 1.KLV", "Nodo 1.KLV"}}) {
+        AlModale risponde("dialogoFile", [&](QWidget& finestra) { scrivi(finestra, scritto); });
+        EXPECT_EQ(dialogo.salva(richiesta()), cartella.file(salvato));
+    }
+    AlModale tutti("dialogoFile", [&](QWidget& finestra) {
+        dynamic_cast<QFileDialog&>(finestra).selectNameFilter(QStringLiteral("Tutti i files (*)"));
+        scrivi(finestra, "Nodo 1.2");
+    });
+    EXPECT_EQ(dialogo.salva(richiesta()), cartella.file("Nodo 1.2"));
+}
+
+TEST_F(Dialogo, AFileThatStandsThereUnderTheWholeNameIsAskedAboutToo) {
+    scriviContenuto(cartella.file("Nodo 1.2.klv"), "x");
+    for (const bool sostituisce : {true, false}) {
+        std::string domanda;
+        std::unique_ptr<AlModale> dinuovo;
+        AlModale chiede("messaggio", [&](QWidget& finestra) {
+            domanda = finestra.findChild<QLabel*>(QStringLiteral("testoMessaggio"))->text().toStdString();
+            // After a no the dialogue stands there again.
+            dinuovo = std::make_unique<AlModale>("dialogoFile",
+                                                 [](QWidget& altra) { QTest::keyClick(&altra, Qt::Key_Escape); });
+            gesti::clic(
+                *finestra.findChild<QPushButton*>(sostituisce ? QStringLiteral("cmdSi") : QStringLiteral("cmdNo")));
+        });
+        AlModale risponde("dialogoFile", [](QWidget& finestra) { scrivi(finestra, "Nodo 1.2"); });
+        const auto scelto = dialogo.salva(richiesta());
+        EXPECT_EQ(scelto, sostituisce ? std::optional{cartella.file("Nodo 1.2.klv")} : std::nullopt);
+        EXPECT_EQ(domanda, "Il file esiste già:\n" + cartella.file("Nodo 1.2.klv") + "\nSostituirlo?");
+        ASSERT_NE(dinuovo, nullptr);
+        EXPECT_EQ(dinuovo->avvenuto(), !sostituisce);
+    }
 }
 
 TEST_F(Dialogo, AsksBeforeItOverwrites) {

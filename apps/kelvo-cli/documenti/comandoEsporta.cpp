@@ -30,6 +30,10 @@ public:
         if (maiuscoleAscii(ultimiCaratteri(uscita_, 5)) != ".XLSX") {
             return usoErrato(*app_, fmt::format("{}: serve un nome che finisce con .xlsx", citato(uscita_)));
         }
+        if (stessoFile(uscita_, file_)) {
+            return usoErrato(*app_,
+                             fmt::format("{}: è il progetto, che il foglio di calcolo sostituirebbe", citato(uscita_)));
+        }
         Contesto contesto;
         if (!contesto.configura(comuni_)) {
             return uscitaUsoErrato;

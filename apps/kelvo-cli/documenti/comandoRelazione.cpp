@@ -3,7 +3,6 @@
 #include <array>
 #include <filesystem>
 #include <functional>
-#include <system_error>
 
 #include "Pittore.h"
 #include "app/convertitorePDF.h"
@@ -50,8 +49,7 @@ bool eIlModello(const std::string& uscita, const std::string& modello) {
     }
     const std::filesystem::path scelto = percorsoDaTesto(modello);
     const std::string trovato = trovaModello(testoDaPercorso(scelto.parent_path()), testoDaPercorso(scelto.filename()));
-    std::error_code errore;
-    return !trovato.empty() && std::filesystem::equivalent(percorsoDaTesto(uscita), percorsoDaTesto(trovato), errore);
+    return !trovato.empty() && stessoFile(uscita, trovato);
 }
 
 class ComandoRelazione final : public Comando {
@@ -82,7 +80,8 @@ public:
                       "modello .dotx proprio, al posto di quello di Kelvo; non vale per i grafici")
             ->type_name("FILE");
         app_->add_flag("--pdf", pdf_,
-                       "scrive accanto al documento anche il suo PDF; serve un programma d'ufficio (LibreOffice)");
+                       "scrive accanto al documento anche il suo PDF, che sostituisce quello che c'è; serve un "
+                       "programma d'ufficio (LibreOffice)");
         aggiungiIni(comuni_);
         aggiungiNotte(comuni_);
         aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
@@ -94,6 +93,9 @@ public:
         }
         if (eIlModello(uscita_, modello_)) {
             return usoErrato(*app_, fmt::format("{}: è il modello, che la relazione sostituirebbe", citato(uscita_)));
+        }
+        if (stessoFile(uscita_, file_)) {
+            return usoErrato(*app_, fmt::format("{}: è il progetto, che la relazione sostituirebbe", citato(uscita_)));
         }
         Contesto contesto;
         if (!contesto.configura(comuni_)) {
@@ -125,8 +127,8 @@ private:
         servizi.pdf = pdf_ ? &convertitore : nullptr;
         modStampaRelazione modulo(contesto.app(), servizi);
         const EsitoRelazione esito = tipo_->compila(modulo);
-        // What a template of one's own leaves out has been told and is no failure.
-        const bool intera = !modello_.empty() || contesto.errori().empty();
+        // What a template of one's own leaves out has been told and is no failure; anything else is.
+        const bool intera = contesto.errori().size() == static_cast<std::size_t>(modulo.sezioniMancanti());
         return esito == EsitoRelazione::fatta && intera ? uscitaFatto : uscitaFallito;
     }
 

@@ -60,7 +60,7 @@ private:
     posix_spawnattr_t attributi_{};
 };
 
-/// A child that runs; one that is not waited for to its end is ended.
+/// A child that runs; one that is not waited for to its end is ended, and what it has started ends with it.
 class Figlio {
 public:
     explicit Figlio(pid_t numero) : numero_(numero) {}
@@ -70,15 +70,15 @@ public:
 
     /// True once it has come to its end.
     bool finito() {
-        if (numero_ != 0 && aspetta(WNOHANG) != 0) {
-            numero_ = 0;
+        if (numero_ != 0 && allaFine()) {
+            ferma();  // its own end stands; those of its group that live on have nobody to work for
         }
         return numero_ == 0;
     }
     void ferma() {
         if (numero_ != 0) {
             kill(-numero_, SIGKILL);
-            aspetta(0);
+            raccogli();
             numero_ = 0;
         }
     }
@@ -90,13 +90,20 @@ public:
     }
 
 private:
-    /// 0 while it runs.
-    pid_t aspetta(int come) {
+    /// It does not run any more. It is left to be gathered: until then its number is that of nobody else's group.
+    bool allaFine() const {
+        siginfo_t notizia{};
+        int esito = 0;
+        do {
+            esito = waitid(P_PID, static_cast<id_t>(numero_), &notizia, WEXITED | WNOHANG | WNOWAIT);
+        } while (esito == -1 && errno == EINTR);
+        return esito == -1 || notizia.si_signo != 0;
+    }
+    void raccogli() {
         pid_t trovato = 0;
         do {
-            trovato = waitpid(numero_, &stato_, come);
+            trovato = waitpid(numero_, &stato_, 0);
         } while (trovato == -1 && errno == EINTR);
-        return trovato;
     }
 
     pid_t numero_;

@@ -107,6 +107,24 @@ TEST_F(ComandoEsporta, AWrongUseIsRefusedWithWords) {
     EXPECT_FALSE(std::filesystem::exists(file("r.xls")));
 }
 
+TEST_F(ComandoEsporta, TheProjectIsNotReplacedByItsWorkbook) {
+    const std::string prima = contenuto(esempio(stazione));
+    scriviContenuto(file("p.xlsx"), prima);
+    std::filesystem::create_directories(file("sotto"));
+    std::filesystem::create_symlink(file("p.xlsx"), file("altro.xlsx"));
+    const std::vector<std::pair<std::string, std::string>> coppie{
+        {"p.xlsx", "p.xlsx"}, {"p.xlsx", "sotto/../p.xlsx"}, {"altro.xlsx", "./p.xlsx"}, {"p.xlsx", "altro.xlsx"}};
+    for (const auto& [progetto, uscita] : coppie) {
+        const Esito esito = esporta(file(progetto), file(uscita));
+        EXPECT_EQ(esito.codice, 2) << uscita;
+        EXPECT_NE(esito.errori.find("è il progetto, che il foglio di calcolo sostituirebbe"), std::string::npos)
+            << esito.errori;
+        EXPECT_EQ(contenuto(file("p.xlsx")), prima) << uscita;
+    }
+    EXPECT_EQ(esporta(file("p.xlsx"), file("r.xlsx")).codice, 0);
+    EXPECT_EQ(contenuto(file("p.xlsx")), prima);
+}
+
 TEST_F(ComandoEsporta, WhatFailsLeavesNoFile) {
     EXPECT_EQ(esporta(file("manca.klv"), file("r.xlsx")).codice, 1);
     const Esito altrove = esporta(esempio(stazione), file("manca/r.xlsx"));

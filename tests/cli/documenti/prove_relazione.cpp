@@ -5,10 +5,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <regex>
 
 #include "cli/processo.h"
 #include "comune/cartella.h"
 #include "reports/DocumentoRelazione.h"
+#include "reports/zip.h"
 
 namespace kelvo::prove {
 
@@ -125,6 +127,44 @@ TEST_F(ComandoRelazione, TheTemplateIsNotReplacedByItsReport) {
     EXPECT_EQ(contenuto(file("mio.docx")), prima);
 }
 
+TEST_F(ComandoRelazione, ASectionThatATemplateOfOnesOwnCannotTakeIsAFailure) {
+    ASSERT_EQ(relazione("risultati", esempio(stazione), file("prima.docx")).codice, 0);
+    // The bookmark of the table of ultimate capacities stands in front of everything, outside any table.
+    std::vector<ooxml::Voce> voci;
+    ASSERT_EQ(ooxml::leggiArchivio(contenuto(file("prima.docx")), voci), "");
+    for (ooxml::Voce& voce : voci) {
+        if (voce.nome == "word/document.xml") {
+            voce.dati = conCambio(voce.dati, "", "w:name=\"CapacitaUltima\"", "w:name=\"Altrove\"");
+            voce.dati = conCambio(voce.dati, "", "<w:body>",
+                                  "<w:body><w:p><w:bookmarkStart w:id=\"9999\" w:name=\"CapacitaUltima\"/>"
+                                  "<w:bookmarkEnd w:id=\"9999\"/></w:p>");
+        }
+    }
+    std::string dati;
+    ASSERT_EQ(ooxml::scriviArchivio(voci, dati), "");
+    scriviContenuto(file("mio.docx"), dati);
+    const Esito esito = relazione("risultati", esempio(stazione), file("r.docx"), {"--modello", file("mio.docx")});
+    EXPECT_EQ(esito.codice, 1);
+    EXPECT_NE(esito.errori.find("La selezione non sta in una tabella"), std::string::npos) << esito.errori;
+    EXPECT_EQ(contenuto(file("r.docx")).substr(0, 2), "PK") << "the other sections are there";
+}
+
+TEST_F(ComandoRelazione, TheProjectIsNotReplacedByItsReport) {
+    const std::string prima = contenuto(esempio(stazione));
+    scriviContenuto(file("p.docx"), prima);
+    std::filesystem::create_directories(file("sotto"));
+    std::filesystem::create_symlink(file("p.docx"), file("altro.docx"));
+    const std::vector<std::pair<std::string, std::string>> coppie{
+        {"p.docx", "p.docx"}, {"p.docx", "sotto/../p.docx"}, {"altro.docx", "./p.docx"}, {"p.docx", "altro.docx"}};
+    for (const auto& [progetto, uscita] : coppie) {
+        const Esito esito = relazione("ingresso", file(progetto), file(uscita));
+        EXPECT_EQ(esito.codice, 2) << uscita;
+        EXPECT_NE(esito.errori.find("è il progetto, che la relazione sostituirebbe"), std::string::npos)
+            << esito.errori;
+        EXPECT_EQ(contenuto(file("p.docx")), prima) << uscita;
+    }
+}
+
 TEST_F(ComandoRelazione, AStudyOfSaturationAloneHasNoCharts) {
     const Esito esito = relazione("grafici", esempio(saturazione), file("r.docx"));
     EXPECT_EQ(esito.codice, 1);
@@ -185,6 +225,12 @@ TEST_F(ComandoRelazionePDF, AProgramThatFailsIsTold) {
     EXPECT_FALSE(std::filesystem::exists(file("r 1.pdf")));
 }
 
+/// Blanks, tabs and line ends in a row are one blank.
+std::string conUnoSpazio(const std::string& testo) {
+    static const std::regex vuoto("[ \\t\\r\\n\\f]+");
+    return std::regex_replace(testo, vuoto, " ");
+}
+
 TEST_F(ComandoRelazionePDF, TheOfficeProgramOfTheMachineMakesSoundPages) {
     setenv("PATH", percorsi().c_str(), 1);
     if (!std::filesystem::exists("/usr/bin/soffice")) {
@@ -195,6 +241,30 @@ TEST_F(ComandoRelazionePDF, TheOfficeProgramOfTheMachineMakesSoundPages) {
     const std::string pdf = contenuto(file("r.pdf"));
     EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
     EXPECT_GT(pdf.size(), 50000U);
+    if (!std::filesystem::exists("/usr/bin/pdftotext")) {
+        GTEST_SKIP() << "nothing on this machine reads the words of a PDF";
+    }
+    const std::string comando = "pdftotext -layout '" + file("r.pdf") + "' '" + file("r.txt") + "'";
+    ASSERT_EQ(std::system(comando.c_str()), 0);
+    const std::string letto = conUnoSpazio(contenuto(file("r.txt")));
+    for (const char* parole : {"Riqualificazione del nodo di Viale della Stazione", "Ing. Anna Bellini",
+                               "Castelnovo di Ripa", "Premessa", "Misure geometriche degli ingressi",
+                               "Condizioni notturne: sì; incidenza sulla capacità del nodo: 15 per cento",
+                               "Limiti del metodo", "pagina 2 di"}) {
+        EXPECT_NE(letto.find(parole), std::string::npos) << parole;
+    }
+    EXPECT_EQ(letto.find("%T"), std::string::npos) << "a placeholder was left";
+    // Every row of the results as the calculation prints it: flow, capacity, saturation, queue, delay, level.
+    static const std::regex riga(R"(\t([0-9,\t]+\t[A-F])\t)");
+    const std::string calcolo = std::regex_replace(kelvoCli({"calcola", "--notte", "15", esempio(stazione)}).uscita,
+                                                   std::regex{" +"}, std::string{});
+    int righe = 0;
+    for (std::sregex_iterator i(calcolo.begin(), calcolo.end(), riga); i != std::sregex_iterator{}; ++i) {
+        const std::string valori = conUnoSpazio((*i)[1]);
+        EXPECT_NE(letto.find(valori), std::string::npos) << valori;
+        ++righe;
+    }
+    EXPECT_EQ(righe, 4 * 8) << "legs by segments";
 }
 
 #ifdef KELVO_CON_DISEGNO

@@ -135,6 +135,20 @@ TEST_F(ProveProcessi, WhoHangsIsEndedWithWhatItStartedAndNobodyElse) {
     waitpid(altro, nullptr, 0);
 }
 
+TEST_F(ProveProcessi, WhatAProgramLeavesBehindEndsWithItAndItsCodeComesBack) {
+    const std::string figli = cartella.file("figli");
+    const std::string programma = copione("p", "sleep 60 &\necho $! > '" + figli + "'\nexit 3\n");
+    const EsitoProcesso esito = processi.esegui(programma, {}, seconds(20), {});
+    EXPECT_EQ(esito.fine, Fine::uscito);
+    EXPECT_EQ(esito.codice, 3);
+    const pid_t nipote = std::stoi(contenuto(figli));
+    ASSERT_GT(nipote, 0);
+    for (int i = 0; i < 200 && vive(nipote); ++i) {
+        std::this_thread::sleep_for(milliseconds(10));
+    }
+    EXPECT_FALSE(vive(nipote));
+}
+
 TEST_F(ProveProcessi, AFaultWhileItWaitsLeavesNoChildBehind) {
     const std::string figli = cartella.file("figli");
     const std::string programma = copione("p", "echo $$ > '" + figli + "'\nexec sleep 60\n");

@@ -268,16 +268,39 @@ TEST_F(ProveVerifiche, TheSpreadsheetGetsTheFiguresOfTheProjectAsItStands) {
 }
 
 TEST_F(ProveVerifiche, AnExportWithoutResultsWritesTheFrameAlone) {
-    r().TipoAnalisi(0);
+    r().NomeFile("Prova");
     ServiziRisultati conFoglio = servizi();
     std::string scambio;
     conFoglio.foglio = [&](const std::string& percorso) { scambio = contenuto(percorso); };
+    // Widths: 13 + 2, 17 + 2, 17 + 2, 18 + 2, 11 + 2, 16 + 2, 6 + 2.
+    const std::string vuote = "\t" + std::string(19, ' ') + "\t" + std::string(19, ' ') + "\t" + std::string(20, ' ') +
+                              "\t" + std::string(13, ' ') + "\t" + std::string(18, ' ') + "\t" + std::string(8, ' ') +
+                              "\t\r\n";
+    std::string atteso =
+        "Risultati: Verifiche prestazionali\r\n\r\n"
+        "               \t  Flusso [veic/min]\t  Capacità [veic/h]\t  Coeff. saturazione\t  Coda [veic]\t  Ritardo "
+        "[s/veic]\t  L.O.S.\t\r\n";
+    for (const char* intervallo : {"08:00 - 08:15", "08:15 - 08:30", "08:30 - 08:45", "08:45 - 09:00"}) {
+        atteso += std::string("\r\n  ") + intervallo + vuote;
+        for (const char* nome : {"Ramo A", "Ramo B", "Ramo C"}) {
+            atteso += std::string("         ") + nome + vuote;
+        }
+    }
+    atteso += "Output creato con Kelvo V1.0.0 il " + testoData(app.orologio.adesso()) + "\r\nNome Progetto: Prova\r\n";
     frmCapacitaCodeRitardi altra(contorno(), conFoglio);
     apri(altra, "keyCodeRitardi_Out");
     altra.cmdCalcola.premi();
+    EXPECT_NE(altra.ctlGrid.testo(2, 1), "");
+    // The table still shows the figures of the study that it was before.
+    r().TipoAnalisi(0);
     altra.Cmd_EXCEL.premi();
-    EXPECT_EQ(scambio, testoScambio(altra.ctlGrid.tabella(), r(), app.orologio.adesso()));
-    EXPECT_NE(scambio.find("08:00 - 08:15"), std::string::npos);
+    EXPECT_EQ(scambio.find("0,00"), std::string::npos);
+    EXPECT_EQ(scambio, atteso);
+    scambio.clear();
+    altra.ctlToolbar.premi("keyCalcola");
+    altra.Cmd_EXCEL.premi();
+    EXPECT_EQ(scambio.find("0,00"), std::string::npos);
+    EXPECT_EQ(scambio, atteso);
     EXPECT_TRUE(messaggi.mostrati.empty());
 }
 

@@ -384,6 +384,31 @@ TEST_F(ProveDX, TheReportIsTheWholeOneWhereTheComparisonGoesIntoItElseTheirWindo
     gestione.chiudiCorrente();
 }
 
+TEST_F(ProveDX, AReportOfSaturationAloneSaysThatItLeavesTheComparisonOut) {
+    int totali = 0;
+    ServiziRisultati conRelazione = servizi();
+    conRelazione.relazione = [] {};
+    conRelazione.relazioneTotale = [this, &totali] {
+        ++totali;
+        EXPECT_EQ(messaggi.mostrati.size(), 1U) << "told before the report is made";
+    };
+    frmDX altra{contorno(), conRelazione};
+    apri(altra, "keyCorsiaDX");
+    altra.listDX.clicca(0);
+    altra.chkStampaDX.clicca();
+    r().TipoAnalisi(0);
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(totali, 1);
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo,
+              "Il confronto richiede una domanda nel tempo: l'analisi è di sola saturazione (Opzioni).\r\nLa relazione "
+              "lo tralascia.");
+    altra.chkStampaDX.clicca();
+    altra.ctlToolbar.premi("keyRelazione");
+    EXPECT_EQ(messaggi.mostrati.size(), 1U) << "nobody has asked for it";
+    gestione.chiudiCorrente();
+}
+
 TEST_F(ProveDX, NothingIsWrittenToTheProject) {
     apriDX();
     const auto revisione = r().revisione().tutto;

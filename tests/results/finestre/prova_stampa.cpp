@@ -117,7 +117,8 @@ TEST_F(ProveStampaRisultati, FiguresThatAreOlderThanTheDataSayItFirstAndLast) {
     const std::string vecchi = "I dati sono cambiati dopo il calcolo: le cifre non sono più quelle del progetto.";
     EXPECT_EQ(avvisi(carta), Testi{vecchi}) << "there is nothing to press on paper";
     EXPECT_EQ(std::get<D::Paragrafo>(carta.blocchi.front()).testo, vecchi);
-    EXPECT_EQ(eta(carta), "Età delle cifre: " + vecchi);
+    EXPECT_EQ(eta(carta),
+              "Età delle cifre: i dati sono cambiati dopo il calcolo: le cifre non sono più quelle del progetto.");
 }
 
 TEST_F(ProveStampaRisultati, WithoutFiguresOrAPrinterNothingIsPrinted) {
@@ -253,6 +254,18 @@ TEST_F(ProveStampaRisultati, TheLanesNamedAreThoseOfTheFigures) {
     EXPECT_NE(std::find(parole.begin(), parole.end(), corsie), parole.end());
     EXPECT_EQ(avvisi(carta).size(), 1U) << "other lanes are chosen now";
     EXPECT_EQ(tabella(carta, 0).righe.size(), static_cast<std::size_t>(finestra.ctlGrid.tabella().righe()) - 1);
+    EXPECT_EQ(ossatura(carta), (Testi{"pianta", "tabella 17x" + std::to_string(finestra.ctlGrid.tabella().colonne()),
+                                      "# In vigore nel calcolo", vigore(finestra)}));
+    for (const D::Blocco& blocco : carta.blocchi) {
+        if (const auto* figura = std::get_if<D::Figura>(&blocco)) {
+            EXPECT_EQ(figura->didascalia, "Svolte a destra delle corsie del confronto");
+            const auto& flussi = std::get<D::Pianta>(figura->contenuto).opzioni->flussi;
+            ASSERT_EQ(flussi.size(), 4U);
+            EXPECT_EQ(flussi[0][1], 10.0F);
+            EXPECT_EQ(flussi[3][0], 10.0F);
+            EXPECT_EQ(flussi[1][2], 0.0F) << "chosen since, and not in the figures";
+        }
+    }
 }
 
 TEST_F(ProveStampaRisultati, TheSensitivityIsEachMeasureWithItsChartAndTheSummary) {
@@ -287,6 +300,20 @@ TEST_F(ProveStampaRisultati, TheSensitivityIsEachMeasureWithItsChartAndTheSummar
     EXPECT_EQ(static_cast<std::size_t>(
                   std::count(vecchi.begin(), vecchi.end(), "I dati sono cambiati dopo il calcolo di questa tabella.")),
               attive);
+    // With the tab in view calculated anew the other one is still old, and so is the summary.
+    finestra.Command1.premi();
+    ASSERT_EQ(finestra.lblVecchi.testo(), "");
+    const D mista = finestra.documento();
+    const Testi restano = avvisi(mista);
+    EXPECT_EQ(std::count(restano.begin(), restano.end(), "I dati sono cambiati dopo il calcolo di questa tabella."), 1);
+    EXPECT_EQ(std::count(restano.begin(), restano.end(),
+                         "I dati sono cambiati dopo il calcolo di almeno una delle grandezze del riepilogo."),
+              1);
+    EXPECT_EQ(eta(mista),
+              "Età delle cifre: i dati sono cambiati dopo il calcolo: le cifre non sono più quelle del progetto.");
+    finestra.ctlToolbar.premi("keyCalcola");
+    EXPECT_EQ(eta(finestra.documento()),
+              "Età delle cifre: calcolate sui dati del progetto come sono al momento della stampa.");
 }
 
 }  // namespace
