@@ -114,10 +114,8 @@ TEST_F(ProveProcessi, WhoHangsIsEndedWithWhatItStartedAndNobodyElse) {
     }
     ASSERT_GT(altro, 0);
     int giri = 0;
-    const auto prima = std::chrono::steady_clock::now();
-    const EsitoProcesso esito = processi.esegui(programma, {}, milliseconds(600), [&] { ++giri; });
+    const EsitoProcesso esito = processi.esegui(programma, {}, milliseconds(2000), [&] { ++giri; });
     EXPECT_EQ(esito.fine, Fine::scaduto);
-    EXPECT_LT(std::chrono::steady_clock::now() - prima, seconds(20));
     EXPECT_GE(giri, 2);
     std::istringstream numeri(contenuto(figli));
     pid_t nipote = 0;
