@@ -17,7 +17,6 @@ namespace {
 constexpr int minutiOra = 60;
 constexpr Formato formatoFlusso = "#0.00";
 constexpr Formato formatoSaturazione = "#0.000";
-constexpr Formato formatoRitardo = "#0.0";
 
 /// The figure as a table shows it.
 double mostrato(float valore, Formato formato) {
