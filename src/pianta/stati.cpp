@@ -71,7 +71,9 @@ Tracciato quadro(const Corsia& corsia, double da, double a, double mezzo) {
 /// Vehicles one behind the other; the queue ends where its length says, within a vehicle too.
 void disegnaVeicoli(Pianta& pianta, std::size_t i, const Corsia& corsia, double lunga) {
     const double mezzo = std::min(larghezzaVeicolo, quotaCorsia * pianta.rami[i].ingresso.semi) / 2;
-    for (double da = spazioVeicoli / 2; da < lunga; da += metriPerVeicolo) {
+    const auto inizio = [](int veicolo) { return spazioVeicoli / 2 + veicolo * metriPerVeicolo; };
+    for (int veicolo = 0; inizio(veicolo) < lunga; ++veicolo) {
+        const double da = inizio(veicolo);
         const double a = std::min(da + metriPerVeicolo - spazioVeicoli, lunga);
         pianta.aree.push_back({.ruolo = Ruolo::coda,
                                .ramo = static_cast<int>(i) + 1,

@@ -196,7 +196,7 @@ std::string Pacchetto::aggiungiImmagine(const std::string& parte, std::string pn
     do {
         nome = fmt::format("{}media/kelvo{}.png", cartellaDi(principale_), ++immagini_);
     } while (this->parte(nome) != nullptr);
-    const std::string id = idLibero(documento.document_element());
+    std::string id = idLibero(documento.document_element());
     pugi::xml_node relazione = documento.document_element().append_child("Relationship");
     imposta(relazione, "Id", id);
     imposta(relazione, "Type", tipoImmagine);
