@@ -37,6 +37,7 @@ constexpr const char* senzaPDF = "La relazione è stata salvata: {}\r\nIl PDF no
 constexpr const char* alPostoDellaRelazione = "avrebbe il nome della relazione stessa e ne prenderebbe il posto";
 constexpr const char* sostituirePDF = "Il PDF della relazione esiste già:\r\n{}\r\nSostituirlo?";
 constexpr const char* senzaDestinazione = "Nessuno può chiedere dove salvare la relazione";
+constexpr const char* alPostoDelModello = "Il file scelto è il modello della relazione: scegliere un altro nome";
 }  // namespace testi
 
 /// The folder of a path as the user reads it.
@@ -210,6 +211,9 @@ EsitoRelazione modStampaRelazione::salva(const Corsa& corsa) {
             return EsitoRelazione::annullata;
         }
         percorso = *scelto;
+        if (proprio_ && stessoFile(percorso, servizi_.modelloProprio)) {
+            throw Guasto::conParole(NumeroGuasto::chiamataNonValida, testi::alPostoDelModello);
+        }
     }
     fattoPasso();
     if (documento_->HaSegnalibro(segnalibro::senzaCorsiaDX)) {

@@ -355,6 +355,18 @@ TEST(Relazione, ATemplateOfTheUsersOwnIsFilledAndWhatItLacksIsToldOnce) {
     EXPECT_EQ(scena.errori.front().metodo, "modStampaRelazione:riempiCapacitaCodeRitardi");
 }
 
+TEST(Relazione, TheReportNeverTakesThePlaceOfItsOwnTemplate) {
+    Scena scena;
+    scena.modelloProprio = scena.cartella.file("Studio.docx");
+    scriviContenuto(scena.modelloProprio, archivio(parti(p("Studio di %TitoloProgetto%"))));
+    const std::string prima = contenuto(scena.modelloProprio);
+    scena.dialogo.risposta = scena.modelloProprio;
+    EXPECT_EQ(scena.modulo().compilaRelazioneWord("RelazioneMasterIN"), EsitoRelazione::fallita);
+    EXPECT_TRUE(contenuto(scena.modelloProprio) == prima);
+    ASSERT_FALSE(scena.errori.empty());
+    EXPECT_EQ(scena.errori.back().descrizione, "Il file scelto è il modello della relazione: scegliere un altro nome");
+}
+
 TEST(Relazione, AFaultInATemplateOfTheUsersOwnIsToldWithItsReasonAndIsNoMissingSection) {
     Scena scena;
     scena.modelloProprio = scena.cartella.file("Studio.dotx");
