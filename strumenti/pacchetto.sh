@@ -275,49 +275,7 @@ prova_radice() {
     mkdir -p -- "$sistema/prove"
     cp -- "$deb" "$sistema/prove/kelvo.deb"
     tar -C "$sistema/prove" -xf "$portatile"
-    cat >"$sistema/prove/prova.sh" <<'FINE'
-set -eu
-mount -t proc proc /proc
-export HOME=/root QT_QPA_PLATFORM=offscreen DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
-apre() {
-    rm -rf /root/.config /root/.local
-    "$1" "$2" 2>/prove/log &
-    pid=$!
-    giri=0
-    until grep -qxF "File1=$2" /root/.config/Kelvo/Kelvo.ini 2>/dev/null; do
-        kill -0 $pid || { cat /prove/log >&2; exit 1; }
-        giri=$((giri + 1))
-        [ $giri -lt 600 ] || { echo "$1: il progetto non si apre" >&2; exit 1; }
-        sleep 0.2
-    done
-    kill $pid
-    wait $pid || true
-}
-prova() {
-    apre "$1/kelvo" "$2"
-    "$1/kelvo-cli" calcola "$2" >/prove/risultati.txt
-    "$1/kelvo-cli" grafico --ramo 2 -o /prove/grafico.png "$2"
-}
-portatile=$(echo /prove/Kelvo-*)
-progetto=$portatile/Prog/Progetti/Rotatoria_Via_dei_Mulini.klv
-prova "$portatile" "$progetto"
-elenco() { find / -xdev \( -path /proc -o -path /prove -o -path /root -o -path /var -o -path /tmp \) -prune -o -print | sort; }
-# The libraries first, so that what the package itself leaves can be told from what they do.
-apt-get update -q >/prove/apt.log 2>&1
-apt-get install -y -q --no-install-recommends /prove/kelvo.deb >>/prove/apt.log 2>&1 || { tail -n 20 /prove/apt.log >&2; exit 1; }
-prova /usr/bin "$progetto"
-[ -s /root/.local/share/Kelvo/Prog/Kelvo/Kelvo.ini ]
-qtbase=$(find / -xdev -name qtbase_it.qm -not -path '/prove/*')
-[ -n "$qtbase" ] || { echo "mancano le parole italiane della libreria grafica" >&2; exit 1; }
-elenco >/prove/prima
-dpkg -L kelvo | sort >/prove/suoi
-apt-get purge -y -q kelvo >>/prove/apt.log 2>&1
-elenco >/prove/dopo
-# All that went is the package's, and no file of it is left.
-comm -13 /prove/prima /prove/dopo >/prove/nuovi
-[ ! -s /prove/nuovi ] || { cat /prove/nuovi >&2; exit 1; }
-! find / -xdev \( -path /proc -o -path /prove -o -path /root -o -path /var -o -path /tmp \) -prune -o -iname '*kelvo*' -print | grep .
-FINE
+    cp -- strumenti/sistema_pulito.sh "$sistema/prove/prova.sh"
     unshare --mount --pid --fork chroot "$sistema" /bin/sh /prove/prova.sh || muori "nel sistema pulito il pacchetto non va"
     senza_ora <"$sistema/prove/risultati.txt" | cmp - "$lavoro/atteso.txt" || muori "nel sistema pulito: altro testo"
     di "Sistema pulito: installato, usato, tolto"

@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "app/clsAmbiente.h"
 #include "app/percorsi.h"
@@ -36,7 +35,7 @@ struct ProveCopia : testing::Test {
         scriviContenuto(radice.file("usr/Prog/Progetti/Esempio.klv"), "{1}");
     }
     EsitoCopia aggiorna() { return aggiornaCopiaUtente(sistema, programma, copia); }
-    std::string nellaCopia(const std::string& nome) const { return copia + "/" + nome; }
+    std::string nellaCopia(const std::string& nome) const { return radice.file("casa/Prog/Kelvo/" + nome); }
     std::string esempio() const { return radice.file("casa/Prog/Progetti/Esempio.klv"); }
 };
 
@@ -193,9 +192,9 @@ TEST_F(ProveCopia, TheSurroundingsFindEachPartWhereItStands) {
     for (const char* nome : {"Kelvo.ini", "LOG.TXT", "Modelli/Totale.dotx", "Relazioni", "XLS"}) {
         EXPECT_EQ(ambiente.PercorsoProgramma(nome), nellaCopia(nome));
     }
-    EXPECT_EQ(ambiente.PercorsoProgramma("\\immagini\\A.svg"), programma + "/Immagini/a.svg");
+    EXPECT_EQ(ambiente.PercorsoProgramma("\\immagini\\A.svg"), radice.file("usr/Prog/Kelvo/Immagini/a.svg"));
     for (const char* nome : {"Support/x.htm", "UserGuide/x.pdf", "Caratteri/x.ttf"}) {
-        EXPECT_EQ(ambiente.PercorsoProgramma(nome), programma + "/" + nome);
+        EXPECT_EQ(ambiente.PercorsoProgramma(nome), radice.file(std::string("usr/Prog/Kelvo/") + nome));
     }
 }
 
