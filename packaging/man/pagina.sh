@@ -21,7 +21,8 @@ trap 'rm -f -- "$elenco"' EXIT
 if [ -n "$programma" ]; then
     comandi >"$elenco"
 fi
-sed -e "s/@VERSIONE@/$versione/" -e "/^@COMANDI@\$/{
+# What the source says to whoever writes it stays there.
+sed -e '/^\.\\"/d' -e "s/@VERSIONE@/$versione/" -e "/^@COMANDI@\$/{
 r $elenco
 d
 }" "$sorgente"

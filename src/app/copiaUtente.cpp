@@ -115,7 +115,7 @@ private:
         for (const std::string& nome : fileDi(da)) {
             const std::string chiave = std::string{parte.cartella} + "/" + nome;
             const bool tolto = parte.genere == Genere::esempio && !tutta && elenco_.contains(chiave);
-            if (!tolto || esiste(a + "/" + nome)) {
+            if (!tolto || esiste(testoDaPercorso(percorsoDaTesto(a) / percorsoDaTesto(nome)))) {
                 porta(da, a, nome, parte.genere, chiave);
             }
         }
