@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs every check of the repository. --lungo adds the sanitizers and clang-tidy over everything, the
-# Windows rooms, a minute of each fuzzer, and the pages of a report as an office program makes them.
+# Windows rooms, a minute of each fuzzer, the pages of a report as an office program makes them, and the package in a
+# clean Debian.
 set -euo pipefail
 source "$(dirname -- "${BASH_SOURCE[0]}")/strumenti/comune.sh"
 source strumenti/passi.sh
@@ -34,6 +35,11 @@ passo "Compilazione sanitizer" costruisci "$sanitizer"
 passo "Prove con sanitizer" prove_asan "$sanitizer"
 passo "Compilazione fuzz" costruisci fuzz fuzz/all
 passo "Fuzz" fuzz "$secondi_fuzz"
+if $lungo; then
+    passo "Pacchetto" strumenti/pacchetto.sh --radice
+else
+    passo "Pacchetto" strumenti/pacchetto.sh
+fi
 if $lungo; then
     passo "clang-tidy" tidy
     passo "Stanze Windows" strumenti/windows.sh

@@ -1,10 +1,10 @@
 #!/bin/sh
 # Measures kelvo-cli as whole processes on the largest example, files warm, 50 runs each, and prints a Markdown table.
-# Usage: strumenti/misura_cli.sh [folder of a Release build]
+# Usage: strumenti/misura_cli.sh [folder of a Release build [kelvo-cli of an installation]]
 set -eu
 radice=$(cd "$(dirname "$0")/.." && pwd)
 costruzione=${1:-$radice/build/release}
-cli=$costruzione/Prog/Kelvo/kelvo-cli
+cli=${2:-$costruzione/Prog/Kelvo/kelvo-cli}
 picco=$costruzione/tests/kelvo-picco
 progetto=$costruzione/Prog/Progetti/Rotatoria_Aurelia_Sette_Strade.klv
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "app/FileIni.h"
+#include "app/copiaUtente.h"
 #include "base/file.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
@@ -36,6 +37,8 @@ void stampa(const std::string& testo) {
 Contesto::Contesto()
     : app_(piattaforma().cartellaProgramma(), piattaforma().cartellaTemporanea(),
            {*this, orologio_, piattaforma().file()}) {
+    app_.theAmbiente.CartellaScritta(
+        cartellaCopiata(app_.theAmbiente.CartellaProgramma(), piattaforma().cartellaCopia()));
     app_.comune.alErrore = [this](const ErroreRegistrato& errore) {
         errori_.push_back(errore);
         avvisa(fmt::format("{}: {} [{}, errore {}]", nomeFile(), errore.descrizione, errore.metodo, errore.numero));

@@ -12,5 +12,6 @@ int main(int argc, char** argv) {
                                     .cartellaProgramma = sistema->cartellaProgramma(),
                                     .cartellaLavoro = sistema->cartellaTemporanea(),
                                     .cartellaRecupero = sistema->cartellaDati() + "/Recupero",
+                                    .cartellaCopia = sistema->cartellaCopia(),
                                     .processi = &sistema->processi()});
 }

@@ -147,6 +147,18 @@ void FileIni::scrivi(std::string_view sezione, std::string_view chiave, std::str
     }
 }
 
+void FileIni::completa(const FileIni& fornito) {
+    std::optional<std::string_view> sezione;
+    for (const Riga& riga : fornito.righe_) {
+        if (const auto nome = sezioneDi(riga.testo)) {
+            sezione = nome;
+        } else if (const auto coppia = coppiaDi(riga.testo); sezione && coppia && !coppia->valore.empty() &&
+                                                             leggi(*sezione, coppia->chiave).value_or("").empty()) {
+            scrivi(*sezione, coppia->chiave, coppia->valore);
+        }
+    }
+}
+
 std::string FileIni::testo() const {
     std::string testo{bom_ ? bom : std::string_view{}};
     for (const Riga& riga : righe_) {

@@ -1,9 +1,13 @@
 #include "app/clsAmbiente.h"
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
+#include <string_view>
 #include <utility>
 
 #include "app/FileIni.h"
+#include "base/testo.h"
 
 namespace kelvo {
 
@@ -22,6 +26,15 @@ std::string conSeparatore(std::string cartella) {
     return cartella;
 }
 
+/// The first component of a path is a folder that comes with the program and that nobody writes.
+bool soloLetto(std::string_view nome) {
+    constexpr std::array<std::string_view, 4> cartelle{"IMMAGINI", "CARATTERI", "SUPPORT", "USERGUIDE"};
+    constexpr std::string_view separatori = "/\\";
+    nome.remove_prefix(std::min(nome.find_first_not_of(separatori), nome.size()));
+    const std::string prima = maiuscoleAscii(nome.substr(0, nome.find_first_of(separatori)));
+    return std::find(cartelle.begin(), cartelle.end(), prima) != cartelle.end();
+}
+
 bool manca(const std::string& percorso) {
     std::error_code errore;
     return fs::status(percorsoDaTesto(percorso), errore).type() == fs::file_type::not_found;
@@ -31,12 +44,18 @@ bool manca(const std::string& percorso) {
 
 clsAmbiente::clsAmbiente(std::string cartellaProgramma, const std::string& cartellaLavoro, SistemaFile& sistema)
     : cartellaProgramma_(std::move(cartellaProgramma)),
+      cartellaScritta_(cartellaProgramma_),
       cartellaLavoro_(conSeparatore(cartellaLavoro)),
       percorsoIni_(PercorsoProgramma("Kelvo.ini")),
       sistema_(sistema) {}
 
 std::string clsAmbiente::PercorsoProgramma(const std::string& nome) const {
-    return percorsoSenzaMaiuscole(conSeparatore(cartellaProgramma_), nome);
+    return percorsoSenzaMaiuscole(conSeparatore(soloLetto(nome) ? cartellaProgramma_ : cartellaScritta_), nome);
+}
+
+void clsAmbiente::CartellaScritta(const std::string& cartella) {
+    cartellaScritta_ = cartella;
+    percorsoIni_ = PercorsoProgramma("Kelvo.ini");
 }
 
 std::string clsAmbiente::ScriviIni(const std::string& percorsoFile, const std::string& sezione,

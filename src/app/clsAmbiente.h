@@ -29,8 +29,15 @@ public:
 
     /// Folder of the program, without a separator at its end.
     const std::string& CartellaProgramma() const { return cartellaProgramma_; }
-    /// Whole path of a file or folder below the program's folder, as percorsoSenzaMaiuscole finds it: without regard to
-    /// case, '/' and '\\' alike between its components.
+    /// Folder of the parts that are written (configuration, log, templates, reports, workbooks), with the projects
+    /// beside it; without a separator at its end. It is the program's folder, or the user's own copy of these parts
+    /// where the program's folder is not to be written.
+    const std::string& CartellaScritta() const { return cartellaScritta_; }
+    /// Takes a copy of the parts that are written, its configuration file with it.
+    void CartellaScritta(const std::string& cartella);
+    /// Whole path of a file or folder of the installation, as percorsoSenzaMaiuscole finds it: without regard to case,
+    /// '/' and '\\' alike between its components. What nobody writes (pictures, faces, pages, guides) stands below
+    /// CartellaProgramma, all else below CartellaScritta.
     std::string PercorsoProgramma(const std::string& nome) const;
     /// Whole path of the program's configuration file.
     std::string PercorsoIni() const { return percorsoIni_; }
@@ -43,6 +50,7 @@ public:
 
 private:
     std::string cartellaProgramma_;
+    std::string cartellaScritta_;
     std::string cartellaLavoro_;
     std::string percorsoIni_;
     std::int16_t percentualeNotturna_ = 0;

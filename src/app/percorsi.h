@@ -6,8 +6,15 @@
 
 namespace kelvo {
 
-/// Folder of the projects: the program's folder less its last six characters, and "Progetti" below it.
+/// Folder of the projects: the folder of the parts that are written less its last six characters, and "Progetti" below
+/// it.
 std::string cartellaProgetti(const clsAmbiente& ambiente);
+/// The same of such a folder.
+std::string cartellaProgetti(const std::string& cartella);
+
+/// The path that a file manager may hand on as an address: "file:" with no host or "localhost", its signs decoded.
+/// Any other text is a path as it stands.
+std::string percorsoDaIndirizzo(const std::string& testo);
 
 /// Project name of a path: the file name without folder and without the extension ".klv".
 std::string nomeProgetto(const std::string& percorso);

@@ -336,7 +336,7 @@ void frmParametriRamo::apriDecreto() {
 void frmParametriRamo::Archivio() {
     gestisci("frmParametroRamo:Archivo", [this] {
         frmPreviewRami anteprima(contorno());
-        if (!servizi_.dialogo.apri(AnteprimaProgetto::richiesta(app().theAmbiente.CartellaProgramma()), anteprima)) {
+        if (!servizi_.dialogo.apri(AnteprimaProgetto::richiesta(app().theAmbiente.CartellaScritta()), anteprima)) {
             return;
         }
         const auto caselle = campi();

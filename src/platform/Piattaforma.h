@@ -32,6 +32,10 @@ public:
     virtual std::string cartellaTemporanea() const = 0;
     /// Folder of the user's own for data that the program keeps, made where it is missing.
     virtual std::string cartellaDati() const = 0;
+    /// Where the user's own copy of the parts that are written stands, for a program whose folder is not to be
+    /// written: a folder of five letters under one of four, not made here. Empty where the program's folder is written
+    /// itself, or where the user has no folder of his own.
+    virtual std::string cartellaCopia() const = 0;
 
     /// The words of the command line behind the program's name; `argc` and `argv` as main has them.
     virtual std::vector<std::string> argomenti(int argc, char** argv) const = 0;

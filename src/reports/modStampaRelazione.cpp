@@ -281,7 +281,7 @@ void modStampaRelazione::apriModello(const Corsa& corsa) {
         const fs::path scelto = percorsoDaTesto(servizi_.modelloProprio);
         documento_ = documentoDaModello(testoDaPercorso(scelto.parent_path()), testoDaPercorso(scelto.filename()));
     } else {
-        documento_ = documentoDaModello(app_.theAmbiente.CartellaProgramma(), corsa.modello);
+        documento_ = documentoDaModello(app_.theAmbiente.CartellaScritta(), corsa.modello);
     }
 }
 

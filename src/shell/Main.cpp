@@ -4,6 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "app/percorsi.h"
 #include "base/file.h"
 #include "base/guasto.h"
 #include "shell/frmSplash.h"
@@ -154,6 +155,7 @@ void modMain::apriProgetto(const std::string& rigaComando) {
     }
     std::string percorso = rigaComando;
     std::erase(percorso, '"');
+    percorso = percorsoDaIndirizzo(percorso);
     if (recuperato) {
         cornice_.avviso("Aperto il progetto recuperato, non " + percorso);
         return;

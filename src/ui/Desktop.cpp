@@ -10,6 +10,7 @@
 
 #include "app/Applicazione.h"
 #include "app/convertitorePDF.h"
+#include "app/copiaUtente.h"
 #include "disegno/DisegnatoreQt.h"
 #include "reports/modEXCEL.h"
 #include "shell/CampiFinestre.h"
@@ -32,6 +33,22 @@ namespace {
 /// The words of the command line as one text, less what the toolkit took for itself.
 std::string rigaComando() {
     return s(QApplication::arguments().mid(1).join(QLatin1Char(' ')));
+}
+
+/// An installation that is not to be written: the user's own copy of the parts that are written takes their place.
+void usaCopia(Applicazione& app, const std::string& copia) {
+    if (copia.empty()) {
+        return;
+    }
+    const EsitoCopia esito = aggiornaCopiaUtente(app.file, app.theAmbiente.CartellaProgramma(), copia);
+    app.theAmbiente.CartellaScritta(esito.cartella);
+    if (!esito.problemi.empty()) {
+        std::string testo = "Attenzione, alcune parti della copia personale di Kelvo non sono a posto:";
+        for (const std::string& problema : esito.problemi) {
+            testo += "\r\n- " + problema;
+        }
+        app.messaggi.mostra(testo, "KELVO 2014 - Attenzione", Icona::esclamazione, Pulsanti::ok);
+    }
 }
 
 }  // namespace
@@ -68,6 +85,7 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     CronometroQt simulazione;
     AttesaQt attesa;
     Applicazione app(piattaforma.cartellaProgramma, piattaforma.cartellaLavoro, {messaggi, orologio, piattaforma.file});
+    usaCopia(app, piattaforma.cartellaCopia);
     qt.alGuasto = [&app](const Guasto& guasto) {
         app.comune.erroreLog(guasto.codice(), "Kelvo", guasto.descrizione(), true);
     };

@@ -18,6 +18,7 @@ struct Piattaforma {
     std::string cartellaProgramma;               ///< without a separator at its end
     std::string cartellaLavoro;                  ///< temporary files of the user's own
     std::string cartellaRecupero;                ///< recovery copies of the user's own
+    std::string cartellaCopia{};                 ///< the user's copy of the parts that are written; empty: none needed
     Processi* processi = nullptr;                ///< runs other programs; null: none are run
 };
 

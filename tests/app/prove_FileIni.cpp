@@ -92,6 +92,12 @@ TEST(ProveFileIni, ATextOfWideCharactersIsToldApart) {
     }
 }
 
+TEST(ProveFileIni, WhatIsMissingOrWithoutAValueIsTakenFromAnother) {
+    FileIni ini("; mio\r\n[s]\r\na = 1\r\nvuota=\r\n");
+    ini.completa(FileIni("nessuna=0\n[S]\nA=2\n;C=3\nVuota=4\nB=\"x \"\nNulla=\n[T]\nD=5\n"));
+    EXPECT_EQ(ini.testo(), "; mio\r\n[s]\r\na = 1\r\nvuota=4\r\nB=\"x \"\r\n[T]\r\nD=5\r\n");
+}
+
 TEST(ProveFileIni, NamesThatCouldNotBeFoundAgainAreFaults) {
     FileIni ini("[S]\n");
     for (const std::string chiave : {"", "a=b", ";a", "#a", "[a", " a", "a ", "a\nb", "a\rb"}) {

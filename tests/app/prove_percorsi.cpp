@@ -2,6 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <filesystem>
+#include <regex>
+#include <set>
+#include <string>
+
+#include "base/testo.h"
+#include "comune/cartella.h"
+
 namespace kelvo::prove {
 namespace {
 
@@ -12,6 +21,62 @@ TEST(Percorsi, TheFolderOfTheProjectsIsCutByCountOfCharacters) {
     EXPECT_EQ(progetti("/opt/Prog/Kelvo"), "/opt/Prog/Progetti");
     EXPECT_EQ(progetti("/opt/Città/Kèlvò"), "/opt/Città/Progetti") << "characters, not bytes";
     EXPECT_EQ(progetti("/opt/Prog/Kelvo14"), "/opt/Prog/K/Progetti") << "another length is cut all the same";
+}
+
+/// A path that the program cuts by count of characters: from the end of the folder of the program, and what it adds.
+struct Taglio {
+    std::size_t caratteri;  ///< cut off
+    const char* aggiunta;   ///< with '/' for separator
+    const char* percorso;   ///< below the root of the tree, what has to come out
+};
+constexpr std::array tagli{
+    Taglio{6, "/Progetti", "/Prog/Progetti"},
+    Taglio{6, "/KelvoCAD/doc/KelvoCAD2008.dvb", "/Prog/KelvoCAD/doc/KelvoCAD2008.dvb"},
+    Taglio{11, "/KELVOCAD 2014/KelvoCAD 2014.exe", "/KELVOCAD 2014/KelvoCAD 2014.exe"},
+};
+
+TEST(Percorsi, EveryPathThatIsCutComesOutRightInEveryTree) {
+    // The build tree, an installation, the package, a portable folder, the user's own copy.
+    const std::string costruzione = KELVO_COSTRUZIONE;
+    for (const std::string& radice :
+         {costruzione, std::string("/usr/local/lib/kelvo"), std::string("/usr/lib/kelvo"),
+          std::string("/media/Città è/Kelvo 1.0"), std::string("/casa/anna/.local/share/Kelvo")}) {
+        for (const Taglio& taglio : tagli) {
+            EXPECT_EQ(senzaUltimi(radice + "/Prog/Kelvo", taglio.caratteri) + taglio.aggiunta,
+                      radice + taglio.percorso);
+        }
+        EXPECT_EQ(percorsoDaTesto(cartellaProgetti(radice + "/Prog/Kelvo")),
+                  percorsoDaTesto(radice + "/Prog/Progetti"));
+    }
+    EXPECT_EQ(costruzione + "/Prog/Kelvo", KELVO_CARTELLA);
+}
+
+TEST(Percorsi, OneSourceAloneCutsFoldersByCountOfCharacters) {
+    const std::regex taglio(R"(senzaUltimi\([^;]*[cC]artella)");
+    std::set<std::string> trovati;
+    for (const auto& voce : std::filesystem::recursive_directory_iterator(KELVO_SORGENTI "/src")) {
+        const std::string percorso = voce.path().string();
+        if (voce.is_regular_file() && std::regex_search(contenuto(percorso), taglio)) {
+            trovati.insert(std::filesystem::relative(voce.path(), KELVO_SORGENTI "/src").generic_string());
+        }
+    }
+    EXPECT_EQ(trovati, (std::set<std::string>{"app/percorsi.cpp"}));
+}
+
+TEST(Percorsi, AnAddressOfAFileIsItsPath) {
+    EXPECT_EQ(percorsoDaIndirizzo("file:///casa/Nodo.klv"), "/casa/Nodo.klv");
+    EXPECT_EQ(percorsoDaIndirizzo("FILE://localhost/casa/Nodo.klv"), "/casa/Nodo.klv");
+    EXPECT_EQ(percorsoDaIndirizzo("file:/casa/Nodo.klv"), "/casa/Nodo.klv");
+    EXPECT_EQ(percorsoDaIndirizzo("file:///Citt%C3%A0%20alta/100%25%2e.klv"), "/Città alta/100%..klv");
+    EXPECT_EQ(percorsoDaIndirizzo("file:///a%2Fb%zz%4"), "/a/b%zz%4");
+    EXPECT_EQ(percorsoDaIndirizzo("file:///a%00b"), "/a%00b") << "no path holds a zero byte";
+}
+
+TEST(Percorsi, WhatIsNoAddressOfThisMachineStaysAsItIs) {
+    for (const std::string testo : {"", "Nodo.klv", "/a/file:/b.klv", "/a%20b.klv", "file://altra/casa/Nodo.klv",
+                                    "file:", "file:Nodo.klv", "http://x/y.klv"}) {
+        EXPECT_EQ(percorsoDaIndirizzo(testo), testo);
+    }
 }
 
 TEST(Percorsi, TheNameOfAProjectIsItsFileWithoutFolderAndExtension) {

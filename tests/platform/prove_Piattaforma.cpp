@@ -6,6 +6,7 @@
 #include <random>
 #include <string>
 
+#include "app/copiaUtente.h"
 #include "base/file.h"
 #include "comune/cartella.h"
 
@@ -122,6 +123,20 @@ TEST_F(ProvePiattaforma, TheLocaleHasItsSeparators) {
     EXPECT_FALSE(lette.valuta.empty());
     EXPECT_FALSE(lette.decimaleValuta.empty());
     EXPECT_FALSE(lette.migliaiaValuta.empty());
+}
+
+TEST_F(ProvePiattaforma, ACopyIsNeededWhereAPackageHasLaidTheProgram) {
+    const std::string segno = sistema->cartellaProgramma() + "/" + segnoDiSistema;
+    sistema->file().elimina(segno);
+    EXPECT_EQ(sistema->cartellaCopia(), "") << "the folder of this build is written itself";
+    ASSERT_EQ(scriviFileSicuro(sistema->file(), segno, "prova"), "");
+    const std::string copia = sistema->cartellaCopia();
+    sistema->file().elimina(segno);
+    constexpr std::size_t caratteri = 11;
+    EXPECT_EQ(copia.size(), sistema->cartellaDati().size() + caratteri) << copia;
+    EXPECT_EQ(copia.find(sistema->cartellaDati()), 0U) << copia;
+    EXPECT_EQ(percorsoDaTesto(copia).filename(), "Kelvo");
+    EXPECT_EQ(percorsoDaTesto(copia).parent_path().filename(), "Prog");
 }
 
 TEST_F(ProvePiattaforma, ItsFoldersStandAndThoseOfTheUserTakeFiles) {

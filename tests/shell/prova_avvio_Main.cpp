@@ -176,6 +176,13 @@ TEST_F(Avvio, TheCommandLineOpensAProjectWithoutItsQuotes) {
     EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoCaricato);
 }
 
+TEST_F(Avvio, AnAddressOnTheCommandLineOpensItsProject) {
+    f.progettoSuDisco("Città alta.klv", 5);
+    EXPECT_TRUE(programma.Main("file://" + f.cartella.percorso() + "/Citt%C3%A0%20alta.klv"));
+    EXPECT_EQ(f.app.theRotonda().NomeFile(), "Città alta");
+    EXPECT_EQ(f.stato.statoProgetto, StatoProgetto::ProgettoCaricato);
+}
+
 TEST_F(Avvio, ACommandLineThatIsNoProjectGetsItsMessage) {
     EXPECT_TRUE(programma.Main(f.cartella.file("Kelvo.ini")));
     EXPECT_EQ(f.messaggi.testi(), (std::vector<std::string>{"Il file selezionato non è corretto!"}));

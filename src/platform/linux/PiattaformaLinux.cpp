@@ -20,6 +20,10 @@ public:
     std::string cartellaProgramma() const override { return cartellaEseguibile(); }
     std::string cartellaTemporanea() const override { return lavoro_; }
     std::string cartellaDati() const override { return cartellaDatiUtente(); }
+    std::string cartellaCopia() const override {
+        const std::string dati = percorsoDatiUtente();
+        return dati.empty() || cartellaScrivibile(cartellaEseguibile()) ? std::string{} : dati + "/Prog/Kelvo";
+    }
 
     std::vector<std::string> argomenti(int argc, char** argv) const override {
         return argc > 1 ? std::vector<std::string>(argv + 1, argv + argc) : std::vector<std::string>{};

@@ -37,19 +37,26 @@ ImpostazioniInternazionali LocaleLinux::leggi() const {
             .migliaiaValuta = "."};
 }
 
-std::string cartellaDatiUtente() {
+std::string percorsoDatiUtente() {
     const char* dati = std::getenv("XDG_DATA_HOME");  // NOLINT(concurrency-mt-unsafe): one thread
     const char* casa = std::getenv("HOME");           // NOLINT(concurrency-mt-unsafe): one thread
-    fs::path cartella = ".";
+    fs::path cartella;
     if (dati != nullptr && *dati == '/') {
         cartella = dati;
     } else if (casa != nullptr && *casa == '/') {
         cartella = fs::path(casa) / ".local" / "share";
+    } else {
+        return {};
     }
-    cartella /= "Kelvo";
+    return (cartella / "Kelvo").string();
+}
+
+std::string cartellaDatiUtente() {
+    const std::string sua = percorsoDatiUtente();
+    std::string cartella = sua.empty() ? "./Kelvo" : sua;
     std::error_code errore;
     fs::create_directories(cartella, errore);
-    return cartella.string();
+    return cartella;
 }
 
 }  // namespace kelvo

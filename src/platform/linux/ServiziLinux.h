@@ -31,7 +31,10 @@ public:
     void scriviSeparatori(const std::string& /*decimale*/, const std::string& /*migliaia*/) override {}
 };
 
-/// The user's own folder for data that the program keeps, made if it is missing.
+/// The user's own folder for data that the program keeps ("Kelvo" in XDG_DATA_HOME, or in .local/share of HOME); empty
+/// where neither is told.
+std::string percorsoDatiUtente();
+/// The same, made if it is missing; one in the working folder where none is told.
 std::string cartellaDatiUtente();
 
 }  // namespace kelvo

@@ -1,11 +1,15 @@
 #include "platform/linux/cartelle.h"
 
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+
+#include "app/copiaUtente.h"
 
 namespace kelvo {
 
@@ -34,6 +38,18 @@ std::string cartellaEseguibile() {
     std::error_code errore;
     const std::filesystem::path programma = std::filesystem::read_symlink("/proc/self/exe", errore);
     return errore ? std::string{"."} : programma.parent_path().string();
+}
+
+bool cartellaScrivibile(const std::string& cartella) {
+    const auto scrivibile = [](const std::string& percorso) {
+        // A read-only file that is the user's own is made writable at the start: only its folder counts then.
+        struct stat stato {};
+        const bool sua = ::stat(percorso.c_str(), &stato) == 0 && stato.st_uid == ::geteuid();
+        return sua || ::faccessat(AT_FDCWD, percorso.c_str(), W_OK, AT_EACCESS) == 0 || errno == ENOENT;
+    };
+    std::error_code errore;
+    return !std::filesystem::exists(cartella + "/" + segnoDiSistema, errore) &&
+           ::faccessat(AT_FDCWD, cartella.c_str(), W_OK, AT_EACCESS) == 0 && scrivibile(cartella + "/Kelvo.ini");
 }
 
 std::string cartellaTemporanea() {

@@ -27,6 +27,9 @@ public:
     std::string cartellaProgramma() const override { return cartellaEseguibile(); }
     std::string cartellaTemporanea() const override { return kelvo::cartellaTemporanea(); }
     std::string cartellaDati() const override { return cartellaDatiUtente(); }
+    std::string cartellaCopia() const override {
+        return cartellaScrivibile(cartellaEseguibile()) ? std::string{} : cartellaDatiUtente() + "\\Prog\\Kelvo";
+    }
 
     /// From the system: what `main` is given is not in UTF-8.
     std::vector<std::string> argomenti(int /*argc*/, char** /*argv*/) const override {

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "app/copiaUtente.h"
 #include "platform/windows/intestazioni.h"
 #include "platform/windows/testi.h"
 
@@ -34,6 +35,21 @@ std::string cartellaEseguibile() {
     percorso.resize(GetModuleFileNameW(nullptr, percorso.data(), static_cast<DWORD>(percorso.size())));
     const std::size_t barra = percorso.find_last_of(L"\\/");
     return barra == std::wstring::npos ? std::string{"."} : testoStretto(percorso.substr(0, barra));
+}
+
+bool cartellaScrivibile(const std::string& cartella) {
+    const std::wstring segno = percorsoLargo(cartella + "\\" + segnoDiSistema);
+    if (GetFileAttributesW(segno.c_str()) != INVALID_FILE_ATTRIBUTES) {
+        return false;
+    }
+    void* const maniglia = CreateFileW(percorsoLargo(cartella).c_str(), FILE_ADD_FILE,
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                       FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (maniglia == INVALID_HANDLE_VALUE) {  // NOLINT: the system's own value
+        return false;
+    }
+    CloseHandle(maniglia);
+    return true;
 }
 
 std::string cartellaTemporanea() {

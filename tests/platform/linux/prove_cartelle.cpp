@@ -8,6 +8,7 @@
 #include <string>
 
 #include "comune/cartella.h"
+#include "platform/linux/ServiziLinux.h"
 #include "platform/linux/cartelle.h"
 
 namespace kelvo::prove {
@@ -124,6 +125,61 @@ TEST_F(ProveCartelle, WithoutAFolderOfTemporaryFilesTheWorkingFolderIsAnswered) 
     xdg.imposta(std::nullopt);
     tmp.imposta(cartella.file("manca"));
     EXPECT_EQ(cartellaTemporanea(), ".");
+}
+
+/// Another user for as long as it lives; only for the superuser.
+class AltroUtente {
+public:
+    AltroUtente() { EXPECT_EQ(::seteuid(65534), 0); }
+    AltroUtente(const AltroUtente&) = delete;
+    AltroUtente& operator=(const AltroUtente&) = delete;
+    ~AltroUtente() { EXPECT_EQ(::seteuid(0), 0); }
+};
+
+TEST_F(ProveCartelle, AFolderOfOnesOwnIsWrittenUnlessAPackageHasLaidIt) {
+    EXPECT_TRUE(cartellaScrivibile(sessione)) << "without a configuration too";
+    scriviContenuto(sessione + "/Kelvo.ini", "");
+    EXPECT_TRUE(cartellaScrivibile(sessione));
+    ASSERT_EQ(::chmod((sessione + "/Kelvo.ini").c_str(), 0444), 0);
+    EXPECT_TRUE(cartellaScrivibile(sessione)) << "a read-only file of one's own is made writable";
+    scriviContenuto(sessione + "/Sistema.txt", "");
+    EXPECT_FALSE(cartellaScrivibile(sessione)) << "not even by the superuser";
+    EXPECT_FALSE(cartellaScrivibile(cartella.file("manca")));
+}
+
+TEST_F(ProveCartelle, AFolderOfSomebodyElseIsWrittenWhereTheSystemLets) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only the superuser can become somebody else";
+    }
+    ASSERT_EQ(::chmod(cartella.percorso().c_str(), 0755), 0);
+    scriviContenuto(sessione + "/Kelvo.ini", "");
+    ASSERT_EQ(::chmod(sessione.c_str(), 0755), 0);
+    ASSERT_EQ(::chmod((sessione + "/Kelvo.ini").c_str(), 0644), 0);
+    {
+        const AltroUtente altro;
+        EXPECT_FALSE(cartellaScrivibile(sessione));
+    }
+    ASSERT_EQ(::chmod(sessione.c_str(), 0777), 0);
+    {
+        const AltroUtente altro;
+        EXPECT_FALSE(cartellaScrivibile(sessione)) << "its configuration cannot be written";
+    }
+    ASSERT_EQ(::chmod((sessione + "/Kelvo.ini").c_str(), 0666), 0);
+    const AltroUtente altro;
+    EXPECT_TRUE(cartellaScrivibile(sessione));
+}
+
+TEST_F(ProveCartelle, TheUsersDataStandWhereTheEnvironmentTells) {
+    const Variabile casa{"HOME", cartella.file("casa")};
+    const Variabile dati{"XDG_DATA_HOME", cartella.file("dati")};
+    EXPECT_EQ(percorsoDatiUtente(), cartella.file("dati/Kelvo"));
+    dati.imposta("relativa");
+    EXPECT_EQ(percorsoDatiUtente(), cartella.file("casa/.local/share/Kelvo"));
+    EXPECT_FALSE(fs::exists(cartella.file("casa"))) << "asking makes nothing";
+    EXPECT_EQ(cartellaDatiUtente(), percorsoDatiUtente());
+    EXPECT_TRUE(fs::is_directory(percorsoDatiUtente()));
+    casa.imposta("");
+    EXPECT_EQ(percorsoDatiUtente(), "");
 }
 
 TEST_F(ProveCartelle, TheFolderOfTheProgramHoldsIt) {
