@@ -13,7 +13,6 @@ namespace kelvo::dxf {
 namespace {
 
 using pianta::Misura;
-using pianta::norma;
 using pianta::Quota;
 using pianta::versore;
 

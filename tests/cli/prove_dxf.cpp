@@ -46,7 +46,7 @@ TEST_F(ComandoDxf, WritesTheDrawingAndSaysNothing) {
 
 TEST_F(ComandoDxf, WritesTheSameFileEachTimeInThePlaceOfTheOldOne) {
     const std::string primo = disegno();
-    EXPECT_EQ(disegno(), primo);
+    EXPECT_TRUE(disegno() == primo);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella_.percorso()), {}), 1);
 }
 
@@ -76,19 +76,26 @@ TEST_F(ComandoDxf, LeavesOutWhatItIsToldTo) {
 
 TEST_F(ComandoDxf, BearingsAndAssumptionsChangeTheDrawing) {
     const std::string usuale = disegno();
-    EXPECT_EQ(disegno({"--direzioni", "0,90,180,270"}), usuale);
+    EXPECT_TRUE(disegno({"--direzioni", "0,90,180,270"}) == usuale);
     const std::string altre = disegno({"--direzioni", "0,80.5,180,270"});
-    EXPECT_NE(altre, usuale);
-    EXPECT_EQ(disegno({"--direzioni", "0;80,5;180;270"}), altre);
+    EXPECT_FALSE(altre == usuale);
+    EXPECT_TRUE(disegno({"--direzioni", "0;80,5;180;270"}) == altre);
     const std::vector<std::pair<std::string, std::string>> ipotesi{
-        {"--anello-minimo", "9,5"},       {"--anello-su-ingresso", "2"},     {"--corona", "0"},
-        {"--isola-minima", "15"},         {"--isola-massima", "15"},         {"--uscita-minima", "8"},
-        {"--raggio-uscita-minimo", "25"}, {"--raggio-uscita-massimo", "25"}, {"--rami-minimo", "90"},
-        {"--attraversamento-da", "6"},    {"--attraversamento", "4"}};
+        {"--anello-minimo", "9,5"}, {"--anello-su-ingresso", "2"}, {"--corona", "0"},
+        {"--isola-minima", "15"},   {"--uscita-minima", "8"},      {"--raggio-uscita-minimo", "25"},
+        {"--rami-minimo", "90"},    {"--attraversamento-da", "6"}, {"--attraversamento", "4"}};
     for (const auto& [opzione, valore] : ipotesi) {
-        EXPECT_NE(disegno({opzione, valore}), usuale) << opzione;
+        EXPECT_FALSE(disegno({opzione, valore}) == usuale) << opzione;
     }
-    EXPECT_EQ(disegno({"--corona", "1.5"}), usuale);
+    EXPECT_TRUE(disegno({"--corona", "1.5"}) == usuale);
+    // Upper bounds tell where the radius of an entry asks for more.
+    const std::string ampia = "Rotatoria_SS12_Ospedale";
+    ASSERT_EQ(kelvoCli({"dxf", "-o", file("a.dxf"), esempio(ampia)}).codice, 0);
+    for (const auto& [opzione, valore] :
+         {std::pair{"--isola-massima", "15"}, std::pair{"--raggio-uscita-massimo", "25"}}) {
+        ASSERT_EQ(kelvoCli({"dxf", "-o", file("b.dxf"), opzione, valore, esempio(ampia)}).codice, 0);
+        EXPECT_FALSE(contenuto(file("a.dxf")) == contenuto(file("b.dxf"))) << opzione;
+    }
 }
 
 struct Errato {

@@ -35,7 +35,9 @@ public:
         auto* riga = new QHBoxLayout;
         riga->setSpacing(misura::margine);
         riga->addLayout(ipotesi());
-        auto* pianta = new VistaPianta([this] { return VistaPianta::Soggetto{.dati = f_.piantaMostrata()}; }, corpo());
+        // The names of the legs stand beside their fields: without them the plan is larger.
+        auto* pianta = new VistaPianta(
+            [this] { return VistaPianta::Soggetto{.dati = f_.piantaMostrata(), .opzioni = {.nomi = false}}; }, corpo());
         auto* aiuto = aggiungiAiuto(q(f.frAnteprima.titolo()));
         aiuto->alPosto(pianta);
         aiuto->setMinimumWidth(misura::colonna);
