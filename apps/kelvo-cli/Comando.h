@@ -71,6 +71,7 @@ std::unique_ptr<Comando> comandoControllo(CLI::App& radice);
 std::unique_ptr<Comando> comandoCorsiaDx(CLI::App& radice);
 std::unique_ptr<Comando> comandoSensibilita(CLI::App& radice);
 std::unique_ptr<Comando> comandoSintesi(CLI::App& radice);
+std::unique_ptr<Comando> comandoDxf(CLI::App& radice);
 /// The commands that write documents; none in a program that was built without their libraries.
 std::vector<std::unique_ptr<Comando>> comandiDocumenti(CLI::App& radice);
 /// The commands that draw; none in a program that was built without the desktop's libraries.

@@ -52,6 +52,19 @@ const std::vector<MDI_Form::Comando>& MDI_Form::comandi() {
              }
          }},
         {"mnuInfoSulProgramma", [](MDI_Form& f) { f.mostraInformazioni(); }},
+        {"mnuXEsportaDXF",
+         [](MDI_Form& f) {
+             // The drawing is that of the project: what the window at hand holds goes into it first, as when it is
+             // left.
+             Finestra* corrente = f.gestione.corrente();
+             const bool senza = f.stato_.statoProgetto == StatoProgetto::NessunProgetto;
+             if (senza || (corrente != nullptr && corrente->haSaveData() && !f.scriviFinestra(*corrente))) {
+                 return;
+             }
+             Finestra& finestra = f.finestre.finestra("frmEsportaDXF", f.contorno());
+             finestra.attivata();
+             f.superficie().mostraModale(finestra);
+         }},
     };
     return tavola;
 }
@@ -130,6 +143,8 @@ void MDI_Form::costruisciMenu(bool perTipo) {
     aggiungiRighe(ctlMenu, perTipo ? righePerTipo() : righePerRamo(), rotonda);
     aggiungiRighe(ctlMenu, righeCoda(), rotonda);
     aggiungiVociProprie();
+    ctlMenu.aggiungi({.padre = "mnuKelvoCAD", .testo = "-", .chiave = "mnuXSeparatoreDXF"});
+    ctlMenu.aggiungi({.padre = "mnuKelvoCAD", .testo = "Esporta DXF...", .chiave = "mnuXEsportaDXF", .mnemonico = "E"});
     applicaMenuMostrati();
     riapplica();
 }

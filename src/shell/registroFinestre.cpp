@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "cad/frmEsportaDXF.h"
 #include "checkup/frmANALIZZATORE.h"
 #include "input/frmAnalisiMarginale.h"
 #include "input/frmComposizioneTraffico.h"
@@ -145,6 +146,7 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     });
     finestre.registra("frmANALIZZATORE",
                       [servizi](const Contorno& contorno) { return creaAnalizzatore(contorno, servizi); });
+    finestre.registra("frmEsportaDXF", crea<frmEsportaDXF>);
 }
 
 }  // namespace kelvo

@@ -177,7 +177,7 @@ TEST_P(Aiuto, IsItalianAndEndsWithExamples) {
 
 INSTANTIATE_TEST_SUITE_P(Comandi, Aiuto,
                          testing::Values("calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva",
-                                         "corsia-dx", "sensibilita", "sintesi", "controllo"),
+                                         "corsia-dx", "sensibilita", "sintesi", "controllo", "dxf"),
                          [](const auto& caso) {
                              return std::string(caso.param).substr(0, std::string(caso.param).find('-'));
                          });
@@ -186,7 +186,7 @@ TEST(AiutoGenerale, OfTheProgramNamesEveryCommand) {
     const Esito esito = kelvoCli({"--help"});
     EXPECT_EQ(esito.codice, 0);
     for (const char* comando : {"calcola", "capacita-ultima", "nuovo", "mostra", "verifica", "curva", "corsia-dx",
-                                "sensibilita", "sintesi", "controllo"}) {
+                                "sensibilita", "sintesi", "controllo", "dxf"}) {
         EXPECT_NE(esito.uscita.find(std::string("\n  ") + comando + " "), std::string::npos) << comando;
     }
     EXPECT_NE(esito.uscita.find("\nComandi:\n"), std::string::npos);

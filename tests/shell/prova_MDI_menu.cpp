@@ -286,6 +286,44 @@ TEST(Instradamento, EachKeyOfTheMenuRunsItsCommand) {
     EXPECT_EQ(f.dialogo.richieste.size(), 1U);
 }
 
+TEST(EsportaDXF, StandsBehindTheGivenEntryAndOpensItsWindowWithAProjectAlone) {
+    ShellFinta f;
+    f.registra("frmEsportaDXF");
+    f.cornice.Load();
+    f.cornice.Menu_Click("mnuXEsportaDXF");
+    EXPECT_EQ(f.superficie.modali, std::vector<std::string>{});
+    f.nuovo(4);
+    const auto voci = f.cornice.ctlMenu.figli("mnuKelvoCAD");
+    ASSERT_GE(voci.size(), 3U);
+    EXPECT_EQ(voci.front()->chiave, "mnuKelvoCAD2");
+    EXPECT_EQ(voci.back()->chiave, "mnuXEsportaDXF");
+    EXPECT_EQ(voci.back()->testo, "Esporta DXF...");
+    f.superficie.modali.clear();
+    f.cornice.ctlMenu.premi("mnuXEsportaDXF");
+    EXPECT_EQ(f.superficie.modali, (std::vector<std::string>{"frmEsportaDXF"}));
+    EXPECT_EQ(f.finta("frmEsportaDXF").lette.size(), 1U);
+}
+
+TEST(EsportaDXF, TheWindowAtHandIsWrittenToTheProjectFirst) {
+    ShellFinta f;
+    f.registra("frmEsportaDXF");
+    f.cornice.Load();
+    f.nuovo(3);
+    f.cornice.Menu_Click("keyMatriceSvolte");
+    FinestraFinta& matrice = f.finta("frmMatriceSvolte");
+    const int prima = matrice.salvataggi;
+    f.superficie.modali.clear();
+    f.cornice.Menu_Click("mnuXEsportaDXF");
+    EXPECT_EQ(matrice.salvataggi, prima + 1);
+    EXPECT_EQ(f.superficie.modali, (std::vector<std::string>{"frmEsportaDXF"}));
+    // What its window refuses goes nowhere, and no drawing is made without it.
+    matrice.campo.modifica("storto");
+    f.superficie.modali.clear();
+    f.cornice.Menu_Click("mnuXEsportaDXF");
+    EXPECT_EQ(matrice.salvataggi, prima + 1);
+    EXPECT_EQ(f.superficie.modali, std::vector<std::string>{});
+}
+
 TEST(Instradamento, ADocumentThatCannotBeOpenedIsTold) {
     ShellFinta f;
     f.documenti.riesce = false;
