@@ -12,5 +12,7 @@ int main(int argc, char** argv) {
                                     .cartellaProgramma = sistema->cartellaProgramma(),
                                     .cartellaLavoro = sistema->cartellaTemporanea(),
                                     .cartellaRecupero = sistema->cartellaDati() + "/Recupero",
-                                    .processi = &sistema->processi()});
+                                    .processi = &sistema->processi(),
+                                    .registro = &sistema->registro(),
+                                    .cad = &sistema->cad()});
 }

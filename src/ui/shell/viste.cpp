@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 #include <array>
 
+#include "ui/cad/viste.h"
 #include "ui/checkup/viste.h"
 #include "ui/reports/viste.h"
 
@@ -50,6 +51,8 @@ constexpr std::array viste{
     VoceVista{"frmConfronti", vista_frmConfronti},
     VoceVista{"frmOPZrelazione", vista_frmOPZrelazione},
     VoceVista{"frmRelazioneProgressBar", vista_frmRelazioneProgressBar},
+    VoceVista{"frmKCAD", vista_frmKCAD},
+    VoceVista{"frmLinkACAD", vista_frmLinkACAD},
 };
 
 }  // namespace
