@@ -14,7 +14,13 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr auto separatore = static_cast<char>(fs::path::preferred_separator);
-constexpr std::size_t finoAlPadre = 6;  ///< the separator and a folder name of five letters
+constexpr std::size_t finoAlPadre = 6;   ///< the separator and a folder name of five letters
+constexpr std::size_t finoAlNonno = 11;  ///< those, the separator before and a folder name of four letters
+
+/// The program's folder less its last characters, a separator at its end.
+std::string cartellaTagliata(const clsAmbiente& ambiente, std::size_t tolti) {
+    return senzaUltimi(ambiente.CartellaProgramma(), tolti) + separatore;
+}
 
 /// Value of a hexadecimal digit, or nothing.
 std::optional<int> cifra(char c) {
@@ -49,6 +55,14 @@ std::string cartellaProgetti(const clsAmbiente& ambiente) {
 
 std::string cartellaProgetti(const std::string& cartella) {
     return senzaUltimi(cartella, finoAlPadre) + separatore + "Progetti";
+}
+
+std::string percorsoKelvoCAD(const clsAmbiente& ambiente) {
+    return percorsoSenzaMaiuscole(cartellaTagliata(ambiente, finoAlNonno), "\\KELVOCAD 2014\\KelvoCAD 2014.exe");
+}
+
+std::string percorsoMacroKelvoCAD(const clsAmbiente& ambiente) {
+    return percorsoSenzaMaiuscole(cartellaTagliata(ambiente, finoAlPadre), "\\KelvoCAD\\doc\\KelvoCAD2008.dvb");
 }
 
 std::string percorsoDaIndirizzo(const std::string& testo) {

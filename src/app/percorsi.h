@@ -16,6 +16,13 @@ std::string cartellaProgetti(const std::string& cartella);
 /// Any other text is a path as it stands.
 std::string percorsoDaIndirizzo(const std::string& testo);
 
+/// The companion that draws in the CAD program: the program's folder less its last eleven characters, and
+/// "KELVOCAD 2014/KelvoCAD 2014.exe" below it, found without regard to case.
+std::string percorsoKelvoCAD(const clsAmbiente& ambiente);
+/// The companion's macros: the program's folder less its last six characters, and "KelvoCAD/doc/KelvoCAD2008.dvb" below
+/// it, found without regard to case.
+std::string percorsoMacroKelvoCAD(const clsAmbiente& ambiente);
+
 /// Project name of a path: the file name without folder and without the extension ".klv".
 std::string nomeProgetto(const std::string& percorso);
 

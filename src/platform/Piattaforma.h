@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/automazione.h"
 #include "app/processi.h"
 #include "app/serviziSistema.h"
 #include "base/file.h"
@@ -22,6 +23,8 @@ public:
     virtual IstanzaUnica& istanza() = 0;
     virtual LocaleUtente& locale() = 0;
     virtual Processi& processi() = 0;
+    virtual RegistroMacchina& registro() = 0;
+    virtual AutomazioneCAD& cad() = 0;
     /// Null where the desktop's toolkit has the means.
     virtual ImpostazioniUtente* impostazioni() = 0;
     virtual ApriDocumenti* documenti() = 0;

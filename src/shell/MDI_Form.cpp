@@ -5,6 +5,8 @@
 #include <array>
 
 #include "base/versione.h"
+#include "cad/frmKCAD.h"
+#include "cad/frmLinkACAD.h"
 #include "shell/barraPrincipale.h"
 #include "shell/finestrePerChiave.h"
 #include "shell/frmINFO.h"
@@ -63,12 +65,17 @@ MDI_Form::MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servi
       gestione(app, stato, area_),
       recenti(servizi.impostazioni),
       recupero(app, servizi.cartellaRecupero),
+      kelvoCAD_(app, {.documenti = servizi.documenti,
+                      .impostazioni = servizi.impostazioni,
+                      .salvataggio = *this,
+                      .registro = servizi.registro,
+                      .cad = servizi.cad}),
       titolo_(titoloProgramma) {
     didascalia.testo(titolo_);
     ctlMenu.alClic = [this](const std::string& chiave) { Menu_Click(chiave); };
     ctlToolbar.allaPressione = [this](const std::string& chiave) { Toolbar_Click(chiave); };
     aggiungiMenuPrincipali(ctlMenu);
-    finestre.registra("frmINFO", [](const Contorno& contorno) { return std::make_unique<frmINFO>(contorno); });
+    registraSopra();
     finestre.allaNascita = [this](Finestra& finestra) {
         if (BarraStrumenti* barra = finestra.barra()) {
             // A button may write the window's data to the project.
@@ -81,6 +88,16 @@ MDI_Form::MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servi
         }
     };
     finestre.allaFine = [this](Finestra& finestra) { superficie().dimentica(finestra); };
+}
+
+/// The windows over the main one that its own menu brings up.
+void MDI_Form::registraSopra() {
+    finestre.registra("frmINFO", [](const Contorno& contorno) { return std::make_unique<frmINFO>(contorno); });
+    finestre.registra("frmLinkACAD",
+                      [this](const Contorno& contorno) { return std::make_unique<frmLinkACAD>(contorno, kelvoCAD_); });
+    finestre.registra("frmKCAD", [this](const Contorno& contorno) {
+        return std::make_unique<frmKCAD>(contorno, servizi_.documenti);
+    });
 }
 
 void MDI_Form::Load() {

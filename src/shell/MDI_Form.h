@@ -8,8 +8,11 @@
 #include <vector>
 
 #include "app/Applicazione.h"
+#include "app/automazione.h"
 #include "app/cornice.h"
+#include "app/salvataggio.h"
 #include "app/serviziSistema.h"
+#include "cad/modKelvoCAD.h"
 #include "shell/FabbricaFinestre.h"
 #include "shell/ProgettiRecenti.h"
 #include "shell/Recupero.h"
@@ -22,7 +25,7 @@
 namespace kelvo {
 
 /// The main window: menu, tool bar, tree, work area and status bar; life of the project.
-class MDI_Form final : public Cornice {
+class MDI_Form final : public Cornice, public Salvataggio {
 public:
     /// What the main window is handed from outside.
     struct Servizi {
@@ -31,9 +34,11 @@ public:
         ApriDocumenti& documenti;
         ImpostazioniUtente& impostazioni;
         Cronometro& cronometro;
-        std::string cartellaRecupero;         ///< folder of the recovery copies, the user's own
-        Disegnatore* disegnatore = nullptr;   ///< makes pictures of charts; null for none
-        AppuntiImmagini* immagini = nullptr;  ///< takes them; null for none
+        std::string cartellaRecupero;          ///< folder of the recovery copies, the user's own
+        Disegnatore* disegnatore = nullptr;    ///< makes pictures of charts; null for none
+        AppuntiImmagini* immagini = nullptr;   ///< takes them; null for none
+        RegistroMacchina* registro = nullptr;  ///< null for none
+        AutomazioneCAD* cad = nullptr;         ///< null for none
     };
     MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servizi);
 
@@ -44,8 +49,6 @@ public:
     Colore BackColor;
 
     FabbricaFinestre finestre;
-    /// The link to the CAD program; empty while there is none. Its argument is false after a failure.
-    std::function<void(bool&)> LinkKELVOCAD;
     /// Runs when the main window unloads.
     std::function<void()> alloScarico;
 
@@ -123,7 +126,7 @@ public:
     void NewRotonda();
     void OpenRotonda();
     void LoadRotonda(const std::string& percorso);
-    void SaveRotonda(bool& esito);
+    void SaveRotonda(bool& esito) override;
     void CloseRotonda();
     std::string NomeFileProposto() const;
     /// A file was dropped on the window; true if it was opened.
@@ -135,6 +138,11 @@ public:
     bool modificato() const;
     /// Shows or takes away the mark of unsaved changes.
     void aggiornaSegno();
+
+    // The link to the CAD program.
+    /// Saves the project and hands it to the companion; `esito` is false where it was not started.
+    void LinkKELVOCAD(bool& esito) { kelvoCAD_.LinkKELVOCAD(esito); }
+    void ControllaDATIexportKCAD(bool& esito) { kelvoCAD_.ControllaDATIexportKCAD(esito); }
 
     // Exit.
     /// Exit step of menu and tool bar.
@@ -176,7 +184,8 @@ private:
     void applicaAlbero();
     void applicaMancanti();
     void apriDocumento(std::string_view daProgramma);
-    void mostraInformazioni();
+    void mostraSopra(const char* finestra);
+    void registraSopra();
     void apriRecente(const std::string& chiave);
 
     std::string titoloProgetto() const;
@@ -191,6 +200,7 @@ private:
     bool chiediSalvataggio(const char* domanda, bool& rifiutato);
     void mostra(const std::string& testo);
 
+    modKelvoCAD kelvoCAD_;
     std::string titolo_;
     std::optional<std::uint64_t> revisioneSalvata_;
     std::int16_t tipoAnalisi_ = 0;

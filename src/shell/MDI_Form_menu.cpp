@@ -15,7 +15,6 @@ namespace {
 
 constexpr const char* menuRecenti = "mnuXRecenti";
 constexpr std::string_view radiceRecente = "mnuXRecente";
-constexpr std::string_view proceduraCAD = "LinkKELVOCAD";
 
 bool inizia(const std::string& chiave, std::string_view radice) {
     return chiave.size() > radice.size() && chiave.compare(0, radice.size(), radice) == 0;
@@ -47,11 +46,11 @@ const std::vector<MDI_Form::Comando>& MDI_Form::comandi() {
         {"mnuKelvoCAD2",
          [](MDI_Form& f) {
              bool esito = true;
-             if (f.LinkKELVOCAD) {
-                 f.LinkKELVOCAD(esito);
-             }
+             f.LinkKELVOCAD(esito);
          }},
-        {"mnuInfoSulProgramma", [](MDI_Form& f) { f.mostraInformazioni(); }},
+        {"mnuInfoSulProgramma", [](MDI_Form& f) { f.mostraSopra("frmINFO"); }},
+        {"mnuXCollegamentoAutoCAD", [](MDI_Form& f) { f.mostraSopra("frmLinkACAD"); }},
+        {"mnuXInformazioniKelvoCAD", [](MDI_Form& f) { f.mostraSopra("frmKCAD"); }},
         {"mnuXEsportaDXF",
          [](MDI_Form& f) {
              // The drawing is that of the project: what the window at hand holds goes into it first, as when it is
@@ -142,9 +141,8 @@ void MDI_Form::costruisciMenu(bool perTipo) {
     aggiungiRighe(ctlMenu, righeFile(), rotonda);
     aggiungiRighe(ctlMenu, perTipo ? righePerTipo() : righePerRamo(), rotonda);
     aggiungiRighe(ctlMenu, righeCoda(), rotonda);
+    aggiungiRighe(ctlMenu, righePropriePerProgetto(), rotonda);
     aggiungiVociProprie();
-    ctlMenu.aggiungi({.padre = "mnuKelvoCAD", .testo = "-", .chiave = "mnuXSeparatoreDXF"});
-    ctlMenu.aggiungi({.padre = "mnuKelvoCAD", .testo = "Esporta DXF...", .chiave = "mnuXEsportaDXF", .mnemonico = "E"});
     applicaMenuMostrati();
     riapplica();
 }
@@ -208,9 +206,9 @@ void MDI_Form::apriDocumento(std::string_view daProgramma) {
     }
 }
 
-void MDI_Form::mostraInformazioni() {
-    superficie().mostraModale(finestre.finestra("frmINFO", contorno()));
-    finestre.distruggi("frmINFO");
+void MDI_Form::mostraSopra(const char* finestra) {
+    superficie().mostraModale(finestre.finestra(finestra, contorno()));
+    finestre.distruggi(finestra);
 }
 
 void MDI_Form::gestioneToolbar(StatoProgetto stato) {
@@ -257,18 +255,15 @@ void MDI_Form::applicaMancanti() {
         const std::string_view nome =
             riga.azione == AzioneTasto::chiave ? albero.finestra(riga.argomento) : riga.argomento;
         const bool finestra = riga.azione == AzioneTasto::finestra || riga.azione == AzioneTasto::chiave;
-        const bool manca = finestra ? !finestre.conosce(nome) : nome == proceduraCAD && !LinkKELVOCAD;
+        const bool manca = finestra && !finestre.conosce(nome);
         ctlToolbar.annota(riga.chiave, manca ? nota : std::string{});
         if (manca) {
             ctlToolbar.abilita(riga.chiave, false);
         }
     }
-    const std::array mancanti{std::pair{"mnuCompilaRelazione", !finestre.conosce("frmOPZrelazione")},
-                              std::pair{"mnuKelvoCAD2", !LinkKELVOCAD}};
-    for (const auto& [chiave, manca] : mancanti) {
-        ctlMenu.abilita(chiave, !manca);
-        ctlMenu.annota(chiave, manca ? nota : std::string{});
-    }
+    const bool senzaRelazioni = !finestre.conosce("frmOPZrelazione");
+    ctlMenu.abilita("mnuCompilaRelazione", !senzaRelazioni);
+    ctlMenu.annota("mnuCompilaRelazione", senzaRelazioni ? nota : std::string{});
 }
 
 }  // namespace kelvo

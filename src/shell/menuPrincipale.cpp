@@ -83,6 +83,13 @@ constexpr std::array tavolaCoda{
     RigaMenu{"mnuHelp", 0, voce, "Informazioni sul programma", "mnuInfoSulProgramma", "", "", "I"},
 };
 
+constexpr std::array tavolaPropria{
+    RigaMenu{"mnuKelvoCAD", 0, separatore, "-", "mnuXSeparatoreCAD", "", "", ""},
+    RigaMenu{"mnuKelvoCAD", 0, voce, "Collegamento AutoCAD...", "mnuXCollegamentoAutoCAD", "", "", "C"},
+    RigaMenu{"mnuKelvoCAD", 0, voce, "Informazioni su KelvoCAD", "mnuXInformazioniKelvoCAD", "", "", "I"},
+    RigaMenu{"mnuKelvoCAD", 0, voce, "Esporta DXF...", "mnuXEsportaDXF", "", "", "E"},
+};
+
 /// Appends the rows of one build to their menus.
 class Costruttore {
 public:
@@ -159,6 +166,10 @@ std::span<const RigaMenu> righePerRamo() {
 
 std::span<const RigaMenu> righeCoda() {
     return tavolaCoda;
+}
+
+std::span<const RigaMenu> righePropriePerProgetto() {
+    return tavolaPropria;
 }
 
 std::string_view scorciatoiaDiVoce(std::string_view chiave) {

@@ -83,6 +83,9 @@ std::span<const RigaMenu> righePerRamo();
 /// Tools and the tail of the other menus, alike in both builds.
 std::span<const RigaMenu> righeCoda();
 
+/// Entries of our own, behind the given ones, alike in both builds.
+std::span<const RigaMenu> righePropriePerProgetto();
+
 /// Shortcut of an entry in the tables; empty for none.
 std::string_view scorciatoiaDiVoce(std::string_view chiave);
 

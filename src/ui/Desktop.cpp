@@ -96,9 +96,9 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     StatoFinestre stato;
     VistaMDI_Form vista;
     FinestreCollegateQt collegate(vista);
-    MDI_Form cornice(
-        app, stato,
-        {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore, &immagini});
+    MDI_Form cornice(app, stato,
+                     {vista, dialogo, documenti, impostazioni, cronometro, piattaforma.cartellaRecupero, &disegnatore,
+                      &immagini, piattaforma.registro, piattaforma.cad});
     CampiFinestre campi(cornice.finestre, cornice.gestione);
     StampaQt stampa;
     std::optional<ConvertitoreUfficio> pdf;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/automazione.h"
 #include "app/processi.h"
 #include "app/serviziSistema.h"
 #include "base/file.h"
@@ -20,6 +21,8 @@ struct Piattaforma {
     std::string cartellaRecupero;                ///< recovery copies of the user's own
     std::string cartellaCopia{};                 ///< the user's copy of the parts that are written; empty: none needed
     Processi* processi = nullptr;                ///< runs other programs; null: none are run
+    RegistroMacchina* registro = nullptr;        ///< null: there is none
+    AutomazioneCAD* cad = nullptr;               ///< null: no CAD program is driven
 };
 
 /// Language, faces, look and drawings of the program for the application object that was just made.

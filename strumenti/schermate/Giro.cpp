@@ -14,6 +14,7 @@
 #include <filesystem>
 
 #include "base/file.h"
+#include "cad/frmLinkACAD.h"
 #include "input/frmMatriceSvolte.h"
 #include "input/frmPreviewRami.h"
 #include "shell/finestrePerChiave.h"
@@ -68,6 +69,9 @@ constexpr const char* campoMisura = "txtLarghezzaIngresso";
 constexpr const char* svolteCSV =
     "Ingresso;A;B;C;D;Totale\r\nA;0;120;85;42;247\r\nB;96;0;110;61;267\r\nC;74;132;0;58;264\r\nD;51;47;63;0;161\r\n";
 
+/// The project that was saved last.
+constexpr const char* progettoMostrato = "C:\\Rotatorie\\Progetti\\Rotatoria_Viale_della_Stazione.klv";
+
 /// How long the list of a folder is waited for.
 constexpr int passiElenco = 20;
 constexpr int passoElenco = 10;  ///< ms
@@ -83,7 +87,9 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
       progetti_(richiesta.progetti.empty() ? installazione.esempi() : richiesta.progetti),
       cartellaLavoro_(installazione.lavoro()),
       app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
-      cornice_(app_, stato_, {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero()}),
+      cornice_(app_, stato_,
+               {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero(), nullptr, nullptr,
+                &registro_, &cad_}),
       fotografo_(richiesta.cartella) {
     registraFinestre(cornice_.finestre, {.documenti = documenti_,
                                          .anteprima = anteprima_,
@@ -269,21 +275,29 @@ void Giro::dialoghi() {
             nomi.push_back(nome);
         }
     }
-    const auto ritrai = [this](Finestra& finestra) {
+    const auto ritrai = [this](Finestra& finestra, const std::string& immagine) {
         vista_.apriSopra(finestra);
         if (auto* dialogo = vista_.findChild<QDialog*>(ui::q(finestra.nome()))) {
-            fotografo_.scatta(*dialogo, finestra.nome());
+            fotografo_.scatta(*dialogo, immagine);
         }
         vista_.chiudiSopra(finestra);
         lasciaCorrere();
     };
+    impostazioni_.scrivi("KelvoCAD 2014", "StartUp", "FilePathKelvo", progettoMostrato);
     for (const std::string& nome : nomi) {
-        ritrai(cornice_.finestre.finestra(nome, cornice_.contorno()));
+        ritrai(cornice_.finestre.finestra(nome, cornice_.contorno()), nome);
         cornice_.finestre.distruggi(nome);
     }
     frmSplash splash(cornice_.contorno());
     splash.ctlProgresso.valore(splash.ctlProgresso.massimo() / 2);
-    ritrai(splash);
+    ritrai(splash, splash.nome());
+    senzaCAD(ritrai);
+}
+
+void Giro::senzaCAD(const std::function<void(Finestra&, const std::string&)>& ritratto) {
+    modKelvoCAD solo(app_, {documenti_, impostazioni_, cornice_});
+    frmLinkACAD finestra(cornice_.contorno(), solo);
+    ritratto(finestra, "frmLinkACAD-senza-versioni");
 }
 
 void Giro::messaggi() {

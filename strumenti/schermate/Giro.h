@@ -9,6 +9,7 @@
 #include "schermate/Fotografo.h"
 #include "schermate/Installazione.h"
 #include "schermate/Richiesta.h"
+#include "schermate/cadMostrato.h"
 #include "schermate/serviziMuti.h"
 #include "shell/MDI_Form.h"
 #include "ui/StampaQt.h"
@@ -38,6 +39,8 @@ public:
 private:
     void senzaProgetto();
     void dialoghi();
+    /// The link to the CAD program on a machine without one.
+    void senzaCAD(const std::function<void(Finestra&, const std::string&)>& ritratto);
     void messaggi();
     std::string progetto(const std::string& percorso, bool primo);
     void finestre(const std::string& progetto);
@@ -81,6 +84,8 @@ private:
     ui::FinestreCollegateQt collegate_{vista_};
     ui::StampaQt stampa_;
     ui::AttesaQt attesa_;
+    RegistroMostrato registro_;
+    AutomazioneMostrata cad_;
     MDI_Form cornice_;
     Fotografo fotografo_;
     std::set<std::string> mostrate_;  ///< names of the windows that were seen in the work area

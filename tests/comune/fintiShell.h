@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/nuovoProgetto.h"
+#include "comune/cadFinto.h"
 #include "comune/cartella.h"
 #include "comune/cronometro.h"
 #include "comune/finti.h"
@@ -261,7 +262,6 @@ public:
         for (const std::string& nome : nomiFinestre()) {
             registra(nome);
         }
-        cornice.LinkKELVOCAD = [this](bool&) { ++collegamentiCAD; };
         superficie.alModale = [this](Finestra& finestra) {
             if (finestra.nome() == "frmInputNumeroRami") {
                 scegliRami();
@@ -320,9 +320,13 @@ public:
     DocumentiFinti documenti;
     ImpostazioniFinte impostazioni;
     CronometroFinto cronometro;
-    MDI_Form cornice{app, stato, {superficie, dialogo, documenti, impostazioni, cronometro, cartella.file("Recupero")}};
+    RegistroFinto registro;
+    AutomazioneFinta cad;
+    MDI_Form cornice{app,
+                     stato,
+                     {superficie, dialogo, documenti, impostazioni, cronometro, cartella.file("Recupero"), nullptr,
+                      nullptr, &registro, &cad}};
     int ramiScelti = 4;  ///< 0: Cancel
-    int collegamentiCAD = 0;
 
 private:
     void scegliRami() {

@@ -277,8 +277,11 @@ TEST(Instradamento, EachKeyOfTheMenuRunsItsCommand) {
     EXPECT_EQ(f.documenti.aperti, (std::vector<std::string>{"\"" + c + "/UserGuide/UserGuide.pdf\"",
                                                             "\"" + c + "/Support/Vaq in rete.htm\"",
                                                             "\"" + c + "/Support/Vaq Products.htm\""}));
+    f.messaggi.risposte = {Risposta::no};
     f.cornice.ctlMenu.premi("mnuKelvoCAD2");
-    EXPECT_EQ(f.collegamentiCAD, 1);
+    EXPECT_EQ(
+        f.messaggi.testi(),
+        (std::vector<std::string>{"Attenzione! Per continuare è necessario salvare il progetto. Salvare adesso?"}));
     f.superficie.modali.clear();
     f.cornice.ctlMenu.premi("mnuInfoSulProgramma");
     EXPECT_EQ(f.superficie.modali, (std::vector<std::string>{"frmINFO"}));
@@ -322,6 +325,44 @@ TEST(EsportaDXF, TheWindowAtHandIsWrittenToTheProjectFirst) {
     f.cornice.Menu_Click("mnuXEsportaDXF");
     EXPECT_EQ(matrice.salvataggi, prima + 1);
     EXPECT_EQ(f.superficie.modali, std::vector<std::string>{});
+}
+
+TEST_P(Menu, TheEntriesOfTheCadLinkStandBehindTheGivenOne) {
+    for (const int disposizione : {0, 1}) {
+        ShellFinta f;
+        f.disposizione(disposizione);
+        f.cornice.Load();
+        f.nuovo(GetParam());
+        const auto voci = f.cornice.ctlMenu.figli("mnuKelvoCAD");
+        ASSERT_GE(voci.size(), 4U);
+        EXPECT_EQ(voci[0]->chiave, "mnuKelvoCAD2");
+        EXPECT_EQ(voci[1]->testo, "-");
+        EXPECT_EQ(voci[2]->chiave, "mnuXCollegamentoAutoCAD");
+        EXPECT_EQ(voci[2]->testo, "Collegamento AutoCAD...");
+        EXPECT_EQ(voci[3]->chiave, "mnuXInformazioniKelvoCAD");
+        EXPECT_EQ(voci[3]->testo, "Informazioni su KelvoCAD");
+        std::set<std::string> lettere;
+        for (const auto* voce : voci) {
+            EXPECT_TRUE(voce->testo == "-" || lettere.insert(voce->mnemonico).second) << voce->testo;
+        }
+    }
+}
+
+TEST(Instradamento, TheEntriesOfTheCadLinkShowTheirWindowsOverTheMainOne) {
+    ShellFinta f;
+    f.cornice.Load();
+    f.nuovo(3);
+    f.superficie.modali.clear();
+    f.cornice.ctlMenu.premi("mnuXCollegamentoAutoCAD");
+    f.cornice.ctlMenu.premi("mnuXInformazioniKelvoCAD");
+    EXPECT_EQ(f.superficie.modali, (std::vector<std::string>{"frmLinkACAD", "frmKCAD"}));
+    EXPECT_EQ(f.cornice.finestre.viva("frmLinkACAD"), nullptr) << "the registry is read anew at each showing";
+    EXPECT_EQ(f.registro.lette, std::vector<std::string>{"Software\\Autodesk\\AutoCAD"});
+    f.messaggi.risposte = {Risposta::no};
+    f.cornice.CloseRotonda();
+    f.superficie.modali.clear();
+    f.cornice.ctlMenu.premi("mnuXCollegamentoAutoCAD");
+    EXPECT_TRUE(f.superficie.modali.empty()) << "without a project the menu is closed";
 }
 
 TEST(Instradamento, ADocumentThatCannotBeOpenedIsTold) {

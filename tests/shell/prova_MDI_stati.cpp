@@ -79,8 +79,11 @@ TEST(Barra, TheToolButtonsShowTheirWindowAndLeaveTheSelection) {
         EXPECT_EQ(f.cornice.albero.ctlTree.selezionato(), "keyOpzioni");
         EXPECT_EQ(f.cornice.albero.nodoCorrente(), "keyOpzioni");
     }
+    f.messaggi.risposte = {Risposta::no};
     f.cornice.ctlToolbar.premi("KelvoCAD");
-    EXPECT_EQ(f.collegamentiCAD, 1);
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati.front().testo,
+              "Attenzione! Per continuare è necessario salvare il progetto. Salvare adesso?");
     f.cornice.ctlToolbar.premi("Help");
     EXPECT_EQ(f.documenti.aperti.size(), 1U);
     f.cornice.ctlToolbar.premi("Salva");
@@ -212,14 +215,14 @@ TEST(NonAncora, WhatDoesNotStandYetIsVisibleClosedAndTold) {
     cornice.LoadTreeView();
     cornice.gestioneToolbar(StatoProgetto::ProgettoNuovo);
     const std::string nota = "Non ancora disponibile in questa versione";
-    for (const char* tasto : {"Opzioni", "Analizzatore", "Dx", "Check", "Google", "KelvoCAD"}) {
+    for (const char* tasto : {"Opzioni", "Analizzatore", "Dx", "Check", "Google"}) {
         EXPECT_FALSE(cornice.ctlToolbar.abilitato(std::string_view{tasto})) << tasto;
     }
     for (const auto& tasto : cornice.ctlToolbar.tasti()) {
         EXPECT_EQ(tasto.nota, tasto.abilitato || tasto.chiave == "Nuovo" || tasto.chiave == "Apri" ? "" : nota)
             << tasto.chiave;
     }
-    for (const char* voce : {"keyMatriceSvolte", "keyRamo2", "mnuCompilaRelazione", "mnuKelvoCAD2", "keyterra"}) {
+    for (const char* voce : {"keyMatriceSvolte", "keyRamo2", "mnuCompilaRelazione", "keyterra"}) {
         EXPECT_FALSE(cornice.ctlMenu.voce(voce).abilitata) << voce;
         EXPECT_EQ(cornice.ctlMenu.voce(voce).nota, nota) << voce;
     }
@@ -259,7 +262,7 @@ TEST(NonAncora, TheListHoldsExactlyWhatAKeyLeadsToAndDoesNotStand) {
         }
     }
     for (const RigaBarra& riga : barraPrincipale) {
-        if (riga.azione == AzioneTasto::finestra || riga.azione == AzioneTasto::procedura) {
+        if (riga.azione == AzioneTasto::finestra) {
             mete.insert(riga.argomento);
         }
     }
@@ -299,7 +302,8 @@ TEST(NonAncora, WithTheRealWindowsEveryClosedKeyLeadsToOneOfTheList) {
                 EXPECT_EQ(cornice.ctlMenu.voce(chiave).nota, manca ? nota : "") << chiave;
             }
         }
-        EXPECT_EQ(cornice.ctlToolbar.spiegazione("KelvoCAD"), "Avvia KelvoCAD\n" + nota);
+        EXPECT_EQ(cornice.ctlToolbar.spiegazione("KelvoCAD"), "Avvia KelvoCAD");
+        EXPECT_TRUE(cornice.ctlMenu.voce("mnuKelvoCAD2").abilitata);
         EXPECT_EQ(cornice.ctlToolbar.spiegazione("Check"), "Check progetto rotatoria");
         EXPECT_EQ(cornice.ctlToolbar.spiegazione("Google"), nota);
         EXPECT_TRUE(cornice.ctlMenu.voce("mnuCompilaRelazione").abilitata);

@@ -78,7 +78,8 @@ std::map<std::string, std::string> istantanea(const Rotonda& rotonda) {
 Banco::Banco(int disposizione, SistemaFile& file)
     : app(cartella.percorso(), cartella.percorso(), {messaggi, orologio, file}),
       cornice(app, stato,
-              {vista, dialogo, documenti, impostazioni, cronometro, cartella.file("Recupero"), &disegnatore}) {
+              {vista, dialogo, documenti, impostazioni, cronometro, cartella.file("Recupero"), &disegnatore, nullptr,
+               &registro, &cad}) {
     scriviContenuto(cartella.file("Kelvo.ini"), configurazione(disposizione));
     app.configurazione.coefficienti(coefficientiDiFabbrica);
     app.configurazione.PathErrore = "FILELOGERROR.TXT";

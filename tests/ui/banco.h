@@ -72,6 +72,8 @@ public:
     shell::CronometroFinto cronometro;
     CronometroATempo simulazione;
     disegno::DisegnatoreQt disegnatore;
+    RegistroFinto registro;
+    AutomazioneFinta cad;
     Applicazione app;
     StatoFinestre stato;
     ui::VistaMDI_Form vista;

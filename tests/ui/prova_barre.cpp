@@ -64,13 +64,13 @@ TEST_F(Barre, LinesFollowFourOfItsTwelveButtons) {
 TEST_F(Barre, WhatIsClosedTellsWhyOnTheButtonAndInTheMenu) {
     banco.nuovo(3);
     const std::string nota{notaNonAncora};
-    const auto* disegno = barra().findChild<QAction*>(QStringLiteral("KelvoCAD"));
-    EXPECT_FALSE(disegno->isEnabled());
-    EXPECT_EQ(disegno->toolTip().toStdString(), "Avvia KelvoCAD\n" + nota);
+    const auto* mappa = barra().findChild<QAction*>(QStringLiteral("Google"));
+    EXPECT_FALSE(mappa->isEnabled());
+    EXPECT_EQ(mappa->toolTip().toStdString(), nota);
     EXPECT_EQ(barra().findChild<QAction*>(QStringLiteral("Salva"))->toolTip(),
               QStringLiteral("Salva progetto (Ctrl+S)"));
     ASSERT_TRUE(attendi([&] { return banco.vista.findChild<QAction*>(QStringLiteral("keyterra")) != nullptr; }));
-    for (const char* chiave : {"keyterra", "mnuKelvoCAD2"}) {
+    for (const char* chiave : {"keyterra"}) {
         const auto* voce = banco.vista.findChild<QAction*>(QString::fromLatin1(chiave));
         ASSERT_NE(voce, nullptr) << chiave;
         EXPECT_FALSE(voce->isEnabled()) << chiave;

@@ -1,4 +1,5 @@
 #include "platform/Piattaforma.h"
+#include "platform/linux/AutomazioneLinux.h"
 #include "platform/linux/ProcessiLinux.h"
 #include "platform/linux/ServiziLinux.h"
 #include "platform/linux/SistemaFileLinux.h"
@@ -14,6 +15,8 @@ public:
     IstanzaUnica& istanza() override { return istanza_; }
     LocaleUtente& locale() override { return locale_; }
     Processi& processi() override { return processi_; }
+    RegistroMacchina& registro() override { return registro_; }
+    AutomazioneCAD& cad() override { return cad_; }
     ImpostazioniUtente* impostazioni() override { return nullptr; }
     ApriDocumenti* documenti() override { return nullptr; }
 
@@ -37,6 +40,8 @@ private:
     IstanzaLinux istanza_{lavoro_};
     LocaleLinux locale_;
     ProcessiLinux processi_;
+    RegistroLinux registro_;
+    AutomazioneLinux cad_;
 };
 
 }  // namespace

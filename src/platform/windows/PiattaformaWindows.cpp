@@ -4,7 +4,9 @@
 #include <cstdio>
 
 #include "platform/Piattaforma.h"
+#include "platform/windows/AutomazioneWindows.h"
 #include "platform/windows/ProcessiWindows.h"
+#include "platform/windows/RegistroWindows.h"
 #include "platform/windows/ServiziWindows.h"
 #include "platform/windows/SistemaFileWindows.h"
 #include "platform/windows/cartelle.h"
@@ -21,6 +23,8 @@ public:
     IstanzaUnica& istanza() override { return istanza_; }
     LocaleUtente& locale() override { return locale_; }
     Processi& processi() override { return processi_; }
+    RegistroMacchina& registro() override { return registro_; }
+    AutomazioneCAD& cad() override { return cad_; }
     ImpostazioniUtente* impostazioni() override { return &impostazioni_; }
     ApriDocumenti* documenti() override { return &documenti_; }
 
@@ -53,6 +57,8 @@ private:
     IstanzaWindows istanza_;
     LocaleWindows locale_;
     ProcessiWindows processi_;
+    RegistroWindows registro_;
+    AutomazioneWindows cad_;
     ImpostazioniWindows impostazioni_;
     ApriDocumentiWindows documenti_;
 };

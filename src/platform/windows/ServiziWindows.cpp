@@ -99,9 +99,8 @@ bool ApriDocumentiWindows::apri(const std::string& percorso) {
 bool ApriDocumentiWindows::avvia(const std::string& programma, const std::string& argomento) {
     std::string nome = programma;
     std::erase(nome, '"');
-    const bool daCitare = argomento.find(' ') != std::string::npos && argomento.find('"') == std::string::npos;
-    const std::wstring parola = testoLargo(daCitare ? "\"" + argomento + "\"" : argomento);
-    return apriColSistema(testoLargo(rifila(nome)), parola.empty() ? nullptr : parola.c_str());
+    const std::wstring riga = testoLargo(argomento);
+    return apriColSistema(testoLargo(rifila(nome)), riga.empty() ? nullptr : riga.c_str());
 }
 
 }  // namespace kelvo

@@ -44,8 +44,8 @@ public:
 class ApriDocumentiWindows final : public ApriDocumenti {
 public:
     bool apri(const std::string& percorso) override;
-    /// `programma`: with or without double quotes, blanks at its ends do not count. `argomento`: one word, put between
-    /// double quotes if it holds a blank and has none; empty for none.
+    /// `programma`: with or without double quotes, blanks at its ends do not count. `argomento`: the rest of the
+    /// command line, which goes as it stands, blanks included and without quotes around it; empty for none.
     bool avvia(const std::string& programma, const std::string& argomento) override;
 };
 

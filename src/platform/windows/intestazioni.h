@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
-// These two want the first one before them.
+// These want the first one before them.
+#include <objbase.h>
+#include <oleauto.h>
 #include <shellapi.h>
 #include <shlobj.h>

@@ -52,6 +52,8 @@ constexpr std::array viste{
     VoceVista{"frmOPZrelazione", vista_frmOPZrelazione},
     VoceVista{"frmRelazioneProgressBar", vista_frmRelazioneProgressBar},
     VoceVista{"frmEsportaDXF", vista_frmEsportaDXF},
+    VoceVista{"frmKCAD", vista_frmKCAD},
+    VoceVista{"frmLinkACAD", vista_frmLinkACAD},
 };
 
 }  // namespace

@@ -156,9 +156,20 @@ TEST(ApriDocumentiWindows, AProgramIsStartedWithAndWithoutQuotes) {
     scriviContenuto(programma, "@echo off\r\ncopy /y %0 %1 >nul\r\n");
     EXPECT_TRUE(documenti.avvia("\"" + programma + "\" ", cartella.file("primo")));
     EXPECT_TRUE(compare(cartella.file("primo")));
-    EXPECT_TRUE(documenti.avvia(programma, cartella.file("secondo con blank")));
+    EXPECT_TRUE(documenti.avvia(programma, "\"" + cartella.file("secondo con blank") + "\""));
     EXPECT_TRUE(compare(cartella.file("secondo con blank")));
     EXPECT_FALSE(documenti.avvia("\"" + cartella.file("manca.exe") + "\"", {}));
+}
+
+TEST(ApriDocumentiWindows, TheRestOfACommandLineGoesAsItStands) {
+    const CartellaTemporanea cartella;
+    ApriDocumentiWindows documenti;
+    const std::string programma = cartella.file("Riga con blank.bat");
+    scriviContenuto(programma, "@echo off\r\necho [%*]>\"%~dp0riga.nuova\"\r\nren \"%~dp0riga.nuova\" riga\r\n");
+    EXPECT_TRUE(documenti.avvia(programma, "C:\\i miei\\Piazza.klv"));
+    ASSERT_TRUE(compare(cartella.file("riga")));
+    EXPECT_EQ(contenuto(cartella.file("riga")), "[C:\\i miei\\Piazza.klv]\r\n");
+    EXPECT_FALSE(documenti.avvia(cartella.file("manca.exe"), "x"));
 }
 
 TEST(ApriDocumentiWindows, ADocumentIsOpenedByWhatBelongsToIt) {
