@@ -3,6 +3,8 @@
 #include <QtCore/QString>
 #include <QtGui/QPixmap>
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <string>
 
 class QWidget;
@@ -15,6 +17,12 @@ public:
     /// Makes the folder where it is missing. Raises std::filesystem::filesystem_error where it cannot.
     explicit Fotografo(const std::string& cartella);
 
+    /// Which part of a picture is written.
+    enum class Parte { intera, finestra };
+    /// Only the pictures named are taken from now on, each in the part told; `finestra` answers where the window of the
+    /// work area stands in the main window, in logical pixels.
+    void solo(std::map<std::string, Parte> elenco, std::function<QRect()> finestra);
+
     /// Lets all pending work run, then writes "<name>.png"; the picture has the size of the widget in device pixels.
     void scatta(QWidget& oggetto, const std::string& nome);
     /// The same with another widget laid over the first, its corner at `posto`.
@@ -26,8 +34,12 @@ public:
 
 private:
     void scrivi(const QPixmap& immagine, const std::string& nome);
+    bool voluta(const std::string& nome) const;
 
     std::filesystem::path cartella_;
+    bool tutte_ = true;
+    std::map<std::string, Parte> elenco_;
+    std::function<QRect()> finestra_;
     int scritte_ = 0;
     std::string fallite_;
 };

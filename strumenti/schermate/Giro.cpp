@@ -12,6 +12,9 @@
 #include <QtWidgets/QMenuBar>
 #include <array>
 #include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
 
 #include "base/file.h"
 #include "input/frmMatriceSvolte.h"
@@ -20,6 +23,7 @@
 #include "shell/frmSplash.h"
 #include "shell/registroFinestre.h"
 #include "shell/servizi/tBox.h"
+#include "ui/VistaFinestra.h"
 #include "ui/legami.h"
 #include "ui/serviziQt.h"
 
@@ -72,6 +76,22 @@ constexpr const char* svolteCSV =
 constexpr int passiElenco = 20;
 constexpr int passoElenco = 10;  ///< ms
 
+/// The pictures that a file names, one a line, each with the part that is wanted of it.
+std::map<std::string, Fotografo::Parte> leggiElenco(const std::string& percorso) {
+    std::map<std::string, Fotografo::Parte> elenco;
+    std::ifstream file(percorso);
+    for (std::string riga; std::getline(file, riga);) {
+        std::istringstream parole(riga);
+        std::string nome;
+        std::string parte;
+        if (parole >> nome) {
+            parole >> parte;
+            elenco[nome] = parte == "finestra" ? Fotografo::Parte::finestra : Fotografo::Parte::intera;
+        }
+    }
+    return elenco;
+}
+
 std::string nomeDi(const std::string& percorso) {
     return std::filesystem::path(percorso).stem().string();
 }
@@ -100,6 +120,13 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
     vista_.resize(richiesta.larghezza, richiesta.altezza);
     vista_.mostraCornice();
     QApplication::setActiveWindow(&vista_);
+    if (!richiesta.elenco.empty()) {
+        fotografo_.solo(leggiElenco(richiesta.elenco), [this] {
+            const QWidget* finestra = vista_.vistaCorrente();
+            return finestra == nullptr ? vista_.rect()
+                                       : QRect(finestra->mapTo(&vista_, QPoint(0, 0)), finestra->size());
+        });
+    }
 }
 
 std::string Giro::percorri() {
