@@ -11,7 +11,7 @@ namespace kelvo::guida {
 namespace {
 
 constexpr double rientroSezione = 16.0 * punto;
-constexpr double largoNumero = 26.0 * punto;
+constexpr double largoNumero = 30.0 * punto;
 constexpr double largoPagina = 30.0 * punto;
 
 using Dipinto = std::function<void(QPainter&)>;
@@ -34,8 +34,8 @@ Dipinto copertina(const Documento& documento, const Dicitura& dicitura) {
         scritta(pennello, documento.sottotitolo, {.punti = 13.0, .colore = Qt::white},
                 {x, fascia - 26.0 * millimetro, larghezzaTesto, 20.0 * millimetro});
         if (dicitura.disegno) {
-            const double lato = 118.0 * millimetro;
-            dicitura.disegno(pennello, {(larghezzaFoglio - lato) / 2.0, fascia + 16.0 * millimetro, lato, lato});
+            const double lato = 140.0 * millimetro;
+            dicitura.disegno(pennello, {(larghezzaFoglio - lato) / 2.0, fascia + 8.0 * millimetro, lato, lato});
         }
         scritta(pennello, QStringLiteral("Versione ") + dicitura.versione,
                 {.punti = 11.0, .forte = true, .colore = qcolore(tinta::titolo)},
@@ -103,7 +103,7 @@ private:
         aDestra.lato = Qt::AlignRight;
         const auto pagina = componi(collegata(QString::number(prima_ + voce.pagina + 1)), aDestra, largoPagina);
         guida::dipingi(pennello, *numero, 0, 1, {x, y});
-        const double dopo = x + (capitolo ? largoNumero - 4.0 * punto : largoNumero);
+        const double dopo = x + (capitolo ? largoNumero - 8.0 * punto : largoNumero);
         guida::dipingi(pennello, *parole, 0, 1, {dopo, y});
         const double destra = margineLato + larghezzaTesto;
         guida::dipingi(pennello, *pagina, 0, 1, {destra - largoPagina, y});
@@ -167,6 +167,9 @@ Fogli fogliDi(const Documento& documento, const std::vector<Pezzo>& pezzi, const
         });
     }
     for (const VoceIndice& voce : testo->voci) {
+        if (!voce.titolo->ancora.isEmpty()) {
+            fatti.ancore.push_back({voce.titolo->ancora, davanti + voce.pagina, voce.y});
+        }
         if (voce.titolo->livello <= 2) {
             const QString numero =
                 voce.titolo->numero.isEmpty() || !documento.indice ? QString{} : voce.titolo->numero + QLatin1Char(' ');

@@ -26,6 +26,13 @@ struct Fogli {
         int foglio = 0;
     };
     std::vector<Segnalibro> segnalibri;
+    /// Where the anchors stand that links lead to.
+    struct Ancora {
+        QString nome;
+        int foglio = 0;
+        double y = 0.0;  ///< from the upper edge of the sheet
+    };
+    std::vector<Ancora> ancore;
 };
 
 Fogli fogliDi(const Documento& documento, const std::vector<Pezzo>& pezzi, const Dicitura& dicitura);

@@ -84,12 +84,12 @@ void dipingiEsempio(QPainter& pennello, const QRectF& dove, const QString& proge
     if (!esito) {
         guasto(QString::fromStdString(messaggio));
     }
-    constexpr double scala = 7.5;  // a pixel of the screen in units of a page
+    constexpr double scala = 12.0;  // a pixel of the screen in units of a page
     pennello.save();
     pennello.translate(dove.topLeft());
     pennello.scale(scala, scala);
     disegno::dipingiPianta(pennello, pianta::costruisci(pianta::datiPianta(rotonda)),
-                           QRectF(QPointF(0.0, 0.0), dove.size() / scala));
+                           QRectF(QPointF(0.0, 0.0), dove.size() / scala), {.testi = false});
     pennello.restore();
 }
 

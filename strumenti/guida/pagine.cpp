@@ -40,7 +40,7 @@ private:
         }
     }
 
-    /// The pictures that wait for a page get theirs.
+    /// The pictures that wait for a page get theirs: at the end of a chapter.
     void scarica() {
         while (!rimandate_.empty()) {
             nuova();
@@ -52,22 +52,28 @@ private:
             posa(*pezzo.testata);
         }
         y_ += vuota() ? 0.0 : pezzo.prima;
-        fatto_.pagine.back().posti.push_back({QPointF(margineLato, margineAlto + y_), pezzo.dipingi});
+        const double y = margineAlto + y_;
+        fatto_.pagine.back().posti.push_back({QPointF(margineLato, y), pezzo.dipingi});
         y_ += pezzo.alto;
         if (pezzo.titolo != nullptr) {
             if (pezzo.titolo->livello == 1) {
                 fatto_.pagine.back().capitolo = pezzo.titolo->testo;
             }
-            fatto_.voci.push_back({pezzo.titolo, static_cast<int>(fatto_.pagine.size()) - 1});
+            fatto_.voci.push_back({pezzo.titolo, static_cast<int>(fatto_.pagine.size()) - 1, y});
         }
     }
 
-    /// Height from a piece on that stays together.
+    /// Height from a piece on that stays together. A picture below a heading may go on past the text that follows it,
+    /// but not past another heading.
     double unito(std::size_t i) const {
         double alto = pezzi_[i].alto + (vuota() ? 0.0 : pezzi_[i].prima);
-        while (i + 1 < pezzi_.size() && pezzi_[i].conSeguente) {
-            ++i;
-            alto += pezzi_[i].prima + pezzi_[i].alto;
+        bool legato = pezzi_[i].conSeguente;
+        while (legato && ++i < pezzi_.size()) {
+            const bool passa = pezzi_[i].entro && i + 1 < pezzi_.size() && pezzi_[i + 1].titolo == nullptr;
+            if (!passa) {
+                alto += pezzi_[i].prima + pezzi_[i].alto;
+                legato = pezzi_[i].conSeguente;
+            }
         }
         return alto;
     }
@@ -87,10 +93,6 @@ private:
         if (pezzo.entro) {
             figura(pezzo);
             return;
-        }
-        const bool sezione = pezzo.titolo != nullptr && pezzo.titolo->livello <= 2;
-        if (sezione && !rimandate_.empty()) {
-            scarica();
         }
         // What belongs to the piece before stays with it: that one found room for both.
         const bool stretta = unito(i) > resto() && !legato_;

@@ -22,6 +22,7 @@ struct Pagina {
 struct VoceIndice {
     const Titolo* titolo = nullptr;
     int pagina = 0;
+    double y = 0.0;  ///< its upper edge
 };
 
 struct Impaginato {
@@ -29,8 +30,8 @@ struct Impaginato {
     std::vector<VoceIndice> voci;
 };
 
-/// Lays the pieces out on pages. A picture that finds no room goes to the head of the next page, past the text of its
-/// section that follows.
+/// Lays the pieces out on pages. A picture that finds no room goes to the head of the next page of its chapter, past
+/// the text that follows.
 Impaginato impagina(const std::vector<Pezzo>& pezzi);
 
 }  // namespace kelvo::guida

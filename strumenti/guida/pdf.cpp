@@ -94,6 +94,7 @@ public:
         const int info = numero(coda, QStringLiteral(R"(/Info (\d+) 0 R)"));
         QByteArray catalogo = contenuto(radice_);
         const QList<int> pagine = paginePrime(catalogo);
+        collega(fogli, pagine);
         const int lista = segnalibri(fogli, pagine);
         catalogo.insert(catalogo.lastIndexOf(">>"), "/Lang " + stringa(proprieta.lingua) + "\n/Outlines " +
                                                         riferimento(lista) + "\n/PageMode /UseOutlines\n");
@@ -135,6 +136,33 @@ private:
             pagine << trovate.next().captured(1).toInt();
         }
         return pagine;
+    }
+
+    /// Links to anchors, which the writer takes for addresses, lead to their places on the pages.
+    void collega(const Fogli& fogli, const QList<int>& pagine) {
+        QMap<QByteArray, QByteArray> mete;
+        for (const Fogli::Ancora& ancora : fogli.ancore) {
+            constexpr double sopra = 6.0;
+            const double y = (altezzaFoglio - ancora.y) / punto + sopra;
+            mete[ancora.nome.toUtf8()] = "/Dest [" + riferimento(pagine.at(ancora.foglio)) + " /XYZ null " +
+                                         QByteArray::number(y, 'f', 1) + " null]\n";
+        }
+        const QByteArray azione("/A <<\n/Type /Action\n/S /URI\n/URI (#");
+        QMap<int, QByteArray> nuovi;
+        for (qsizetype qui = pdf_.indexOf(azione); qui >= 0; qui = pdf_.indexOf(azione, qui + 1)) {
+            const qsizetype nome = qui + azione.size();
+            const QByteArray ancora = pdf_.mid(nome, pdf_.indexOf(')', nome) - nome);
+            const qsizetype inizio = pdf_.lastIndexOf(" 0 obj", qui);
+            const qsizetype riga = pdf_.lastIndexOf('\n', inizio) + 1;
+            if (!mete.contains(ancora)) {
+                guasto("un legame non porta a nulla");
+            }
+            nuovi[pdf_.mid(riga, inizio - riga).toInt()] =
+                pdf_.mid(inizio + 7, qui - inizio - 7) + mete.value(ancora) + ">>\n";
+        }
+        for (auto uno = nuovi.cbegin(); uno != nuovi.cend(); ++uno) {
+            oggetto(uno.key(), uno.value());
+        }
     }
 
     /// The list of chapters with their sections; answers its object.

@@ -21,8 +21,9 @@ void lasciaCorrere() {
     }
 }
 
-void Fotografo::solo(std::map<std::string, Parte> elenco, std::function<QRect()> finestra) {
+void Fotografo::solo(std::map<std::string, Parte> elenco, const QWidget& principale, std::function<QRect()> finestra) {
     tutte_ = false;
+    principale_ = &principale;
     elenco_ = std::move(elenco);
     finestra_ = std::move(finestra);
 }
@@ -37,7 +38,7 @@ void Fotografo::scatta(QWidget& oggetto, const std::string& nome) {
     }
     oggetto.activateWindow();  // no window manager gives it the keyboard back
     lasciaCorrere();
-    scrivi(oggetto.grab(), nome);
+    scrivi(oggetto.grab(), nome, oggetto);
 }
 
 void Fotografo::scatta(QWidget& oggetto, QWidget& sopra, QPoint posto, const std::string& nome) {
@@ -49,15 +50,16 @@ void Fotografo::scatta(QWidget& oggetto, QWidget& sopra, QPoint posto, const std
     QPainter pennello(&immagine);
     pennello.drawPixmap(posto, sopra.grab());
     pennello.end();
-    scrivi(immagine, nome);
+    scrivi(immagine, nome, oggetto);
 }
 
-void Fotografo::scrivi(const QPixmap& immagine, const std::string& nome) {
+void Fotografo::scrivi(const QPixmap& immagine, const std::string& nome, const QWidget& oggetto) {
     const std::filesystem::path file = cartella_ / (nome + ".png");
     constexpr int piuStretto = 0;  // the smallest file
     constexpr int piuRapido = 80;  // of a picture that is an errand of the build
     QImage opaca = immagine.toImage().convertToFormat(QImage::Format_RGB888);
-    if (const auto voce = elenco_.find(nome); voce != elenco_.end() && voce->second == Parte::finestra) {
+    if (const auto voce = elenco_.find(nome);
+        &oggetto == principale_ && voce != elenco_.end() && voce->second == Parte::finestra) {
         const double scala = immagine.devicePixelRatio();
         const QRect dove = finestra_();
         opaca = opaca.copy(

@@ -19,9 +19,9 @@ public:
 
     /// Which part of a picture is written.
     enum class Parte { intera, finestra };
-    /// Only the pictures named are taken from now on, each in the part told; `finestra` answers where the window of the
-    /// work area stands in the main window, in logical pixels.
-    void solo(std::map<std::string, Parte> elenco, std::function<QRect()> finestra);
+    /// Only the pictures named are taken from now on, those of the main window in the part told; `finestra` answers
+    /// where the window of its work area stands in it, in logical pixels.
+    void solo(std::map<std::string, Parte> elenco, const QWidget& principale, std::function<QRect()> finestra);
 
     /// Lets all pending work run, then writes "<name>.png"; the picture has the size of the widget in device pixels.
     void scatta(QWidget& oggetto, const std::string& nome);
@@ -33,12 +33,13 @@ public:
     const std::string& fallite() const { return fallite_; }
 
 private:
-    void scrivi(const QPixmap& immagine, const std::string& nome);
+    void scrivi(const QPixmap& immagine, const std::string& nome, const QWidget& oggetto);
     bool voluta(const std::string& nome) const;
 
     std::filesystem::path cartella_;
     bool tutte_ = true;
     std::map<std::string, Parte> elenco_;
+    const QWidget* principale_ = nullptr;
     std::function<QRect()> finestra_;
     int scritte_ = 0;
     std::string fallite_;

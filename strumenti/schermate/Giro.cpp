@@ -121,7 +121,7 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
     vista_.mostraCornice();
     QApplication::setActiveWindow(&vista_);
     if (!richiesta.elenco.empty()) {
-        fotografo_.solo(leggiElenco(richiesta.elenco), [this] {
+        fotografo_.solo(leggiElenco(richiesta.elenco), vista_, [this] {
             const QWidget* finestra = vista_.vistaCorrente();
             return finestra == nullptr ? vista_.rect()
                                        : QRect(finestra->mapTo(&vista_, QPoint(0, 0)), finestra->size());
