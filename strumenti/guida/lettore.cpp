@@ -126,6 +126,12 @@ private:
             documento_.blocchi << fonti_.tavola(argomento);
         } else if (nome == QStringLiteral("@uscita")) {
             documento_.blocchi << Codice{fonti_.uscita(argomento)};
+        } else if (nome == QStringLiteral("@uscitaFacoltativa")) {
+            try {
+                documento_.blocchi << Codice{fonti_.uscita(argomento)};
+            } catch (const std::runtime_error&) {
+                return;  // a program without that command
+            }
         } else if (nome == QStringLiteral("@documento")) {
             sezioneAltrui(argomento);
         } else if (nome == QStringLiteral("@pagina")) {

@@ -22,6 +22,7 @@ struct Fonti {
 ///     | table | (second row: |---|---:|)        $$ formula $$
 ///     ![caption](picture){intera facoltativa larghezza=0.6 ritaglio=x,y,w,h}
 ///     @includi FILE   @tavola NAME   @uscita COMMAND   @documento FILE # Heading   @pagina
+///     @uscitaFacoltativa COMMAND, of a command that not every build of the program has
 ///
 /// Raises std::runtime_error with file and line for what it cannot read.
 Documento leggi(const QString& percorso, const Fonti& fonti);

@@ -62,17 +62,42 @@ QStringList nomiPossibili(const QString& nome) {
     return {nome, nome + QLatin1Char('-') + QLatin1String(progettoImmagini)};
 }
 
-QImage immagine(const Cartelle& cartelle, const QString& nome) {
+QImage una(const Cartelle& cartelle, const QString& nome) {
     if (nome.endsWith(QStringLiteral(".svg"))) {
         return disegno(cartelle.figure + QLatin1Char('/') + nome);
     }
-    for (const QString& uno : nomiPossibili(nome)) {
-        QImage letta(cartelle.immagini + QLatin1Char('/') + uno + QStringLiteral(".png"));
+    for (const QString& possibile : nomiPossibili(nome)) {
+        QImage letta(cartelle.immagini + QLatin1Char('/') + possibile + QStringLiteral(".png"));
         if (!letta.isNull()) {
             return letta;
         }
     }
     return {};
+}
+
+/// A picture, or several side by side ("A.svg+B.svg") as high as the first; null where one of them is missing.
+QImage immagine(const Cartelle& cartelle, const QString& nomi) {
+    constexpr int distacco = 30;
+    QImage insieme;
+    for (const QString& nome : nomi.split(QLatin1Char('+'))) {
+        const QImage letta = una(cartelle, nome);
+        if (letta.isNull() || insieme.isNull()) {
+            insieme = letta;
+        } else {
+            const QImage accanto = letta.scaledToHeight(insieme.height(), Qt::SmoothTransformation);
+            QImage nuova(insieme.width() + distacco + accanto.width(), insieme.height(), QImage::Format_RGB32);
+            nuova.fill(Qt::white);
+            QPainter pennello(&nuova);
+            pennello.drawImage(0, 0, insieme);
+            pennello.drawImage(insieme.width() + distacco, 0, accanto);
+            pennello.end();
+            insieme = nuova;
+        }
+        if (letta.isNull()) {
+            return {};
+        }
+    }
+    return insieme;
 }
 
 void dipingiEsempio(QPainter& pennello, const QRectF& dove, const QString& progetti) {

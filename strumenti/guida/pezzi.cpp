@@ -78,6 +78,7 @@ public:
         const auto testo = componi(paragrafo.testo, veste, larghezzaTesto, numeri_);
         righe(testo, 0.0, sopraParagrafo, {});
         pezzi_.back().conSeguente = paragrafo.testo.endsWith(QLatin1Char(':'));
+        paragrafo_ = pezzi_.size();
     }
 
     void operator()(const Elenco& elenco) {
@@ -91,9 +92,13 @@ public:
         }
     }
 
-    void operator()(const Tabella& tabella) { righeTabella(tabella, numeri_, pezzi_); }
+    void operator()(const Tabella& tabella) {
+        legaParagrafo();
+        righeTabella(tabella, numeri_, pezzi_);
+    }
 
     void operator()(const Codice& codice) {
+        legaParagrafo();
         const QStringList tutte = codice.testo.split(QLatin1Char('\n'));
         qsizetype lunga = 1;
         for (const QString& riga : tutte) {
@@ -124,6 +129,7 @@ public:
     }
 
     void operator()(const Formula& formula) {
+        legaParagrafo();
         const Scatola scatola = componiFormula(formula.sorgente);
         Pezzo pezzo{scatola.sopra + scatola.sotto, sopraParagrafo + 2.0 * punto, false, {}, {}, nullptr, false, {}};
         pezzo.dipingi = [scatola](QPainter& pennello, QPointF dove) {
@@ -180,6 +186,13 @@ public:
     }
 
 private:
+    /// A paragraph stays with what it leads to.
+    void legaParagrafo() {
+        if (paragrafo_ > 0 && paragrafo_ == pezzi_.size()) {
+            pezzi_.back().conSeguente = true;
+        }
+    }
+
     static Pezzo figuraAlta_(const QImage& immagine, const std::shared_ptr<QTextLayout>& parole, double alta) {
         const double larga = alta * immagine.width() / immagine.height();
         Pezzo pezzo{
@@ -220,6 +233,7 @@ private:
     const Immagini& immagini_;
     Numeri numeri_;
     std::vector<Pezzo> pezzi_;
+    std::size_t paragrafo_ = 0;  ///< how many pieces there were behind the last paragraph
 };
 
 }  // namespace

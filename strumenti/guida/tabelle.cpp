@@ -11,6 +11,7 @@ namespace {
 constexpr double ariaLato = 4.5 * punto;
 constexpr double ariaAlto = 3.0 * punto;
 constexpr double sopraTabella = 8.0 * punto;
+constexpr int righeUnite = 16;  ///< a table of so many rows is not parted
 
 using Colonne = std::vector<double>;
 
@@ -115,7 +116,7 @@ void righeTabella(const Tabella& tabella, const Numeri& numeri, std::vector<Pezz
     for (qsizetype i = 0; i < n; ++i) {
         Pezzo pezzo = riga(tabella.righe[i], tabella, colonne, veste, numeri,
                            i % 2 == 0 ? QColor(Qt::white) : qcolore(tinta::fondo));
-        pezzo.conSeguente = (i == 0 && n > 1) || (i + 2 == n);
+        pezzo.conSeguente = i + 1 < n && (n <= righeUnite || i == 0 || i + 3 >= n);
         pezzo.testata = testata;
         pezzi.push_back(std::move(pezzo));
     }

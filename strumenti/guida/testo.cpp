@@ -12,11 +12,18 @@ namespace {
 constexpr double corpoFisso = 0.86;  ///< letters of one width beside the others
 constexpr Colore inchiostroFisso{0, 86, 143};
 
+/// Letters stay apart, so that words are found in the file as they are written: any letter spacing does it.
+void senzaLegature(QFont& fatto) {
+    constexpr double minima = 1.0 / 32.0;
+    fatto.setLetterSpacing(QFont::AbsoluteSpacing, minima);
+}
+
 QFont famiglie(const QStringList& nomi, double punti) {
     QFont fatto;
     fatto.setFamilies(nomi);
     fatto.setPixelSize(std::max(1, static_cast<int>(std::lround(punti * punto))));
     fatto.setHintingPreference(QFont::PreferNoHinting);
+    senzaLegature(fatto);
     return fatto;
 }
 
@@ -169,6 +176,7 @@ QFont carattere(double punti, const Faccia& faccia) {
     QFont fatto = faccia.forte ? disegno::forte(punti * punto) : disegno::dati(punti * punto);
     fatto.setItalic(faccia.corsivo);
     fatto.setHintingPreference(QFont::PreferNoHinting);
+    senzaLegature(fatto);
     return fatto;
 }
 

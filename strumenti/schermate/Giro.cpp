@@ -18,6 +18,7 @@
 
 #include "base/file.h"
 #include "input/frmMatriceSvolte.h"
+#include "input/frmPreviewMatriceSvolte.h"
 #include "input/frmPreviewRami.h"
 #include "shell/finestrePerChiave.h"
 #include "shell/frmSplash.h"
@@ -101,6 +102,7 @@ std::string nomeDi(const std::string& percorso) {
 Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, SistemaFile& file)
     : richiesta_(richiesta),
       progetti_(richiesta.progetti.empty() ? installazione.esempi() : richiesta.progetti),
+      orologio_(!richiesta.elenco.empty()),
       cartellaLavoro_(installazione.lavoro()),
       app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
       cornice_(app_, stato_, {vista_, dialogo_, documenti_, impostazioni_, cronometro_, installazione.recupero()}),
@@ -281,6 +283,8 @@ void Giro::ritrai(FinestraAnteprima& finestra, const RichiestaFile& richiesta, c
 void Giro::anteprima(const std::string& percorso) {
     frmPreviewRami rami(cornice_.contorno());
     ritrai(rami, AnteprimaProgetto::richiesta({}), percorso, [&] { rami.lstRami.clicca("1"); });
+    frmPreviewMatriceSvolte svolte(cornice_.contorno());
+    ritrai(svolte, AnteprimaProgetto::richiesta({}), percorso, [] {});
     frmMatriceSvolte matrice(cornice_.contorno(), anteprima_);
     matrice.attivata();
     frmImportaCSV importa(cornice_.contorno(), matrice.bersaglioCSV());
