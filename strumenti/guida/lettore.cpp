@@ -127,17 +127,27 @@ private:
         } else if (nome == QStringLiteral("@uscita")) {
             documento_.blocchi << Codice{fonti_.uscita(argomento)};
         } else if (nome == QStringLiteral("@uscitaFacoltativa")) {
-            try {
-                documento_.blocchi << Codice{fonti_.uscita(argomento)};
-            } catch (const std::runtime_error&) {
-                return;  // a program without that command
-            }
+            facoltativa(argomento);
         } else if (nome == QStringLiteral("@documento")) {
             sezioneAltrui(argomento);
         } else if (nome == QStringLiteral("@pagina")) {
             documento_.blocchi << NuovaPagina{};
         } else {
             errore(QStringLiteral("comando sconosciuto '%1'").arg(nome));
+        }
+    }
+
+    /// A program without the command refuses it, or tells how it is used as a whole.
+    void facoltativa(const QString& argomento) {
+        const QString comando = QStringLiteral("kelvo-cli ") + argomento.section(QLatin1Char(' '), 0, 0);
+        QString uscita;
+        try {
+            uscita = fonti_.uscita(argomento);
+        } catch (const std::runtime_error&) {
+            return;
+        }
+        if (uscita.contains(comando)) {
+            documento_.blocchi << Codice{uscita};
         }
     }
 

@@ -1,6 +1,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QHash>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
@@ -170,6 +171,8 @@ void componi(const guida::Documento& documento, const Cartelle& cartelle, const 
 /// kelvo-guida --elenco SOURCE LIST: writes the names of the pictures that they ask for.
 int main(int argc, char** argv) {
     try {
+        // Fonts go into the file in the order of a table whose order would be another in every run.
+        QHashSeed::setDeterministicGlobalSeed();
         const QString programma = QStringLiteral(KELVO_CARTELLA);
         const disegno::AmbienteDisegno ambiente((programma + QStringLiteral("/Caratteri")).toStdString());
         QFontDatabase::addApplicationFont(QStringLiteral(KELVO_OPEN_SANS "/OpenSans-Italic.ttf"));

@@ -25,7 +25,7 @@ constexpr double barraAvviso = 3.0 * punto;
 constexpr double ariaCodice = 5.0 * punto;
 constexpr double pixelFigura = 0.44 * punto;  ///< length of a logical pixel of the program on paper
 constexpr double pixelPerLogico = 2.0;        ///< device pixels of a picture to a logical one
-constexpr double figuraAlta = 0.46;           ///< of the height of the text, at most
+constexpr double figuraAlta = 0.43;           ///< of the height of the text, at most
 constexpr int codiceUnito = 34;               ///< lines that stay together
 
 class Costruttore {

@@ -24,7 +24,7 @@ inline constexpr double altezzaTesto = altezzaFoglio - margineAlto - margineBass
 
 namespace corpo {
 inline constexpr double testo = 9.5;
-inline constexpr double codice = 7.6;
+inline constexpr double codice = 7.2;
 inline constexpr double tabella = 8.5;
 inline constexpr double didascalia = 8.5;
 inline constexpr double formula = 11.0;

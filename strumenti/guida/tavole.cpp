@@ -64,7 +64,9 @@ Tabella scorciatoie() {
     for (const ScorciatoiaAggiunta& aggiunta : scorciatoieAggiunte) {
         tavola.righe << QStringList{tasti(aggiunta.tasti), testoDi(aggiunta.chiave)};
     }
-    tavola.righe << QStringList{tasti(tastoGuida), QStringLiteral("L'aiuto del campo o della finestra in uso; senza un progetto, questa guida")};
+    tavola.righe << QStringList{
+        tasti(tastoGuida),
+        QStringLiteral("L'aiuto del campo o della finestra in uso; senza un progetto, questa guida")};
     tavola.righe << QStringList{tasti(tastoAlbero), QStringLiteral("Passa dall'albero alla finestra e ritorno")};
     for (const ScorciatoiaTasto& tasto : scorciatoieTasti) {
         const auto* const trovata =

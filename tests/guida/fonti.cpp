@@ -1,13 +1,33 @@
 #include "guida/fonti.h"
 
+#include <gtest/gtest.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <memory>
 
 #include "comune/cartella.h"
+#include "disegno/AmbienteDisegno.h"
 #include "guida/tavole.h"
 
 namespace kelvo::prove {
+
+namespace {
+
+/// The faces, for whatever is measured.
+class Caratteri final : public testing::Environment {
+public:
+    void SetUp() override { ambiente_ = std::make_unique<disegno::AmbienteDisegno>(KELVO_CARTELLA "/Caratteri"); }
+    void TearDown() override { ambiente_.reset(); }
+
+private:
+    std::unique_ptr<disegno::AmbienteDisegno> ambiente_;
+};
+
+const testing::Environment* const caratteri = testing::AddGlobalTestEnvironment(new Caratteri);
+
+}  // namespace
 
 QString fonte(const QString& nome) {
     return QStringLiteral(KELVO_SORGENTI "/assets/Guida/") + nome;

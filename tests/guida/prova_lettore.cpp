@@ -85,6 +85,21 @@ TEST(Lettore, ALinkThatLeadsNowhereIsTold) {
     EXPECT_EQ(guida::legamiRotti(documento), (QStringList{QStringLiteral("due"), QStringLiteral("tre")}));
 }
 
+TEST(Lettore, AnOptionalOutputIsLeftOutWhereTheProgramHasNoSuchCommand) {
+    guida::Fonti fonti = fontiVuote();
+    fonti.uscita = [](const QString& comando) {
+        if (comando == QStringLiteral("rotto --help")) {
+            throw std::runtime_error("rotto");
+        }
+        return QStringLiteral("Uso: kelvo-cli calcola FILE");
+    };
+    const Documento documento = daTesto(
+        testa + "@uscitaFacoltativa rotto --help\n@uscitaFacoltativa altro --help\n@uscitaFacoltativa calcola --help\n",
+        fonti);
+    ASSERT_EQ(documento.blocchi.size(), 1);
+    EXPECT_EQ(unico<guida::Codice>(documento).testo, QStringLiteral("Uso: kelvo-cli calcola FILE"));
+}
+
 TEST(Lettore, UnknownCommandsAndTablesAreRefused) {
     EXPECT_THROW(daTesto(testa + "@volta\n"), std::runtime_error);
     EXPECT_THROW(daTesto(testa + "@tavola nessuna\n"), std::runtime_error);

@@ -163,7 +163,7 @@ TEST(FilePDF, TheSameSourcesGiveTheSameBytes) {
     const Esito esito =
         esegui({KELVO_GUIDA, fonte(QStringLiteral("DM19-04-06.md")).toStdString(), cartella.file("altro.pdf")});
     ASSERT_EQ(esito.codice, 0) << esito.errori;
-    EXPECT_EQ(contenuto(cartella.file("altro.pdf")), contenuto(fileDecreto));
+    EXPECT_TRUE(contenuto(cartella.file("altro.pdf")) == contenuto(fileDecreto)) << "other bytes";
 }
 
 TEST(FilePDF, ASourceThatCannotBeReadLeavesNoFile) {
