@@ -11,7 +11,7 @@ namespace {
 constexpr double ariaLato = 4.5 * punto;
 constexpr double ariaAlto = 3.0 * punto;
 constexpr double sopraTabella = 8.0 * punto;
-constexpr int righeUnite = 16;  ///< a table of so many rows is not parted
+constexpr int righeUnite = 12;  ///< a table of so many rows is not parted
 
 using Colonne = std::vector<double>;
 
