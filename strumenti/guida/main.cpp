@@ -139,6 +139,10 @@ void elenca(const guida::Documento& documento, const QString& uscita) {
             righe += nome.toUtf8() + (chiesta.intera ? " intera\n" : " finestra\n");
         }
     }
+    // What is as it was stays untouched: no picture has to be taken again.
+    if (QFile::exists(uscita) && testoDi(uscita).toUtf8() == righe) {
+        return;
+    }
     QFile file(uscita);
     if (!file.open(QIODevice::WriteOnly) || file.write(righe) != righe.size()) {
         guasto(uscita + QStringLiteral(": il file non si scrive"));
