@@ -12,15 +12,20 @@
 #include <QtWidgets/QMenuBar>
 #include <array>
 #include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
 
 #include "base/file.h"
 #include "cad/frmLinkACAD.h"
 #include "input/frmMatriceSvolte.h"
+#include "input/frmPreviewMatriceSvolte.h"
 #include "input/frmPreviewRami.h"
 #include "shell/finestrePerChiave.h"
 #include "shell/frmSplash.h"
 #include "shell/registroFinestre.h"
 #include "shell/servizi/tBox.h"
+#include "ui/VistaFinestra.h"
 #include "ui/legami.h"
 #include "ui/serviziQt.h"
 
@@ -76,6 +81,22 @@ constexpr const char* progettoMostrato = "C:\\Rotatorie\\Progetti\\Rotatoria_Via
 constexpr int passiElenco = 20;
 constexpr int passoElenco = 10;  ///< ms
 
+/// The pictures that a file names, one a line, each with the part that is wanted of it.
+std::map<std::string, Fotografo::Parte> leggiElenco(const std::string& percorso) {
+    std::map<std::string, Fotografo::Parte> elenco;
+    std::ifstream file(percorso);
+    for (std::string riga; std::getline(file, riga);) {
+        std::istringstream parole(riga);
+        std::string nome;
+        std::string parte;
+        if (parole >> nome) {
+            parole >> parte;
+            elenco[nome] = parte == "finestra" ? Fotografo::Parte::finestra : Fotografo::Parte::intera;
+        }
+    }
+    return elenco;
+}
+
 std::string nomeDi(const std::string& percorso) {
     return std::filesystem::path(percorso).stem().string();
 }
@@ -85,6 +106,7 @@ std::string nomeDi(const std::string& percorso) {
 Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, SistemaFile& file)
     : richiesta_(richiesta),
       progetti_(richiesta.progetti.empty() ? installazione.esempi() : richiesta.progetti),
+      orologio_(!richiesta.elenco.empty()),
       cartellaLavoro_(installazione.lavoro()),
       app_(installazione.programma(), installazione.lavoro(), {detti_, orologio_, file}),
       cornice_(app_, stato_,
@@ -106,6 +128,13 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
     vista_.resize(richiesta.larghezza, richiesta.altezza);
     vista_.mostraCornice();
     QApplication::setActiveWindow(&vista_);
+    if (!richiesta.elenco.empty()) {
+        fotografo_.solo(leggiElenco(richiesta.elenco), vista_, [this] {
+            const QWidget* finestra = vista_.vistaCorrente();
+            return finestra == nullptr ? vista_.rect()
+                                       : QRect(finestra->mapTo(&vista_, QPoint(0, 0)), finestra->size());
+        });
+    }
 }
 
 std::string Giro::percorri() {
@@ -260,6 +289,8 @@ void Giro::ritrai(FinestraAnteprima& finestra, const RichiestaFile& richiesta, c
 void Giro::anteprima(const std::string& percorso) {
     frmPreviewRami rami(cornice_.contorno());
     ritrai(rami, AnteprimaProgetto::richiesta({}), percorso, [&] { rami.lstRami.clicca("1"); });
+    frmPreviewMatriceSvolte svolte(cornice_.contorno());
+    ritrai(svolte, AnteprimaProgetto::richiesta({}), percorso, [] {});
     frmMatriceSvolte matrice(cornice_.contorno(), anteprima_);
     matrice.attivata();
     frmImportaCSV importa(cornice_.contorno(), matrice.bersaglioCSV());

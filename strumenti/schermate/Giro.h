@@ -71,7 +71,7 @@ private:
     Richiesta richiesta_;
     std::vector<std::string> progetti_;
     MessaggiMuti detti_;
-    OrologioSistema orologio_;
+    OrologioMuto orologio_;
     DialogoMuto dialogo_;
     DocumentiMuti documenti_;
     ui::DialogoAnteprimaQt anteprima_;

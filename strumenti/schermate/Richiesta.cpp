@@ -51,6 +51,11 @@ std::string scriviProgetto(Richiesta& richiesta, const std::string& valore) {
     return {};
 }
 
+std::string scriviElenco(Richiesta& richiesta, const std::string& valore) {
+    richiesta.elenco = valore;
+    return {};
+}
+
 struct Opzione {
     std::string_view nome;
     std::string (*scrivi)(Richiesta&, const std::string&);  ///< answers what is wrong
@@ -59,6 +64,7 @@ constexpr std::array opzioni{
     Opzione{"--scala", scriviScala},
     Opzione{"--misura", scriviMisura},
     Opzione{"--progetto", scriviProgetto},
+    Opzione{"--elenco", scriviElenco},
 };
 
 }  // namespace
@@ -70,6 +76,8 @@ const char* const uso =
     "  --scala 1|1.25|1.5|2    pixel dello schermo per pixel logico (1)\n"
     "  --misura LxA            larghezza e altezza della finestra principale, in pixel logici (1440x900)\n"
     "  --progetto FILE         il progetto da aprire al posto degli esempi; si può ripetere\n"
+    "  --elenco FILE           solo le immagini che il file nomina, una per riga; dopo il nome la parola 'finestra'\n"
+    "                          lascia della finestra principale la sola finestra di lavoro\n"
     "  --aiuto                 mostra queste righe\n";
 
 Lettura leggiRichiesta(const std::vector<std::string>& parole) {

@@ -13,6 +13,7 @@ struct Richiesta {
     int larghezza = 1440;               ///< of the main window, logical pixels
     int altezza = 900;                  ///< of the main window, logical pixels
     std::vector<std::string> progetti;  ///< project files; empty for all the examples
+    std::string elenco;                 ///< file that names the pictures to take; empty for all
     bool aiuto = false;                 ///< only tell how the program is used
 };
 

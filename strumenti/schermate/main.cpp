@@ -50,6 +50,9 @@ std::string mancante(const Richiesta& richiesta) {
             return "il progetto '" + progetto + "' non c'è";
         }
     }
+    if (!richiesta.elenco.empty() && !std::filesystem::is_regular_file(richiesta.elenco)) {
+        return "l'elenco '" + richiesta.elenco + "' non c'è";
+    }
     if (std::filesystem::exists(richiesta.cartella) && !std::filesystem::is_directory(richiesta.cartella)) {
         return "'" + richiesta.cartella + "' non è una cartella";
     }

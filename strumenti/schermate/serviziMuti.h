@@ -7,9 +7,23 @@
 
 #include "app/servizi.h"
 #include "app/serviziSistema.h"
+#include "base/date.h"
 
 /// The outside of a program that nobody sits at: nothing is asked, nothing of the user's own is read or written.
 namespace kelvo::schermate {
+
+/// The time of the system, or one that stands still: what is pictured then does not hang on the day.
+class OrologioMuto final : public Orologio {
+public:
+    explicit OrologioMuto(bool fermo) : fermo_(fermo) {}
+    DataOra adesso() override {
+        constexpr double mattino = 10.5 / 24.0;
+        return fermo_ ? leggiData("16/09/2026").value_or(0.0) + mattino : kelvo::adesso();
+    }
+
+private:
+    bool fermo_;
+};
 
 /// Keeps what was told; every question gets the answer that changes least.
 class MessaggiMuti final : public FinestraMessaggi {

@@ -90,6 +90,28 @@ TEST(Schermate, EveryRegisteredWindowComesAsAPictureOfTheSizeAskedFor) {
     }
 }
 
+TEST(Schermate, AListTakesItsPicturesAloneAndCutsThemToTheWindowOfTheWorkArea) {
+    const CartellaTemporanea cartella;
+    const std::string progetto = "Rotatoria_Viale_della_Stazione";
+    scriviContenuto(cartella.file("elenco.txt"), "frmTempoModellazione-" + progetto + " finestra\nsenza-progetto\n" +
+                                                     "frmINFO finestra\nnon-esiste finestra\n");
+    const Esito esito = schermate({cartella.file("immagini"), "--misura", "1366x768", "--progetto", esempio(progetto),
+                                   "--elenco", cartella.file("elenco.txt")});
+    ASSERT_EQ(esito.codice, 0) << esito.errori;
+    int quante = 0;
+    for ([[maybe_unused]] const auto& voce : fs::directory_iterator(cartella.file("immagini"))) {
+        ++quante;
+    }
+    EXPECT_EQ(quante, 3);
+    EXPECT_EQ(misurePng(cartella.file("immagini/senza-progetto.png")), (Misure{1366, 768}));
+    const Misure finestra = misurePng(cartella.file("immagini/frmTempoModellazione-" + progetto + ".png"));
+    EXPECT_GT(finestra.larghezza, 600U);
+    EXPECT_LT(finestra.larghezza, 1200U);
+    EXPECT_LT(finestra.altezza, 700U);
+    EXPECT_GT(misurePng(cartella.file("immagini/frmINFO.png")).larghezza, 200U);  // a dialogue is never cut
+    EXPECT_EQ(schermate({cartella.file("altre"), "--elenco", cartella.file("manca.txt")}).codice, 1);
+}
+
 TEST(Schermate, WithoutAProjectNamedAllExamplesAreOpened) {
     const CartellaTemporanea cartella;
     const Esito esito = schermate({cartella.percorso(), "--misura=1024x640"});
