@@ -25,6 +25,8 @@ prepara_wine() {
         timeout 180 wineboot --init >"$COSTRUZIONE/wine.log" 2>&1 ||
             salta "le prove delle stanze Windows, wine non si avvia (build/windows/wine.log)"
     fi
+    # Keeps the table of running objects; started on demand it may come too late for the test that asks for it.
+    timeout 60 wine net start rpcss >/dev/null 2>&1 || true
 }
 
 # senza_ora: a text less the instant at which it was made.
