@@ -2,13 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <filesystem>
 #include <regex>
 #include <set>
 #include <string>
 
-#include "base/testo.h"
 #include "comune/cartella.h"
 
 namespace kelvo::prove {
@@ -23,30 +21,19 @@ TEST(Percorsi, TheFolderOfTheProjectsIsCutByCountOfCharacters) {
     EXPECT_EQ(progetti("/opt/Prog/Kelvo14"), "/opt/Prog/K/Progetti") << "another length is cut all the same";
 }
 
-/// A path that the program cuts by count of characters: from the end of the folder of the program, and what it adds.
-struct Taglio {
-    std::size_t caratteri;  ///< cut off
-    const char* aggiunta;   ///< with '/' for separator
-    const char* percorso;   ///< below the root of the tree, what has to come out
-};
-constexpr std::array tagli{
-    Taglio{6, "/Progetti", "/Prog/Progetti"},
-    Taglio{6, "/KelvoCAD/doc/KelvoCAD2008.dvb", "/Prog/KelvoCAD/doc/KelvoCAD2008.dvb"},
-    Taglio{11, "/KELVOCAD 2014/KelvoCAD 2014.exe", "/KELVOCAD 2014/KelvoCAD 2014.exe"},
-};
-
 TEST(Percorsi, EveryPathThatIsCutComesOutRightInEveryTree) {
     // The build tree, an installation, the package, a portable folder, the user's own copy.
     const std::string costruzione = KELVO_COSTRUZIONE;
     for (const std::string& radice :
          {costruzione, std::string("/usr/local/lib/kelvo"), std::string("/usr/lib/kelvo"),
           std::string("/media/Città è/Kelvo 1.0"), std::string("/casa/anna/.local/share/Kelvo")}) {
-        for (const Taglio& taglio : tagli) {
-            EXPECT_EQ(senzaUltimi(radice + "/Prog/Kelvo", taglio.caratteri) + taglio.aggiunta,
-                      radice + taglio.percorso);
-        }
-        EXPECT_EQ(percorsoDaTesto(cartellaProgetti(radice + "/Prog/Kelvo")),
-                  percorsoDaTesto(radice + "/Prog/Progetti"));
+        const std::string cartella = radice + "/Prog/Kelvo";
+        const clsAmbiente ambiente(cartella, cartella, sistemaFileStandard());
+        EXPECT_EQ(percorsoDaTesto(cartellaProgetti(cartella)), percorsoDaTesto(radice + "/Prog/Progetti"));
+        EXPECT_EQ(percorsoDaTesto(percorsoMacroKelvoCAD(ambiente)),
+                  percorsoDaTesto(radice + "/Prog/KelvoCAD/doc/KelvoCAD2008.dvb"));
+        EXPECT_EQ(percorsoDaTesto(percorsoKelvoCAD(ambiente)),
+                  percorsoDaTesto(radice + "/KELVOCAD 2014/KelvoCAD 2014.exe"));
     }
     EXPECT_EQ(costruzione + "/Prog/Kelvo", KELVO_CARTELLA);
 }
