@@ -36,8 +36,9 @@ int esegui(std::vector<std::string> argomenti) {
     radice.footer(piede);
 
     std::vector<std::unique_ptr<Comando>> comandi;
-    for (const auto crea : {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica,
-                            comandoCurva, comandoCorsiaDx, comandoSensibilita, comandoSintesi, comandoControllo}) {
+    for (const auto crea :
+         {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica, comandoCurva,
+          comandoCorsiaDx, comandoSensibilita, comandoSintesi, comandoControllo, comandoConfronta}) {
         comandi.push_back(crea(radice));
     }
     for (auto& comando : comandiDocumenti(radice)) {
