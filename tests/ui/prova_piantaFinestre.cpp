@@ -61,7 +61,7 @@ protected:
 
 TEST_P(PiantaFinestre, ItsMenuOffersFilesAndPaper) {
     apriMenu();
-    for (const char* testo : {"Copia immagine", "Salva come PNG...", "Salva come SVG...", "Salva come PDF..."}) {
+    for (const char* testo : {"Salva come PNG...", "Salva come SVG...", "Salva come PDF..."}) {
         const QAction* azione = voce(QString::fromUtf8(testo));
         ASSERT_NE(azione, nullptr) << testo;
         EXPECT_TRUE(azione->isEnabled()) << testo;
