@@ -1,6 +1,7 @@
 #include "Comando.h"
 
 #include "argomenti.h"
+#include "errori.h"
 
 namespace kelvo::cli {
 
@@ -33,10 +34,41 @@ void Comando::avvisaNotte(Contesto& contesto, const OpzioniComuni& comuni) const
     }
 }
 
+void Comando::aggiungiJson(const std::string& descrizione) {
+    app_->add_flag("--json", comuni_.json, descrizione)->disable_flag_override();
+}
+
+bool Comando::inizia(Contesto& contesto) {
+    if (const std::string errore = usoSbagliato(); !errore.empty()) {
+        usoErrato(*app_, errore);
+        return false;
+    }
+    const Configurazione serve = configurazione();
+    return serve == Configurazione::nessuna || contesto.configura(comuni_, serve == Configurazione::perCalcolare);
+}
+
+bool Comando::prepara(Contesto& contesto, const std::string& file) const {
+    if (!contesto.carica(file)) {
+        return false;
+    }
+    if (const Impedimento no = impedimento(contesto.app().theRotonda()); !no.motivo.empty()) {
+        contesto.segnala(static_cast<int>(no.numero), app_->get_name(), no.motivo);
+        return false;
+    }
+    if (app_->get_option_no_throw("--notte") != nullptr) {
+        avvisaNotte(contesto, comuni_);
+    }
+    return true;
+}
+
 ComandoSuFile::ComandoSuFile(CLI::App& radice, const std::string& nome, const std::string& descrizione,
-                             const std::string& esempi)
+                             const std::string& esempi, Quanti quanti)
     : Comando(radice, nome, descrizione, esempi) {
-    app_->add_option("FILE", file_, "file di progetto .klv, uno o più")->required()->type_name("");
+    if (quanti == Quanti::uno) {
+        aggiungiTesto(*app_, "FILE", file_.emplace_back(), "file di progetto .klv")->required()->type_name("");
+    } else {
+        app_->add_option("FILE", file_, "file di progetto .klv, uno o più")->required()->type_name("");
+    }
 }
 
 void ComandoSuFile::aggiungiComuni() {
@@ -46,16 +78,12 @@ void ComandoSuFile::aggiungiComuni() {
 }
 
 void ComandoSuFile::aggiungiJson() {
-    app_->add_flag("--json", comuni_.json, "una riga di JSON per file, con i numeri a piena precisione")
-        ->disable_flag_override();
+    Comando::aggiungiJson("una riga di JSON per file, con i numeri a piena precisione");
 }
 
 int ComandoSuFile::esegui() {
-    if (!opzioniCoerenti()) {
-        return uscitaUsoErrato;
-    }
     Contesto contesto;
-    if (serveConfigurazione() && !contesto.configura(comuni_, usaCoefficienti())) {
+    if (!inizia(contesto)) {
         return uscitaUsoErrato;
     }
     int uscita = uscitaFatto;

@@ -8,7 +8,6 @@
 #include "base/numeri.h"
 #include "calc/modCalcolo.h"
 #include "calcolaJson.h"
-#include "errori.h"
 #include "impedimenti.h"
 #include "results/TabellaCapacitaUltima.h"
 #include "results/tabellaVerifiche.h"
@@ -16,8 +15,6 @@
 namespace kelvo::cli {
 
 namespace {
-
-constexpr int guastoChiamata = 5;
 
 constexpr const char* esempi =
     "  kelvo-cli calcola Rotatoria.klv > Risultati.txt\n"
@@ -43,32 +40,30 @@ public:
     }
 
 private:
-    bool opzioniCoerenti() override {
+    std::string usoSbagliato() override {
         const bool ipotesi = app_->count("--ramo") > 0;
         const bool corsie = app_->count("--corsie-dx") > 0;
-        std::string errore;
         if (ipotesi != (app_->count("--geometria") > 0)) {
-            errore = "le opzioni --ramo e --geometria vanno date insieme";
-        } else if (ipotesi && corsie) {
-            errore = "--corsie-dx non si usa con --ramo e --geometria";
-        } else if (ipotesi && !(geometria_ = leggiGeometria(geometriaScritta_))) {
-            errore = fmt::format("--geometria: servono sei numeri, e,v,l,phi,r,D, non {}", citato(geometriaScritta_));
-        } else if (corsie && !(corsie_ = leggiCorsie(corsieScritte_))) {
-            errore = fmt::format("--corsie-dx: servono posizioni da 1 a 4, separate da virgole, non {}",
-                                 citato(corsieScritte_));
+            return "le opzioni --ramo e --geometria vanno date insieme";
         }
-        if (!errore.empty()) {
-            usoErrato(*app_, errore);
+        if (ipotesi && corsie) {
+            return "--corsie-dx non si usa con --ramo e --geometria";
         }
-        return errore.empty();
+        if (ipotesi && !(geometria_ = leggiGeometria(geometriaScritta_))) {
+            return fmt::format("--geometria: servono sei numeri, e,v,l,phi,r,D, non {}", citato(geometriaScritta_));
+        }
+        if (corsie && !(corsie_ = leggiCorsie(corsieScritte_))) {
+            return fmt::format("--corsie-dx: servono posizioni da 1 a 4, separate da virgole, non {}",
+                               citato(corsieScritte_));
+        }
+        return {};
     }
 
     bool tratta(Contesto& contesto, const std::string& file) override {
-        bool riuscito = contesto.carica(file);
-        if (riuscito) {
+        if (prepara(contesto, file)) {
             calcola(contesto);
-            riuscito = contesto.errori().empty();
         }
+        bool riuscito = contesto.errori().empty();
         if (comuni_.json) {
             stampa(riga(calcolaJson(contesto, file, premessaJson())));
         } else if (riuscito) {
@@ -77,26 +72,13 @@ private:
         return riuscito;
     }
 
-    /// Why the project does not allow what the options ask for, or an empty text.
-    std::string impedimento(const Rotonda& rotonda) const {
+    Impedimento impedimento(const Rotonda& rotonda) const override {
         const std::string motivo = corsie_ ? impedimentoCorsie(rotonda) : impedimentoAnalisi(rotonda);
-        if (!motivo.empty()) {
-            return motivo;
-        }
-        if (geometria_ && ramo_ > rotonda.NumeroRami()) {
-            return fmt::format("il ramo {} non esiste: la rotatoria ha {} rami", ramo_, rotonda.NumeroRami());
-        }
-        return {};
+        return motivo.empty() && geometria_ ? impedimentoRamo(rotonda, ramo_) : Impedimento{.motivo = motivo};
     }
 
     void calcola(Contesto& contesto) {
         Rotonda& rotonda = contesto.app().theRotonda();
-        const std::string motivo = impedimento(rotonda);
-        if (!motivo.empty()) {
-            contesto.segnala(guastoChiamata, "calcola", motivo);
-            return;
-        }
-        avvisaNotte(contesto);
         modCalcolo motore(contesto.app());
         const std::string modo = testoNumero(rotonda.TipoFlusso());
         if (corsie_) {

@@ -20,9 +20,7 @@ public:
 private:
     bool tratta(Contesto& contesto, const std::string& file) override {
         TabellaCapacitaUltima tabella;
-        const bool caricato = contesto.carica(file);
-        if (caricato) {
-            avvisaNotte(contesto);
+        if (prepara(contesto, file)) {
             modCalcolo(contesto.app()).Calcola_Bilanciamento();
             riempi(contesto, tabella);
         }

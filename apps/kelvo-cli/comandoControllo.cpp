@@ -25,12 +25,12 @@ public:
 
 private:
     /// A coefficient of 0 is a finding here.
-    bool usaCoefficienti() const override { return false; }
+    Configurazione configurazione() const override { return Configurazione::letta; }
 
     bool tratta(Contesto& contesto, const std::string& file) override {
         Applicazione& app = contesto.app();
         modERRORI errori(app);
-        if (contesto.carica(file)) {
+        if (prepara(contesto, file)) {
             // A project is called by its file, as the desktop calls it.
             app.theRotonda().NomeFile(nomeProgetto(file));
             errori.svuota();

@@ -3,7 +3,6 @@
 #include "Comando.h"
 #include "argomenti.h"
 #include "base/guasto.h"
-#include "errori.h"
 #include "impedimenti.h"
 #include "json.h"
 #include "results/corsiaDestra.h"
@@ -26,21 +25,21 @@ public:
     }
 
 private:
-    bool opzioniCoerenti() override {
+    std::string usoSbagliato() override {
         const auto lette = leggiCorsie(posizioni_);
         if (!lette) {
-            usoErrato(*app_, fmt::format("--posizioni: servono posizioni da 1 a 4, separate da virgole, non {}",
-                                         citato(posizioni_)));
-            return false;
+            return fmt::format("--posizioni: servono posizioni da 1 a 4, separate da virgole, non {}",
+                               citato(posizioni_));
         }
         corsie_ = *lette;
-        return true;
+        return {};
     }
+    Impedimento impedimento(const Rotonda& rotonda) const override { return {.motivo = impedimentoCorsie(rotonda)}; }
 
     bool tratta(Contesto& contesto, const std::string& file) override {
         ConfrontoCorsie confronto;
         std::string testo;
-        if (contesto.carica(file)) {
+        if (prepara(contesto, file)) {
             calcola(contesto, confronto, testo);
         }
         const bool riuscito = contesto.errori().empty();
@@ -54,12 +53,6 @@ private:
 
     void calcola(Contesto& contesto, ConfrontoCorsie& confronto, std::string& testo) const {
         const Rotonda& rotonda = contesto.app().theRotonda();
-        const std::string motivo = impedimentoCorsie(rotonda);
-        if (!motivo.empty()) {
-            contesto.segnala(static_cast<int>(NumeroGuasto::chiamataNonValida), "corsia-dx", motivo);
-            return;
-        }
-        avvisaNotte(contesto);
         confronto.calcola(contesto.app(), corsie_);
         try {
             testo = confronto.testo(rotonda, corsie_, contesto.app().orologio.adesso());

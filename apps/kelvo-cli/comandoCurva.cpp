@@ -12,6 +12,7 @@
 #include "base/numeri.h"
 #include "base/testo.h"
 #include "calc/ricercaCurva.h"
+#include "impedimenti.h"
 #include "json.h"
 
 namespace kelvo::cli {
@@ -80,20 +81,14 @@ public:
     }
 
 private:
-    bool serveConfigurazione() const override { return false; }
+    Configurazione configurazione() const override { return Configurazione::nessuna; }
+    Impedimento impedimento(const Rotonda& rotonda) const override { return impedimentoRamo(rotonda, ramo_); }
 
     bool tratta(Contesto& contesto, const std::string& file) override {
         CurvaDiRamo risposta;
-        bool ramoTrovato = false;
-        if (contesto.carica(file)) {
-            const Rotonda& rotonda = contesto.app().theRotonda();
-            ramoTrovato = ramo_ <= rotonda.NumeroRami();
-            if (ramoTrovato) {
-                costruisci(contesto, rotonda, risposta);
-            } else {
-                contesto.segnala(static_cast<int>(NumeroGuasto::indiceFuoriIntervallo), "curva",
-                                 fmt::format("il ramo {} non esiste, i rami sono {}", ramo_, rotonda.NumeroRami()));
-            }
+        const bool ramoTrovato = prepara(contesto, file);
+        if (ramoTrovato) {
+            costruisci(contesto, contesto.app().theRotonda(), risposta);
         }
         const bool riuscito = contesto.errori().empty();
         if (comuni_.json) {

@@ -7,20 +7,11 @@
 #include "base/Tabella.h"
 #include "base/numeri.h"
 #include "base/testo.h"
+#include "results/tipiProgetto.h"
 
 namespace kelvo::cli {
 
 namespace {
-
-constexpr std::array analisi{"sola saturazione", "curva di traffico", "tabella dei flussi per segmento"};
-constexpr std::array composizione{"costante", "per segmento di tempo"};
-constexpr std::array matrice{"in veicoli", "in percentuale"};
-
-template <std::size_t N>
-std::string voce(const std::array<const char*, N>& voci, std::int16_t valore) {
-    const bool nota = valore >= 0 && static_cast<std::size_t>(valore) < N;
-    return nota ? voci[static_cast<std::size_t>(valore)] : fmt::format("non previsto ({})", valore);
-}
 
 void rigaDati(std::string& testo, std::string_view etichetta, const std::string& valore) {
     if (!valore.empty()) {
@@ -101,13 +92,13 @@ std::string riassunto(const Rotonda& rotonda) {
     rigaDati(testo, "Finestra",
              fmt::format("{} - {}, segmenti di {} minuti", testoHHNN(rotonda.TempoIniziale()),
                          testoHHNN(rotonda.TempoFinale()), minutoCampo(rotonda.SegmentoTempo())));
-    rigaDati(testo, "Analisi", voce(analisi, rotonda.TipoAnalisi()));
-    rigaDati(testo, "Composizione", voce(composizione, rotonda.TipoFlusso()));
+    rigaDati(testo, "Analisi", paroleAnalisi(rotonda.TipoAnalisi()));
+    rigaDati(testo, "Composizione", paroleComposizione(rotonda.TipoFlusso()));
     rigaDati(testo, "Percentile della coda", testoNumero(rotonda.ValorePercentile()) + " %");
     rigaDati(testo, "Condizioni notturne", rotonda.CondizioniNotturne() ? "sì" : "no");
     rigaDati(testo, "Note", rotonda.Note());
     testo += fmt::format("\nRami: {}\n{}", rotonda.NumeroRami(), tabellaRami(rotonda));
-    testo += fmt::format("\nMatrice delle svolte, {}\n{}", voce(matrice, rotonda.TipoMatriceSvolte()),
+    testo += fmt::format("\nMatrice delle svolte, {}\n{}", paroleMatrice(rotonda.TipoMatriceSvolte()),
                          tabellaMatrice(rotonda));
     return testo;
 }
@@ -119,9 +110,9 @@ public:
                         "  kelvo-cli mostra Rotatoria.klv") {}
 
 private:
-    bool serveConfigurazione() const override { return false; }
+    Configurazione configurazione() const override { return Configurazione::nessuna; }
     bool tratta(Contesto& contesto, const std::string& file) override {
-        if (!contesto.carica(file)) {
+        if (!prepara(contesto, file)) {
             return false;
         }
         stampa((primo_ ? "" : "\n") + riassunto(contesto.app().theRotonda()));

@@ -6,7 +6,6 @@
 #include "app/nuovoProgetto.h"
 #include "argomenti.h"
 #include "base/file.h"
-#include "errori.h"
 
 namespace kelvo::cli {
 
@@ -31,13 +30,8 @@ public:
 
     int esegui() override {
         namespace fs = std::filesystem;
-        const std::string nome = nome_.empty() ? testoDaPercorso(percorsoDaTesto(file_).stem()) : nome_;
-        if (nome.find_first_of(caratteriVietati) != std::string::npos) {
-            return usoErrato(*app_,
-                             fmt::format("nome {}: non sono permessi i caratteri {}", citato(nome), caratteriVietati));
-        }
         Contesto contesto;
-        if (!contesto.configura(comuni_)) {
+        if (!inizia(contesto)) {
             return uscitaUsoErrato;
         }
         std::error_code errore;
@@ -47,7 +41,7 @@ public:
             return uscitaFallito;
         }
         creaProgetto(contesto.app(), rami_);
-        contesto.app().theRotonda().NomeFile(nome);
+        contesto.app().theRotonda().NomeFile(nome());
         std::string messaggio;
         bool esito = false;
         contesto.app().theRotonda().Save(file_, messaggio, esito);
@@ -59,7 +53,14 @@ public:
     }
 
 private:
-    OpzioniComuni comuni_;
+    std::string nome() const { return nome_.empty() ? testoDaPercorso(percorsoDaTesto(file_).stem()) : nome_; }
+
+    std::string usoSbagliato() override {
+        return nome().find_first_of(caratteriVietati) == std::string::npos
+                   ? std::string{}
+                   : fmt::format("nome {}: non sono permessi i caratteri {}", citato(nome()), caratteriVietati);
+    }
+
     std::int16_t rami_ = 0;
     std::string nome_;
     std::string file_;

@@ -7,7 +7,6 @@
 #include "argomenti.h"
 #include "base/guasto.h"
 #include "base/testo.h"
-#include "errori.h"
 #include "impedimenti.h"
 #include "json.h"
 #include "pianta/ipotesi.h"
@@ -52,20 +51,33 @@ public:
     }
 
 private:
-    bool opzioniCoerenti() override {
+    std::string usoSbagliato() override {
         if (app_->count("--parametro") == 0) {
-            return true;
+            return {};
         }
         scelto_ = parametroDi(parola_);
-        if (!scelto_) {
-            usoErrato(*app_, fmt::format("--parametro: serve uno tra {}, non {}", elencoParole(), citato(parola_)));
+        return scelto_ ? std::string{}
+                       : fmt::format("--parametro: serve uno tra {}, non {}", elencoParole(), citato(parola_));
+    }
+
+    Impedimento impedimento(const Rotonda& rotonda) const override {
+        if (const std::string motivo = impedimentoAnalisi(rotonda); !motivo.empty()) {
+            return {.motivo = motivo};
         }
-        return scelto_.has_value();
+        if (Impedimento no = impedimentoRamo(rotonda, ramo_); scelto_ || !no.motivo.empty()) {
+            return no;
+        }
+        Sensibilita misure;
+        misure.imposta(rotonda, ramo_);
+        return {.motivo = misure.nessunoAttivo() ? fmt::format("{}: il progetto non ha misure scelte per l'analisi, se "
+                                                               "ne può indicare una con --parametro",
+                                                               rotonda.Ramo(ramo_).Descrizione())
+                                                 : std::string{}};
     }
 
     bool tratta(Contesto& contesto, const std::string& file) override {
         Sensibilita sensibilita;
-        if (contesto.carica(file)) {
+        if (prepara(contesto, file)) {
             calcola(contesto, sensibilita);
         }
         const bool riuscito = contesto.errori().empty();
@@ -79,24 +91,7 @@ private:
     }
 
     void calcola(Contesto& contesto, Sensibilita& sensibilita) const {
-        const Rotonda& rotonda = contesto.app().theRotonda();
-        std::string motivo = impedimentoAnalisi(rotonda);
-        if (motivo.empty() && ramo_ > rotonda.NumeroRami()) {
-            motivo = fmt::format("il ramo {} non esiste, i rami sono {}", ramo_, rotonda.NumeroRami());
-        }
-        if (motivo.empty()) {
-            sensibilita.imposta(rotonda, ramo_);
-            if (!scelto_ && sensibilita.nessunoAttivo()) {
-                motivo = fmt::format(
-                    "{}: il progetto non ha misure scelte per l'analisi, se ne può indicare una con --parametro",
-                    rotonda.Ramo(ramo_).Descrizione());
-            }
-        }
-        if (!motivo.empty()) {
-            contesto.segnala(static_cast<int>(NumeroGuasto::chiamataNonValida), "sensibilita", motivo);
-            return;
-        }
-        avvisaNotte(contesto);
+        sensibilita.imposta(contesto.app().theRotonda(), ramo_);
         if (scelto_) {
             sensibilita.calcola(contesto.app(), *scelto_);
         } else {
@@ -122,7 +117,7 @@ private:
             uscita["NomeFile"] = rotonda.NomeFile();
             uscita["TipoAnalisi"] = rotonda.TipoAnalisi();
             uscita["TipoFlusso"] = rotonda.TipoFlusso();
-            if (sensibilita.ramo() > 0) {
+            if (ramo_ <= rotonda.NumeroRami()) {
                 uscita["Key"] = rotonda.Ramo(ramo_).Key();
                 uscita["Descrizione"] = rotonda.Ramo(ramo_).Descrizione();
                 uscita["parametri"] = parametriJson(rotonda, sensibilita);

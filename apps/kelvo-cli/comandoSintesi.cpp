@@ -25,9 +25,11 @@ public:
     }
 
 private:
+    Impedimento impedimento(const Rotonda& rotonda) const override { return {.motivo = impedimentoSintesi(rotonda)}; }
+
     bool tratta(Contesto& contesto, const std::string& file) override {
         std::optional<SintesiNodo> sintesi;
-        if (contesto.carica(file)) {
+        if (prepara(contesto, file)) {
             sintesi = calcola(contesto);
         }
         const bool riuscito = contesto.errori().empty();
@@ -41,14 +43,8 @@ private:
         return riuscito;
     }
 
-    std::optional<SintesiNodo> calcola(Contesto& contesto) const {
+    static std::optional<SintesiNodo> calcola(Contesto& contesto) {
         const Rotonda& rotonda = contesto.app().theRotonda();
-        const std::string motivo = impedimentoSintesi(rotonda);
-        if (!motivo.empty()) {
-            contesto.segnala(static_cast<int>(NumeroGuasto::chiamataNonValida), "sintesi", motivo);
-            return std::nullopt;
-        }
-        avvisaNotte(contesto);
         modCalcolo motore(contesto.app());
         const std::string modo = testoNumero(rotonda.TipoFlusso());
         if (rotonda.TipoAnalisi() == 1) {

@@ -20,10 +20,10 @@ public:
                         "  kelvo-cli verifica *.klv") {}
 
 private:
-    bool serveConfigurazione() const override { return false; }
+    Configurazione configurazione() const override { return Configurazione::nessuna; }
 
     bool tratta(Contesto& contesto, const std::string& file) override {
-        if (!contesto.carica(file)) {
+        if (!prepara(contesto, file)) {
             return false;
         }
         const Rotonda& rotonda = contesto.app().theRotonda();

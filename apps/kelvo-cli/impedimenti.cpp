@@ -31,4 +31,12 @@ std::string impedimentoCorsie(const Rotonda& rotonda) {
     return {};
 }
 
+Impedimento impedimentoRamo(const Rotonda& rotonda, std::int16_t ramo) {
+    if (ramo <= rotonda.NumeroRami()) {
+        return {};
+    }
+    return {.motivo = fmt::format("il ramo {} non esiste, i rami sono {}", ramo, rotonda.NumeroRami()),
+            .numero = NumeroGuasto::indiceFuoriIntervallo};
+}
+
 }  // namespace kelvo::cli

@@ -38,7 +38,7 @@ int esegui(std::vector<std::string> argomenti) {
     std::vector<std::unique_ptr<Comando>> comandi;
     for (const auto crea :
          {comandoCalcola, comandoCapacitaUltima, comandoNuovo, comandoMostra, comandoVerifica, comandoCurva,
-          comandoCorsiaDx, comandoSensibilita, comandoSintesi, comandoControllo, comandoDxf}) {
+          comandoCorsiaDx, comandoSensibilita, comandoSintesi, comandoControllo, comandoDxf, comandoConfronta}) {
         comandi.push_back(crea(radice));
     }
     for (auto& comando : comandiDocumenti(radice)) {

@@ -58,8 +58,9 @@ void mostraTotale(Cella& cella, float totale) {
 
 }  // namespace
 
-frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& dialogo)
+frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& dialogo, StampaPagine* stampa)
     : FinestraDati(contorno, "frmMatriceSvolte", testi::didascalia),
+      CartaDati(*this, contorno, stampa),
       lblIngresso(etichette("lblIngresso", sette)),
       txtIngresso(caselle(sette)),
       lblPercentualeROSSO("lblPercentualeROSSO", testi::inPercento, "ROSSO"),
@@ -69,12 +70,13 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
       lblVeicoliUscite(etichette("lblVeicoliUscite", sette)),
       lblMovimento("lblMovimento"),
       chkFlussi("chkFlussi", testi::flussi, Casella::bottone),
+      ctlPianta("ctlPianta", [this] { return soggettoPianta(); }),
       cmdImportaCSV("cmdImportaCSV", bottoneImportaCSV),
       dialogo_(dialogo) {
     // The names are there to be read: the keyboard goes to the matrix first.
-    std::vector<Controllo*> controlli{&lblPercentualeROSSO, &ctlGrid,         &frmTotaleEntrate,
-                                      &ctlGridEntrate,      &frmTotaleUscite, &ctlGridUscite,
-                                      &cmdImportaCSV,       &lblMovimento,    &chkFlussi};
+    std::vector<Controllo*> controlli{&lblPercentualeROSSO, &ctlGrid,       &frmTotaleEntrate, &ctlGridEntrate,
+                                      &frmTotaleUscite,     &ctlGridUscite, &cmdImportaCSV,    &lblMovimento,
+                                      &chkFlussi,           &ctlPianta};
     for (std::size_t i = 0; i < massimiIngressi; ++i) {
         lblIngresso[i].testo("Ingresso " + lettera(i) + ":");
         txtIngresso[i].solaLettura(true);
@@ -91,6 +93,7 @@ frmMatriceSvolte::frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& d
     conArchivio();
     ordina(controlli);
     preparaGriglie();
+    movimentoMutato_.connect([this] { ctlPianta.mutata(); });
 }
 
 void frmMatriceSvolte::preparaGriglie() {
@@ -296,6 +299,35 @@ pianta::OpzioniPianta frmMatriceSvolte::opzioniPianta() const {
         opzioni.flussi = mostrata();
     }
     return opzioni;
+}
+
+DocumentoPagine::Pianta frmMatriceSvolte::soggettoPianta() const {
+    if (ctlGrid.tabella().righe() == 0) {
+        return {};  // the window has not come up yet
+    }
+    return piantaDaMostrare(piantaMostrata(), opzioniPianta());
+}
+
+CartaDati::Blocchi frmMatriceSvolte::blocchiSuCarta() const {
+    using D = DocumentoPagine;
+    constexpr double quota = 0.75;  // on one page with the table
+    D::Tabella matrice = tabellaSuCarta(ctlGrid);
+    matrice.colonne.push_back({"Totale", matrice.colonne.empty() ? 1.0 : matrice.colonne.back().peso});
+    for (std::size_t r = 0; r < matrice.righe.size(); ++r) {
+        matrice.righe[r].push_back({.testo = ctlGridEntrate.testo(static_cast<int>(r), 0), .grassetto = true});
+    }
+    if (ctlGridUscite.visibile()) {
+        std::vector<D::Cella>& totali = matrice.righe.emplace_back();
+        totali.push_back({.testo = "Totale", .grassetto = true});
+        for (int c = 0; c < ctlGridUscite.tabella().colonne(); ++c) {
+            totali.push_back({.testo = ctlGridUscite.testo(0, c), .grassetto = true});
+        }
+        totali.resize(matrice.colonne.size());
+    }
+    return {
+        D::Figura{.contenuto = soggettoPianta(), .larghezza = quota, .forma = 1.0, .didascalia = lblMovimento.testo()},
+        std::move(matrice),
+        D::Paragrafo{.testo = percentuale() ? testi::inPercento : "Valori espressi in veicoli", .quieto = true}};
 }
 
 void frmMatriceSvolte::entrato(Controllo& campo) {

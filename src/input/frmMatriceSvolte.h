@@ -5,9 +5,11 @@
 
 #include "input/frmImportaCSV.h"
 #include "pianta/Pianta.h"
+#include "shell/servizi/ControlloPianta.h"
 #include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/Finestra.h"
 #include "shell/servizi/Griglia.h"
+#include "shell/servizi/cartaDati.h"
 #include "shell/servizi/scelte.h"
 #include "shell/servizi/tBox.h"
 
@@ -15,10 +17,10 @@ namespace kelvo {
 
 /// The turning matrix: what enters at the leg of a row leaves at the leg of a column, in vehicles or in per cent of the
 /// row, with the totals beside it.
-class frmMatriceSvolte final : public FinestraDati {
+class frmMatriceSvolte final : public FinestraDati, public CartaDati {
 public:
-    /// `dialogo` chooses the file of an import.
-    frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& dialogo);
+    /// `dialogo` chooses the file of an import; `stampa`: null for none.
+    frmMatriceSvolte(const Contorno& contorno, DialogoAnteprima& dialogo, StampaPagine* stampa = nullptr);
 
     std::array<Etichetta, 7> lblIngresso;  ///< "Ingresso A:" to "Ingresso G:"
     std::array<tBox, 7> txtIngresso;       ///< names of the legs, read only; those past the last leg are hidden
@@ -33,6 +35,7 @@ public:
     Immagine ctlPicture{"ctlPicture"};  ///< "RAMI3" to "RAMI7"
     Etichetta lblMovimento;             ///< the movement at hand in words, with its value
     Casella chkFlussi;                  ///< the plan shows the flows of the whole matrix
+    ControlloPianta ctlPianta;          ///< the roundabout with the movement at hand
     Bottone cmdImportaCSV;              ///< takes the numbers of a CSV file into the cells
 
     /// Reads units, names and matrix of the project.
@@ -63,6 +66,8 @@ public:
 
 protected:
     void Archivio() override { CaricaDaProgetto(); }
+    /// The plan, and the matrix with its totals.
+    Blocchi blocchiSuCarta() const override;
 
 private:
     void preparaGriglie();
@@ -74,6 +79,7 @@ private:
     void ricalcola();
     void mostraMovimento();
     bool percentuale() const;
+    DocumentoPagine::Pianta soggettoPianta() const;
     float valore(int riga, int colonna) const;
 
     DialogoAnteprima& dialogo_;

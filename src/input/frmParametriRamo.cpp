@@ -74,6 +74,7 @@ double capacita(const Ramo& ramo, double circolante) {
 
 frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& servizi)
     : FinestraRamo(contorno, "frmParametriRamo", testi::didascalia),
+      CartaDati(*this, contorno, servizi.stampa),
       frParametri("frParametri", testi::parametri, {}),
       frFlussi("frFlussi", testi::flussi, {}),
       frCapacita("frCapacita", testi::capacita, {}),
@@ -87,6 +88,7 @@ frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& serv
       txtDiametroInscritto("txtDiametroInscritto", tBox::maskedit, tagMisura(pianta::Misura::diametro)),
       chkAttraversamentoPedonale("chkAttraversamentoPedonale", testi::pedonale),
       cmdDM("cmdDM", testi::decreto),
+      ctlPianta("ctlPianta", [this] { return soggettoPianta(); }),
       ctlPicture("ctlPicture", std::string{figuraVuota}),
       lblMisure(etichetteMisure()),
       lblNote(etichetteNote()),
@@ -106,7 +108,7 @@ frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& serv
     for (std::size_t i = 0; i < caselle.size(); ++i) {
         ordine.insert(ordine.end(), {&lblMisure[i], caselle[i], &lblNote[i]});
     }
-    ordine.insert(ordine.end(), {&lblUnita, &chkAttraversamentoPedonale, &cmdDM});
+    ordine.insert(ordine.end(), {&lblUnita, &chkAttraversamentoPedonale, &cmdDM, &ctlPianta});
     conArchivio();
     ordina(ordine);
     for (std::size_t i = 0; i < caselle.size(); ++i) {
@@ -127,6 +129,7 @@ frmParametriRamo::frmParametriRamo(const Contorno& contorno, const Servizi& serv
     cmdDM.allaPressione = [this] { apriDecreto(); };
     ctlToolbar.aggiungi({"DM", "D.M.", "Apre il D.M. 19.04.06", "DM", true});
     fuocoMutato().connect([this] { fuocoSpostato(); });
+    geometriaMutata_.connect([this] { ctlPianta.mutata(); });
 }
 
 std::array<tBox*, 6> frmParametriRamo::campi() {
@@ -226,9 +229,39 @@ std::optional<pianta::Misura> frmParametriRamo::misuraInUso() const {
     const auto caselle = campi();
     const auto trovata = std::find(caselle.begin(), caselle.end(), fuoco());
     if (trovata == caselle.end()) {
-        return std::nullopt;
+        return fuoco() == &ctlPianta ? ultimaMisura_ : std::nullopt;
     }
     return static_cast<pianta::Misura>(trovata - caselle.begin());
+}
+
+DocumentoPagine::Pianta frmParametriRamo::soggettoPianta() const {
+    if (indiceRamo() == 0) {
+        return {};  // the window has not come up yet
+    }
+    return piantaDaMostrare(
+        piantaMostrata(),
+        pianta::OpzioniPianta{.vista = pianta::Vista::primoPiano, .ramo = indiceRamo(), .misura = misuraInUso()});
+}
+
+CartaDati::Blocchi frmParametriRamo::blocchiSuCarta() const {
+    using D = DocumentoPagine;
+    constexpr double quota = 0.55;  // on one page with the tables
+    D::Tabella misure{.colonne = {{testi::parametri, 3.0, AllineamentoCella::sinistra}, {"Valore"}, {"Unità"}},
+                      .righe = {}};
+    const auto caselle = campi();
+    for (std::size_t i = 0; i < caselle.size(); ++i) {
+        const CampoNumerico& campo = misureIngresso[i].campo;
+        misure.righe.push_back(
+            {{.testo = std::string{campo.nome}}, {.testo = caselle[i]->testo()}, {.testo = std::string{campo.unita}}});
+    }
+    misure.righe.push_back(
+        {{.testo = testi::pedonale}, {.testo = chkAttraversamentoPedonale.spuntata() ? "sì" : "no"}, {}});
+    D::Tabella calcolate{.colonne = {{testi::capacita, 3.0, AllineamentoCella::sinistra}, {"Valore"}}, .righe = {}};
+    for (const Valore& valore : valori) {
+        calcolate.righe.push_back({{.testo = std::string{valore.nome}}, {.testo = valore.etichetta.testo()}});
+    }
+    return {D::Figura{.contenuto = soggettoPianta(), .larghezza = quota, .forma = 1.0}, std::move(misure),
+            std::move(calcolate), D::Paragrafo{.testo = lblUnita.testo(), .quieto = true}};
 }
 
 EsitoUscita frmParametriRamo::controllaCoppia(const tBox& campo) const {
@@ -313,6 +346,7 @@ void frmParametriRamo::mostraValori(const Geometria& g) {
 
 void frmParametriRamo::fuocoSpostato() {
     const auto uso = misuraInUso();
+    ultimaMisura_ = uso;
     ctlPicture.risorsa(std::string{uso ? misura(*uso).figura : figuraVuota});
     if (!uso && fuoco() != &txtDescrizioneRamo) {
         ctlHelp.pagina(std::string{paginaAiutoVuota});

@@ -7,19 +7,22 @@
 #include "calc/Geometria.h"
 #include "input/misureIngresso.h"
 #include "pianta/Pianta.h"
+#include "shell/servizi/ControlloPianta.h"
 #include "shell/servizi/DialogoAnteprima.h"
 #include "shell/servizi/FinestraRamo.h"
+#include "shell/servizi/cartaDati.h"
 #include "shell/servizi/tBox.h"
 
 namespace kelvo {
 
 /// Geometry of one entry: its name, its six measures and its crossing, with what the capacity relation makes of them.
-class frmParametriRamo final : public FinestraRamo {
+class frmParametriRamo final : public FinestraRamo, public CartaDati {
 public:
     /// What the window asks of the system.
     struct Servizi {
         ApriDocumenti& documenti;
         DialogoAnteprima& dialogo;
+        StampaPagine* stampa = nullptr;  ///< null for none
     };
     frmParametriRamo(const Contorno& contorno, const Servizi& servizi);
 
@@ -37,7 +40,8 @@ public:
     tBox txtDiametroInscritto;
     Casella chkAttraversamentoPedonale;
     Bottone cmdDM;
-    Immagine ctlPicture;  ///< picture of the measure in use
+    ControlloPianta ctlPianta;  ///< the entry as it is shown, with the measure in use
+    Immagine ctlPicture;        ///< picture of the measure in use
 
     std::array<Etichetta, 6> lblMisure;  ///< names of the measures
     /// Below each measure: a word where it lies outside the recommended range.
@@ -63,7 +67,7 @@ public:
     Geometria geometriaMostrata() const;
     /// The roundabout with this leg as it is shown.
     pianta::DatiPianta piantaMostrata() const;
-    /// The measure whose field has the focus.
+    /// The measure whose field has the focus, or had it before the plan.
     std::optional<pianta::Misura> misuraInUso() const;
     /// The measures shown, or the one in use, are others.
     sigc::signal<void()>& geometriaMutata() { return geometriaMutata_; }
@@ -72,8 +76,11 @@ protected:
     void legata() override;
     void Archivio() override;
     void altroTasto(const std::string& chiave) override;
+    /// The plan, the measures and what the capacity relation makes of them.
+    Blocchi blocchiSuCarta() const override;
 
 private:
+    DocumentoPagine::Pianta soggettoPianta() const;
     EsitoUscita controllaCoppia(const tBox& campo) const;
     bool valido(std::size_t misura) const;
     float valoreMostrato(std::size_t misura) const;
@@ -85,7 +92,8 @@ private:
     void apriDecreto();
 
     Servizi servizi_;
-    std::array<float, 2> coppia_{};  ///< e and v that were shown last and fit each other
+    std::optional<pianta::Misura> ultimaMisura_;  ///< field in focus, as long as the plan alone is entered behind it
+    std::array<float, 2> coppia_{};               ///< e and v that were shown last and fit each other
     sigc::signal<void()> geometriaMutata_;
 };
 

@@ -9,7 +9,7 @@
 #include "base/date.h"
 #include "model/Rotonda.h"
 
-/// Layout of the project file, used by its reader and its writer alone.
+/// Layout of the project file, for its reader, its writer and whoever compares two projects.
 namespace kelvo::klv {
 
 inline constexpr std::string_view nomeFormato = "Kelvo";

@@ -8,6 +8,11 @@
 
 namespace kelvo {
 
+PiantaLivelli::PiantaLivelli(std::string nome)
+    : ControlloPianta(std::move(nome), [this] {
+          return dati_.rami.empty() ? DocumentoPagine::Pianta{} : piantaDaMostrare(dati_, opzioni());
+      }) {}
+
 void PiantaLivelli::dati(pianta::DatiPianta valore) {
     dati_ = std::move(valore);
     if (stati_.size() != dati_.rami.size()) {
@@ -36,20 +41,6 @@ std::string PiantaLivelli::descrizione() const {
                         stati_[i].livello, formatta(stati_[i].coda, "#0.0"));
     }
     return parole;
-}
-
-MenuPianta::MenuPianta(Finestra& finestra, const Contorno& contorno, PiantaLivelli& pianta)
-    : MenuImmagine(finestra, contorno, pianta.nome()), pianta_(pianta) {
-    pianta_.menuCompleto = [this]() -> MenuChiavi& { return menu(); };
-}
-
-std::string MenuPianta::vuota() const {
-    return pianta_.dati().rami.empty() ? "La pianta non ha dati" : std::string{};
-}
-
-EsitoDisegno MenuPianta::disegna(FormatoDisegno formato) const {
-    return contorno().servizi.disegnatore->pianta(pianta_.dati(), pianta_.opzioni(), formato,
-                                                  {.scala = scalaImmagineDati});
 }
 
 }  // namespace kelvo

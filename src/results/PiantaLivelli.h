@@ -1,18 +1,17 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "pianta/Pianta.h"
-#include "shell/servizi/menuDati.h"
+#include "shell/servizi/ControlloPianta.h"
 
 namespace kelvo {
 
 /// The plan of the roundabout with the level of service and the queue of each entry at an instant.
-class PiantaLivelli final : public Controllo {
+class PiantaLivelli final : public ControlloPianta {
 public:
-    explicit PiantaLivelli(std::string nome) : Controllo(std::move(nome)) {}
+    explicit PiantaLivelli(std::string nome);
 
     /// The roundabout; no leg for nothing to show.
     const pianta::DatiPianta& dati() const { return dati_; }
@@ -24,30 +23,13 @@ public:
     sigc::signal<void()>& statiMutati() { return statiMutati_; }
     /// What is drawn: the whole plan with them.
     pianta::OpzioniPianta opzioni() const;
-    /// The levels and queues in words, for who does not see the plan: "A: livello B, coda 3,4 veic".
-    std::string descrizione() const;
-
-    /// What the menu key and the right button bring up.
-    std::function<MenuChiavi&()> menuCompleto;
-    MenuChiavi* menu() const { return menuCompleto ? &menuCompleto() : nullptr; }
-    bool prendeFuoco() const override { return raggiungibile(); }
+    /// The levels and queues: "A: livello B, coda 3,4 veic".
+    std::string descrizione() const override;
 
 private:
     pianta::DatiPianta dati_;
     std::vector<pianta::StatoIngresso> stati_;
     sigc::signal<void()> statiMutati_;
-};
-
-/// Copies and saves the plan.
-class MenuPianta final : public MenuImmagine {
-public:
-    MenuPianta(Finestra& finestra, const Contorno& contorno, PiantaLivelli& pianta);
-
-private:
-    std::string vuota() const override;
-    EsitoDisegno disegna(FormatoDisegno formato) const override;
-
-    PiantaLivelli& pianta_;
 };
 
 }  // namespace kelvo

@@ -57,8 +57,7 @@ frmConfronti::frmConfronti(const Contorno& contorno, const ServiziRisultati& ser
       Command3("Command3", "Più veloce"),
       Command4("Command4", "Più lento"),
       lblSIM("lblSIM", "Posizione"),
-      cronometro_(cronometro),
-      menuPianta_(*this, contorno, ctlPianta) {
+      cronometro_(cronometro) {
     tempoTrascorso = [] {
         const auto adesso = std::chrono::steady_clock::now().time_since_epoch();
         return std::chrono::duration_cast<std::chrono::milliseconds>(adesso);
@@ -346,12 +345,10 @@ FinestraRisultati::Blocchi frmConfronti::figureSuCarta() const {
     Blocchi blocchi{D::Titolo{txtVARselezionata.testo() + " - " + txtIstanteTEMPO.testo(), 1},
                     kelvo::figuraSuCarta(ctlChartConfronti.contenuto())};
     if (!ctlPianta.dati().rami.empty()) {
-        blocchi.emplace_back(
-            D::Figura{.contenuto = D::Pianta{std::make_shared<const pianta::DatiPianta>(ctlPianta.dati()),
-                                             std::make_shared<const pianta::OpzioniPianta>(ctlPianta.opzioni())},
-                      .larghezza = quota,
-                      .forma = 1.0,
-                      .didascalia = txtIstanteTEMPO.testo() + ": " + ctlPianta.descrizione()});
+        blocchi.emplace_back(D::Figura{.contenuto = ctlPianta.soggetto(),
+                                       .larghezza = quota,
+                                       .forma = 1.0,
+                                       .didascalia = txtIstanteTEMPO.testo() + ": " + ctlPianta.descrizione()});
     }
     blocchi.insert(blocchi.end(), {D::Titolo{nomeVariabile(scelta()), 1}, tabellaSuCarta(ctlGrid)});
     return blocchi;

@@ -106,7 +106,6 @@ private:
     bool recordScartati() const;
 
     Cronometro& cronometro_;
-    MenuPianta menuPianta_;
     Confronto confronto_;
     std::int16_t PausaSimulazione_ = 1000;
     float MassimoGrafico_ = 0.0F;

@@ -54,6 +54,13 @@ frmDX::frmDX(const Contorno& contorno, const ServiziRisultati& servizi)
       txtIngresso(creaNomi(std::make_index_sequence<ramiConCorsie>())),
       flussi(creaFlussi(std::make_index_sequence<posizioniDX.size()>())),
       chkStampaDX("chkStampaDX", testi::stampa),
+      ctlPianta("ctlPianta",
+                [this] {
+                    return corsieDisponibili(rotondaMostrata())
+                               ? piantaDaMostrare(pianta::datiPianta(rotondaMostrata()),
+                                                  pianta::OpzioniPianta{.nomi = false, .flussi = svolteScelte()})
+                               : DocumentoPagine::Pianta{};
+                }),
       lblLegenda("lblLegenda", testi::legenda, "GREY") {
     std::vector<std::string> voci;
     for (const PosizioneDX& posizione : posizioniDX) {
@@ -84,7 +91,7 @@ void frmDX::ordinaControlli() {
         controlli.push_back(&txtIngresso[i]);
         controlli.push_back(&flussi[i]);
     }
-    controlli.insert(controlli.end(), {&chkStampaDX, &ctlGrid, &lblLegenda});
+    controlli.insert(controlli.end(), {&chkStampaDX, &ctlPianta, &ctlGrid, &lblLegenda});
     for (Controllo* c : comuni()) {
         controlli.push_back(c);
     }
@@ -210,9 +217,8 @@ FinestraRisultati::Blocchi frmDX::figureSuCarta() const {
             scelte += (scelte.empty() ? "" : "; ") + std::string{posizioniDX[i].testo};
         }
     }
-    const D::Pianta disegno{std::make_shared<const pianta::DatiPianta>(pianta::datiPianta(app().theRotonda())),
-                            std::make_shared<const pianta::OpzioniPianta>(
-                                pianta::OpzioniPianta{.nomi = false, .flussi = svolte(calcolate_)})};
+    const D::Pianta disegno = piantaDaMostrare(pianta::datiPianta(app().theRotonda()),
+                                               pianta::OpzioniPianta{.nomi = false, .flussi = svolte(calcolate_)});
     return {D::Paragrafo{.testo = scelte + ".", .inizio = testi::nelleCifre},
             D::Figura{.contenuto = disegno, .larghezza = quota, .forma = 1.0, .didascalia = testi::svolteNelleCifre},
             tabellaSuCarta(ctlGrid), D::Paragrafo{.testo = lblLegenda.testo(), .quieto = true}};

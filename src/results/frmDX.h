@@ -7,6 +7,7 @@
 
 #include "results/FinestraRisultati.h"
 #include "results/corsiaDestra.h"
+#include "shell/servizi/ControlloPianta.h"
 #include "shell/servizi/scelte.h"
 #include "shell/servizi/tBox.h"
 
@@ -25,6 +26,7 @@ public:
     std::array<tBox, ramiConCorsie> txtIngresso;       ///< names of the entries, read only
     std::array<Etichetta, posizioniDX.size()> flussi;  ///< labelAB to labelDA: what turns right of each entry
     Casella chkStampaDX;                               ///< the comparison goes into the report
+    ControlloPianta ctlPianta;                         ///< the roundabout with the turns that are chosen
     Griglia ctlGrid{"ctlGrid"};
     Etichetta lblLegenda;  ///< what the marked rows and the variations are
 

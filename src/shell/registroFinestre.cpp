@@ -127,11 +127,11 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     });
     finestre.registra("frmOpzioni", crea<frmOpzioni>);
     finestre.registra("frmMatriceSvolte", [servizi](const Contorno& contorno) {
-        return std::make_unique<frmMatriceSvolte>(contorno, servizi.anteprima);
+        return std::make_unique<frmMatriceSvolte>(contorno, servizi.anteprima, servizi.stampa);
     });
     finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
         return std::make_unique<frmParametriRamo>(contorno,
-                                                  frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima});
+                                                  frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima, servizi.stampa});
     });
     finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi, finestre));
     finestre.registra("frmCapacitaCodeRitardi", creaRisultati<frmCapacitaCodeRitardi>(servizi, finestre));

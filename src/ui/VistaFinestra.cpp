@@ -2,6 +2,7 @@
 
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QGridLayout>
@@ -13,6 +14,8 @@
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 
+#include "shell/servizi/carta.h"
+#include "shell/servizi/menuDati.h"
 #include "shell/servizi/scelte.h"
 #include "ui/DisposizioneProporzionale.h"
 #include "ui/PannelloTitolo.h"
@@ -222,6 +225,10 @@ VistaFinestra::VistaFinestra(Finestra& finestra, QWidget* genitore, Forma forma)
         disponiDialogo();
     } else {
         disponiFinestra();
+    }
+    if (auto* carta = dynamic_cast<SuCarta*>(&finestra_)) {
+        auto* stampa = new QShortcut(QKeySequence(QLatin1String(MenuDati::tastoStampa)), this);
+        QObject::connect(stampa, &QShortcut::activated, this, [carta] { carta->stampaFigure(); });
     }
     legameFuoco_ = finestra_.fuocoMutato().connect([this] {
         if (finestra_.fuoco() != nullptr) {

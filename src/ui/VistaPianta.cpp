@@ -9,6 +9,8 @@
 #include <utility>
 
 #include "disegno/pittorePianta.h"
+#include "shell/servizi/ControlloPianta.h"
+#include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/shell/menuQt.h"
 #include "ui/stile.h"
@@ -108,6 +110,23 @@ void VistaPianta::paintEvent(QPaintEvent* /*evento*/) {
             QPen(qcolore(tinta::principale), misura::bordoTesto, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         pennello.drawRect(rect().adjusted(1, 1, -1, -1));
     }
+}
+
+VistaPianta* collega(ControlloPianta& pianta, QWidget* genitore) {
+    auto* vista = new VistaPianta(
+        [&pianta] {
+            const DocumentoPagine::Pianta soggetto = pianta.soggetto();
+            return soggetto.dati && soggetto.opzioni ? VistaPianta::Soggetto{*soggetto.dati, *soggetto.opzioni}
+                                                     : VistaPianta::Soggetto{};
+        },
+        genitore);
+    vista->menu([&pianta] { return pianta.menu(); });
+    auto* legame = new Legame(pianta, *vista);
+    legame->mostra([vista, &pianta] {
+        vista->aggiorna();
+        vista->setAccessibleDescription(q(pianta.descrizione()));
+    });
+    return vista;
 }
 
 }  // namespace kelvo::ui

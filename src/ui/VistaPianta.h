@@ -7,8 +7,9 @@
 #include "pianta/Pianta.h"
 
 namespace kelvo {
+class ControlloPianta;
 class MenuChiavi;
-}
+}  // namespace kelvo
 
 namespace kelvo::ui {
 
@@ -51,5 +52,8 @@ private:
     bool statiVecchi_ = false;
     double parte_ = 1.0;  ///< of the height that the picture takes, the strip of its remarks left out
 };
+
+/// The plan of a window, with its menu, reached by the keyboard.
+VistaPianta* collega(ControlloPianta& pianta, QWidget* genitore);
 
 }  // namespace kelvo::ui

@@ -18,6 +18,7 @@ constexpr const char* nomiFondo = "E4ECBE";
 constexpr const char* inchiostro = "202020";
 /// Type of the mark of a paragraph in a cell that is left empty, half points: its row is a line, no gap.
 constexpr const char* corpoSegno = "2";
+constexpr const char* stileNota = "Nota";
 
 using Nodo = pugi::xml_node;
 
@@ -127,8 +128,10 @@ public:
     }
 
     std::string scrivi() {
-        for (const Blocco& blocco : blocchi_) {
-            scriviBlocco(blocco);
+        for (std::size_t i = 0; i < blocchi_.size(); ++i) {
+            annotata_ = i + 1 < blocchi_.size() && blocchi_[i + 1].genere == Blocco::Genere::paragrafo &&
+                        blocchi_[i + 1].nome == stileNota;
+            scriviBlocco(blocchi_[i]);
         }
         sezione();
         std::ostringstream testo;
@@ -261,12 +264,12 @@ private:
                 segnalibro(ultima.child("w:p"), dati.segnalibro);
             }
         }
-        // Two tables never touch, and what follows stands apart.
-        paragrafo("DopoTabella");
+        // Two tables never touch, and what follows stands apart. A note on the table stays with it.
+        paragrafo("DopoTabella", annotata_);
     }
 
     /// Answers the last cell of the row.
-    Nodo riga(Nodo tabella, const TabellaModello& dati, std::size_t quale, double totale) {
+    Nodo riga(Nodo tabella, const TabellaModello& dati, std::size_t quale, double totale) const {
         const TabellaModello::Riga& riga = dati.righe[quale];
         Nodo nodo = tabella.append_child("w:tr");
         Nodo come = nodo.append_child("w:trPr");
@@ -306,14 +309,14 @@ private:
         return nomi ? nomiFondo : std::string{};
     }
 
-    static void contenuto(Nodo cella, const TabellaModello& dati, std::size_t quale, std::size_t colonna, bool unita) {
+    void contenuto(Nodo cella, const TabellaModello& dati, std::size_t quale, std::size_t colonna, bool unita) const {
         const TabellaModello::Riga& riga = dati.righe[quale];
         const bool testata = riga.genere == TabellaModello::Genere::testata;
         const bool vuota = riga.genere == TabellaModello::Genere::vuota || riga.genere == TabellaModello::Genere::unita;
         Nodo paragrafo = cella.append_child("w:p");
         Nodo come = paragrafo.append_child("w:pPr");
         figlio(come, "w:pStyle", testata ? "IntestazioneTabella" : "TestoTabella");
-        if (quale + 1 < dati.righe.size()) {
+        if (quale + 1 < dati.righe.size() || annotata_) {
             come.append_child("w:keepNext");  // these tables are short: each stays on one page
         }
         const char lettera = unita ? 's' : dati.allineamento[colonna];
@@ -361,6 +364,7 @@ private:
     int titoli_ = 0;
     int tabelle_ = 0;
     bool nuovaPagina_ = false;
+    bool annotata_ = false;  ///< a note follows the block at hand
 };
 
 }  // namespace

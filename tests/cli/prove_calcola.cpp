@@ -166,7 +166,7 @@ TEST(Calcola, WhatIfOfAMissingLegFails) {
     const Esito esito = kelvoCli({"calcola", "--ramo", "4", "--geometria", "5,4,12,30,20,40", esempio(mulini)});
     EXPECT_EQ(esito.codice, 1);
     EXPECT_EQ(esito.uscita, "");
-    EXPECT_EQ(esito.errori, "kelvo-cli: " + esempio(mulini) + ": il ramo 4 non esiste: la rotatoria ha 3 rami\n");
+    EXPECT_EQ(esito.errori, "kelvo-cli: " + esempio(mulini) + ": il ramo 4 non esiste, i rami sono 3\n");
 }
 
 TEST(Calcola, LanesTakeTheRightTurnsOutOfTheirEntriesAlone) {

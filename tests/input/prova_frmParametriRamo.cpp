@@ -38,9 +38,10 @@ TEST_F(ProveParametri, TabOrderFollowsTheReadingOrder) {
             nomi.push_back(c->nome());
         }
     }
-    EXPECT_EQ(nomi, (std::vector<std::string>{"txtDescrizioneRamo", "txtLarghezzaIngresso", "txtSemiLarghezza",
-                                              "txtLungSvasatura", "txtAngoloConflitto", "txtRaggioCurvatura",
-                                              "txtDiametroInscritto", "chkAttraversamentoPedonale", "cmdDM"}));
+    EXPECT_EQ(nomi,
+              (std::vector<std::string>{"txtDescrizioneRamo", "txtLarghezzaIngresso", "txtSemiLarghezza",
+                                        "txtLungSvasatura", "txtAngoloConflitto", "txtRaggioCurvatura",
+                                        "txtDiametroInscritto", "chkAttraversamentoPedonale", "cmdDM", "ctlPianta"}));
 }
 
 struct CasoLimite {

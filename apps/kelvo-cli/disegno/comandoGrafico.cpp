@@ -4,14 +4,11 @@
 #include <vector>
 
 #include "argomenti.h"
-#include "base/file.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "calc/curvaTraffico.h"
-#include "disegno/AmbienteDisegno.h"
-#include "disegno/DisegnatoreQt.h"
 #include "disegno/disegni.h"
-#include "errori.h"
+#include "impedimenti.h"
 #include "input/istogrammaTraffico.h"
 
 namespace kelvo::cli {
@@ -56,12 +53,13 @@ std::optional<Barre> barreTabella(const Rotonda& rotonda, const Ramo& ramo) {
     return barre;
 }
 
-class ComandoGrafico final : public Comando {
+class ComandoGrafico final : public ComandoSuFile {
 public:
     explicit ComandoGrafico(CLI::App& radice)
-        : Comando(radice, "grafico", "Disegna la domanda di traffico di un ramo in un file PNG, SVG o PDF",
-                  "  kelvo-cli grafico --ramo 2 -o DomandaB.png Rotatoria.klv\n"
-                  "  kelvo-cli grafico --ramo 2 --valori --larghezza 1600 -o DomandaB.svg Rotatoria.klv") {
+        : ComandoSuFile(radice, "grafico", "Disegna la domanda di traffico di un ramo in un file PNG, SVG o PDF",
+                        "  kelvo-cli grafico --ramo 2 -o DomandaB.png Rotatoria.klv\n"
+                        "  kelvo-cli grafico --ramo 2 --valori --larghezza 1600 -o DomandaB.svg Rotatoria.klv",
+                        Quanti::uno) {
         constexpr std::int16_t ultimo = massimoRami;
         aggiungiIntero(*app_, "--ramo", ramo_, {.minimo = 1, .massimo = ultimo},
                        fmt::format("numero del ramo, da 1 a {}", ultimo))
@@ -75,37 +73,24 @@ public:
         aggiungiIntero(*app_, "--larghezza", larghezza_, larghezza,
                        fmt::format("larghezza del disegno in pixel, da {} a {} (se manca: 1200)", larghezza.minimo,
                                    larghezza.massimo));
-        aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
-    }
-
-    int esegui() override {
-        const auto formato = formatoDiFile(uscita_);
-        if (!formato) {
-            return usoErrato(*app_,
-                             fmt::format("{}: serve un nome che finisce con .png, .svg o .pdf", citato(uscita_)));
-        }
-        Contesto contesto;
-        if (!contesto.carica(file_)) {
-            return uscitaFallito;
-        }
-        const Rotonda& rotonda = contesto.app().theRotonda();
-        if (ramo_ > rotonda.NumeroRami()) {
-            avvisa(fmt::format("{}: il ramo {} non esiste, i rami sono {}", file_, ramo_, rotonda.NumeroRami()));
-            return uscitaFallito;
-        }
-        const auto contenuto = grafico(contesto, rotonda, rotonda.Ramo(ramo_));
-        if (!contenuto) {
-            return uscitaFallito;
-        }
-        const std::string errore = disegna(contesto, *contenuto, *formato);
-        if (!errore.empty()) {
-            avvisa(fmt::format("Impossibile scrivere il disegno: {} ({})", errore, uscita_));
-            return uscitaFallito;
-        }
-        return uscitaFatto;
     }
 
 private:
+    std::string usoSbagliato() override { return usoDisegno(uscita_); }
+    Configurazione configurazione() const override { return Configurazione::nessuna; }
+    Impedimento impedimento(const Rotonda& rotonda) const override { return impedimentoRamo(rotonda, ramo_); }
+
+    bool tratta(Contesto& contesto, const std::string& file) override {
+        if (!prepara(contesto, file)) {
+            return false;
+        }
+        const Rotonda& rotonda = contesto.app().theRotonda();
+        const auto contenuto = grafico(contesto, rotonda, rotonda.Ramo(ramo_));
+        return contenuto && scriviDisegno(contesto, uscita_, [&](Disegnatore& disegnatore, FormatoDisegno formato) {
+                   return disegnatore.grafico(*contenuto, formato, {.larghezza = larghezza_});
+               });
+    }
+
     /// The chart; nothing, with a word on why, where the leg has none.
     std::optional<Grafico::Contenuto> grafico(Contesto& contesto, const Rotonda& rotonda, const Ramo& ramo) const {
         const bool tabella = rotonda.TipoAnalisi() == analisiTabella;
@@ -118,10 +103,10 @@ private:
                 return istogramma(*barre, ramo.Descrizione());
             }
             avvisa(fmt::format(
-                "{}: {}: {}", file_, ramo.Descrizione(),
+                "{}: {}: {}", file_.front(), ramo.Descrizione(),
                 tabella ? "il tempo di modellazione non ha segmenti" : "la curva di traffico non si può costruire"));
         } catch (const Guasto& guasto) {
-            avvisa(fmt::format("{}: {}", file_, guasto.descrizione()));
+            avvisa(fmt::format("{}: {}", file_.front(), guasto.descrizione()));
         }
         return std::nullopt;
     }
@@ -143,17 +128,9 @@ private:
         return contenuto;
     }
 
-    std::string disegna(Contesto& contesto, const Grafico::Contenuto& contenuto, FormatoDisegno formato) const {
-        const disegno::AmbienteDisegno qt(contesto.app().theAmbiente.PercorsoProgramma("Caratteri"));
-        disegno::DisegnatoreQt disegnatore;
-        const EsitoDisegno esito = disegnatore.grafico(contenuto, formato, {.larghezza = larghezza_});
-        return esito.errore.empty() ? scriviFileSicuro(contesto.app().file, uscita_, esito.dati) : esito.errore;
-    }
-
     std::int16_t ramo_ = 0;
     std::int16_t larghezza_ = 1200;
     bool valori_ = false;
-    std::string file_;
     std::string uscita_;
 };
 

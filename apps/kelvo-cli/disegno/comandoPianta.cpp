@@ -5,12 +5,8 @@
 
 #include "Comando.h"
 #include "argomenti.h"
-#include "base/file.h"
 #include "base/guasto.h"
-#include "disegno/AmbienteDisegno.h"
-#include "disegno/DisegnatoreQt.h"
 #include "disegno/disegni.h"
-#include "errori.h"
 #include "pianta/Pianta.h"
 
 namespace kelvo::cli {
@@ -44,12 +40,13 @@ std::optional<pianta::Misura> leggiMisura(const std::string& testo) {
     return std::nullopt;
 }
 
-class ComandoPianta final : public Comando {
+class ComandoPianta final : public ComandoSuFile {
 public:
     explicit ComandoPianta(CLI::App& radice)
-        : Comando(radice, "pianta", "Disegna la pianta della rotatoria in un file PNG, SVG o PDF",
-                  "  kelvo-cli pianta Rotatoria.klv Rotatoria.pdf\n"
-                  "  kelvo-cli pianta Rotatoria.klv RamoB.png --ramo B --misura larghezza --larghezza 1600") {
+        : ComandoSuFile(radice, "pianta", "Disegna la pianta della rotatoria in un file PNG, SVG o PDF",
+                        "  kelvo-cli pianta Rotatoria.klv Rotatoria.pdf\n"
+                        "  kelvo-cli pianta Rotatoria.klv RamoB.png --ramo B --misura larghezza --larghezza 1600",
+                        Quanti::uno) {
         app_->add_option_function<std::string>(
                 "--ramo",
                 [this](const std::string& testo) {
@@ -79,52 +76,38 @@ public:
         aggiungiIntero(*app_, "--larghezza", larghezza_, larghezza,
                        fmt::format("larghezza del disegno in pixel, da {} a {} (se manca: 1200)", larghezza.minimo,
                                    larghezza.massimo));
-        aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
         aggiungiTesto(*app_, "USCITA", uscita_, "file da scrivere, .png, .svg o .pdf; se esiste viene sostituito")
             ->required()
             ->type_name("");
     }
 
-    int esegui() override {
-        const auto formato = formatoDiFile(uscita_);
-        if (!formato) {
-            return usoErrato(*app_,
-                             fmt::format("{}: serve un nome che finisce con .png, .svg o .pdf", citato(uscita_)));
+private:
+    std::string usoSbagliato() override {
+        if (std::string errore = usoDisegno(uscita_); !errore.empty()) {
+            return errore;
         }
-        if (opzioni_.misura && opzioni_.ramo == 0) {
-            return usoErrato(*app_, "l'opzione --misura va data con --ramo");
+        return opzioni_.misura && opzioni_.ramo == 0 ? "l'opzione --misura va data con --ramo" : "";
+    }
+    Configurazione configurazione() const override { return Configurazione::nessuna; }
+    Impedimento impedimento(const Rotonda& rotonda) const override {
+        if (opzioni_.ramo <= rotonda.NumeroRami()) {
+            return {};
         }
-        Contesto contesto;
-        if (!contesto.carica(file_)) {
-            return uscitaFallito;
-        }
-        const Rotonda& rotonda = contesto.app().theRotonda();
-        if (opzioni_.ramo > rotonda.NumeroRami()) {
-            avvisa(fmt::format("{}: il ramo {} non esiste, i rami sono {}", file_, pianta::lettera(opzioni_.ramo),
-                               rotonda.NumeroRami()));
-            return uscitaFallito;
-        }
-        const std::string errore = disegna(contesto, *formato);
-        if (!errore.empty()) {
-            avvisa(fmt::format("Impossibile scrivere il disegno: {} ({})", errore, uscita_));
-            return uscitaFallito;
-        }
-        return uscitaFatto;
+        return {.motivo = fmt::format("il ramo {} non esiste, i rami sono {}", pianta::lettera(opzioni_.ramo),
+                                      rotonda.NumeroRami()),
+                .numero = NumeroGuasto::indiceFuoriIntervallo};
     }
 
-private:
-    std::string disegna(Contesto& contesto, FormatoDisegno formato) const {
-        const clsAmbiente& ambiente = contesto.app().theAmbiente;
-        const disegno::AmbienteDisegno qt(ambiente.PercorsoProgramma("Caratteri"));
-        disegno::DisegnatoreQt disegnatore;
-        const EsitoDisegno esito = disegnatore.pianta(pianta::datiPianta(contesto.app().theRotonda()), opzioni_,
-                                                      formato, {.larghezza = larghezza_});
-        return esito.errore.empty() ? scriviFileSicuro(contesto.app().file, uscita_, esito.dati) : esito.errore;
+    bool tratta(Contesto& contesto, const std::string& file) override {
+        return prepara(contesto, file) &&
+               scriviDisegno(contesto, uscita_, [&](Disegnatore& disegnatore, FormatoDisegno formato) {
+                   return disegnatore.pianta(pianta::datiPianta(contesto.app().theRotonda()), opzioni_, formato,
+                                             {.larghezza = larghezza_});
+               });
     }
 
     pianta::OpzioniPianta opzioni_;
     std::int16_t larghezza_ = 1200;
-    std::string file_;
     std::string uscita_;
 };
 

@@ -11,7 +11,6 @@
 #include "base/guasto.h"
 #include "base/testo.h"
 #include "documenti/documenti.h"
-#include "errori.h"
 #include "impedimenti.h"
 #include "platform/Piattaforma.h"
 #include "reports/modStampaRelazione.h"
@@ -52,13 +51,14 @@ bool eIlModello(const std::string& uscita, const std::string& modello) {
     return !trovato.empty() && stessoFile(uscita, trovato);
 }
 
-class ComandoRelazione final : public Comando {
+class ComandoRelazione final : public ComandoSuFile {
 public:
     explicit ComandoRelazione(CLI::App& radice)
-        : Comando(radice, "relazione", "Compila una relazione del progetto in un documento .docx",
-                  "  kelvo-cli relazione --tipo completa -o Relazione.docx Rotatoria.klv\n"
-                  "  kelvo-cli relazione --tipo ingresso --modello Studio.dotx -o Ipotesi.docx Rotatoria.klv\n"
-                  "  kelvo-cli relazione --tipo totale --pdf -o Relazione.docx Rotatoria.klv") {
+        : ComandoSuFile(radice, "relazione", "Compila una relazione del progetto in un documento .docx",
+                        "  kelvo-cli relazione --tipo completa -o Relazione.docx Rotatoria.klv\n"
+                        "  kelvo-cli relazione --tipo ingresso --modello Studio.dotx -o Ipotesi.docx Rotatoria.klv\n"
+                        "  kelvo-cli relazione --tipo totale --pdf -o Relazione.docx Rotatoria.klv",
+                        Quanti::uno) {
         app_->add_option_function<std::string>(
                 "--tipo",
                 [this](const std::string& testo) {
@@ -84,39 +84,30 @@ public:
                        "programma d'ufficio (LibreOffice)");
         aggiungiIni(comuni_);
         aggiungiNotte(comuni_);
-        aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
-    }
-
-    int esegui() override {
-        if (maiuscoleAscii(ultimiCaratteri(uscita_, 5)) != ".DOCX") {
-            return usoErrato(*app_, fmt::format("{}: serve un nome che finisce con .docx", citato(uscita_)));
-        }
-        if (eIlModello(uscita_, modello_)) {
-            return usoErrato(*app_, fmt::format("{}: è il modello, che la relazione sostituirebbe", citato(uscita_)));
-        }
-        if (stessoFile(uscita_, file_)) {
-            return usoErrato(*app_, fmt::format("{}: è il progetto, che la relazione sostituirebbe", citato(uscita_)));
-        }
-        Contesto contesto;
-        if (!contesto.configura(comuni_)) {
-            return uscitaUsoErrato;
-        }
-        if (!contesto.carica(file_)) {
-            return uscitaFallito;
-        }
-        if (tipo_->conRisultati) {
-            const std::string motivo = impedimentoAnalisi(contesto.app().theRotonda());
-            if (!motivo.empty()) {
-                contesto.segnala(static_cast<int>(NumeroGuasto::chiamataNonValida), "relazione", motivo);
-                return uscitaFallito;
-            }
-        }
-        avvisaNotte(contesto, comuni_);
-        return compila(contesto);
     }
 
 private:
-    int compila(Contesto& contesto) const {
+    std::string usoSbagliato() override {
+        if (maiuscoleAscii(ultimiCaratteri(uscita_, 5)) != ".DOCX") {
+            return fmt::format("{}: serve un nome che finisce con .docx", citato(uscita_));
+        }
+        if (eIlModello(uscita_, modello_)) {
+            return fmt::format("{}: è il modello, che la relazione sostituirebbe", citato(uscita_));
+        }
+        return stessoFile(uscita_, file_.front())
+                   ? fmt::format("{}: è il progetto, che la relazione sostituirebbe", citato(uscita_))
+                   : std::string{};
+    }
+
+    Impedimento impedimento(const Rotonda& rotonda) const override {
+        return {.motivo = tipo_->conRisultati ? impedimentoAnalisi(rotonda) : std::string{}};
+    }
+
+    bool tratta(Contesto& contesto, const std::string& file) override {
+        return prepara(contesto, file) && compila(contesto);
+    }
+
+    bool compila(Contesto& contesto) const {
         const auto pittore = creaPittore(contesto.app().theAmbiente.PercorsoProgramma("Caratteri"));
         ServiziRelazione servizi{.messaggi = contesto};
         servizi.disegnatore = pittore ? &pittore->disegnatore() : nullptr;
@@ -129,14 +120,12 @@ private:
         const EsitoRelazione esito = tipo_->compila(modulo);
         // What a template of one's own leaves out has been told and is no failure; anything else is.
         const bool intera = contesto.errori().size() == static_cast<std::size_t>(modulo.sezioniMancanti());
-        return esito == EsitoRelazione::fatta && intera ? uscitaFatto : uscitaFallito;
+        return esito == EsitoRelazione::fatta && intera;
     }
 
     const Tipo* tipo_ = nullptr;
-    OpzioniComuni comuni_;
     std::string uscita_;
     std::string modello_;
-    std::string file_;
     bool pdf_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/servizi/ControlloPianta.h"
 #include "shell/servizi/menuDati.h"
 
 namespace kelvo {
@@ -36,6 +37,8 @@ void Finestra::ordina(const std::vector<Controllo*>& controlli) {
             menuDati_.push_back(std::make_unique<MenuTabella>(*this, contorno_, *griglia));
         } else if (auto* grafico = dynamic_cast<Grafico*>(c)) {
             menuDati_.push_back(std::make_unique<MenuGrafico>(*this, contorno_, *grafico));
+        } else if (auto* pianta = dynamic_cast<ControlloPianta*>(c)) {
+            menuDati_.push_back(std::make_unique<MenuPianta>(*this, contorno_, *pianta));
         }
     }
 }

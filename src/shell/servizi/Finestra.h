@@ -87,8 +87,8 @@ public:
     Appunti* appunti() override { return contorno_.app.appunti; }
 
 protected:
-    /// Declares the controls, in tab order; called once, by the constructor of the window. Tables and charts get the
-    /// entries of their menu that copy and save them.
+    /// Declares the controls, in tab order; called once, by the constructor of the window. Tables, charts and plans get
+    /// the entries of their menu that copy and save them.
     void ordina(const std::vector<Controllo*>& controlli);
     Applicazione& app() { return contorno_.app; }
     const Applicazione& app() const { return contorno_.app; }

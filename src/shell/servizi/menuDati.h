@@ -16,7 +16,7 @@ namespace kelvo {
 /// Pixels of a saved or copied picture to one logical pixel: it stays sharp on paper.
 inline constexpr double scalaImmagineDati = 2.0;
 
-/// The context menu of a table or a chart: the entries that it has of its own, behind them those that copy and save it,
+/// The context menu of a table, a chart or a plan: the entries that it has of its own, behind them those that copy and save it,
 /// at last those that put its window on paper.
 class MenuDati {
 public:

@@ -35,9 +35,6 @@ public:
         aggiungiAiuto(QStringLiteral("Svolta e flussi"))->alPosto(pianta());
         chiudiDisposizione();
     }
-    ~Vista() override { legamePianta_.disconnect(); }
-    Vista(const Vista&) = delete;
-    Vista& operator=(const Vista&) = delete;
 
 private:
     /// The plan below a line with the movement in words and the button of the flows.
@@ -51,21 +48,11 @@ private:
         riga->addWidget(parole, 1);
         riga->addWidget(collega(f_.chkFlussi, insieme));
         piano->addLayout(riga);
-        auto* pianta = new VistaPianta([this] { return soggetto(); }, insieme);
-        piano->addWidget(pianta, 1);
-        legamePianta_ = f_.movimentoMutato().connect([pianta] { pianta->aggiorna(); });
+        piano->addWidget(collega(f_.ctlPianta, insieme), 1);
         return insieme;
     }
 
-    VistaPianta::Soggetto soggetto() const {
-        if (f_.ctlGrid.tabella().righe() == 0) {
-            return {};  // the window has not come up yet
-        }
-        return {.dati = f_.piantaMostrata(), .opzioni = f_.opzioniPianta()};
-    }
-
     frmMatriceSvolte& f_;
-    sigc::connection legamePianta_;
 };
 
 }  // namespace

@@ -25,26 +25,13 @@ public:
         colonna()->addWidget(misure());
         colonna()->addWidget(flussi());
         colonna()->addWidget(capacita());
-        auto* pianta = new VistaPianta([this] { return soggetto(); }, corpo());
         auto* aiuto = aggiungiAiuto(q(f.frDescrizione.titolo()));
         aiuto->segui(f.ctlPicture);
-        aiuto->sopra(pianta);
+        aiuto->sopra(collega(f.ctlPianta, corpo()));
         chiudiDisposizione();
-        legamePianta_ = f.geometriaMutata().connect([pianta] { pianta->aggiorna(); });
     }
-    ~Vista() override { legamePianta_.disconnect(); }
-    Vista(const Vista&) = delete;
-    Vista& operator=(const Vista&) = delete;
 
 private:
-    VistaPianta::Soggetto soggetto() const {
-        if (f_.indiceRamo() == 0) {
-            return {};  // the window has not come up yet
-        }
-        return {.dati = f_.piantaMostrata(),
-                .opzioni = {.vista = pianta::Vista::primoPiano, .ramo = f_.indiceRamo(), .misura = f_.misuraInUso()}};
-    }
-
     QWidget* misure() {
         Pannello* pannello = collega(f_.frParametri, corpo());
         const auto campi = f_.campi();
@@ -98,7 +85,6 @@ private:
     }
 
     frmParametriRamo& f_;
-    sigc::connection legamePianta_;
 };
 
 }  // namespace

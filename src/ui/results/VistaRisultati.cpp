@@ -12,7 +12,6 @@
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 
-#include "shell/servizi/menuDati.h"
 #include "ui/VistaGriglia.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
@@ -105,8 +104,6 @@ VistaRisultati::VistaRisultati(FinestraRisultati& finestra, QWidget* genitore)
     colonnaFigure_->setSpacing(misura::spazio);
     piano->addLayout(colonnaFigure_, 1);
     colonnaFigure_->addWidget(note());
-    auto* stampa = new QShortcut(QKeySequence(QLatin1String(MenuDati::tastoStampa)), this);
-    QObject::connect(stampa, &QShortcut::activated, this, [this] { f_.stampaFigure(); });
     figure_ = new QVBoxLayout;
     figure_->setSpacing(misura::spazio);
     colonnaFigure_->addLayout(figure_, 1);

@@ -12,7 +12,6 @@
 #include "ui/VistaGriglia.h"
 #include "ui/VistaPianta.h"
 #include "ui/icone.h"
-#include "ui/legame.h"
 #include "ui/legami.h"
 #include "ui/legamiScelte.h"
 #include "ui/results/VistaRisultati.h"
@@ -61,19 +60,10 @@ private:
     }
 
     QWidget* pianta() {
-        auto* vista = new VistaPianta(
-            [this] { return VistaPianta::Soggetto{.dati = f_.ctlPianta.dati(), .opzioni = f_.ctlPianta.opzioni()}; },
-            corpo());
-        vista->menu([this] { return f_.ctlPianta.menu(); });
-        auto* legame = new Legame(f_.ctlPianta, *vista);
-        const auto descrivi = [this, vista] { vista->setAccessibleDescription(q(f_.ctlPianta.descrizione())); };
-        legame->mostra([vista, descrivi] {
-            vista->aggiorna();
-            descrivi();
-        });
-        legameStati_ = f_.ctlPianta.statiMutati().connect([vista, descrivi] {
+        VistaPianta* vista = collega(f_.ctlPianta, corpo());
+        legameStati_ = f_.ctlPianta.statiMutati().connect([this, vista] {
             vista->aggiornaStati();
-            descrivi();
+            vista->setAccessibleDescription(q(f_.ctlPianta.descrizione()));
         });
         return vista;
     }

@@ -84,7 +84,7 @@ private:
         pannello->larga(corsie(pannello));
         pannello->larga(nomi(pannello));
         pannello->larga(collega(f_.chkStampaDX, pannello));
-        pianta_ = new VistaPianta([this] { return soggetto(); }, pannello);
+        pianta_ = collega(f_.ctlPianta, pannello);
         legamePianta_ = f_.listDX.cambiato().connect([this] { pianta_->aggiorna(); });
         gioco(*pianta_);
         pannello->larga(pianta_);
@@ -134,14 +134,6 @@ private:
         }
         insieme->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         return insieme;
-    }
-
-    VistaPianta::Soggetto soggetto() const {
-        if (!corsieDisponibili(f_.rotondaMostrata())) {
-            return {};
-        }
-        return {.dati = pianta::datiPianta(f_.rotondaMostrata()),
-                .opzioni = {.nomi = false, .flussi = f_.svolteScelte()}};
     }
 
     frmDX& f_;

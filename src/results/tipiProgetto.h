@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace kelvo {
+
+// The choices of a project in words; a number that is none of them is named as such.
+
+/// Kind of analysis, `TipoAnalisi`.
+std::string paroleAnalisi(std::int16_t tipo);
+/// Composition of the traffic, `TipoFlusso`.
+std::string paroleComposizione(std::int16_t tipo);
+/// Units of the turning matrix, `TipoMatriceSvolte`.
+std::string paroleMatrice(std::int16_t tipo);
+
+}  // namespace kelvo
