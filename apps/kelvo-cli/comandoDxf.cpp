@@ -36,12 +36,13 @@ std::optional<std::vector<double>> leggiDirezioni(const std::string& testo) {
     }
 }
 
-class ComandoDxf final : public Comando {
+class ComandoDxf final : public ComandoSuFile {
 public:
     explicit ComandoDxf(CLI::App& radice)
-        : Comando(radice, "dxf", "Esporta la pianta della rotatoria in un disegno DXF per programmi CAD",
-                  "  kelvo-cli dxf -o Rotatoria.dxf Rotatoria.klv\n"
-                  "  kelvo-cli dxf -o Rotatoria.dxf --direzioni 0,80,180,265 --senza-quote Rotatoria.klv") {
+        : ComandoSuFile(radice, "dxf", "Esporta la pianta della rotatoria in un disegno DXF per programmi CAD",
+                        "  kelvo-cli dxf -o Rotatoria.dxf Rotatoria.klv\n"
+                        "  kelvo-cli dxf -o Rotatoria.dxf --direzioni 0,80,180,265 --senza-quote Rotatoria.klv",
+                        Quanti::uno) {
         aggiungiTesto(*app_, "-o,--uscita", uscita_, "file .dxf da scrivere; se esiste viene sostituito")
             ->required()
             ->type_name("FILE");
@@ -56,35 +57,40 @@ public:
                     fmt::format("senza {}", voce.contenuto))
                 ->disable_flag_override();
         }
-        aggiungiTesto(*app_, "FILE", file_, "file di progetto .klv")->required()->type_name("");
     }
 
-    int esegui() override {
+protected:
+    Configurazione configurazione() const override { return Configurazione::nessuna; }
+
+    std::string usoSbagliato() override {
         if (maiuscoleAscii(ultimiCaratteri(uscita_, 4)) != ".DXF") {
-            return usoErrato(*app_, fmt::format("{}: serve un nome che finisce con .dxf", citato(uscita_)));
+            return fmt::format("{}: serve un nome che finisce con .dxf", citato(uscita_));
         }
-        if (stessoFile(uscita_, file_)) {
-            return usoErrato(*app_, fmt::format("{}: è il progetto, che il disegno sostituirebbe", citato(uscita_)));
+        if (stessoFile(uscita_, file_.front())) {
+            return fmt::format("{}: è il progetto, che il disegno sostituirebbe", citato(uscita_));
         }
-        Contesto contesto;
-        if (!contesto.carica(file_)) {
-            return uscitaFallito;
+        return {};
+    }
+
+    bool tratta(Contesto& contesto, const std::string& file) override {
+        if (!prepara(contesto, file)) {
+            return false;
         }
         const Rotonda& rotonda = contesto.app().theRotonda();
         pianta::DatiPianta dati = pianta::datiPianta(rotonda);
         if (!ipotesi_.direzioni.empty() && ipotesi_.direzioni.size() != dati.rami.size()) {
-            avvisa(fmt::format("{}: --direzioni ha {} valori, i rami sono {}", file_, ipotesi_.direzioni.size(),
+            avvisa(fmt::format("{}: --direzioni ha {} valori, i rami sono {}", file, ipotesi_.direzioni.size(),
                                dati.rami.size()));
-            return uscitaFallito;
+            return false;
         }
         dati.ipotesi = ipotesi_;
         const dxf::Documento disegno = dxf::disegno(dati, dxf::cartiglioDi(rotonda), scelte_);
         const std::string errore = scriviFileSicuro(contesto.app().file, uscita_, dxf::testoDxf(disegno));
         if (!errore.empty()) {
             avvisa(fmt::format("Impossibile scrivere il disegno: {} ({})", errore, uscita_));
-            return uscitaFallito;
+            return false;
         }
-        return uscitaFatto;
+        return true;
     }
 
 private:
@@ -131,7 +137,6 @@ private:
     pianta::Ipotesi ipotesi_;
     dxf::Scelte scelte_;
     std::string uscita_;
-    std::string file_;
 };
 
 }  // namespace
