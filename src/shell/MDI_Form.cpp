@@ -7,6 +7,7 @@
 #include "base/versione.h"
 #include "shell/barraPrincipale.h"
 #include "shell/finestrePerChiave.h"
+#include "shell/frmAiuto.h"
 #include "shell/frmINFO.h"
 #include "shell/gestore.h"
 #include "shell/menuPrincipale.h"
@@ -69,6 +70,9 @@ MDI_Form::MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servi
     ctlToolbar.allaPressione = [this](const std::string& chiave) { Toolbar_Click(chiave); };
     aggiungiMenuPrincipali(ctlMenu);
     finestre.registra("frmINFO", [](const Contorno& contorno) { return std::make_unique<frmINFO>(contorno); });
+    finestre.registra("frmAiuto", [this](const Contorno& contorno) {
+        return std::make_unique<frmAiuto>(contorno, servizi_.documenti);
+    });
     finestre.allaNascita = [this](Finestra& finestra) {
         if (BarraStrumenti* barra = finestra.barra()) {
             // A button may write the window's data to the project.

@@ -161,6 +161,7 @@ public:
     void LoadTreeView() override { albero.LoadTreeView(); }
     void mostraMenu(bool visibili) override;
     void avviso(const std::string& testo) override { ctlStatusBar.avviso(testo); }
+    void aiuto(const std::string& pagina) override;
 
 private:
     struct Comando;
@@ -177,6 +178,8 @@ private:
     void applicaMancanti();
     void apriDocumento(std::string_view daProgramma);
     void mostraInformazioni();
+    void aiutoSulCampo();
+    void aggiungiVociAiuto();
     void apriRecente(const std::string& chiave);
 
     std::string titoloProgetto() const;

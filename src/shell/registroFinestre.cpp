@@ -23,6 +23,7 @@
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
 #include "shell/frmEmptyForm.h"
+#include "shell/frmGoogle.h"
 #include "shell/frmInputNumeroRami.h"
 #include "shell/frmOpzioni.h"
 
@@ -142,6 +143,9 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     });
     finestre.registra(finestraRelazioni, [servizi, &finestre](const Contorno& contorno) {
         return creaRelazioni(contorno, servizi, finestre);
+    });
+    finestre.registra("frmGoogle", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmGoogle>(contorno, servizi.documenti, servizi.campi);
     });
     finestre.registra("frmANALIZZATORE",
                       [servizi](const Contorno& contorno) { return creaAnalizzatore(contorno, servizi); });

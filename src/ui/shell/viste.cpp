@@ -50,6 +50,8 @@ constexpr std::array viste{
     VoceVista{"frmConfronti", vista_frmConfronti},
     VoceVista{"frmOPZrelazione", vista_frmOPZrelazione},
     VoceVista{"frmRelazioneProgressBar", vista_frmRelazioneProgressBar},
+    VoceVista{"frmAiuto", vista_frmAiuto},
+    VoceVista{"frmGoogle", vista_frmGoogle},
 };
 
 }  // namespace
