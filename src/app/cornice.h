@@ -43,6 +43,8 @@ public:
     virtual void mostraMenu(bool visibili) = 0;
     /// Tells the user something in the status bar; an empty text takes it away.
     virtual void avviso(const std::string& testo) = 0;
+    /// Brings up a page of the help, by its file name; nothing where there is no help window.
+    virtual void aiuto(const std::string& /*pagina*/) {}
 };
 
 /// Leads from one window to another.

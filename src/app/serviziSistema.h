@@ -38,7 +38,8 @@ public:
     virtual ~ApriDocumenti() = default;
 
     /// Opens a document with the program that belongs to it; waits for nothing. Double quotes around the path are
-    /// taken off. False if it could not.
+    /// taken off. An address that begins with "https://" or "http://", percent-encoded, goes to the browser. False if
+    /// it could not.
     virtual bool apri(const std::string& percorso) = 0;
     /// Starts a program; waits for nothing. False if it could not.
     virtual bool avvia(const std::string& programma, const std::string& argomento) = 0;

@@ -2,11 +2,17 @@
 
 #include <utf8.h>
 
+#include <algorithm>
+#include <array>
 #include <iterator>
+#include <utility>
 
 namespace kelvo {
 
 namespace {
+
+constexpr std::array<std::pair<char, std::string_view>, 5> entitaHtml{
+    {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&#39;"}}};
 
 /// Start of the character that ends before `fine`.
 const char* caratterePrecedente(const char* inizio, const char* fine) {
@@ -105,6 +111,47 @@ std::string maiuscoleAscii(std::string_view testo) {
         }
     }
     return grande;
+}
+
+std::string testoHtml(std::string_view testo) {
+    std::string html;
+    for (const char c : utf8Valido(testo)) {
+        const auto* const entita =
+            std::find_if(entitaHtml.begin(), entitaHtml.end(), [c](const auto& e) { return e.first == c; });
+        if (entita == entitaHtml.end()) {
+            html += c;
+        } else {
+            html += entita->second;
+        }
+    }
+    return html;
+}
+
+std::string htmlInTesto(std::string_view html) {
+    std::string testo;
+    while (!html.empty()) {
+        const auto* const entita = std::find_if(entitaHtml.begin(), entitaHtml.end(), [&](const auto& e) {
+            return html.substr(0, e.second.size()) == e.second;
+        });
+        testo += entita == entitaHtml.end() ? html.front() : entita->first;
+        html.remove_prefix(entita == entitaHtml.end() ? 1 : entita->second.size());
+    }
+    return testo;
+}
+
+std::string codificaPercento(std::string_view testo) {
+    constexpr std::string_view cifre = "0123456789ABCDEF";
+    constexpr std::string_view liberi = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~";
+    std::string codificato;
+    for (const char c : testo) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (liberi.find(c) != std::string_view::npos) {
+            codificato += c;
+        } else {
+            codificato += {'%', cifre[byte >> 4U], cifre[byte & 0xFU]};
+        }
+    }
+    return codificato;
 }
 
 }  // namespace kelvo

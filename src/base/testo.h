@@ -30,4 +30,11 @@ std::string_view rifila(std::string_view testo);
 /// ASCII capitals only: for keys and extensions.
 std::string maiuscoleAscii(std::string_view testo);
 
+/// The text as it may stand in HTML, between marks and within quoted attributes; wrong bytes become U+FFFD.
+std::string testoHtml(std::string_view testo);
+/// The text behind the five entities that testoHtml writes.
+std::string htmlInTesto(std::string_view html);
+/// The text as a part of an address: every byte of its UTF-8 but letters, digits and "-._~" as "%XX".
+std::string codificaPercento(std::string_view testo);
+
 }  // namespace kelvo

@@ -342,16 +342,14 @@ void frmComposizioneTrafficoST::mostraStato() {
 
 void frmComposizioneTrafficoST::mostraAiuto() {
     if (fuoco() == &ctlGrid) {
+        // The grid has the page of the column that its cursor stands in.
         const int colonna = ctlGrid.corrente().colonna;
-        if (categoria(colonna)) {
-            ctlHelp.pagina(categorieTraffico[static_cast<std::size_t>(colonna - col::prima)].paginaAiuto);
-        } else {
-            ctlHelp.pagina(colonna == col::totale ? paginaTotale : paginaFlusso);
-        }
-    } else if (fuoco() == &cmdImportaCSV) {
-        ctlHelp.pagina(paginaImporta);
-    } else if (fuoco() != nullptr) {
-        ctlHelp.pagina(paginaBlocco);  // the locks are all that is left
+        ctlGrid.paginaAiuto = categoria(colonna)
+                                  ? categorieTraffico[static_cast<std::size_t>(colonna - col::prima)].paginaAiuto
+                                  : (colonna == col::totale ? paginaTotale : paginaFlusso);
+    }
+    if (fuoco() != nullptr) {
+        ctlHelp.pagina(fuoco()->paginaAiuto);
     }
 }
 

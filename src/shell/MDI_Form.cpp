@@ -9,6 +9,7 @@
 #include "cad/frmLinkACAD.h"
 #include "shell/barraPrincipale.h"
 #include "shell/finestrePerChiave.h"
+#include "shell/frmAiuto.h"
 #include "shell/frmINFO.h"
 #include "shell/gestore.h"
 #include "shell/menuPrincipale.h"
@@ -97,6 +98,9 @@ void MDI_Form::registraSopra() {
                       [this](const Contorno& contorno) { return std::make_unique<frmLinkACAD>(contorno, kelvoCAD_); });
     finestre.registra("frmKCAD", [this](const Contorno& contorno) {
         return std::make_unique<frmKCAD>(contorno, servizi_.documenti);
+    });
+    finestre.registra("frmAiuto", [this](const Contorno& contorno) {
+        return std::make_unique<frmAiuto>(contorno, servizi_.documenti);
     });
 }
 

@@ -169,6 +169,7 @@ public:
     void LoadTreeView() override { albero.LoadTreeView(); }
     void mostraMenu(bool visibili) override;
     void avviso(const std::string& testo) override { ctlStatusBar.avviso(testo); }
+    void aiuto(const std::string& pagina) override;
 
 private:
     struct Comando;
@@ -186,6 +187,8 @@ private:
     void apriDocumento(std::string_view daProgramma);
     void mostraSopra(const char* finestra);
     void registraSopra();
+    void aiutoSulCampo();
+    void aggiungiVociAiuto();
     void apriRecente(const std::string& chiave);
 
     std::string titoloProgetto() const;

@@ -6,8 +6,10 @@
 #include "shell/MDI_Form.h"
 #include "shell/barraPrincipale.h"
 #include "shell/finestrePerChiave.h"
+#include "shell/frmAiuto.h"
 #include "shell/gestore.h"
 #include "shell/menuPrincipale.h"
+#include "shell/servizi/pagineAiuto.h"
 
 namespace kelvo {
 
@@ -15,6 +17,9 @@ namespace {
 
 constexpr const char* menuRecenti = "mnuXRecenti";
 constexpr std::string_view radiceRecente = "mnuXRecente";
+constexpr const char* chiaveAiuto = "mnuXAiuto";
+constexpr const char* chiaveIndiceAiuto = "mnuXIndiceAiuto";
+constexpr std::string_view guidaUtente = "\\UserGuide\\UserGuide.pdf";
 
 bool inizia(const std::string& chiave, std::string_view radice) {
     return chiave.size() > radice.size() && chiave.compare(0, radice.size(), radice) == 0;
@@ -40,7 +45,7 @@ const std::vector<MDI_Form::Comando>& MDI_Form::comandi() {
         {"mnuChiudi", [](MDI_Form& f) { f.CloseRotonda(); }},
         {"mnuEsci", [](MDI_Form& f) { f.esci(); }},
         {"mnuCompilaRelazione", [](MDI_Form& f) { f.mostraFinestra("frmOPZrelazione"); }},
-        {"mnuGuidaInLinea", [](MDI_Form& f) { f.apriDocumento("\\UserGuide\\UserGuide.pdf"); }},
+        {"mnuGuidaInLinea", [](MDI_Form& f) { f.apriDocumento(guidaUtente); }},
         {"mnuHome", [](MDI_Form& f) { f.apriDocumento("\\Support\\Vaq in rete.htm"); }},
         {"mnuAltriProdotti", [](MDI_Form& f) { f.apriDocumento("\\Support\\Vaq Products.htm"); }},
         {"mnuKelvoCAD2",
@@ -64,6 +69,8 @@ const std::vector<MDI_Form::Comando>& MDI_Form::comandi() {
              finestra.attivata();
              f.superficie().mostraModale(finestra);
          }},
+        {chiaveAiuto, [](MDI_Form& f) { f.aiutoSulCampo(); }},
+        {chiaveIndiceAiuto, [](MDI_Form& f) { f.aiuto(std::string{paginaIndice}); }},
     };
     return tavola;
 }
@@ -74,7 +81,9 @@ void MDI_Form::Menu_Click(const std::string& chiave) {
             albero.UserClick(chiave);
             return;
         }
-        if (!lasciaCampo()) {
+        // Help is asked for where one stands, also with a text that may not be left.
+        const bool aiuto = chiave == chiaveAiuto || chiave == chiaveIndiceAiuto;
+        if (!aiuto && !lasciaCampo()) {
             return;
         }
         if (inizia(chiave, radiceRecente)) {
@@ -143,6 +152,7 @@ void MDI_Form::costruisciMenu(bool perTipo) {
     aggiungiRighe(ctlMenu, righeCoda(), rotonda);
     aggiungiRighe(ctlMenu, righePropriePerProgetto(), rotonda);
     aggiungiVociProprie();
+    aggiungiVociAiuto();
     applicaMenuMostrati();
     riapplica();
 }
@@ -171,6 +181,45 @@ void MDI_Form::aggiungiVociProprie() {
     sottomenu.mnemonico = "P";
     ctlMenu.aggiungi(sottomenu);
     aggiornaRecenti();
+}
+
+void MDI_Form::aggiungiVociAiuto() {
+    struct Riga {
+        const char* testo;
+        const char* chiave;
+        std::string_view scorciatoia;
+        const char* mnemonico;
+    };
+    constexpr std::array righe{Riga{"-", "mnuXSeparatoreAiuto", {}, ""},
+                               Riga{"Aiuto sul campo", chiaveAiuto, tastoAiuto, "c"},
+                               Riga{"Indice dell'aiuto", chiaveIndiceAiuto, {}, "d"}};
+    for (const Riga& riga : righe) {
+        MenuChiavi::Voce voce;
+        voce.padre = "mnuHelp";
+        voce.testo = riga.testo;
+        voce.chiave = riga.chiave;
+        voce.scorciatoia = riga.scorciatoia;
+        voce.mnemonico = riga.mnemonico;
+        ctlMenu.aggiungi(voce);
+    }
+}
+
+void MDI_Form::aiutoSulCampo() {
+    const Finestra* davanti = superficie().finestraInFuoco();
+    if (davanti == nullptr) {
+        davanti = gestione.corrente();
+    }
+    if (davanti == nullptr) {
+        apriDocumento(guidaUtente);  // no window that help could be about
+    } else {
+        aiuto(davanti->paginaInUso());
+    }
+}
+
+void MDI_Form::aiuto(const std::string& pagina) {
+    auto& finestra = dynamic_cast<frmAiuto&>(finestre.finestra("frmAiuto", contorno()));
+    finestra.mostra(pagina);
+    superficie().mostraAiuto(finestra);
 }
 
 void MDI_Form::aggiornaRecenti() {

@@ -17,7 +17,7 @@ SuggerimentoTasto mostrato(std::string_view tasti, std::string_view parola) {
 }  // namespace
 
 std::vector<std::string> MDI_Form::scorciatoie() {
-    std::vector<std::string> tutte{std::string{tastoAlbero}, std::string{tastoGuida}};
+    std::vector<std::string> tutte{std::string{tastoAlbero}, std::string{tastoAiuto}, std::string{tastoGuida}};
     const auto aggiungi = [&](std::string_view tasti) {
         if (!tasti.empty() && std::find(tutte.begin(), tutte.end(), tasti) == tutte.end()) {
             tutte.emplace_back(tasti);
@@ -43,6 +43,10 @@ bool MDI_Form::scorciatoia(std::string_view tasti) {
             superficie().scambiaFuoco();
         }
         return albero.visibile();
+    }
+    if (tasti == tastoAiuto) {
+        aiutoSulCampo();
+        return true;
     }
     std::string_view chiave;
     for (const ScorciatoiaAggiunta& aggiunta : scorciatoieAggiunte) {
@@ -112,7 +116,9 @@ void MDI_Form::aggiornaSuggerimenti(Finestra* finestra) {
             }
         }
     }
-    tutti.push_back(mostrato(suggerimentoGuida.tasti, suggerimentoGuida.parola));
+    const bool senza = stato_.statoProgetto == StatoProgetto::NessunProgetto;
+    const SuggerimentoFisso& ultimo = senza ? suggerimentoGuida : suggerimentoAiuto;
+    tutti.push_back(mostrato(ultimo.tasti, ultimo.parola));
     ctlStatusBar.suggerimenti(tutti);
 }
 

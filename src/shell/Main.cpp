@@ -19,6 +19,14 @@ namespace {
 constexpr const char* metodoAvvio = "modCommonModule:InitEnvironment()";
 constexpr std::int16_t ramiAllAvvio = 4;
 
+constexpr const char* filmatoIntroduttivo = "\\UserGuide\\KelvoSUITE2014_INTRO.exe";
+constexpr const char* presentazione = "\\UserGuide\\KelvoSUITE2014_INTRO.htm";
+
+bool manca(const std::string& percorso) {
+    std::error_code errore;
+    return !fs::is_regular_file(percorsoDaTesto(percorso), errore);
+}
+
 /// Clears the read-only attribute. Fault 53 if the file is not there, fault 75 if the system refuses.
 void rendiScrivibile(const std::string& percorso) {
     std::error_code errore;
@@ -141,8 +149,12 @@ void modMain::avviaFilmato() {
         if (app_.configurazione.AvvioFilmato != 0) {
             return;
         }
-        const std::string filmato = app_.theAmbiente.PercorsoProgramma("\\UserGuide\\KelvoSUITE2014_INTRO.exe");
-        if (!servizi_.documenti.avvia("\"" + filmato + "\"", {})) {
+        const std::string filmato = app_.theAmbiente.PercorsoProgramma(filmatoIntroduttivo);
+        const std::string pagine = app_.theAmbiente.PercorsoProgramma(presentazione);
+        // The film is a program of its own; where it was not delivered its place is taken by pages.
+        const bool avviato = manca(filmato) && !manca(pagine) ? servizi_.documenti.apri("\"" + pagine + "\"")
+                                                              : servizi_.documenti.avvia("\"" + filmato + "\"", {});
+        if (!avviato) {
             cornice_.avviso("Impossibile avviare il filmato introduttivo");
         }
     });

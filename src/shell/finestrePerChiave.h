@@ -46,8 +46,6 @@ inline constexpr std::array finestrePerChiave{
 std::string_view finestraDiChiave(std::string_view chiave);
 
 /// Windows and procedures that a key leads to and that do not stand yet. Their keys are shown closed, with a note.
-inline constexpr std::array<std::string_view, 1> nonAncora{
-    "frmGoogle",  //
-};
+inline constexpr std::array<std::string_view, 0> nonAncora{};
 
 }  // namespace kelvo

@@ -75,7 +75,7 @@ constexpr std::array tavolaCoda{
     RigaMenu{"mnuRisultati", 0, separatore, "-", "", "", "", ""},
     RigaMenu{"mnuRisultati", 0, voce, "Compila relazione", "mnuCompilaRelazione", "", "", "r"},
     RigaMenu{"mnuKelvoCAD", 0, voce, "KelvoCAD", "mnuKelvoCAD2", "KelvoCAD", "", "K"},
-    RigaMenu{"mnuHelp", 0, voce, "Guida in linea", "mnuGuidaInLinea", "Help", "F1", "G"},
+    RigaMenu{"mnuHelp", 0, voce, "Guida in linea", "mnuGuidaInLinea", "Help", "Shift+F1", "G"},
     RigaMenu{"mnuHelp", 0, sottomenu, "Vaq on Line", "", "", "", "V"},
     RigaMenu{"mnuHelp", 1, voce, "Home", "mnuHome", "Help", "", "H"},
     RigaMenu{"mnuHelp", 1, voce, "Altri prodotti", "mnuAltriProdotti", "Help", "", "A"},

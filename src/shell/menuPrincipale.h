@@ -61,8 +61,10 @@ inline constexpr std::array scorciatoieAggiunte{ScorciatoiaAggiunta{"Ctrl+Shift+
 
 /// Goes from the tree to the window at hand and back.
 inline constexpr std::string_view tastoAlbero = "F6";
+/// Opens the page of the field in focus; without a window the guide.
+inline constexpr std::string_view tastoAiuto = "F1";
 /// Opens the guide, before any project too.
-inline constexpr std::string_view tastoGuida = "F1";
+inline constexpr std::string_view tastoGuida = "Shift+F1";
 
 /// A key that the status bar tells beside those of the window at hand.
 struct SuggerimentoFisso {
@@ -72,7 +74,9 @@ struct SuggerimentoFisso {
 inline constexpr std::array suggerimentiSenzaProgetto{SuggerimentoFisso{"Ctrl+N", "Nuovo"},
                                                       SuggerimentoFisso{"Ctrl+O", "Apri"}};
 inline constexpr SuggerimentoFisso suggerimentoAlbero{tastoAlbero, "Albero"};
-inline constexpr SuggerimentoFisso suggerimentoGuida{tastoGuida, "Guida"};
+/// The last of the hints, without a project and with one.
+inline constexpr SuggerimentoFisso suggerimentoGuida{tastoAiuto, "Guida"};
+inline constexpr SuggerimentoFisso suggerimentoAiuto{tastoAiuto, "Aiuto"};
 
 /// Rows of the file menu, alike in both builds.
 std::span<const RigaMenu> righeFile();

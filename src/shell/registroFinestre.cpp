@@ -24,6 +24,7 @@
 #include "shell/frmAnagraficaRotonda.h"
 #include "shell/frmCommittenteProfessionista.h"
 #include "shell/frmEmptyForm.h"
+#include "shell/frmGoogle.h"
 #include "shell/frmInputNumeroRami.h"
 #include "shell/frmOpzioni.h"
 
@@ -130,8 +131,8 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
         return std::make_unique<frmMatriceSvolte>(contorno, servizi.anteprima, servizi.stampa);
     });
     finestre.registra("frmParametriRamo", [servizi](const Contorno& contorno) {
-        return std::make_unique<frmParametriRamo>(contorno,
-                                                  frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima, servizi.stampa});
+        return std::make_unique<frmParametriRamo>(
+            contorno, frmParametriRamo::Servizi{servizi.documenti, servizi.anteprima, servizi.stampa});
     });
     finestre.registra("frmCapacitaUltima", creaRisultati<frmCapacitaUltima>(servizi, finestre));
     finestre.registra("frmCapacitaCodeRitardi", creaRisultati<frmCapacitaCodeRitardi>(servizi, finestre));
@@ -143,6 +144,9 @@ void registraFinestre(FabbricaFinestre& finestre, const ServiziFinestre& servizi
     });
     finestre.registra(finestraRelazioni, [servizi, &finestre](const Contorno& contorno) {
         return creaRelazioni(contorno, servizi, finestre);
+    });
+    finestre.registra("frmGoogle", [servizi](const Contorno& contorno) {
+        return std::make_unique<frmGoogle>(contorno, servizi.documenti, servizi.campi);
     });
     finestre.registra("frmANALIZZATORE",
                       [servizi](const Contorno& contorno) { return creaAnalizzatore(contorno, servizi); });

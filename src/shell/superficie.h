@@ -30,6 +30,10 @@ public:
     /// Shows a window over the main one, which takes no gestures meanwhile, and returns at once.
     virtual void apriSopra(Finestra& finestra) = 0;
     virtual void chiudiSopra(Finestra& finestra) = 0;
+    /// Shows the help window, beside which work goes on; one that is shown already comes to the front.
+    virtual void mostraAiuto(Finestra& /*aiuto*/) {}
+    /// The window that the keyboard stands in, where it is not the one of the work area; null else.
+    virtual Finestra* finestraInFuoco() { return nullptr; }
     /// A window of the work area is about to be destroyed.
     virtual void dimentica(Finestra& finestra) = 0;
     /// Ends the event loop.

@@ -1,13 +1,14 @@
 #include "ui/RiquadroAiuto.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
+#include <QtCore/QUrl>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QVBoxLayout>
 
 #include "ui/Figura.h"
+#include "ui/VistaFinestra.h"
+#include "ui/VistaPagina.h"
 #include "ui/icone.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
@@ -16,37 +17,6 @@
 namespace kelvo::ui {
 
 namespace {
-
-QString& radice() {
-    static QString cartella;
-    return cartella;
-}
-
-/// The text of a page, found without regard to case; empty if there is none.
-QString testoPagina(const QString& pagina) {
-    const QDir dove(radice());
-    for (const QString& nome : dove.entryList({QStringLiteral("*.htm")}, QDir::Files)) {
-        QFile file(dove.filePath(nome));
-        if (nome.compare(pagina, Qt::CaseInsensitive) == 0 && file.open(QIODevice::ReadOnly)) {
-            return QString::fromUtf8(file.readAll());
-        }
-    }
-    return {};
-}
-
-/// How the pages look: sizes and colours stand here, words and order there.
-QString foglioPagine() {
-    return QStringLiteral(
-               "body { font-family: '%1'; font-size: %2pt; color: %3; }"
-               "p.nome { font-family: '%4'; margin: 0; }"
-               "p { margin: 2px 0 0 0; }"
-               ".limiti { font-size: %5pt; color: %6; }")
-        .arg(dati(punti::corpo).families().join(QStringLiteral("','")))
-        .arg(punti::corpo)
-        .arg(qcolore(tinta::inchiostro).name(), forte(punti::corpo).families().join(QStringLiteral("','")))
-        .arg(punti::nota)
-        .arg(qcolore(tinta::secondario).name());
-}
 
 /// The page: as high as it has to be at least where it stands alone, so that it takes what others leave.
 class Pagina final : public QTextBrowser {
@@ -59,10 +29,6 @@ public:
 };
 
 }  // namespace
-
-void cartellaAiuto(const std::string& cartella) {
-    radice() = q(cartella);
-}
 
 RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidget* genitore)
     : QFrame(genitore),
@@ -86,8 +52,8 @@ RiquadroAiuto::RiquadroAiuto(PannelloAiuto& aiuto, const QString& titolo, QWidge
     testo_->setFixedHeight(misura::aiuto);
     testo_->setFocusPolicy(Qt::NoFocus);
     testo_->setOpenLinks(false);
-    testo_->document()->setDocumentMargin(0.0);
-    testo_->document()->setDefaultStyleSheet(foglioPagine());
+    vestiPagina(*testo_->document());
+    QObject::connect(testo_, &QTextBrowser::anchorClicked, this, &RiquadroAiuto::collegamento);
     testo_->setFont(dati(punti::corpo));
     piano_->addWidget(testo_);
     auto* legame = new Legame(aiuto_, *testo_);
@@ -143,6 +109,16 @@ void RiquadroAiuto::soloPagina() {
     testo_->setMinimumHeight(misura::paginaSola);
     testo_->setMaximumHeight(QWIDGETSIZE_MAX);
     piano_->setStretchFactor(testo_, 1);
+}
+
+/// A page that another one leads to is shown by the help window: the pane stays with its field.
+void RiquadroAiuto::collegamento(const QUrl& indirizzo) {
+    for (QWidget* sopra = parentWidget(); sopra != nullptr; sopra = sopra->parentWidget()) {
+        if (auto* vista = qobject_cast<VistaFinestra*>(sopra)) {
+            vista->finestra().chiediAiuto(meta(indirizzo));
+            return;
+        }
+    }
 }
 
 void RiquadroAiuto::mostra() {

@@ -6,14 +6,12 @@
 #include "shell/servizi/controlli.h"
 
 class QTextBrowser;
+class QUrl;
 class QVBoxLayout;
 
 namespace kelvo::ui {
 
 class Figura;
-
-/// The folder of the help pages.
-void cartellaAiuto(const std::string& cartella);
 
 /// The help pane of a data window: a picture, a line, and the page of the field in use.
 ///
@@ -36,6 +34,7 @@ public:
 
 private:
     void mostra();
+    void collegamento(const QUrl& indirizzo);
 
     PannelloAiuto& aiuto_;
     QVBoxLayout* piano_;

@@ -1,5 +1,6 @@
 #include "ui/VistaFinestra.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QShortcut>
@@ -400,6 +401,14 @@ void VistaFinestra::assegnaMnemonici() {
             }
         }
     }
+}
+
+void VistaFinestra::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() == Qt::Key_F1 && evento->modifiers() == Qt::NoModifier) {
+        finestra_.chiediAiuto();
+        return;
+    }
+    QWidget::keyPressEvent(evento);
 }
 
 void VistaFinestra::porta(const Controllo& controllo) {

@@ -89,6 +89,8 @@ public:
     void ridimensiona();
 
 protected:
+    /// Help, where no shortcut of the main window comes before: in what stands over it.
+    void keyPressEvent(QKeyEvent* evento) override;
     /// Inside of a window of the work area of a frame of 1280 x 800, margins left out: what the places of the panels
     /// are told for.
     static constexpr Misura disegnoFinestra{952.0, 616.0};

@@ -108,6 +108,13 @@ public:
         anteprima_.allaConferma = [this] { accept(); };
         resize(voluta);
     }
+    void keyPressEvent(QKeyEvent* evento) override {
+        if (evento->key() == Qt::Key_F1) {
+            anteprima_.chiediAiuto();
+            return;
+        }
+        QFileDialog::keyPressEvent(evento);
+    }
     ~DialogoConAnteprima() override { anteprima_.allaConferma = {}; }
     DialogoConAnteprima(const DialogoConAnteprima&) = delete;
     DialogoConAnteprima& operator=(const DialogoConAnteprima&) = delete;
@@ -196,6 +203,9 @@ std::optional<std::string> DialogoFileQt::salva(const RichiestaFile& richiesta) 
 }
 
 bool ApriDocumentiQt::apri(const std::string& percorso) {
+    if (percorso.rfind("https://", 0) == 0 || percorso.rfind("http://", 0) == 0) {
+        return QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(percorso)));
+    }
     const QString file = q(percorso).remove(QLatin1Char('"'));
     return QFileInfo::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }

@@ -168,5 +168,23 @@ TEST(Testo, CharactersComeOneByOne) {
     EXPECT_TRUE(caratteri("").empty());
 }
 
+TEST(TestoHtml, MarksAndQuotesBecomeEntitiesAndComeBack) {
+    const std::string testo = "<script>alert(\"Sant'Ilario & C.\")</script> è 😀";
+    const std::string html = testoHtml(testo);
+    EXPECT_EQ(html, "&lt;script&gt;alert(&quot;Sant&#39;Ilario &amp; C.&quot;)&lt;/script&gt; è 😀");
+    EXPECT_EQ(htmlInTesto(html), testo);
+    EXPECT_EQ(htmlInTesto("&amp;lt;"), "&lt;") << "what came out of an entity is not read again";
+    EXPECT_EQ(htmlInTesto("R&D &"), "R&D &");
+    EXPECT_EQ(testoHtml("\xff<"), "\xEF\xBF\xBD&lt;");
+}
+
+TEST(CodificaPercento, EveryByteThatIsNotFreeIsWrittenInHexadecimals) {
+    EXPECT_EQ(codificaPercento("AZaz09-._~"), "AZaz09-._~");
+    EXPECT_EQ(codificaPercento("Forlì, Cesena"), "Forl%C3%AC%2C%20Cesena");
+    EXPECT_EQ(codificaPercento("a&b=c#d?e/f+g\"h'<%>"), "a%26b%3Dc%23d%3Fe%2Ff%2Bg%22h%27%3C%25%3E");
+    EXPECT_EQ(codificaPercento("😀"), "%F0%9F%98%80");
+    EXPECT_EQ(codificaPercento(""), "");
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -17,6 +17,7 @@
 #include "shell/MDI_Form.h"
 #include "shell/Main.h"
 #include "shell/finestrePerChiave.h"
+#include "shell/frmAiuto.h"
 #include "shell/registroFinestre.h"
 #include "shell/servizi/tBox.h"
 
@@ -73,6 +74,8 @@ public:
     }
     void apriSopra(Finestra& finestra) override { passi.push_back("apriSopra " + finestra.nome()); }
     void chiudiSopra(Finestra& finestra) override { passi.push_back("chiudiSopra " + finestra.nome()); }
+    void mostraAiuto(Finestra& aiuto) override { aiuti.push_back(dynamic_cast<frmAiuto&>(aiuto).pagina()); }
+    Finestra* finestraInFuoco() override { return inFuoco; }
     void dimentica(Finestra& finestra) override { dimenticate.push_back(finestra.nome()); }
     void termina() override { terminata = true; }
 
@@ -84,6 +87,8 @@ public:
     std::vector<std::string> nascoste;
     std::vector<std::string> modali;
     std::vector<std::string> dimenticate;
+    std::vector<std::string> aiuti;  ///< pages that the help window was shown with
+    Finestra* inFuoco = nullptr;     ///< beside the one of the work area
     std::vector<std::string> passi;
     std::function<void(Finestra&)> alModale;
     int vestite = 0;

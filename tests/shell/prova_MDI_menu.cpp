@@ -454,8 +454,12 @@ TEST(Scorciatoie, EachRunsItsEntryAndADisabledOneDoesNothing) {
     EXPECT_TRUE(f.cornice.scorciatoia("Ctrl+Shift+S"));
     EXPECT_TRUE(f.cornice.scorciatoia("Ctrl+S"));
     EXPECT_EQ(f.dialogo.richieste.size(), 2U);
-    EXPECT_TRUE(f.cornice.scorciatoia("F1"));
+    EXPECT_TRUE(f.cornice.scorciatoia("Shift+F1"));
     EXPECT_EQ(f.documenti.aperti.size(), 2U);
+    f.cornice.albero.UserClick("keyMyProject");
+    EXPECT_TRUE(f.cornice.scorciatoia("F1"));
+    EXPECT_EQ(f.documenti.aperti.size(), 2U) << "with a window at hand it is help, not the guide";
+    EXPECT_EQ(f.superficie.aiuti, (std::vector<std::string>{"Progetto.htm"}));
     EXPECT_FALSE(f.cornice.scorciatoia(""));
 }
 

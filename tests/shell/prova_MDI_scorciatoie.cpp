@@ -56,7 +56,8 @@ TEST_F(Tasti, TheListHoldsEachOnce) {
     std::vector<std::string> tutte = MDI_Form::scorciatoie();
     std::sort(tutte.begin(), tutte.end());
     EXPECT_EQ(tutte, (std::vector<std::string>{"Ctrl+E", "Ctrl+Enter", "Ctrl+I", "Ctrl+N", "Ctrl+O", "Ctrl+P", "Ctrl+Q",
-                                               "Ctrl+R", "Ctrl+S", "Ctrl+Shift+S", "Ctrl+W", "F1", "F5", "F6", "F9"}));
+                                               "Ctrl+R", "Ctrl+S", "Ctrl+Shift+S", "Ctrl+W", "F1", "F5", "F6", "F9",
+                                               "Shift+F1"}));
 }
 
 TEST_F(Tasti, OfAResultWindowPressItsButtons) {
@@ -78,7 +79,7 @@ TEST_F(Tasti, TheSameKeyRunsTheCheckUp) {
     EXPECT_TRUE(f.cornice.scorciatoia("F9"));
     EXPECT_EQ(finestra.premuti, "keyAnalizza ");
     EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(),
-              (Suggerimenti{{"F6", "Albero"}, {"F9", "Analizza"}, {"F1", "Guida"}}));
+              (Suggerimenti{{"F6", "Albero"}, {"F9", "Analizza"}, {"F1", "Aiuto"}}));
 }
 
 TEST_F(Tasti, F6GoesBetweenTreeAndWindowWhileTheTreeIsInSight) {
@@ -101,10 +102,10 @@ TEST_F(Tasti, TheStatusBarTellsThoseOfTheMoment) {
     const Suggerimenti senza{{"Ctrl+N", "Nuovo"}, {"Ctrl+O", "Apri"}, {"F1", "Guida"}};
     EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(), senza);
     f.nuovo(3);
-    const Suggerimenti albero{{"F6", "Albero"}, {"F1", "Guida"}};
+    const Suggerimenti albero{{"F6", "Albero"}, {"F1", "Aiuto"}};
     EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(), albero);
     mostra(tastiDati);
-    const Suggerimenti dati{{"F6", "Albero"}, {"Ctrl+Invio", "Aggiorna dati"}, {"F5", "Ripristina"}, {"F1", "Guida"}};
+    const Suggerimenti dati{{"F6", "Albero"}, {"Ctrl+Invio", "Aggiorna dati"}, {"F5", "Ripristina"}, {"F1", "Aiuto"}};
     EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(), dati);
     f.cornice.albero.UserClick("keyMyProject");
     EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(), albero);
@@ -119,13 +120,13 @@ TEST_F(Tasti, TheStatusBarTellsFourAtMostAndNoneThatIsClosed) {
     f.nuovo(3);
     ConBarra& finestra = mostra(tastiRisultati);
     EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(),
-              (Suggerimenti{{"F6", "Albero"}, {"F9", "Calcola"}, {"Ctrl+P", "Anteprima"}, {"F1", "Guida"}}));
+              (Suggerimenti{{"F6", "Albero"}, {"F9", "Calcola"}, {"Ctrl+P", "Anteprima"}, {"F1", "Aiuto"}}));
     finestra.ctlToolbar.abilita("keyCalcola", false);
     EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(),
-              (Suggerimenti{{"F6", "Albero"}, {"Ctrl+P", "Anteprima"}, {"Ctrl+R", "Relazione"}, {"F1", "Guida"}}));
+              (Suggerimenti{{"F6", "Albero"}, {"Ctrl+P", "Anteprima"}, {"Ctrl+R", "Relazione"}, {"F1", "Aiuto"}}));
     f.cornice.albero.UserClick("keyMyProject");
     finestra.ctlToolbar.abilita("keyCalcola", true);  // hidden meanwhile
-    EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(), (Suggerimenti{{"F6", "Albero"}, {"F1", "Guida"}}));
+    EXPECT_EQ(f.cornice.ctlStatusBar.suggerimenti(), (Suggerimenti{{"F6", "Albero"}, {"F1", "Aiuto"}}));
 }
 
 TEST_F(Tasti, TheButtonsOfTheMainBarAreExplainedWithTheirKeys) {
@@ -133,7 +134,7 @@ TEST_F(Tasti, TheButtonsOfTheMainBarAreExplainedWithTheirKeys) {
                                         {"Apri", "Apri progetto (Ctrl+O)"},
                                         {"Salva", "Salva progetto (Ctrl+S)"},
                                         {"Chiudi", "Chiudi progetto (Ctrl+W)"},
-                                        {"Help", "Guida utente (F1)"},
+                                        {"Help", "Guida utente (Maiusc+F1)"},
                                         {"Opzioni", "Opzioni programma"},
                                         {"Analizzatore", "Analizzatore rotatoria"},
                                         {"Dx", "Valutazione Corsia Preferenziale"},

@@ -169,6 +169,31 @@ TEST_F(Avvio, TheFilmRunsOnlyForTheValueZero) {
     }
 }
 
+TEST_F(Avvio, WhereTheFilmWasNotDeliveredItsPagesAreOpenedInstead) {
+    ini("0", "Avvia=0");
+    std::filesystem::create_directory(f.cartella.file("UserGuide"));
+    const std::string pagine = f.cartella.file("UserGuide/KelvoSUITE2014_INTRO.htm");
+    scriviContenuto(pagine, "<html></html>");
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_TRUE(f.documenti.avviati.empty());
+    EXPECT_EQ(f.documenti.aperti, (std::vector<std::string>{"\"" + pagine + "\""}));
+    EXPECT_EQ(f.cornice.ctlStatusBar.avviso(), "");
+    f.documenti.riesce = false;
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(f.cornice.ctlStatusBar.avviso(), "Impossibile avviare il filmato introduttivo");
+}
+
+TEST_F(Avvio, TheFilmComesBeforeItsPages) {
+    ini("0", "Avvia=0");
+    std::filesystem::create_directory(f.cartella.file("UserGuide"));
+    const std::string filmato = f.cartella.file("UserGuide/KelvoSUITE2014_INTRO.exe");
+    scriviContenuto(filmato, "");
+    scriviContenuto(f.cartella.file("UserGuide/KelvoSUITE2014_INTRO.htm"), "<html></html>");
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(f.documenti.avviati, (std::vector<std::string>{"\"" + filmato + "\"|"}));
+    EXPECT_TRUE(f.documenti.aperti.empty());
+}
+
 TEST_F(Avvio, TheCommandLineOpensAProjectWithoutItsQuotes) {
     const std::string percorso = f.progettoSuDisco("con due spazi.klv", 5);
     EXPECT_TRUE(programma.Main("\"" + percorso + "\""));

@@ -39,6 +39,8 @@ public:
     void visibile(bool valore) { cambia(visibile_, valore); }
     bool abilitato() const { return abilitato_; }
     void abilitato(bool valore) { cambia(abilitato_, valore); }
+    /// Page of the help, by its file name; empty for the page of the window.
+    std::string paginaAiuto;
     const Aspetto& aspetto() const { return aspetto_; }
     void aspetto(const Aspetto& valore) { cambia(aspetto_, valore); }
 

@@ -5,6 +5,7 @@
 
 #include "shell/servizi/ControlloPianta.h"
 #include "shell/servizi/menuDati.h"
+#include "shell/servizi/pagineAiuto.h"
 
 namespace kelvo {
 
@@ -33,6 +34,9 @@ void Finestra::ordina(const std::vector<Controllo*>& controlli) {
     ordine_ = controlli;
     for (Controllo* c : ordine_) {
         c->custode(this);
+        if (c->paginaAiuto.empty()) {
+            c->paginaAiuto = paginaDiControllo(nome_, c->nome());
+        }
         if (auto* griglia = dynamic_cast<Griglia*>(c)) {
             menuDati_.push_back(std::make_unique<MenuTabella>(*this, contorno_, *griglia));
         } else if (auto* grafico = dynamic_cast<Grafico*>(c)) {
@@ -41,6 +45,14 @@ void Finestra::ordina(const std::vector<Controllo*>& controlli) {
             menuDati_.push_back(std::make_unique<MenuPianta>(*this, contorno_, *pianta));
         }
     }
+}
+
+std::string Finestra::paginaInUso() const {
+    if (fuoco_ != nullptr && !fuoco_->paginaAiuto.empty()) {
+        return fuoco_->paginaAiuto;
+    }
+    const std::string_view pagina = paginaDiFinestra(nome_);
+    return std::string{pagina.empty() ? paginaIndice : pagina};
 }
 
 bool Finestra::convalida() {
@@ -139,6 +151,13 @@ FinestraDati::FinestraDati(Contorno contorno, std::string nome, std::string dida
 void FinestraDati::conArchivio() {
     ctlToolbar.abilita("Archivio", true);
     ctlToolbar.annota("Archivio", {});
+}
+
+void FinestraDati::entrato(Controllo& campo) {
+    Finestra::entrato(campo);
+    if (!campo.paginaAiuto.empty()) {
+        ctlHelp.pagina(campo.paginaAiuto);
+    }
 }
 
 void FinestraDati::DatiAllineati(bool valore) {

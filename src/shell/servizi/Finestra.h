@@ -63,6 +63,12 @@ public:
     /// The window has data that are written to the project when it is left.
     virtual bool haSaveData() const { return false; }
     virtual void SaveData() {}
+    /// Page of the help: of the control that has the focus, else of the window. Never empty.
+    std::string paginaInUso() const;
+    /// The user asks for help: brings up the page in use.
+    void chiediAiuto() { contorno_.cornice.aiuto(paginaInUso()); }
+    /// The same for a page that a link leads to.
+    void chiediAiuto(const std::string& pagina) { contorno_.cornice.aiuto(pagina); }
     /// Runs the checks of all fields, which only look; false if one refused.
     bool convalida();
 
@@ -131,6 +137,8 @@ public:
     virtual void ReadData() = 0;
     void attivata() override { ReadData(); }
     bool haSaveData() const override { return true; }
+    /// The pane follows everything that has a page.
+    void entrato(Controllo& campo) override;
     BarraStrumenti* barra() override { return &ctlToolbar; }
 
     /// True after ReadData and SaveData, false once a field that was left differs from the project.

@@ -32,8 +32,6 @@ public:
         cambia(testo_, valore);
     }
     bool modificato() const { return testo_ != messo_; }
-    /// Page of the help pane; empty for the blank one.
-    std::string paginaAiuto;
     std::function<void()> dopoUscita;
 
     void entra() override;
@@ -204,6 +202,26 @@ public:
 
 private:
     std::string pagina_{paginaAiutoVuota};
+};
+
+/// A page on rich text, whose links the user follows.
+class VisorePagina final : public Controllo {
+public:
+    explicit VisorePagina(std::string nome) : Controllo(std::move(nome)) {}
+    const std::string& html() const { return html_; }
+    void html(const std::string& valore) { cambia(html_, valore); }
+    /// What a link leads to, as it stands in the page.
+    std::function<void(const std::string&)> alCollegamento;
+
+    void segui(const std::string& collegamento) {
+        if (raggiungibile() && alCollegamento) {
+            alCollegamento(collegamento);
+        }
+    }
+    bool prendeFuoco() const override { return raggiungibile(); }
+
+private:
+    std::string html_;
 };
 
 /// A tool bar with keys.

@@ -89,9 +89,6 @@ public:
     /// The last check refused the text.
     bool fallito() const { return fallito_; }
 
-    /// Page of the help pane; empty for the blank one.
-    std::string paginaAiuto;
-
     /// What the window asks of the text beyond the tag; it looks and changes nothing.
     std::function<EsitoUscita()> controllo;
     /// What the window does after a text was left that passed.

@@ -330,7 +330,40 @@ void VistaMDI_Form::chiudiSopra(Finestra& finestra) {
     }
 }
 
+void VistaMDI_Form::mostraAiuto(Finestra& aiuto) {
+    // Above a modal window it must be that one's own, or it would take no gestures.
+    QWidget* modale = QApplication::activeModalWidget();
+    QWidget* sotto = modale == nullptr ? this : modale;
+    if (aiuto_.isNull() || aiuto_->parentWidget() != sotto) {
+        delete aiuto_.data();
+        vesti(aiuto, logica_->contorno().app.configurazione.LayoutPannello);
+        aiuto_ = new QDialog(sotto);
+        aiuto_->setObjectName(q(aiuto.nome()));
+        aiuto_->setWindowTitle(q(aiuto.didascalia()));
+        auto* piano = new QVBoxLayout(aiuto_);
+        piano->setContentsMargins(0, 0, 0, 0);
+        piano->addWidget(creaVista(aiuto, aiuto_));
+        aiuto_->adjustSize();
+    }
+    aiuto_->show();
+    aiuto_->raise();
+    aiuto_->activateWindow();
+}
+
+Finestra* VistaMDI_Form::finestraInFuoco() {
+    for (QWidget* widget = focusWidget(); widget != nullptr; widget = widget->parentWidget()) {
+        auto* vista = qobject_cast<VistaFinestra*>(widget);
+        if (vista != nullptr && vista != vistaCorrente()) {
+            return &vista->finestra();
+        }
+    }
+    return nullptr;
+}
+
 void VistaMDI_Form::dimentica(Finestra& finestra) {
+    if (!aiuto_.isNull() && aiuto_->objectName() == q(finestra.nome())) {
+        delete aiuto_.data();
+    }
     const auto trovata = viste_.find(&finestra);
     if (trovata != viste_.end()) {
         delete trovata->second.data();

@@ -49,6 +49,8 @@ public:
     void mostraModale(Finestra& finestra) override;
     void apriSopra(Finestra& finestra) override;
     void chiudiSopra(Finestra& finestra) override;
+    void mostraAiuto(Finestra& aiuto) override;
+    Finestra* finestraInFuoco() override;
     void dimentica(Finestra& finestra) override;
     void termina() override;
 
@@ -75,6 +77,7 @@ private:
     int larghezzaScelta_ = 0;  ///< of the tree, by the user's hand; 0 as long as he chose none
     std::map<const Finestra*, QPointer<VistaFinestra>> viste_;
     std::map<const Finestra*, QPointer<QDialog>> sopra_;
+    QPointer<QDialog> aiuto_;  ///< the help window
 };
 
 }  // namespace kelvo::ui

@@ -54,6 +54,8 @@ constexpr std::array viste{
     VoceVista{"frmEsportaDXF", vista_frmEsportaDXF},
     VoceVista{"frmKCAD", vista_frmKCAD},
     VoceVista{"frmLinkACAD", vista_frmLinkACAD},
+    VoceVista{"frmAiuto", vista_frmAiuto},
+    VoceVista{"frmGoogle", vista_frmGoogle},
 };
 
 }  // namespace

@@ -5,6 +5,8 @@
 /// The views of the windows of the shell, one function a window.
 namespace kelvo::ui {
 
+VistaFinestra* vista_frmAiuto(Finestra& finestra, QWidget* genitore);
+VistaFinestra* vista_frmGoogle(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmAnagraficaRotonda(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmCommittenteProfessionista(Finestra& finestra, QWidget* genitore);
 VistaFinestra* vista_frmDatiTraffico(Finestra& finestra, QWidget* genitore);
