@@ -12,8 +12,8 @@ int main(int argc, char** argv) {
                                     .cartellaProgramma = sistema->cartellaProgramma(),
                                     .cartellaLavoro = sistema->cartellaTemporanea(),
                                     .cartellaRecupero = sistema->cartellaDati() + "/Recupero",
-                                     .cartellaCopia = sistema->cartellaCopia(),
-                                     .processi = &sistema->processi(),
-                                     .registro = &sistema->registro(),
-                                     .cad = &sistema->cad()});
+                                    .cartellaCopia = sistema->cartellaCopia(),
+                                    .processi = &sistema->processi(),
+                                    .registro = &sistema->registro(),
+                                    .cad = &sistema->cad()});
 }

@@ -58,8 +58,8 @@ enum class NomeLayer {
     cartiglio,
 };
 
-/// All layers, in the order of `NomeLayer`. Their colours can be told on white and on black: 7 turns with the ground,
-/// the others are neither light nor dark.
+/// All layers, in the order of `NomeLayer`. Lines and texts can be told on white and on black: 7 turns with the ground,
+/// the others are neither light nor dark. The fill of the islands alone is a light grey, within borders of their own.
 inline constexpr std::array vociLayer{
     VoceLayer{Gruppo::pianta, {"KELVO-CORDOLI", 7, 50}},
     VoceLayer{Gruppo::pianta, {"KELVO-CERCHIO-INSCRITTO", 150, 18, TipoLinea::trattoPunto}},

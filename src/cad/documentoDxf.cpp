@@ -13,7 +13,7 @@ class File {
 public:
     explicit File(const Documento& documento) : documento_(documento) {
         for (const Quotatura& quota : documento.quote) {
-            if (disegnabile(quota)) {
+            if (disegnabile(quota) && misurabile(quota)) {
                 quote_.push_back({quota, fmt::format("*D{}", quote_.size() + 1), corpo_.nuova()});
             }
         }
@@ -137,7 +137,21 @@ private:
         for (const QuotaScritta& q : quote_) {
             scriviQuota(corpo_, q.quota, q.blocco, Maniglia::bloccoModello);
         }
+        for (const Quotatura& quota : documento_.quote) {
+            if (disegnabile(quota) && !misurabile(quota)) {
+                scritte(quota);
+            }
+        }
         corpo_.chiudi();
+    }
+
+    /// What is left of a dimension without extent.
+    void scritte(const Quotatura& quota) {
+        for (const Entita& e : quota.figura) {
+            if (std::holds_alternative<Scritta>(e) && disegnabile(e)) {
+                scriviEntita(corpo_, e, Maniglia::bloccoModello);
+            }
+        }
     }
 
     const Documento& documento_;

@@ -61,7 +61,8 @@ struct Scritta {
 
 using Entita = std::variant<Polilinea, Campitura, Triangolo, PuntoQuotato, Scritta>;
 
-/// A dimension: what a CAD program measures anew, and the picture of it that the others show.
+/// A dimension: what a CAD program measures anew, and the picture of it that the others show. Of one whose points leave
+/// nothing to measure the texts of its picture alone are written.
 struct Quotatura {
     enum class Tipo { ruotata = 0, allineata = 1, diametro = 3, raggio = 4, angolo = 5 };
     std::string_view layer{};

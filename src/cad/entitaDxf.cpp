@@ -214,6 +214,18 @@ void scriviPropria(Scrittore& file, const Quotatura& q) {
     }
 }
 
+/// Of this dimension alone: its text is level, between the lines and beyond them.
+void testoOrizzontale(Scrittore& file) {
+    file.gruppo(1001, "ACAD");
+    file.gruppo(1000, "DSTYLE");
+    file.gruppo(1002, "{");
+    for (const int variabile : {73, 74}) {
+        file.gruppo(1070, variabile);
+        file.gruppo(1070, 1);
+    }
+    file.gruppo(1002, "}");
+}
+
 }  // namespace
 
 std::string testoSemplice(std::string_view testo) {
@@ -252,6 +264,27 @@ bool disegnabile(const Quotatura& q) {
            std::isfinite(q.misura) && std::isfinite(q.direzione) && std::isfinite(q.rotazioneTesto);
 }
 
+bool misurabile(const Quotatura& q) {
+    using enum Quotatura::Tipo;
+    switch (q.tipo) {
+        case ruotata:
+            return std::abs(pianta::scalare(q.secondo - q.primo, pianta::polare(1.0, pianta::radianti(q.direzione)))) >
+                   coincidenti;
+        case allineata:
+            return norma(q.secondo - q.primo) > coincidenti;
+        case diametro:
+        case raggio:
+            return norma(q.primo - q.definizione) > coincidenti;
+        case angolo:
+            break;
+    }
+    constexpr double stessoVerso = 1e-6;
+    const Punto primo = q.primo - q.vertice;
+    const Punto secondo = q.secondo - q.vertice;
+    return norma(primo) > coincidenti && norma(secondo) > coincidenti &&
+           norma(pianta::versore(primo) - pianta::versore(secondo)) > stessoVerso;
+}
+
 void scriviQuota(Scrittore& file, const Quotatura& q, const std::string& blocco, Maniglia padrone) {
     testa(file, "DIMENSION", padrone, q.layer);
     file.gruppo(100, "AcDbDimension");
@@ -269,6 +302,9 @@ void scriviQuota(Scrittore& file, const Quotatura& q, const std::string& blocco,
     }
     file.gruppo(3, stileQuote);
     scriviPropria(file, q);
+    if (q.tipo == Quotatura::Tipo::angolo) {
+        testoOrizzontale(file);
+    }
 }
 
 }  // namespace kelvo::dxf

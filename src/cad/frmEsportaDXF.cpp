@@ -9,6 +9,7 @@
 #include "app/percorsi.h"
 #include "base/file.h"
 #include "base/testo.h"
+#include "model/Rotonda.h"
 #include "shell/servizi/esporta.h"
 
 namespace kelvo {
@@ -24,7 +25,7 @@ constexpr const char* predefiniti = "Predefiniti";
 constexpr const char* esporta = "Esporta...";
 constexpr const char* annulla = "Annulla";
 constexpr const char* attenzione = "KELVO 2014 - Attenzione";
-constexpr const char* filtro = "Disegno DXF (*.dxf)|*.dxf|All Files (*.*)|*.*";
+constexpr const char* filtro = "Disegno DXF (*.dxf)|*.dxf|Tutti i files(*.*)|*.*";
 }  // namespace testi
 
 constexpr const char* paginaFinestra = "EsportaDXF.htm";
@@ -64,6 +65,19 @@ std::array<tBox, sizeof...(I)> campi(std::index_sequence<I...> /*indici*/) {
 template <std::size_t... I>
 std::array<Casella, sizeof...(I)> caselle(std::index_sequence<I...> /*indici*/) {
     return {Casella{std::string{dxf::vociGruppo[I].controllo}, std::string{dxf::vociGruppo[I].nome}}...};
+}
+
+/// Why a drawing cannot be written there; empty where it can. A project is known by what it holds, whatever its name.
+std::string rifiuto(const std::string& percorso) {
+    constexpr std::size_t estensione = 4;
+    if (maiuscoleAscii(ultimiCaratteri(percorso, estensione)) != ".DXF") {
+        return "Per il disegno serve un nome che finisce con .dxf";
+    }
+    Rotonda progetto;
+    std::string ignorato;
+    bool letto = false;
+    progetto.Load(percorso, ignorato, letto);
+    return letto ? "Il disegno non può prendere il posto di un progetto" : std::string{};
 }
 
 /// The number that a field shows, where the user typed one that it takes; else nothing.
@@ -256,11 +270,8 @@ void frmEsportaDXF::esporta() {
 }
 
 void frmEsportaDXF::scrivi(const std::string& percorso) {
-    constexpr std::size_t estensione = 4;
-    if (maiuscoleAscii(ultimiCaratteri(percorso, estensione)) == ".KLV") {
-        messaggio("Il disegno non può prendere il posto di un progetto: serve un nome che finisce con .dxf (" +
-                      percorso + ")",
-                  testi::attenzione, Icona::esclamazione);
+    if (const std::string parole = rifiuto(percorso); !parole.empty()) {
+        messaggio(parole + " (" + percorso + ")", testi::attenzione, Icona::esclamazione);
         return;
     }
     const dxf::Documento disegno = dxf::disegno(piantaMostrata(), dxf::cartiglioDi(rotonda()), scelteMostrate());

@@ -38,7 +38,8 @@ public:
     /// Takes names and number of legs from the project; what was typed stays while the project has as many legs.
     void attivata() override;
 
-    /// The assumptions that are shown: what was typed where it can be read, else what stood there before.
+    /// The assumptions that are shown: what was typed where its field takes it, else what the program assumes. The
+    /// bearings are those typed where they can be drawn, else none: legs at equal angles.
     pianta::Ipotesi ipotesiMostrate() const;
     pianta::DatiPianta piantaMostrata() const;
     dxf::Scelte scelteMostrate() const;

@@ -2,10 +2,13 @@
 
 #include <fmt/format.h>
 
+#include <filesystem>
 #include <initializer_list>
 #include <memory>
+#include <system_error>
 
 #include "app/percorsi.h"
+#include "base/file.h"
 
 namespace kelvo {
 
@@ -54,10 +57,8 @@ frmLinkACAD::frmLinkACAD(const Contorno& contorno, modKelvoCAD& kelvoCAD)
             allaChiusura();
         }
     };
-    const std::string progetto = kelvoCAD_.FilePathKelvo();
-    lblProgetto.testo(progetto.empty() ? std::string{"Nessun progetto è stato ancora salvato: salvarlo prima."}
-                                       : "Progetto salvato per ultimo: " + progetto);
     lblEsito.visibile(false);
+    mostraProgetto();
     mostraVuoto();
     const int ultima = static_cast<int>(installati_.size()) - 1;
     lstACAD.scelta(ultima);
@@ -78,6 +79,20 @@ void frmLinkACAD::mostraVuoto() {
     lblInvece.visibile(vuoto);
 }
 
+void frmLinkACAD::mostraProgetto() {
+    const std::string progetto = kelvoCAD_.FilePathKelvo();
+    std::error_code ignorato;
+    conProgetto_ = !progetto.empty() && std::filesystem::is_regular_file(percorsoDaTesto(progetto), ignorato);
+    if (progetto.empty()) {
+        lblProgetto.testo("Nessun progetto è stato ancora salvato: salvarlo prima.");
+    } else if (!conProgetto_) {
+        lblProgetto.testo("Il progetto salvato per ultimo non si trova più: salvarlo di nuovo prima (" + progetto +
+                          ").");
+    } else {
+        lblProgetto.testo("Progetto salvato per ultimo: " + progetto);
+    }
+}
+
 void frmLinkACAD::scelta(int riga) {
     progIDAutoCAD_.clear();
     std::string cartella;
@@ -89,7 +104,7 @@ void frmLinkACAD::scelta(int riga) {
     lblCartella.testo(cartella.empty() ? std::string{} : "Cartella: " + cartella);
     lblCartella.visibile(!cartella.empty());
     const AutomazioneCAD* cad = kelvoCAD_.servizi().cad;
-    cmdAVVIAcad.abilitato(!progIDAutoCAD_.empty() && cad != nullptr && cad->impedimento().empty());
+    cmdAVVIAcad.abilitato(!progIDAutoCAD_.empty() && conProgetto_ && cad != nullptr && cad->impedimento().empty());
     esito({});
 }
 

@@ -23,9 +23,9 @@ public:
     Etichetta lblCartella;    ///< where the version that is chosen is installed; else hidden
     Etichetta lblVuoto;       ///< why there is nothing to choose from; else hidden
     Etichetta lblInvece;      ///< what to do instead; else hidden
-    Etichetta lblProgetto;    ///< the project that is going to be drawn
+    Etichetta lblProgetto;    ///< the project that is going to be drawn; else why there is none
     Etichetta lblEsito;       ///< what came of the last try; hidden before it
-    Bottone cmdAVVIAcad;      ///< draws; closed until a version is chosen
+    Bottone cmdAVVIAcad;      ///< draws; closed until a version is chosen, and while there is no project to read
     Bottone cmdChiudi;
     /// Whoever shows the window closes it here.
     std::function<void()> allaChiusura;
@@ -39,12 +39,14 @@ public:
 private:
     void scelta(int riga);
     void mostraVuoto();
+    void mostraProgetto();
     void comanda();
     void esito(const std::string& parole);
 
     modKelvoCAD& kelvoCAD_;
     std::vector<AUTOCADInstallato> installati_;
     std::string progIDAutoCAD_;
+    bool conProgetto_ = false;  ///< the project that was saved last stands as a file
 };
 
 }  // namespace kelvo

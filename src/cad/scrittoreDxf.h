@@ -82,7 +82,9 @@ bool disegnabile(const Entita& entita);
 void scriviEntita(Scrittore& file, const Entita& entita, Maniglia padrone);
 /// True if its points are numbers.
 bool disegnabile(const Quotatura& quota);
-/// The dimension, its picture being the block of that name.
+/// True if there is something between its points that can be measured anew.
+bool misurabile(const Quotatura& quota);
+/// The dimension, its picture being the block of that name. The text of an angle stays level when it is made anew.
 void scriviQuota(Scrittore& file, const Quotatura& quota, const std::string& blocco, Maniglia padrone);
 
 }  // namespace kelvo::dxf

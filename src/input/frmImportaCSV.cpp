@@ -70,7 +70,7 @@ bool importaCSV(const Contorno& contorno, DialogoAnteprima& dialogo, const Bersa
     std::error_code errore;
     const bool esiste = !ultima.empty() && std::filesystem::is_directory(percorsoDaTesto(ultima), errore);
     return dialogo.apri({.estensione = "csv",
-                         .filtro = "File CSV o di testo (*.csv;*.txt)|*.csv *.CSV *.txt *.TXT|All Files (*.*)|*.*",
+                         .filtro = "File CSV o di testo (*.csv;*.txt)|*.csv *.CSV *.txt *.TXT|Tutti i files(*.*)|*.*",
                          .cartella = esiste ? ultima : cartellaProgetti(contorno.app.theAmbiente),
                          .nome = {}},
                         anteprima);

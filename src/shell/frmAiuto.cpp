@@ -63,7 +63,7 @@ void frmAiuto::mostraCorrente() {
     if (!motivo.empty()) {
         testo = paginaMancante(nome, motivo);
     }
-    lblAvviso.testo({});
+    avvisa({});
     ctlPagina.html(testo);
     sottotitolo.testo(titoloPagina(testo));
     cmdIndietro.abilitato(posto_ > 0);
@@ -94,7 +94,12 @@ void frmAiuto::apriGuida(const std::string& nome) {
 }
 
 void frmAiuto::apri(const std::string& cosa) {
-    lblAvviso.testo(documenti_.apri(cosa) ? "" : "Impossibile aprire " + cosa);
+    avvisa(documenti_.apri(cosa) ? "" : "Impossibile aprire " + cosa);
+}
+
+void frmAiuto::avvisa(const std::string& testo) {
+    lblAvviso.testo(testo);
+    lblAvviso.visibile(!testo.empty());
 }
 
 }  // namespace kelvo

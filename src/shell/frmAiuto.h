@@ -37,6 +37,7 @@ private:
     void vai(int passi);
     void apriGuida(const std::string& nome);
     void apri(const std::string& cosa);
+    void avvisa(const std::string& testo);
 
     ApriDocumenti& documenti_;
     std::vector<std::string> lette_;  ///< pages that were read, in order

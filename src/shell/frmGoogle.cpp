@@ -92,9 +92,11 @@ std::string frmGoogle::luogo() const {
 void frmGoogle::aggiorna() {
     gestisci("frmGoogle:aggiorna()", [&] {
         ctlBrowser.html(pagina());
-        const bool copia = !luogo().empty() && app().appunti != nullptr;
-        ctlToolbar.abilita("keyXCopia", copia);
-        ctlToolbar.annota("keyXCopia", copia ? "" : "Il luogo non è indicato");
+        const char* chiuso = app().appunti == nullptr ? "Non ci sono appunti in cui copiare"
+                             : luogo().empty()        ? "Il luogo non è indicato"
+                                                      : "";
+        ctlToolbar.abilita("keyXCopia", *chiuso == '\0');
+        ctlToolbar.annota("keyXCopia", chiuso);
     });
 }
 

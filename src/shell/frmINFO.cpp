@@ -90,7 +90,7 @@ std::string frmINFO::dettagli() const {
     return fmt::format(
         "<html><head><title>Informazioni sul programma</title></head><body>"
         "<p class=\"capo\">Cartelle</p><table cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">{}</table>"
-        "<p class=\"capo\">Librerie e licenze</p><table class=\"dati\" cellspacing=\"0\" cellpadding=\"3\" "
+        "<p class=\"capo\">Librerie e licenze</p><table class=\"dati\" cellspacing=\"1\" cellpadding=\"3\" "
         "width=\"100%\"><tr><th align=\"left\">Nome</th><th align=\"left\">Uso</th><th align=\"left\">Licenza</th></tr>"
         "{}</table></body></html>",
         righe, usate);

@@ -178,6 +178,35 @@ TEST(DocumentoDxf, WhatCannotBeDrawnIsLeftOut) {
     EXPECT_EQ(entitaDi(testoDxf(documento)), std::vector<std::string>{});
 }
 
+TEST(DocumentoDxf, ADimensionWithoutExtentKeepsItsTextAlone) {
+    using Tipo = dxf::Quotatura::Tipo;
+    const std::vector<dxf::Entita> figura{dxf::Scritta{.layer = "L", .testo = "x"}, dxf::PuntoQuotato{{1, 1}},
+                                          dxf::Triangolo{.layer = "L", .a = {0, 0}, .b = {1, 0}, .c = {0, 1}}};
+    dxf::Quotatura allineata{.layer = "L", .tipo = Tipo::allineata, .primo = {1, 1}, .secondo = {1, 1}};
+    dxf::Quotatura ruotata{.layer = "L", .tipo = Tipo::ruotata, .primo = {1, 1}, .secondo = {1, 5}, .direzione = 0};
+    dxf::Quotatura raggio{.layer = "L", .tipo = Tipo::raggio, .definizione = {2, 3}, .primo = {2, 3}};
+    dxf::Quotatura diametro{.layer = "L", .tipo = Tipo::diametro, .definizione = {2, 3}, .primo = {2, 3}};
+    dxf::Quotatura angolo{.layer = "L", .tipo = Tipo::angolo, .primo = {1, 0}, .secondo = {3, 0}, .vertice = {0, 0}};
+    const auto scritta = [&](dxf::Quotatura quota) {
+        quota.figura = figura;
+        Documento documento;
+        documento.layer = {{.nome = "L"}};
+        documento.quote = {quota};
+        return testoDxf(documento);
+    };
+    for (const dxf::Quotatura& quota : {allineata, ruotata, raggio, diametro, angolo}) {
+        EXPECT_EQ(entitaDi(scritta(quota)), std::vector<std::string>{"TEXT"}) << static_cast<int>(quota.tipo);
+    }
+    allineata.secondo = {1, 2};
+    ruotata.direzione = 90;
+    raggio.primo = {2, 4};
+    diametro.primo = {2, 4};
+    angolo.secondo = {3, 0.01};
+    for (const dxf::Quotatura& quota : {allineata, ruotata, raggio, diametro, angolo}) {
+        EXPECT_EQ(entitaDi(scritta(quota)), std::vector<std::string>{"DIMENSION"}) << static_cast<int>(quota.tipo);
+    }
+}
+
 TEST(DocumentoDxf, ARingIsFilledWithItsHole) {
     const auto fuori = pianta::circonferenza({0, 0}, 3);
     const auto dentro = pianta::circonferenza({0, 0}, 2);

@@ -175,7 +175,7 @@ TEST_F(ProveEsportaDXF, ExportWritesWhatIsShownAndCloses) {
     finestra->cmdEsporta.premi();
     ASSERT_EQ(dialogo.richieste.size(), 1U);
     EXPECT_EQ(dialogo.richieste[0].estensione, "dxf");
-    EXPECT_EQ(dialogo.richieste[0].filtro, "Disegno DXF (*.dxf)|*.dxf|All Files (*.*)|*.*");
+    EXPECT_EQ(dialogo.richieste[0].filtro, "Disegno DXF (*.dxf)|*.dxf|Tutti i files(*.*)|*.*");
     EXPECT_EQ(dialogo.richieste[0].nome, "Nodo.dxf");
     EXPECT_EQ(contenuto(*dialogo.risposta), atteso());
     EXPECT_EQ(contenuto(*dialogo.risposta).find("KELVO-QUOTE"), std::string::npos);
@@ -218,14 +218,43 @@ TEST_F(ProveEsportaDXF, AFullDiskIsToldAndLeavesTheOldFile) {
     EXPECT_EQ(contenuto(*dialogo.risposta), "vecchio");
 }
 
-TEST_F(ProveEsportaDXF, AProjectIsNeverReplaced) {
-    dialogo.risposta = cartella.file("Nodo.KLV");
-    scriviContenuto(*dialogo.risposta, "progetto");
+TEST_F(ProveEsportaDXF, OnlyANameThatEndsInDxfIsTaken) {
+    for (const char* nome : {"Nodo.KLV", "Nodo.bak", "Nodo", "dxf", "Nodo.dxf.bak", "Nododxf"}) {
+        messaggi.mostrati.clear();
+        dialogo.risposta = cartella.file(nome);
+        scriviContenuto(*dialogo.risposta, "altro");
+        finestra->cmdEsporta.premi();
+        EXPECT_EQ(contenuto(*dialogo.risposta), "altro") << nome;
+        ASSERT_EQ(messaggi.mostrati.size(), 1U) << nome;
+        EXPECT_EQ(messaggi.mostrati[0].testo,
+                  "Per il disegno serve un nome che finisce con .dxf (" + *dialogo.risposta + ")");
+        EXPECT_EQ(messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
+        EXPECT_EQ(chiusure, 0);
+    }
+    messaggi.mostrati.clear();
+    dialogo.risposta = cartella.file("Nodo.DXF");
     finestra->cmdEsporta.premi();
-    EXPECT_EQ(contenuto(*dialogo.risposta), "progetto");
+    EXPECT_EQ(contenuto(*dialogo.risposta), atteso());
+    EXPECT_TRUE(messaggi.mostrati.empty());
+}
+
+TEST_F(ProveEsportaDXF, AProjectIsNeverReplacedWhateverItsName) {
+    dialogo.risposta = cartella.file("Nodo.dxf");
+    std::string parole;
+    bool esito = false;
+    app.theRotonda().Save(*dialogo.risposta, parole, esito);
+    ASSERT_TRUE(esito) << parole;
+    const std::string prima = contenuto(*dialogo.risposta);
+    finestra->cmdEsporta.premi();
+    EXPECT_EQ(contenuto(*dialogo.risposta), prima);
     ASSERT_EQ(messaggi.mostrati.size(), 1U);
-    EXPECT_EQ(messaggi.mostrati[0].testo.find("Il disegno non può prendere il posto di un progetto"), 0U);
+    EXPECT_EQ(messaggi.mostrati[0].testo,
+              "Il disegno non può prendere il posto di un progetto (" + *dialogo.risposta + ")");
     EXPECT_EQ(chiusure, 0);
+    // A drawing that stands there gives way.
+    scriviContenuto(*dialogo.risposta, atteso() + "vecchio");
+    finestra->cmdEsporta.premi();
+    EXPECT_EQ(contenuto(*dialogo.risposta), atteso());
 }
 
 }  // namespace

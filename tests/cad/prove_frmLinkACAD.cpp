@@ -14,8 +14,10 @@ namespace {
 struct LinkACAD : ScenaCad {
     LinkACAD() {
         progetto({40.0F, 40.0F, 40.0F});
-        impostazioni.scrivi("KelvoCAD 2014", "StartUp", "FilePathKelvo", "/progetti/Piazza.klv");
+        scriviContenuto(progettoSalvato(), "progetto");
+        impostazioni.scrivi("KelvoCAD 2014", "StartUp", "FilePathKelvo", progettoSalvato());
     }
+    std::string progettoSalvato() const { return cartella.file("Città è.klv"); }
     void dueVersioni() {
         registro.prodotto("R16.2", "ACAD-4001:410", "C:\\Acad 2006", "Italiano");
         registro.prodotto("R17.2", "ACAD-7001:409", "C:\\Acad 2009", "English");
@@ -40,7 +42,7 @@ TEST_F(LinkACAD, ListsTheVersionsAndBeginsWithTheLast) {
     EXPECT_TRUE(finestra().lblCartella.visibile());
     EXPECT_FALSE(finestra().lblVuoto.visibile());
     EXPECT_FALSE(finestra().lblInvece.visibile());
-    EXPECT_EQ(finestra().lblProgetto.testo(), "Progetto salvato per ultimo: /progetti/Piazza.klv");
+    EXPECT_EQ(finestra().lblProgetto.testo(), "Progetto salvato per ultimo: " + progettoSalvato());
 }
 
 TEST_F(LinkACAD, ChoosingARowSetsTheAutomationName) {
@@ -166,7 +168,27 @@ TEST_F(LinkACAD, WithoutAutomationTheButtonStaysClosed) {
 TEST_F(LinkACAD, AProjectThatWasNeverSavedIsTold) {
     dueVersioni();
     impostazioni.valori.clear();
+    cad.corre = true;
     EXPECT_EQ(finestra().lblProgetto.testo(), "Nessun progetto è stato ancora salvato: salvarlo prima.");
+    EXPECT_TRUE(finestra().lblProgetto.visibile());
+    for (const int riga : {0, 1}) {
+        finestra().lstACAD.scegli(riga);
+        EXPECT_FALSE(finestra().cmdAVVIAcad.abilitato()) << riga;
+        finestra().cmdAVVIAcad.premi();
+    }
+    EXPECT_TRUE(cad.passi.empty());
+}
+
+TEST_F(LinkACAD, AProjectWhoseFileIsGoneIsToldAndNotDrawn) {
+    dueVersioni();
+    std::filesystem::remove(percorsoDaTesto(progettoSalvato()));
+    EXPECT_EQ(finestra().lblProgetto.testo(),
+              "Il progetto salvato per ultimo non si trova più: salvarlo di nuovo prima (" + progettoSalvato() + ").");
+    finestra().lstACAD.scegli(0);
+    EXPECT_FALSE(finestra().cmdAVVIAcad.abilitato());
+    std::filesystem::create_directory(percorsoDaTesto(progettoSalvato()));
+    frmLinkACAD altra(contorno(), kelvoCAD);
+    EXPECT_FALSE(altra.cmdAVVIAcad.abilitato()) << "a folder is no project";
 }
 
 TEST_F(LinkACAD, ItsButtonClosesIt) {

@@ -126,7 +126,7 @@ TEST_F(ProveImportaCSV, TheDialogueAsksForTextFilesFromTheProjectsOn) {
     ASSERT_EQ(dialogo.richieste.size(), 1U);
     EXPECT_EQ(dialogo.richieste[0].estensione, "csv");
     EXPECT_EQ(dialogo.richieste[0].filtro,
-              "File CSV o di testo (*.csv;*.txt)|*.csv *.CSV *.txt *.TXT|All Files (*.*)|*.*");
+              "File CSV o di testo (*.csv;*.txt)|*.csv *.CSV *.txt *.TXT|Tutti i files(*.*)|*.*");
     EXPECT_NE(dialogo.richieste[0].cartella.find("Progetti"), std::string::npos);
     EXPECT_TRUE(importa("1;2\n"));
     EXPECT_TRUE(importa("1;2\n"));

@@ -244,7 +244,7 @@ TEST_F(ProveParametri, TheFieldInUseShowsItsPictureAndPage) {
     finestra.fuocoSu(finestra.txtDiametroInscritto);
     finestra.fuocoSu(finestra.cmdDM);
     EXPECT_EQ(finestra.ctlPicture.risorsa(), "VUOTA");
-    EXPECT_EQ(finestra.ctlHelp.pagina(), "EmptyHelp.htm");
+    EXPECT_EQ(finestra.ctlHelp.pagina(), "DecretoRotatorie.htm");
 }
 
 TEST_F(ProveParametri, TheDecreeOpensFromKeyAndButton) {

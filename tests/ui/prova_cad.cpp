@@ -42,6 +42,9 @@ TEST_F(CadVeduto, AVersionIsChosenAndDrawnInByTheKeyboard) {
     banco.registro.prodotto("R16.2", "ACAD-4001:410", "C:\\Acad 2006", "Italiano");
     banco.registro.prodotto("R17.2", "ACAD-7001:410", "C:\\Acad 2009", "Italiano");
     banco.cad.corre = true;
+    const std::string progetto = banco.cartella.file("Piazza.klv");
+    scriviContenuto(progetto, "progetto");
+    banco.impostazioni.scrivi("KelvoCAD 2014", "StartUp", "FilePathKelvo", progetto);
     apri("frmLinkACAD", "mnuXCollegamentoAutoCAD", [&](QWidget& finestra) {
         auto& elenco = dynamic_cast<QListWidget&>(oggetto(finestra, "lstACAD"));
         ASSERT_TRUE(attendi([&] { return elenco.hasFocus(); }));

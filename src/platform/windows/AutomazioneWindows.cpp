@@ -83,6 +83,24 @@ std::string paroleRifiuto(EXCEPINFO& rifiuto, HRESULT esito) {
     return parole.empty() ? paroleEsito(rifiuto.scode != 0 ? rifiuto.scode : esito) : parole;
 }
 
+/// A program that still starts, or is busy, turns a call away and is to be called again.
+bool rimandata(HRESULT esito) {
+    return esito == RPC_E_CALL_REJECTED || esito == RPC_E_SERVERCALL_RETRYLATER;
+}
+
+/// Calls until the program takes the call: for about a minute, then its refusal stands.
+template <class Chiamata>
+HRESULT insisti(Chiamata chiamata) {
+    constexpr int tentativi = 240;
+    constexpr DWORD pausa = 250;  // ms
+    HRESULT esito = chiamata();
+    for (int fatti = 1; rimandata(esito) && fatti < tentativi; ++fatti) {
+        Sleep(pausa);
+        esito = chiamata();
+    }
+    return esito;
+}
+
 class ProgrammaWindows final : public ProgrammaCAD {
 public:
     explicit ProgrammaWindows(Riferimento<IDispatch> oggetto) : oggetto_(std::move(oggetto)) {}
@@ -117,7 +135,8 @@ private:
     bool conosce(const std::string& operazione, DISPID& numero) const {
         std::wstring nome = testoLargo(operazione);
         LPOLESTR parola = nome.data();
-        const HRESULT esito = oggetto_->GetIDsOfNames(IID_NULL, &parola, 1, LOCALE_USER_DEFAULT, &numero);
+        const HRESULT esito =
+            insisti([&] { return oggetto_->GetIDsOfNames(IID_NULL, &parola, 1, LOCALE_USER_DEFAULT, &numero); });
         if (FAILED(esito) && esito != DISP_E_UNKNOWNNAME) {
             throw guastoAutomazione(erroreAutomazione, operazione + ": " + paroleEsito(esito));
         }
@@ -141,10 +160,11 @@ private:
         }
         Valore perso;
         EXCEPINFO rifiuto{};
-        const HRESULT esito =
-            oggetto_->Invoke(numero, IID_NULL, LOCALE_USER_DEFAULT, modo, &parametri,
-                             modo == DISPATCH_PROPERTYPUT ? nullptr : (risposta != nullptr ? *risposta : perso).posto(),
-                             &rifiuto, nullptr);
+        VARIANT* const esce =
+            modo == DISPATCH_PROPERTYPUT ? nullptr : (risposta != nullptr ? *risposta : perso).posto();
+        const HRESULT esito = insisti([&] {
+            return oggetto_->Invoke(numero, IID_NULL, LOCALE_USER_DEFAULT, modo, &parametri, esce, &rifiuto, nullptr);
+        });
         if (esito == DISP_E_MEMBERNOTFOUND) {
             throw guastoAutomazione(proprietaNonSupportata, operazione);
         }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -88,11 +89,20 @@ LSTATUS leggiTesto(HKEY aperta, const std::wstring& nome, std::wstring& testo) {
 
 std::vector<std::string> RegistroWindows::sottochiavi(const std::string& chiave) const {
     std::vector<std::string> nomi;
+    std::optional<Guasto> rifiutata;
     for (const REGSAM veduta : vedute) {
-        const Chiave aperta(chiave, veduta);
-        if (aperta.maniglia() != nullptr) {
-            aggiungiSottochiavi(aperta.maniglia(), chiave, nomi);
+        try {
+            const Chiave aperta(chiave, veduta);
+            if (aperta.maniglia() != nullptr) {
+                aggiungiSottochiavi(aperta.maniglia(), chiave, nomi);
+            }
+        } catch (const Guasto& guasto) {
+            rifiutata = guasto;
         }
+    }
+    // What one view gives counts, even where the other one cannot be read.
+    if (nomi.empty() && rifiutata) {
+        throw *rifiutata;
     }
     return nomi;
 }

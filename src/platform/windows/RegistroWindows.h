@@ -8,6 +8,7 @@ namespace kelvo {
 /// bits have their keys, is found as well.
 class RegistroWindows final : public RegistroMacchina {
 public:
+    /// A view that cannot be read is a fault where the other one gives nothing either.
     std::vector<std::string> sottochiavi(const std::string& chiave) const override;
     /// A text with names of environment variables comes with their values.
     std::string valore(const std::string& chiave, const std::string& nome) const override;

@@ -14,6 +14,9 @@ namespace {
 
 /// The key of the user's own below which each application has one.
 constexpr std::wstring_view radiceImpostazioni = L"Software\\Kelvo\\";
+/// The settings of the companion, which its macros read where their language keeps the settings of applications.
+constexpr std::string_view applicazioneMacro = "KelvoCAD 2014";
+constexpr std::wstring_view radiceMacro = L"Software\\VB and VBA Program Settings\\";
 
 std::string voceLocale(LCTYPE voce) {
     constexpr int caratteri = 99;
@@ -26,7 +29,8 @@ std::string voceLocale(LCTYPE voce) {
 }
 
 std::wstring chiaveRegistro(const std::string& applicazione, const std::string& sezione) {
-    return std::wstring(radiceImpostazioni) + testoLargo(applicazione) + L"\\" + testoLargo(sezione);
+    const std::wstring_view radice = applicazione == applicazioneMacro ? radiceMacro : radiceImpostazioni;
+    return std::wstring(radice) + testoLargo(applicazione) + L"\\" + testoLargo(sezione);
 }
 
 bool apriColSistema(const std::wstring& cosa, const wchar_t* argomenti) {

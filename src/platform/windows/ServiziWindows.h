@@ -31,7 +31,8 @@ public:
 };
 
 /// The user's settings in the user's own registry: HKEY_CURRENT_USER\Software\Kelvo\<application>\<section>, each
-/// value a text.
+/// value a text. Those of "KelvoCAD 2014", which the macros of the companion read, stand below
+/// HKEY_CURRENT_USER\Software\VB and VBA Program Settings instead.
 class ImpostazioniWindows final : public ImpostazioniUtente {
 public:
     void scrivi(const std::string& applicazione, const std::string& sezione, const std::string& chiave,

@@ -41,10 +41,10 @@ struct Estensione {
     const char* filtro;
 };
 constexpr std::array estensioni{
-    Estensione{"csv", "File CSV (*.csv)|*.csv|All Files (*.*)|*.*"},
-    Estensione{"png", "Immagine PNG (*.png)|*.png|All Files (*.*)|*.*"},
-    Estensione{"svg", "Immagine SVG (*.svg)|*.svg|All Files (*.*)|*.*"},
-    Estensione{"pdf", "Documento PDF (*.pdf)|*.pdf|All Files (*.*)|*.*"},
+    Estensione{"csv", "File CSV (*.csv)|*.csv|Tutti i files(*.*)|*.*"},
+    Estensione{"png", "Immagine PNG (*.png)|*.png|Tutti i files(*.*)|*.*"},
+    Estensione{"svg", "Immagine SVG (*.svg)|*.svg|Tutti i files(*.*)|*.*"},
+    Estensione{"pdf", "Documento PDF (*.pdf)|*.pdf|Tutti i files(*.*)|*.*"},
 };
 
 /// The formats of a picture.

@@ -16,8 +16,8 @@ namespace kelvo {
 /// Pixels of a saved or copied picture to one logical pixel: it stays sharp on paper.
 inline constexpr double scalaImmagineDati = 2.0;
 
-/// The context menu of a table, a chart or a plan: the entries that it has of its own, behind them those that copy and save it,
-/// at last those that put its window on paper.
+/// The context menu of a table, a chart or a plan: the entries that it has of its own, behind them those that copy and
+/// save it, at last those that put its window on paper.
 class MenuDati {
 public:
     static constexpr const char* tastoStampa = "Ctrl+Shift+P";

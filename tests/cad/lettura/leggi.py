@@ -61,12 +61,68 @@ def measure(dimension):
     return (second - first) % 360
 
 
+def level(entity):
+    """Whether a CAD program writes the text of a dimension level: between its lines, and beyond them."""
+    variables = entity.override()
+    return variables.get("dimtih"), variables.get("dimtoh")
+
+
+def rays(entity):
+    """Whether both ends of an angle lie on one ray."""
+    if entity.dimtype != 5:
+        return 0
+    d = entity.dxf
+    first = (d.defpoint2 - d.defpoint4).normalize()
+    second = (d.defpoint3 - d.defpoint4).normalize()
+    return int(first.isclose(second, abs_tol=1e-6))
+
+
 def dimension(entity):
-    texts = [e.dxf.text for e in entity.get_geometry_block() if e.dxftype() == "TEXT"]
+    drawn = [e for e in entity.get_geometry_block() if e.dxftype() == "TEXT"]
     stored = entity.dxf.actual_measurement
     if entity.dimtype == 5:
         stored = math.degrees(stored)
-    tell("quota", entity.dimtype, number(measure(entity)), number(stored), entity.dxf.text, "".join(texts))
+    words = "".join(e.dxf.text for e in drawn)
+    tell("quota", entity.dimtype, number(measure(entity)), number(stored), entity.dxf.text, words)
+    tell("stilequota", entity.dimtype, entity.dxf.dimstyle, *level(entity), rays(entity))
+    for text in drawn:
+        placed("testoquota", text)
+
+
+def placed(fact, text):
+    """Where a text stands: point, height, rotation, alignment."""
+    _, point, _ = text.get_pos()
+    d = text.dxf
+    tell(fact, d.layer, *(number(v) for v in (point.x, point.y, d.height, d.rotation)), d.halign, d.valign, d.style)
+
+
+def surface(vertices):
+    """Area within a closed chain of vertices with bulges, counter-clockwise above 0."""
+    area = 0.0
+    for start, end, bulge in pieces(vertices, True):
+        area += (start[0] * end[1] - end[0] * start[1]) / 2
+        if bulge != 0:
+            turn = 4 * math.atan(bulge)
+            radius = math.dist(start, end) / (2 * math.sin(turn / 2))
+            area += radius * radius * (turn - math.sin(turn)) / 2
+    return area
+
+
+def hatch(entity):
+    borders = [(int(p.path_type_flags & 1), number(abs(surface(list(p.vertices))))) for p in entity.paths]
+    whole = [part for border in borders for part in border]
+    tell("campitura", entity.dxf.layer, entity.dxf.solid_fill, entity.dxf.pattern_name, len(borders), *whole)
+
+
+def tables(read):
+    for line in read.linetypes:
+        if line.dxf.name.startswith("KELVO"):
+            tags = line.pattern_tags.tags
+            tell("linea", line.dxf.name, *(number(t.value) for t in tags if t.code in (40, 49)))
+    for style in read.dimstyles:
+        for name in sorted(style.dxfattribs()):
+            if name.startswith("dim") and style.dxf.get(name) != "":
+                tell("stile", style.dxf.name, name, style.dxf.get(name))
 
 
 def main(path):
@@ -82,6 +138,7 @@ def main(path):
         tell("testata", name, number(read.header[name][0]), number(read.header[name][1]))
     for layer in read.layers:
         tell("layer", layer.dxf.name, layer.color, layer.dxf.lineweight, layer.dxf.linetype, int(layer.is_on()))
+    tables(read)
     low, high = [math.inf, math.inf], [-math.inf, -math.inf]
     for entity in read.modelspace():
         kind, layer = entity.dxftype(), entity.dxf.layer
@@ -92,13 +149,15 @@ def main(path):
             for p in points:
                 low = [min(low[0], p[0]), min(low[1], p[1])]
                 high = [max(high[0], p[0]), max(high[1], p[1])]
-        tell("entita", layer, kind, number(extent(entity)), bulges)
+        closed = int(kind == "CIRCLE" or (kind == "LWPOLYLINE" and entity.closed))
+        tell("entita", layer, kind, number(extent(entity)), bulges, closed)
         if kind == "TEXT":
             tell("testo", layer, plain_text(entity.dxf.text))
+            placed("posto", entity)
         elif kind == "DIMENSION":
             dimension(entity)
         elif kind == "HATCH":
-            tell("campitura", layer, len(entity.paths), entity.dxf.solid_fill)
+            hatch(entity)
     if low[0] < math.inf:
         tell("ingombro", *(number(v) for v in low + high))
 

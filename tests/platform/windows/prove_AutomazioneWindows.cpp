@@ -44,6 +44,9 @@ public:
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* nomi, UINT, LCID, DISPID* numeri) override {
+        if (const HRESULT rinvio = prossimo(rinviiNomi); rinvio != S_OK) {
+            return rinvio;
+        }
         const auto trovato = std::find(operazioni.begin(), operazioni.end(), testoStretto(nomi[0]));
         numeri[0] =
             trovato == operazioni.end() ? DISPID_UNKNOWN : static_cast<DISPID>(trovato - operazioni.begin()) + 1;
@@ -51,6 +54,9 @@ public:
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID numero, REFIID, LCID, WORD modo, DISPPARAMS* parametri, VARIANT* risposta,
                                      EXCEPINFO* rifiuto, UINT*) override {
+        if (const HRESULT rinvio = prossimo(rinvii); rinvio != S_OK) {
+            return rinvio;
+        }
         const std::string operazione = operazioni.at(static_cast<std::size_t>(numero) - 1);
         passi.push_back(operazione + modoDi(modo, *parametri) + argomento(*parametri));
         if (operazione == rifiutata) {
@@ -68,12 +74,22 @@ public:
     }
 
     std::vector<std::string> operazioni{"Visible", "Activate", "LoadDVB", "RunMacro"};
-    std::string rifiutata;  ///< the operation that fails
-    std::string parole;     ///< with these words; empty: with a bare number
+    std::string rifiutata;            ///< the operation that fails
+    std::string parole;               ///< with these words; empty: with a bare number
+    std::vector<HRESULT> rinviiNomi;  ///< answers to the first questions for a name, instead of the number
+    std::vector<HRESULT> rinvii;      ///< answers to the first calls, which are not carried out
     std::vector<std::string> passi;
     ULONG riferimenti = 1;
 
 private:
+    static HRESULT prossimo(std::vector<HRESULT>& attesi) {
+        if (attesi.empty()) {
+            return S_OK;
+        }
+        const HRESULT esito = attesi.front();
+        attesi.erase(attesi.begin());
+        return esito;
+    }
     static std::string modoDi(WORD modo, const DISPPARAMS& parametri) {
         const bool scrive = parametri.cNamedArgs == 1 && parametri.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
         return modo == DISPATCH_PROPERTYPUT && scrive ? "=" : modo == DISPATCH_METHOD ? "()" : "?";
@@ -226,6 +242,29 @@ TEST_F(ProveAutomazione, WhatTheProgramRefusesIsAFaultInItsWords) {
               "440 Errore di automazione (LoadDVB: Il file non è un progetto)");
     cad.parole.clear();
     EXPECT_EQ(guasto([&] { programma->LoadDVB("a.dvb"); }), "440 Errore di automazione (LoadDVB: codice 0x80004005)");
+}
+
+TEST_F(ProveAutomazione, AProgramThatIsBusyIsCalledAgain) {
+    installa();
+    const auto programma = automazione.crea(progID);
+    cad.rinviiNomi = {RPC_E_CALL_REJECTED, RPC_E_SERVERCALL_RETRYLATER};
+    EXPECT_EQ(guasto([&] { programma->LoadDVB("a.dvb"); }), "");
+    EXPECT_EQ(cad.passi, std::vector<std::string>{"LoadDVB() a.dvb"}) << "once, when it is taken";
+    EXPECT_TRUE(cad.rinviiNomi.empty());
+    cad.rinvii = {RPC_E_SERVERCALL_RETRYLATER, RPC_E_CALL_REJECTED};
+    EXPECT_EQ(guasto([&] { programma->RunMacro("a!b"); }), "");
+    EXPECT_EQ(cad.passi, (std::vector<std::string>{"LoadDVB() a.dvb", "RunMacro() a!b"}));
+    EXPECT_TRUE(cad.rinvii.empty());
+}
+
+TEST_F(ProveAutomazione, AnyOtherRefusalStandsAtOnce) {
+    installa();
+    const auto programma = automazione.crea(progID);
+    cad.rinvii = {RPC_E_DISCONNECTED};
+    EXPECT_EQ(guasto([&] { programma->LoadDVB("a.dvb"); }), "440 Errore di automazione (LoadDVB: codice 0x80010108)");
+    cad.rinviiNomi = {RPC_E_DISCONNECTED};
+    EXPECT_EQ(guasto([&] { programma->RunMacro("a!b"); }), "440 Errore di automazione (RunMacro: codice 0x80010108)");
+    EXPECT_TRUE(cad.passi.empty());
 }
 
 TEST_F(ProveAutomazione, WhatTheProgramDoesNotKnowIsAFault) {

@@ -130,6 +130,26 @@ TEST_F(ProveImpostazioniWindows, ItStandsInTheUsersRegistry) {
     EXPECT_EQ(std::wstring(testo.data()), L"C:\\Rotatoria \u00e8.klv");
 }
 
+TEST_F(ProveImpostazioniWindows, WhatTheCompanionReadsStandsWhereItsMacrosLook) {
+    // A section of the test's own: that of the user stays as it is.
+    const std::string sezione = nomeACaso("prova ");
+    const std::string kelvoCAD = "KelvoCAD 2014";
+    const std::wstring macro = testoLargo("Software\\VB and VBA Program Settings\\" + kelvoCAD + "\\" + sezione);
+    const std::wstring propria = testoLargo("Software\\Kelvo\\" + kelvoCAD + "\\" + sezione);
+    impostazioni.scrivi(kelvoCAD, sezione, "FilePathKelvo", "C:\\Rotatoria è.klv");
+    std::array<wchar_t, 64> testo{};
+    DWORD byte = sizeof testo;
+    EXPECT_EQ(
+        RegGetValueW(HKEY_CURRENT_USER, macro.c_str(), L"FilePathKelvo", RRF_RT_REG_SZ, nullptr, testo.data(), &byte),
+        ERROR_SUCCESS);
+    EXPECT_EQ(std::wstring(testo.data()), L"C:\\Rotatoria \u00e8.klv");
+    EXPECT_EQ(impostazioni.leggi(kelvoCAD, sezione, "FilePathKelvo"), "C:\\Rotatoria è.klv");
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, propria.c_str(), L"FilePathKelvo", RRF_RT_ANY, nullptr, nullptr, nullptr),
+              ERROR_FILE_NOT_FOUND);
+    RegDeleteTreeW(HKEY_CURRENT_USER, macro.c_str());
+    RegDeleteTreeW(HKEY_CURRENT_USER, propria.c_str());
+}
+
 TEST_F(ProveImpostazioniWindows, WhatIsNoTextReadsAsNothing) {
     const DWORD numero = 7;
     ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, testoLargo(chiave() + "\\StartUp").c_str(), L"Numero", REG_DWORD,

@@ -286,9 +286,9 @@ TEST_F(ProveConfronti, FiguresOfOtherDataAreNotExplainedByTheDataAtHand) {
     EXPECT_FALSE(f->lblFlussi.visibile()) << f->lblFlussi.testo();
 }
 
-TEST_F(ProveConfronti, NoFieldNamesAHelpPageThatNoPaneShows) {
+TEST_F(ProveConfronti, AFieldHasItsHelpPageWithoutAPaneToo) {
     EXPECT_EQ(f->aiuto(), nullptr);
-    EXPECT_EQ(f->txtTipoVariabile.paginaAiuto, "");
+    EXPECT_EQ(f->txtTipoVariabile.paginaAiuto, "GrandezzaConfronto.htm");
     EXPECT_NE(f->txtTipoVariabile.suggerimento.find("fissato sul valore più grande"), std::string::npos);
 }
 
