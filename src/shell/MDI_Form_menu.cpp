@@ -209,10 +209,12 @@ void MDI_Form::aiutoSulCampo() {
     if (davanti == nullptr) {
         davanti = gestione.corrente();
     }
-    if (davanti == nullptr) {
-        apriDocumento(guidaUtente);  // no window that help could be about
-    } else {
+    if (davanti != nullptr) {
         aiuto(davanti->paginaInUso());
+    } else if (stato_.statoProgetto != StatoProgetto::NessunProgetto) {
+        aiuto(std::string{paginaDiFinestra(finestraVuota)});
+    } else {
+        apriDocumento(guidaUtente);  // nothing that help could be about
     }
 }
 
