@@ -18,7 +18,8 @@ endfunction()
 file(MAKE_DIRECTORY ${cartella}/bin ${cartella}/man/altre)
 kelvo_comando(kelvo-cli)
 
-# From their sources, where the build tree has what a person changes while trying the program out.
+# From their sources, where the build tree has what a person changes while trying the program out, and what an earlier
+# build has left.
 install(FILES ${CMAKE_SOURCE_DIR}/assets/Kelvo.ini Sistema.txt DESTINATION ${posto}/Kelvo PERMISSIONS ${permessi})
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/assets/Progetti DESTINATION ${posto}
   FILE_PERMISSIONS ${permessi} FILES_MATCHING PATTERN *.klv)
@@ -26,9 +27,13 @@ install(FILES ${KELVO_MODELLI} DESTINATION ${posto}/Kelvo/Modelli PERMISSIONS ${
 # Folders that only the program fills.
 install(DIRECTORY DESTINATION ${posto}/Kelvo/Relazioni)
 install(DIRECTORY DESTINATION ${posto}/Kelvo/XLS)
-# Whatever the build lays into these.
-foreach(parte Immagini Support UserGuide Caratteri)
-  install(DIRECTORY ${KELVO_CARTELLA}/${parte} DESTINATION ${posto}/Kelvo FILE_PERMISSIONS ${permessi} OPTIONAL)
+foreach(parte Immagini Support UserGuide)
+  install(DIRECTORY ${CMAKE_SOURCE_DIR}/assets/${parte} DESTINATION ${posto}/Kelvo FILE_PERMISSIONS ${permessi})
+endforeach()
+# What the build makes for these.
+foreach(parte Support UserGuide Caratteri)
+  install(DIRECTORY ${KELVO_CARTELLA}/${parte} DESTINATION ${posto}/Kelvo FILE_PERMISSIONS ${permessi} OPTIONAL
+    FILES_MATCHING PATTERN *.pdf PATTERN *.ttf)
 endforeach()
 
 install(FILES debian/copyright ${cartella}/changelog.Debian.gz DESTINATION share/doc/kelvo PERMISSIONS ${permessi})
@@ -38,6 +43,9 @@ if(KELVO_DESKTOP)
   kelvo_comando(kelvo)
   install(FILES kelvo.desktop DESTINATION share/applications PERMISSIONS ${permessi})
   install(FILES kelvo.xml DESTINATION share/mime/packages PERMISSIONS ${permessi})
+  # What catalogues of programs show; the file is called after its component.
+  install(FILES kelvo.metainfo.xml DESTINATION share/metainfo
+    RENAME invalid.kelvo.kelvo.metainfo.xml PERMISSIONS ${permessi})
   install(DIRECTORY ${cartella}/icone/ DESTINATION share/icons/hicolor FILE_PERMISSIONS ${permessi})
   install(FILES ${KELVO_SEGNO} DESTINATION share/icons/hicolor/scalable/apps RENAME kelvo.svg PERMISSIONS ${permessi})
   install(FILES icone/progetto.svg DESTINATION share/icons/hicolor/scalable/mimetypes

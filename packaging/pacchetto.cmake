@@ -31,7 +31,8 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 if(KELVO_DESKTOP)
   # The drawings are read by an engine that is loaded while the program runs; the words of the standard buttons too.
   set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, qt6-translations-l10n")
-  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
+  # Documents are opened by the first; by the others a desktop knows projects and their icon.
+  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, desktop-file-utils, hicolor-icon-theme, shared-mime-info")
   set(CPACK_DEBIAN_PACKAGE_SUGGESTS "libreoffice-writer-nogui | libreoffice-writer")
 endif()
 include(CPack)

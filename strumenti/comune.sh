@@ -45,9 +45,9 @@ come_root() {
 
 # installa <purpose>...: installs what is missing; with all there it touches and contacts nothing.
 installa() {
-    local voluti da_installare=()
-    mapfile -t voluti < <(pacchetti "$@")
-    ((${#voluti[@]})) || muori "nessun pacchetto per: $*"
+    local elenco voluti da_installare=()
+    elenco=$(pacchetti "$@") || exit
+    mapfile -t voluti <<<"$elenco"
     if ! command -v dpkg-query >/dev/null; then
         di "Sistema senza pacchetti Debian: servono gli equivalenti di ${voluti[*]}"
         return
@@ -74,6 +74,7 @@ usa_ccache() {
 costruisci() {
     local preset=$1
     shift
+    usa_ccache
     cmake --preset "$preset" >"build/configura-$preset.log" 2>&1 || {
         cat "build/configura-$preset.log" >&2
         muori "configurazione \"$preset\" non riuscita"
@@ -91,7 +92,7 @@ sorgenti() {
             fi
         done
     else
-        find src apps tests benchmarks fuzz \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null
+        find src apps strumenti tests benchmarks fuzz \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null
     fi
 }
 
@@ -108,4 +109,3 @@ durata() {
 }
 
 mkdir -p build
-usa_ccache

@@ -15,6 +15,8 @@ readonly COSTRUZIONE
 readonly PACCHETTI=$COSTRUZIONE/pacchetti
 readonly ESEMPIO=Rotatoria_Via_dei_Mulini.klv
 readonly TIPO=application/x-kelvo+json
+# What an earlier build may have left in the tree, and no package must take along.
+readonly AVANZO=$COSTRUZIONE/Prog/Kelvo/Support/avanzo.htm
 
 lavoro=$(mktemp -d)
 avviato=
@@ -23,6 +25,7 @@ fine() {
         kill "$avviato" 2>/dev/null || true
     fi
     rm -rf -- "$lavoro"
+    rm -f -- "$AVANZO"
 }
 trap fine EXIT
 
@@ -73,7 +76,7 @@ prova_cartella() {
     [[ -f ${cartella:0:-6}/Progetti/$ESEMPIO ]] || muori "${cartella:0:-6}/Progetti: mancano gli esempi"
     local parte
     for parte in Kelvo.ini Modelli/RelazioneMasterTOT.dotx Relazioni XLS Support/EmptyHelp.htm Immagini/segni/Kelvo.svg \
-        Caratteri/OpenSans-Regular.ttf; do
+        Caratteri/OpenSans-Regular.ttf UserGuide/UserGuide.pdf; do
         [[ -e $cartella/$parte ]] || muori "$cartella: manca $parte"
     done
 }
@@ -113,11 +116,23 @@ prova_contenuto() {
     done
     trovati=$(find "$albero" \( -type f -perm /022 -o -type d ! -perm 755 -o -type f ! -perm -444 \) -print)
     uguale "permessi" "" "$trovati"
+    uguale "pagine di aiuto" "$(ls assets/Support)" "$(ls -I '*.pdf' "$albero/usr/lib/kelvo/Prog/Kelvo/Support")"
+    prova_dati_pacchetto "$albero/usr/share/doc/kelvo/changelog.Debian.gz"
     if command -v lintian >/dev/null; then
         lintian --fail-on error,warning --allow-root "$deb"
     else
         di "Saltato: il controllo di lintian, non è installato"
     fi
+}
+
+# prova_dati_pacchetto <changelog>: what it depends on, found or named; its version in the changelog.
+prova_dati_pacchetto() {
+    local dipende voluto
+    dipende=$(dpkg-deb -f "$deb" Depends)
+    for voluto in libc6 libqt6widgets6 libqt6svg6 qt6-translations-l10n; do
+        grep -qE "(^|, )$voluto( |,|\$)" <<<"$dipende" || muori "il pacchetto non chiede $voluto: $dipende"
+    done
+    uguale "versione del changelog" "$(dpkg-deb -f "$deb" Version)" "$(zcat "$1" | dpkg-parsechangelog -l - -S Version)"
 }
 
 # What cmake installs by itself is what the package holds.
@@ -143,6 +158,24 @@ prova_scrivania() {
     done
     [[ -s $albero/icons/hicolor/scalable/apps/kelvo.svg ]] || muori "manca l'icona kelvo.svg"
     prova_tipo "$albero"
+    prova_catalogo "$albero" "$voce"
+}
+
+# prova_catalogo <share> <entry of the desktop>: what catalogues of programs show is what the package and its entry say.
+prova_catalogo() {
+    local dati=$1/metainfo/invalid.kelvo.kelvo.metainfo.xml versione giorno
+    appstreamcli validate-tree --no-net "${1%/usr/share}" >"$lavoro/catalogo" || {
+        cat "$lavoro/catalogo" >&2
+        muori "i dati per i cataloghi non sono validi"
+    }
+    versione=$(dpkg-deb -f "$deb" Version)
+    giorno=$(date -u -d "$(zcat "$1/doc/kelvo/changelog.Debian.gz" | dpkg-parsechangelog -l - -S Date)" +%F)
+    uguale "versione nei cataloghi" "${versione%-*} $giorno" \
+        "$(sed -n 's/.*<release version="\([^"]*\)" date="\([^"]*\)".*/\1 \2/p' "$dati" | sed -n 1p)"
+    uguale "sommario" "$(sed -n 's/^Comment=//p' "$2")" "$(sed -n 's|.*<summary>\(.*\)</summary>|\1|p' "$dati")"
+    uguale "sommario in italiano" "$(sed -n 's/^Comment\[it\]=//p' "$2")" \
+        "$(sed -n 's|.*<summary xml:lang="it">\(.*\)</summary>|\1|p' "$dati")"
+    grep -qF "<mediatype>$TIPO</mediatype>" "$dati" || muori "i cataloghi non conoscono i progetti"
 }
 
 # prova_tipo <share>: what the desktop takes files for.
@@ -159,6 +192,11 @@ prova_tipo() {
         uguale "tipo di $file" "$TIPO" "$(tipo_di "$dati" "$file")"
     done
     uguale "tipo di altro.json" application/json "$(tipo_di "$dati" altro.json)"
+    # What a double click opens them with.
+    cp -r -- "$1/applications" "$dati/"
+    update-desktop-database "$dati/applications"
+    uguale "programma dei progetti" kelvo.desktop "$(PATH=$1/../bin:$PATH XDG_CONFIG_HOME=$dati XDG_CONFIG_DIRS=$dati \
+        XDG_DATA_HOME=$dati XDG_DATA_DIRS=$dati gio mime "$TIPO" | sed -n '1s/.*: //p')"
 }
 tipo_di() {
     XDG_DATA_HOME=$1 XDG_DATA_DIRS=$1 gio info -a standard::content-type "$lavoro/file/$2" |
@@ -287,6 +325,7 @@ if $radice_pulita; then
 fi
 cmake --build "$COSTRUZIONE" --target kelvo_pacchetto --parallel "$(nproc)"
 rm -rf -- "$PACCHETTI"
+: >"$AVANZO"
 (cd -- "$COSTRUZIONE" && cpack -G DEB) >"$COSTRUZIONE/cpack.log" 2>&1 || { cat "$COSTRUZIONE/cpack.log" >&2; muori "cpack"; }
 deb=$(echo "$PACCHETTI"/kelvo_*.deb)
 strumenti/portatile.sh "$COSTRUZIONE"

@@ -132,6 +132,6 @@ esamina() {
 }
 
 tidy() {
-    esamina build/release src apps tests benchmarks
+    esamina build/release src apps strumenti tests benchmarks
     esamina build/fuzz fuzz
 }

@@ -61,9 +61,12 @@ Kelvo $VERSIONE, cartella portatile
   kelvo        il programma da tavolo
   kelvo-cli    la riga di comando (kelvo-cli --help)
 
-Non c'è nulla da installare: la cartella si può spostare dove si vuole, anche su una chiavetta, purché "Prog" resti
-com'è. Configurazione, modelli, relazioni e progetti stanno in "Prog"; se la cartella non si può scrivere, Kelvo ne tiene
-una copia fra i dati dell'utente (.local/share/Kelvo/Prog).
+Non c'è nulla da installare: la cartella si può spostare dove si vuole, purché "Prog" resti com'è; anche su una
+chiavetta, se il suo disco ha i permessi e i collegamenti di Linux (ext4 e simili; FAT ed exFAT non li hanno).
+
+Configurazione, modelli, relazioni e progetti stanno in "Prog"; se la cartella non si può scrivere, Kelvo ne tiene una
+copia fra i dati dell'utente (.local/share/Kelvo/Prog). Fra i dati dell'utente stanno sempre la copia di recupero del
+progetto aperto (.local/share/Kelvo/Recupero) e l'elenco dei progetti recenti (.config/Kelvo).
 
 Serve un sistema Linux a 64 bit con la libreria C 2.36 o più recente (Debian 12 e successivi) e, per le finestre, uno
 schermo X11 o Wayland con XWayland. Le librerie che viaggiano con il programma stanno in Prog/Kelvo/Librerie, con le loro

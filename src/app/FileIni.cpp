@@ -46,12 +46,17 @@ std::optional<Coppia> coppiaDi(std::string_view riga) {
     return Coppia{rifila(riga.substr(0, uguale)), valore};
 }
 
-void controllaNomi(std::string_view sezione, std::string_view chiave) {
+/// A pair written under these names would be found again.
+bool nomiValidi(std::string_view sezione, std::string_view chiave) {
     const auto pulito = [](std::string_view nome, std::string_view vietati) {
         return rifila(nome) == nome && nome.find_first_of(vietati) == std::string_view::npos;
     };
     const bool commento = !chiave.empty() && (chiave.front() == ';' || chiave.front() == '#' || chiave.front() == '[');
-    if (chiave.empty() || commento || !pulito(sezione, "]\r\n") || !pulito(chiave, "=\r\n")) {
+    return !chiave.empty() && !commento && pulito(sezione, "]\r\n") && pulito(chiave, "=\r\n");
+}
+
+void controllaNomi(std::string_view sezione, std::string_view chiave) {
+    if (!nomiValidi(sezione, chiave)) {
         throw Guasto(NumeroGuasto::chiamataNonValida, fmt::format("[{}] {}", utf8Valido(sezione), utf8Valido(chiave)));
     }
 }
@@ -151,8 +156,9 @@ void FileIni::completa(const FileIni& fornito) {
     std::optional<std::string_view> sezione;
     for (const Riga& riga : fornito.righe_) {
         if (const auto nome = sezioneDi(riga.testo)) {
-            sezione = nome;
+            sezione = rifila(*nome);
         } else if (const auto coppia = coppiaDi(riga.testo); sezione && coppia && !coppia->valore.empty() &&
+                                                             nomiValidi(*sezione, coppia->chiave) &&
                                                              leggi(*sezione, coppia->chiave).value_or("").empty()) {
             scrivi(*sezione, coppia->chiave, coppia->valore);
         }

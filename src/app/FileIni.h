@@ -31,7 +31,8 @@ public:
     /// gets a pair of double quotes. Fault 5 for names that could not be found again: an empty key, '=' or a comment
     /// sign or a bracket that would change the sense of the line, a line break, blanks at the ends.
     void scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore);
-    /// Writes every key that `fornito` holds with a value and that is missing here, or stands here without one.
+    /// Writes every key that `fornito` holds with a value and that is missing here, or stands here without one. A name
+    /// that could not be found again is passed over.
     void completa(const FileIni& fornito);
     /// The whole text.
     std::string testo() const;

@@ -53,6 +53,15 @@ bool danneggiato(Genere genere, std::string_view dati) {
            (genere == Genere::modello && !dati.starts_with("PK"));
 }
 
+/// Name beside a damaged file to which it makes room; none that stands already is taken.
+std::string nomeDanneggiato(const std::string& percorso) {
+    std::string nome = percorso + ".danneggiato";
+    for (int volta = 2; esiste(nome); ++volta) {
+        nome = fmt::format("{}.danneggiato-{}", percorso, volta);
+    }
+    return nome;
+}
+
 /// Names of the regular files of a folder, in order.
 std::vector<std::string> fileDi(const std::string& cartella) {
     std::vector<std::string> nomi;
@@ -138,9 +147,13 @@ private:
             dici(meta, errore);
             return;
         }
+        if (!manca && fornito != suo && danneggiato(genere, fornito)) {
+            dici(fonte, "il file è danneggiato");
+            return;
+        }
         const std::string voluto = manca ? fornito : contenutoVoluto(genere, chiave, fornito, suo);
-        if (!manca && voluto == fornito && danneggiato(genere, suo) && !suo.empty()) {
-            errore = sistema_.rinomina(meta, meta + ".danneggiato");
+        if (!manca && voluto != suo && danneggiato(genere, suo) && !suo.empty()) {
+            errore = sistema_.rinomina(meta, nomeDanneggiato(meta));
         }
         if (errore.empty() && (manca || voluto != suo)) {
             errore = scriviFileSicuro(sistema_, meta, voluto);

@@ -24,9 +24,10 @@ struct EsitoCopia {
 /// installation; one that the user has changed stays, Kelvo.ini with the keys that it lacks; what the user has under a
 /// name that comes only now stays too. A missing template or configuration comes again, a missing example does not
 /// where it has come once. A damaged file (empty, a template that is no archive, a configuration that is no text) makes
-/// room for what came: unless it is empty it stays beside it, with ".danneggiato" behind its name.
-/// A second call with nothing to do writes nothing. Where not even the configuration can be copied, the folder of the
-/// answer is `programma`.
+/// room for what came: unless it is empty it stays beside it, with ".danneggiato" behind its name ("-2" and so on
+/// behind that where one stands already). A damaged file of the installation is told, and replaces none that the user
+/// has. A second call with nothing to do writes nothing. Where not even the configuration can be copied, the folder of
+/// the answer is `programma`.
 EsitoCopia aggiornaCopiaUtente(SistemaFile& sistema, const std::string& programma, const std::string& copia);
 
 /// Folder of the parts that are written for a program that writes none of them: the user's copy if it stands, else the

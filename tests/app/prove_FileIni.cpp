@@ -98,6 +98,12 @@ TEST(ProveFileIni, WhatIsMissingOrWithoutAValueIsTakenFromAnother) {
     EXPECT_EQ(ini.testo(), "; mio\r\n[s]\r\na = 1\r\nvuota=4\r\nB=\"x \"\r\n[T]\r\nD=5\r\n");
 }
 
+TEST(ProveFileIni, WhatIsTakenFromAnotherHasItsNameWithoutBlanksAndOneOfNoUseIsPassedOver) {
+    FileIni ini("[S]\nA=1\n");
+    ini.completa(FileIni("[ S ]\nB=2\n=3\n[aperta=4\n[ T\t]\nC=5\n[a\rb]\nD=6\n"));
+    EXPECT_EQ(ini.testo(), "[S]\nA=1\nB=2\n[T]\nC=5\n");
+}
+
 TEST(ProveFileIni, NamesThatCouldNotBeFoundAgainAreFaults) {
     FileIni ini("[S]\n");
     for (const std::string chiave : {"", "a=b", ";a", "#a", "[a", " a", "a ", "a\nb", "a\rb"}) {

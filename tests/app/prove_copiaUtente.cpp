@@ -68,7 +68,10 @@ TEST_F(ProveCopia, ANewVersionBringsWhatIsNewAndWhatTheUserHasNotChanged) {
     scriviContenuto(programma + "/Modelli/Totale.dotx", "PK due");
     scriviContenuto(programma + "/Modelli/Nuovo.dotx", "PK nuovo");
     scriviContenuto(radice.file("usr/Prog/Progetti/Altro.klv"), "{2}");
+    const std::string nuovo = std::string{iniFornito} + "[NUOVA]\nChiave=1\n";
+    scriviContenuto(programma + "/Kelvo.ini", nuovo);
     aggiorna();
+    EXPECT_EQ(contenuto(nellaCopia("Kelvo.ini")), nuovo);
     EXPECT_EQ(contenuto(nellaCopia("Modelli/Totale.dotx")), "PK due");
     EXPECT_EQ(contenuto(nellaCopia("Modelli/Nuovo.dotx")), "PK nuovo");
     EXPECT_EQ(contenuto(radice.file("casa/Prog/Progetti/Altro.klv")), "{2}");
@@ -136,6 +139,56 @@ TEST_F(ProveCopia, ADamagedFileMakesRoomAndIsKeptBesideUnlessItIsEmpty) {
     EXPECT_EQ(contenuto(nellaCopia("Kelvo.ini.danneggiato")), std::string("\0\0\0", 3));
     EXPECT_EQ(contenuto(esempio()), "{1}");
     EXPECT_FALSE(fs::exists(esempio() + ".danneggiato"));
+}
+
+TEST_F(ProveCopia, EveryDamagedFileIsKeptUnderAName) {
+    aggiorna();
+    for (const char* testo : {"primo", "secondo", "terzo"}) {
+        scriviContenuto(nellaCopia("Modelli/Totale.dotx"), testo);
+        EXPECT_TRUE(aggiorna().problemi.empty());
+    }
+    EXPECT_EQ(contenuto(nellaCopia("Modelli/Totale.dotx")), "PK uno");
+    EXPECT_EQ(contenuto(nellaCopia("Modelli/Totale.dotx.danneggiato")), "primo");
+    EXPECT_EQ(contenuto(nellaCopia("Modelli/Totale.dotx.danneggiato-2")), "secondo");
+    EXPECT_EQ(contenuto(nellaCopia("Modelli/Totale.dotx.danneggiato-3")), "terzo");
+}
+
+TEST_F(ProveCopia, ADamagedInstallationIsToldAndSpoilsNoCopy) {
+    aggiorna();
+    const std::string guasto("[\0F\0I\0L\0E\0]\0", 12);
+    scriviContenuto(programma + "/Kelvo.ini", guasto);
+    scriviContenuto(programma + "/Modelli/Totale.dotx", "");
+    const std::string mio = "[LAY_OUT]\nCustomPanel=2\n";
+    for (const std::string& ini : {std::string{iniFornito}, mio}) {
+        scriviContenuto(nellaCopia("Kelvo.ini"), ini);
+        const EsitoCopia esito = aggiorna();
+        ASSERT_EQ(esito.problemi.size(), 2U);
+        EXPECT_EQ(esito.problemi[0], radice.file("usr/Prog/Kelvo/Kelvo.ini") + ": il file è danneggiato");
+        EXPECT_EQ(esito.problemi[1], radice.file("usr/Prog/Kelvo/Modelli/Totale.dotx") + ": il file è danneggiato");
+        EXPECT_EQ(contenuto(nellaCopia("Kelvo.ini")), ini);
+        EXPECT_EQ(contenuto(nellaCopia("Modelli/Totale.dotx")), "PK uno");
+    }
+    // Mended, it is followed as before.
+    scriviContenuto(programma + "/Modelli/Totale.dotx", "PK due");
+    aggiorna();
+    EXPECT_EQ(contenuto(nellaCopia("Modelli/Totale.dotx")), "PK due");
+}
+
+TEST_F(ProveCopia, AFileAmongTheTemplatesThatIsNoArchiveIsNotTakenForADamage) {
+    scriviContenuto(programma + "/Modelli/Leggimi.txt", "Modelli dello studio");
+    for (int volta = 0; volta < 3; ++volta) {
+        EXPECT_TRUE(aggiorna().problemi.empty());
+        EXPECT_EQ(contenuto(nellaCopia("Modelli/Leggimi.txt")), "Modelli dello studio");
+        EXPECT_FALSE(fs::exists(nellaCopia("Modelli/Leggimi.txt.danneggiato")));
+    }
+}
+
+TEST_F(ProveCopia, AConfigurationOfTheInstallationWrittenCarelesslyStillCompletesTheUsersOwn) {
+    aggiorna();
+    scriviContenuto(nellaCopia("Kelvo.ini"), "[LAY_OUT]\nCustomPanel=2\n");
+    scriviContenuto(programma + "/Kelvo.ini", "[ FILE_LOG ]\nPathError=L.TXT\n=3\n");
+    EXPECT_TRUE(aggiorna().problemi.empty());
+    EXPECT_EQ(contenuto(nellaCopia("Kelvo.ini")), "[LAY_OUT]\nCustomPanel=2\n[FILE_LOG]\nPathError=L.TXT\n");
 }
 
 TEST_F(ProveCopia, WithoutItsListNothingOfTheUsersIsReplaced) {
