@@ -13,7 +13,8 @@ Comando::Comando(CLI::App& radice, const std::string& nome, const std::string& d
 }
 
 void Comando::aggiungiIni(OpzioniComuni& comuni) {
-    aggiungiTesto(*app_, "--ini", comuni.ini, "file di configurazione (se manca: Kelvo.ini accanto al programma)")
+    aggiungiTesto(*app_, "--ini", comuni.ini,
+                  "file di configurazione (se manca: Kelvo.ini della copia dell'utente, se c'è, o del programma)")
         ->type_name("FILE");
 }
 

@@ -69,6 +69,9 @@ protected:
         if (stessoFile(uscita_, file_.front())) {
             return fmt::format("{}: è il progetto, che il disegno sostituirebbe", citato(uscita_));
         }
+        if (dxf::contieneProgetto(uscita_)) {
+            return fmt::format("{}: è un progetto, che il disegno sostituirebbe", citato(uscita_));
+        }
         return {};
     }
 
@@ -108,10 +111,10 @@ private:
             }
             ipotesi_.direzioni = *lette;
         };
-        app_->add_option_function<std::string>(
-                "--direzioni", leggi,
-                "direzioni dei rami in gradi, in senso antiorario da quella del ramo A, che è 0 "
-                "(se manca: rami ad angoli uguali)")
+        app_->add_option_function<std::string>("--direzioni", leggi,
+                                               "direzioni dei rami in gradi, in senso antiorario da quella del ramo A, "
+                                               "che è 0; con la virgola decimale "
+                                               "si separano con il punto e virgola (se manca: rami ad angoli uguali)")
             ->type_name("ANGOLI");
     }
 

@@ -215,6 +215,14 @@ double altezzaQuote(double R) {
     return std::clamp(suRaggio * R, 0.35, 1.5);
 }
 
+bool contieneProgetto(const std::string& percorso) {
+    Rotonda progetto;
+    std::string ignorato;
+    bool letto = false;
+    progetto.Load(percorso, ignorato, letto);
+    return letto;
+}
+
 Cartiglio cartiglioDi(const Rotonda& rotonda) {
     std::string luogo;
     for (const std::string& parte : {rotonda.Localita(), rotonda.Comune()}) {

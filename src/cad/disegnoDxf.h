@@ -104,6 +104,9 @@ struct Cartiglio {
 /// What the project says of itself.
 Cartiglio cartiglioDi(const Rotonda& rotonda);
 
+/// True where a file holds a project, whatever its name: no drawing takes its place.
+bool contieneProgetto(const std::string& percorso);
+
 /// The plan to scale, leg A at the bottom, the centre at 0, 0, with the mark of every plan on it. Flows, levels and
 /// queues are no part of it. Fault 9 for a number of legs outside 3 to 7.
 Documento disegno(const pianta::DatiPianta& dati, const Cartiglio& cartiglio, const Scelte& scelte = {});

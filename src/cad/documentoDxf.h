@@ -101,8 +101,8 @@ struct Documento {
 /// number is left out.
 std::string testoDxf(const Documento& documento);
 
-/// A text as an entity shows it: one line of valid UTF-8 of at most 240 characters. What would be read as a code of
-/// the format is parted by a blank.
+/// A text as an entity shows it: one line of valid UTF-8 of at most 240 characters, "…" behind them where it is longer.
+/// What would be read as a code of the format is parted by a blank.
 std::string testoSemplice(std::string_view testo);
 
 }  // namespace kelvo::dxf

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/file.h"
 #include "base/testo.h"
 #include "model/Rotonda.h"
@@ -24,7 +25,6 @@ constexpr const char* anteprima = "Anteprima";
 constexpr const char* predefiniti = "Predefiniti";
 constexpr const char* esporta = "Esporta...";
 constexpr const char* annulla = "Annulla";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* filtro = "Disegno DXF (*.dxf)|*.dxf|Tutti i files(*.*)|*.*";
 }  // namespace testi
 
@@ -67,17 +67,13 @@ std::array<Casella, sizeof...(I)> caselle(std::index_sequence<I...> /*indici*/) 
     return {Casella{std::string{dxf::vociGruppo[I].controllo}, std::string{dxf::vociGruppo[I].nome}}...};
 }
 
-/// Why a drawing cannot be written there; empty where it can. A project is known by what it holds, whatever its name.
+/// Why a drawing cannot be written there; empty where it can.
 std::string rifiuto(const std::string& percorso) {
     constexpr std::size_t estensione = 4;
     if (maiuscoleAscii(ultimiCaratteri(percorso, estensione)) != ".DXF") {
         return "Per il disegno serve un nome che finisce con .dxf";
     }
-    Rotonda progetto;
-    std::string ignorato;
-    bool letto = false;
-    progetto.Load(percorso, ignorato, letto);
-    return letto ? "Il disegno non può prendere il posto di un progetto" : std::string{};
+    return dxf::contieneProgetto(percorso) ? "Il disegno non può prendere il posto di un progetto" : std::string{};
 }
 
 /// The number that a field shows, where the user typed one that it takes; else nothing.
@@ -252,7 +248,7 @@ void frmEsportaDXF::esporta() {
         return;
     }
     if (const std::string parole = difetto(); !parole.empty()) {
-        messaggio("Direzioni non disegnabili: " + parole, testi::attenzione, Icona::esclamazione);
+        messaggio("Direzioni non disegnabili: " + parole, titoli::attenzione, Icona::esclamazione);
         return;
     }
     DialogoFile* dialogo = contorno().servizi.dialogo;
@@ -271,13 +267,13 @@ void frmEsportaDXF::esporta() {
 
 void frmEsportaDXF::scrivi(const std::string& percorso) {
     if (const std::string parole = rifiuto(percorso); !parole.empty()) {
-        messaggio(parole + " (" + percorso + ")", testi::attenzione, Icona::esclamazione);
+        messaggio(parole + " (" + percorso + ")", titoli::attenzione, Icona::esclamazione);
         return;
     }
     const dxf::Documento disegno = dxf::disegno(piantaMostrata(), dxf::cartiglioDi(rotonda()), scelteMostrate());
     const std::string errore = scriviFileSicuro(app().file, percorso, dxf::testoDxf(disegno));
     if (!errore.empty()) {
-        messaggio("Impossibile scrivere il file: " + errore + " (" + percorso + ")", testi::attenzione,
+        messaggio("Impossibile scrivere il file: " + errore + " (" + percorso + ")", titoli::attenzione,
                   Icona::esclamazione);
         return;
     }

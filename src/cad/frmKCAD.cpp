@@ -2,16 +2,14 @@
 
 #include <fmt/format.h>
 
-#include <filesystem>
-
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/file.h"
 
 namespace kelvo {
 
 namespace {
 
-constexpr const char* titoloAttenzione = "KELVO 2014 - Attenzione";
 constexpr const char* paginaSupporto = "\\Support\\Vaq KelvoCAD.htm";
 constexpr const char* scheda = "\\Support\\SW_KelvoCAD_2010.pdf";
 
@@ -20,7 +18,7 @@ constexpr const char* descrizione =
 constexpr const char* passaggio =
     "Con la voce «KelvoCAD» del menu, o con il suo pulsante, Kelvo salva il progetto e avvia KelvoCAD con il percorso "
     "del file salvato. KelvoCAD legge da sé il progetto e non lo modifica. Se gli ingressi hanno diametri diversi, per "
-    "tutta la rotatoria vale quello del primo ramo: Kelvo lo chiede prima.";
+    "tutta la rotatoria vale quello del primo ramo: prima Kelvo chiede conferma.";
 constexpr const char* invece =
     "Senza KelvoCAD la pianta si porta in un programma CAD con «Esporta DXF...», nello stesso menu.";
 
@@ -42,8 +40,7 @@ frmKCAD::frmKCAD(const Contorno& contorno, ApriDocumenti& documenti)
     cmdPDF.allaPressione = [this] { comando("PDF"); };
     cmdChiudi.allaPressione = [this] { comando("Chiudi"); };
     const std::string programma = percorsoKelvoCAD(app().theAmbiente);
-    std::error_code ignorato;
-    const bool presente = std::filesystem::is_regular_file(percorsoDaTesto(programma), ignorato);
+    const bool presente = app().file.dimensione(programma) >= 0;
     lblStato.testo(presente ? fmt::format("KelvoCAD è installato: {}", programma)
                             : std::string{"KelvoCAD non è installato su questo computer."});
     lblInvece.visibile(!presente);
@@ -63,7 +60,7 @@ void frmKCAD::comando(std::string_view tag) {
 void frmKCAD::apri(const char* documento) {
     const std::string percorso = app().theAmbiente.PercorsoProgramma(documento);
     if (!documenti_.apri("\"" + percorso + "\"")) {
-        messaggio(fmt::format("Impossibile aprire {}", percorso), titoloAttenzione, Icona::esclamazione);
+        messaggio(fmt::format("Impossibile aprire {}", percorso), titoli::attenzione, Icona::esclamazione);
     }
 }
 

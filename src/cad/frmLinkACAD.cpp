@@ -2,19 +2,17 @@
 
 #include <fmt/format.h>
 
-#include <filesystem>
 #include <initializer_list>
 #include <memory>
-#include <system_error>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/file.h"
 
 namespace kelvo {
 
 namespace {
 
-constexpr const char* titoloKelvo = "Kelvo 2014";
 constexpr const char* domandaAvvio = "AutoCAD non è avviato. Avvio adesso?";
 constexpr const char* macroLettura = "!Module1.LeggiDatiKlvFromKELVO";
 
@@ -81,8 +79,7 @@ void frmLinkACAD::mostraVuoto() {
 
 void frmLinkACAD::mostraProgetto() {
     const std::string progetto = kelvoCAD_.FilePathKelvo();
-    std::error_code ignorato;
-    conProgetto_ = !progetto.empty() && std::filesystem::is_regular_file(percorsoDaTesto(progetto), ignorato);
+    conProgetto_ = !progetto.empty() && app().file.dimensione(progetto) >= 0;
     if (progetto.empty()) {
         lblProgetto.testo("Nessun progetto è stato ancora salvato: salvarlo prima.");
     } else if (!conProgetto_) {
@@ -124,7 +121,7 @@ void frmLinkACAD::comanda() {
     if (programma != nullptr) {
         programma->Visible(true);
     } else {
-        if (app().messaggi.mostra(domandaAvvio, titoloKelvo, Icona::domanda, Pulsanti::siNo) != Risposta::si) {
+        if (app().messaggi.mostra(domandaAvvio, titoli::kelvo, Icona::domanda, Pulsanti::siNo) != Risposta::si) {
             return;
         }
         programma = cad.crea(progIDAutoCAD_);

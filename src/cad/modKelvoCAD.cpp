@@ -3,9 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <filesystem>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/file.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
@@ -15,8 +15,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr const char* titoloAttenzione = "KELVO 2014 - Attenzione";
-constexpr const char* titoloKelvo = "Kelvo 2014";
 constexpr const char* chiaveAutoCAD = "Software\\Autodesk\\AutoCAD";
 
 constexpr const char* domandaSalvataggio =
@@ -57,7 +55,7 @@ std::string_view progIDAutoCAD(std::string_view nome) {
 
 void modKelvoCAD::LinkKELVOCAD(bool& esito) {
     esito = false;
-    if (app_.messaggi.mostra(domandaSalvataggio, titoloAttenzione, Icona::domanda, Pulsanti::siNo) != Risposta::si) {
+    if (app_.messaggi.mostra(domandaSalvataggio, titoli::attenzione, Icona::domanda, Pulsanti::siNo) != Risposta::si) {
         return;
     }
     bool continua = false;
@@ -74,7 +72,7 @@ void modKelvoCAD::LinkKELVOCAD(bool& esito) {
         esito = true;
     } catch (const Guasto& guasto) {
         app_.comune.erroreLog(guasto.codice(), "LinkKELVOCAD:", guasto.descrizione(), false);
-        app_.messaggi.mostra(senzaEseguibile, titoloKelvo, Icona::esclamazione, Pulsanti::ok);
+        app_.messaggi.mostra(senzaEseguibile, titoli::kelvo, Icona::esclamazione, Pulsanti::ok);
     }
 }
 
@@ -82,8 +80,7 @@ void modKelvoCAD::avviaKelvoCAD() {
     const std::string programma = percorsoKelvoCAD(app_.theAmbiente);
     const std::string progetto = FilePathKelvo();
     if (!servizi_.documenti.avvia(programma, progetto)) {
-        std::error_code ignorato;
-        const bool presente = std::filesystem::exists(percorsoDaTesto(programma), ignorato);
+        const bool presente = app_.file.dimensione(programma) >= 0;
         throw Guasto(presente ? NumeroGuasto::chiamataNonValida : NumeroGuasto::fileNonTrovato, programma);
     }
 }
@@ -99,7 +96,7 @@ void modKelvoCAD::ControllaDATIexportKCAD(bool& esito) {
         diametri.push_back(rotonda.Ramo(ramo).DiametroInscritto());
     }
     esito = std::all_of(diametri.begin(), diametri.end(), [&](float d) { return d == diametri.front(); }) ||
-            app_.messaggi.mostra(domandaDiametri(diametri), titoloAttenzione, Icona::domanda, Pulsanti::siNo) ==
+            app_.messaggi.mostra(domandaDiametri(diametri), titoli::attenzione, Icona::domanda, Pulsanti::siNo) ==
                 Risposta::si;
 }
 

@@ -92,6 +92,15 @@ void dipingiCasella(QPainter& pennello, const PaginaImpaginata::Casella& casella
     }
 }
 
+/// The plan that fills a space: its remarks have their strip at the foot, the picture what is left above.
+pianta::Pianta piantaPer(const D::Pianta& soggetto, const QSizeF& spazio) {
+    pianta::OpzioniPianta opzioni = *soggetto.opzioni;
+    opzioni.rapporto = spazio.width() / spazio.height();
+    const double parte = pianta::parteVista(pianta::costruisci(*soggetto.dati, opzioni));
+    opzioni.rapporto /= parte;
+    return pianta::costruisci(*soggetto.dati, opzioni);
+}
+
 /// Pictures in logical pixels, so that their type is as large as on a screen.
 void dipingiFigura(QPainter& pennello, const PaginaImpaginata::Figura& figura) {
     pennello.save();
@@ -101,7 +110,7 @@ void dipingiFigura(QPainter& pennello, const PaginaImpaginata::Figura& figura) {
     if (const auto* grafico = std::get_if<Grafico::Contenuto>(&figura.figura->contenuto)) {
         dipingiGrafico(pennello, *grafico, spazio);
     } else if (const auto* pianta = std::get_if<D::Pianta>(&figura.figura->contenuto)) {
-        dipingiPianta(pennello, pianta::costruisci(*pianta->dati, *pianta->opzioni), spazio);
+        dipingiPianta(pennello, piantaPer(*pianta, spazio.size()), spazio);
     } else if (const auto* immagine = std::get_if<D::Immagine>(&figura.figura->contenuto)) {
         const QImage letta = QImage::fromData(QByteArray::fromStdString(immagine->png), "PNG");
         if (!letta.isNull()) {

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/titoli.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "input/graficiComposizione.h"
@@ -18,7 +19,6 @@ namespace {
 
 namespace testi {
 constexpr const char* didascalia = "Composizione del traffico";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* nonNumerico = "Inserire un valore numerico";
 constexpr const char* oltreCento = "Attenzione il totale della categorie dei veicoli deve essere 100";
 constexpr const char* diverso = "≠";
@@ -231,7 +231,7 @@ double frmComposizioneTraffico::differenza(double mancante) const {
 EsitoUscita frmComposizioneTraffico::controllaPercento(std::size_t i) {
     const tBox& campo = righe[i].txtPercento;
     if (mascheraVuota(campo)) {
-        return EsitoUscita::rifiuto(MessaggioCampo{testi::nonNumerico, testi::attenzione, Icona::esclamazione});
+        return EsitoUscita::rifiuto(MessaggioCampo{testi::nonNumerico, titoli::attenzione, Icona::esclamazione});
     }
     RefreshGraph();
     // A mix that nobody touched stays as the project holds it, whatever it adds up to.
@@ -244,13 +244,13 @@ EsitoUscita frmComposizioneTraffico::controllaPercento(std::size_t i) {
     if (detto && !haFuoco(campo)) {
         return EsitoUscita::rifiuto(std::string{testi::oltreCento});  // one box tells of the total
     }
-    return EsitoUscita::rifiuto(MessaggioCampo{testi::oltreCento, testi::attenzione, Icona::esclamazione});
+    return EsitoUscita::rifiuto(MessaggioCampo{testi::oltreCento, titoli::attenzione, Icona::esclamazione});
 }
 
 EsitoUscita frmComposizioneTraffico::controllaEquivalenti(std::size_t i) const {
     const tBox& campo = righe[i].txtEquivalenti;
     if (mascheraVuota(campo)) {
-        return EsitoUscita::rifiuto(MessaggioCampo{testi::nonNumerico, testi::attenzione, Icona::esclamazione});
+        return EsitoUscita::rifiuto(MessaggioCampo{testi::nonNumerico, titoli::attenzione, Icona::esclamazione});
     }
     const double valore = leggiNumero(campo.testo()).value_or(0.0);
     const bool ammesso = valore >= campoEquivalente.minimo && valore <= campoEquivalente.massimo;
@@ -258,7 +258,7 @@ EsitoUscita frmComposizioneTraffico::controllaEquivalenti(std::size_t i) const {
         return EsitoUscita::bene();
     }
     return EsitoUscita::rifiuto(
-        MessaggioCampo{rifiutoLimiti(campoEquivalente), testi::attenzione, Icona::esclamazione});
+        MessaggioCampo{rifiutoLimiti(campoEquivalente), titoli::attenzione, Icona::esclamazione});
 }
 
 void frmComposizioneTraffico::dopoPercento() {

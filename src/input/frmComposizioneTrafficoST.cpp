@@ -6,6 +6,7 @@
 #include <set>
 #include <utility>
 
+#include "app/titoli.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "input/categorieTraffico.h"
@@ -25,7 +26,6 @@ namespace testi {
 constexpr const char* didascalia = "Composizione del traffico per segmenti";
 constexpr const char* blocca = "Blocca colonna";
 constexpr const char* titolo = "KELVO 2014";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* troppoGrande = "Attenzione! Numero inserito troppo grande. Controllare valore.";
 constexpr const char* riporto = "Riporto i valori della prima riga nelle righe sottostanti?";
 constexpr const char* senzaSegmenti = "Nessun segmento di tempo: impostare prima i tempi di modellazione";
@@ -252,7 +252,7 @@ std::optional<MessaggioCampo> frmComposizioneTrafficoST::eccedenza(const std::ve
     for (const int riga : righe) {
         if (sommaCategorie(prova, riga) > veicoli(prova, riga, col::flusso)) {
             return MessaggioCampo{fmt::format(testi::eccedenza, prova.testo(riga, 0), prova.testo(riga, col::flusso)),
-                                  testi::attenzione, Icona::esclamazione};
+                                  titoli::attenzione, Icona::esclamazione};
         }
     }
     return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "app/titoli.h"
 #include "base/date.h"
 #include "base/numeri.h"
 #include "input/frmDatiTraffico.h"
@@ -12,7 +13,6 @@ namespace kelvo {
 namespace {
 
 namespace testi {
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* fuoriModellazione =
     "Il parametro 't{}' deve essere compreso nel  tempo di modellazione [{}],[{}]";
 constexpr const char* intervallo = "Indicare dei tempi che rispettino l'intervallo di tempo indicato";
@@ -32,7 +32,7 @@ bool intera(std::int64_t durata, int segmento) {
 }
 
 EsitoUscita avviso(const std::string& testo, bool rimessoPrima) {
-    EsitoUscita esito = EsitoUscita::rifiuto(MessaggioCampo{testo, testi::attenzione, Icona::esclamazione});
+    EsitoUscita esito = EsitoUscita::rifiuto(MessaggioCampo{testo, titoli::attenzione, Icona::esclamazione});
     esito.rimessoPrima = rimessoPrima;
     return esito;
 }

@@ -1,5 +1,6 @@
 // The curve of the demand window: its bars, and the search of its peak.
 
+#include "app/titoli.h"
 #include "base/date.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
@@ -14,7 +15,6 @@ namespace {
 
 namespace testi {
 constexpr const char* errore = "KELVO 2014 - Errore";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
 constexpr const char* incoerente =
     "Attezione!\r- Impostare un valore di flusso totale coerente\r- Inserire un valore q1>0";
@@ -167,7 +167,7 @@ bool frmDatiTraffico::cerca() {
     }
     const double obiettivo = flusso(txtTarget);
     if (obiettivo > obiettivoElevato) {
-        messaggioSopra(testi::elevato, testi::attenzione, Icona::esclamazione);
+        messaggioSopra(testi::elevato, titoli::attenzione, Icona::esclamazione);
         Command1.abilitato(true);
     }
     const RisultatoRicerca risultato =

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/file.h"
 #include "base/numeri.h"
 #include "shell/servizi/incolla.h"
@@ -15,7 +16,6 @@ namespace kelvo {
 namespace {
 
 namespace testi {
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* scegli = "Selezionare un file CSV per vederne il contenuto.";
 constexpr const char* nessuna = "(nessuna)";
 constexpr const char* nessunaScelta = "Scegliere almeno una colonna da importare.";
@@ -365,11 +365,11 @@ bool frmImportaCSV::conferma(const std::string& percorso) {
         }
     }
     if (const std::string motivo = motivoRifiuto(); !motivo.empty()) {
-        messaggio(motivo, testi::attenzione, Icona::esclamazione);
+        messaggio(motivo, titoli::attenzione, Icona::esclamazione);
         return false;
     }
     if (righeDati() > righeTabella() &&
-        app().messaggi.mostra("Il file ha " + parole(), testi::attenzione, Icona::esclamazione, Pulsanti::okAnnulla) !=
+        app().messaggi.mostra("Il file ha " + parole(), titoli::attenzione, Icona::esclamazione, Pulsanti::okAnnulla) !=
             Risposta::ok) {
         return false;
     }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "app/titoli.h"
 #include "base/guasto.h"
 #include "input/frmPreviewRami.h"
 #include "shell/servizi/nomiPermessi.h"
@@ -17,7 +18,6 @@ namespace testi {
 constexpr const char* didascalia = "Geometria";
 constexpr const char* pedonale = "Attraversamento pedonale";
 constexpr const char* decreto = "D.M. 19.04.06";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* ingressoMinore =
     "Il valore del campo 'Larghezza ingresso' deve essere sempre maggiore del campo 'Semilarghezza accesso'";
 constexpr const char* accessoMaggiore =
@@ -280,7 +280,7 @@ EsitoUscita frmParametriRamo::controllaCoppia(const tBox& campo) const {
     if (&campo == &txtSemiLarghezza && txtLarghezzaIngresso.fallito() && !haFuoco(campo)) {
         return EsitoUscita::rifiuto(testo);  // one box tells of the pair
     }
-    return EsitoUscita::rifiuto(MessaggioCampo{testo, testi::attenzione, Icona::esclamazione});
+    return EsitoUscita::rifiuto(MessaggioCampo{testo, titoli::attenzione, Icona::esclamazione});
 }
 
 void frmParametriRamo::dopoUscita(std::size_t misura) {
@@ -363,7 +363,7 @@ void frmParametriRamo::altroTasto(const std::string& chiave) {
 void frmParametriRamo::apriDecreto() {
     const std::string percorso = app().theAmbiente.PercorsoProgramma(std::string{percorsoDecreto});
     if (!servizi_.documenti.apri("\"" + percorso + "\"")) {
-        cornice().avviso(fmt::format(testi::nonAperto, percorso));
+        messaggio(fmt::format(testi::nonAperto, percorso), titoli::attenzione, Icona::esclamazione);
     }
 }
 

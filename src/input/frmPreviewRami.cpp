@@ -1,5 +1,6 @@
 #include "input/frmPreviewRami.h"
 
+#include "app/titoli.h"
 #include "input/misureIngresso.h"
 
 namespace kelvo {
@@ -9,7 +10,6 @@ namespace {
 namespace testi {
 constexpr const char* didascalia = "Importa la geometria di un ramo";
 constexpr const char* geometria = "Geometria rami";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* scegli = "Selezionare un progetto per vederne i rami.";
 }  // namespace testi
 
@@ -68,7 +68,7 @@ bool frmPreviewRami::conferma(const std::string& percorso) {
         return false;
     }
     const Risposta risposta = app().messaggi.mostra("Importo i dati del ramo " + riga->celle[0] + "?",
-                                                    testi::attenzione, Icona::domanda, Pulsanti::siNo);
+                                                    titoli::attenzione, Icona::domanda, Pulsanti::siNo);
     if (risposta != Risposta::si) {
         return false;
     }

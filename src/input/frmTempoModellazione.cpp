@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <span>
 
+#include "app/titoli.h"
 #include "base/date.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
@@ -20,7 +21,6 @@ constexpr const char* gruppo = "Tempo di modellazione";
 constexpr const char* tempoIniziale = "Tempo iniziale";
 constexpr const char* segmentoTempo = "Segmento di tempo";
 constexpr const char* tempoFinale = "Tempo finale";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
 constexpr const char* incompleto = "Completare tutti i campi visualizzati";
 constexpr const char* fuoriLimiti = "Sono consentiti valori compresi tra <5> e <30> minuti";
@@ -201,7 +201,7 @@ frmTempoModellazione::Tempi frmTempoModellazione::tempi() const {
 
 bool frmTempoModellazione::completo() {
     if (txtTempoFinale.testo().empty() || txtSegmentoTempo.testo().empty()) {
-        messaggio(testi::incompleto, testi::attenzione, Icona::esclamazione);
+        messaggio(testi::incompleto, titoli::attenzione, Icona::esclamazione);
         stato().convalidaFallita = true;
         return false;
     }
@@ -273,7 +273,7 @@ void frmTempoModellazione::aggiornaRami(const Tempi& tempi) {
     if (uguali) {
         return;
     }
-    messaggio(testi::modificati, testi::attenzione, Icona::esclamazione);
+    messaggio(testi::modificati, titoli::attenzione, Icona::esclamazione);
     BackUpData();
     const DataOra inizio = oraDaMinuti(tempi.inizio);
     const double n = arrotondaPari(static_cast<double>(tempi.fine - tempi.inizio) / tempi.segmento);

@@ -6,13 +6,13 @@
 #include <numeric>
 #include <span>
 
+#include "app/titoli.h"
 #include "base/date.h"
 
 namespace kelvo {
 
 namespace {
 
-constexpr const char* titolo = "KELVO 2014 - Attenzione";
 constexpr const char* domanda =
     "I tempi di modellazione sono stati modificati.\nRipristinare {} inseriti in precedenza per l'ingresso '{}'?\n"
     "Tornano i valori degli intervalli di tempo ancora presenti.";
@@ -136,7 +136,7 @@ std::optional<std::vector<std::optional<PerClasse>>> composizioneRecuperabile(co
 bool chiediRecupero(Applicazione& app, std::int16_t ramo, DatoTraffico dato) {
     Rotonda& rotonda = app.theRotonda();
     auto& rami = rotonda.backupTraffico().rami;
-    const bool accettato = app.messaggi.mostra(testoDomanda(rotonda.Ramo(ramo).Descrizione(), dato), titolo,
+    const bool accettato = app.messaggi.mostra(testoDomanda(rotonda.Ramo(ramo).Descrizione(), dato), titoli::attenzione,
                                                Icona::domanda, Pulsanti::siNo) == Risposta::si;
     // What is taken back and saved is there and not offered again; discarded before that, it still can be.
     origine(rami.at(static_cast<std::size_t>(ramo) - 1), dato).offerto = !accettato;

@@ -257,4 +257,8 @@ Pianta costruisci(const DatiPianta& dati, const OpzioniPianta& opzioni) {
     return pianta;
 }
 
+double parteVista(const Pianta& pianta) {
+    return pianta.fascia ? 1.0 - pianta.fascia->altezza() / pianta.vista.altezza() : 1.0;
+}
+
 }  // namespace kelvo::pianta

@@ -114,6 +114,9 @@ char lettera(int ramo);
 /// Fault 9 for a number of legs outside 3 to 7 or a leg at hand that does not exist.
 Pianta costruisci(const DatiPianta& dati, const OpzioniPianta& opzioni = {});
 
+/// Share of the height that the picture itself takes, the strip of its remarks left out; 1 without a strip.
+double parteVista(const Pianta& pianta);
+
 /// Shows other levels and queues on a whole plan that was made with some; nothing else of it changes, what is to be
 /// seen neither. Queues stand to scale from the give-way line backwards; a queue longer than the drawn leg ends in a
 /// sign, with the vehicles that are not drawn. What is no number, or below 0, is no queue. Fault 9 for another number

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "app/titoli.h"
 #include "base/file.h"
 #include "base/guasto.h"
 #include "reports/foglioRisultati.h"
@@ -22,7 +23,6 @@ constexpr const char* cartellaFogli = "XLS";
 constexpr const char* fileFoglio = "XLS\\Risultati.xlsx";
 
 namespace testi {
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
 }  // namespace testi
 
@@ -88,7 +88,8 @@ bool modEXCEL::daSostituire(const std::string& percorso) {
     }
     const std::string testo = fmt::format(
         "Il file è aperto in un foglio di calcolo:\r\n{}\r\nChiuderlo, poi premere OK per sostituirlo.", percorso);
-    return servizi_.messaggi.mostra(testo, testi::attenzione, Icona::esclamazione, Pulsanti::okAnnulla) == Risposta::ok;
+    return servizi_.messaggi.mostra(testo, titoli::attenzione, Icona::esclamazione, Pulsanti::okAnnulla) ==
+           Risposta::ok;
 }
 
 void modEXCEL::apre(const std::string& percorso) {

@@ -8,6 +8,7 @@
 #include <system_error>
 #include <utility>
 
+#include "app/titoli.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "base/testo.h"
@@ -29,7 +30,6 @@ namespace testi {
 constexpr const char* estensione = "docx";
 constexpr const char* filtro = "File relazione rotonda (*.docx)|*.docx|Tutti i files(*.*)|*.*";
 constexpr const char* fatto = "KELVO 2014 - Elaborazione terminata";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* informazione = "KELVO 2014 - Informazione";
 constexpr const char* nonAperto = "Nessun programma del sistema ha aperto il file:";
 constexpr const char* mancanti = "Il modello scelto non ha le sezioni seguenti, che non sono state compilate:";
@@ -236,7 +236,7 @@ bool modStampaRelazione::faPDF(const std::string& percorso) {
     if (stessoFile(percorso, pdf)) {
         errore = testi::alPostoDellaRelazione;
     } else if (chiede && eFile(pdf) &&
-               servizi_.messaggi.mostra(fmt::format(testi::sostituirePDF, pdf), testi::attenzione, Icona::esclamazione,
+               servizi_.messaggi.mostra(fmt::format(testi::sostituirePDF, pdf), titoli::attenzione, Icona::esclamazione,
                                         Pulsanti::siNo) != Risposta::si) {
         return false;
     } else {
@@ -248,8 +248,8 @@ bool modStampaRelazione::faPDF(const std::string& percorso) {
     }
     if (!errore.empty()) {
         app_.comune.traceLog(fmt::format("{}faPDF {}: {}", modulo, pdf, errore));
-        servizi_.messaggi.mostra(fmt::format(testi::senzaPDF, percorso, errore), testi::attenzione, Icona::esclamazione,
-                                 Pulsanti::ok);
+        servizi_.messaggi.mostra(fmt::format(testi::senzaPDF, percorso, errore), titoli::attenzione,
+                                 Icona::esclamazione, Pulsanti::ok);
     }
     return errore.empty();
 }
@@ -269,7 +269,7 @@ void modStampaRelazione::chiude(const std::string& percorso) {
     }
     fattoPasso();
     if (apre && !servizi_.documenti->apri(percorso)) {
-        servizi_.messaggi.mostra(fmt::format("{}\r\n{}", testi::nonAperto, percorso), testi::attenzione,
+        servizi_.messaggi.mostra(fmt::format("{}\r\n{}", testi::nonAperto, percorso), titoli::attenzione,
                                  Icona::esclamazione, Pulsanti::ok);
     }
     fattoPasso();

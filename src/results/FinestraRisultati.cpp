@@ -7,7 +7,6 @@
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "results/inVigore.h"
-#include "shell/servizi/nonAncora.h"
 
 namespace kelvo {
 
@@ -59,10 +58,6 @@ FinestraRisultati::FinestraRisultati(const Contorno& contorno, const ServiziRisu
     cmdInVigore.alClic = [this] { ctlInVigore.visibile(cmdInVigore.spuntata()); };
     ctlInVigore.colonna(0, {.allineamento = AllineamentoCella::sinistra});
     ctlInVigore.colonna(1, {.allineamento = AllineamentoCella::sinistra, .aCapo = true});
-    if (!servizi_.relazione) {
-        ctlToolbar.abilita("keyRelazione", false);
-        ctlToolbar.annota("keyRelazione", std::string{notaNonAncora});
-    }
     for (Etichetta* nota : {&lblVecchi, &lblFlussi, &lblNotte}) {
         nota->visibile(false);
     }

@@ -14,13 +14,13 @@ namespace kelvo {
 struct ServiziRisultati {
     ApriDocumenti& documenti;
     FinestreCollegate& finestre;
-    /// Hands the file of all entries, whole path, over to the spreadsheet; empty while there is no such export.
+    /// Hands the file of all entries, whole path, over to the spreadsheet.
     std::function<void(const std::string&)> foglio{};
-    /// Leads to the window of the reports; empty while there is none.
+    /// Leads to the window of the reports.
     std::function<void()> relazione{};
-    /// Makes the report of what a window shows; empty while there is none.
+    /// Makes the report of what a window shows.
     std::function<void(const RelazioneGrafica&)> relazioneGrafica{};
-    /// Makes the whole report, with the right-turn lanes; empty while there is none.
+    /// Makes the whole report, with the right-turn lanes.
     std::function<void()> relazioneTotale{};
     /// Paper and PDF; null for none.
     StampaPagine* stampa = nullptr;

@@ -33,6 +33,19 @@ std::string suUnaRiga(std::string testo) {
     return lungo > massimoTesto ? senzaUltimi(testo, lungo - massimoTesto) + "..." : testo;
 }
 
+/// Two texts that begin alike for longer than a cell are shown from a little before the place where they part.
+void mostraDoveDiversi(const std::string& a, const std::string& b, Differenza& d) {
+    constexpr std::size_t prima = 20;
+    const std::vector<std::string> lettereA = caratteri(a);
+    const std::vector<std::string> lettereB = caratteri(b);
+    const auto uguali = static_cast<std::size_t>(
+        std::mismatch(lettereA.begin(), lettereA.end(), lettereB.begin(), lettereB.end()).first - lettereA.begin());
+    if (uguali >= massimoTesto) {
+        d.testoA = "..." + suUnaRiga(ultimiCaratteri(a, lettereA.size() - uguali + prima));
+        d.testoB = "..." + suUnaRiga(ultimiCaratteri(b, lettereB.size() - uguali + prima));
+    }
+}
+
 struct TestoDi {
     std::string operator()(const std::string& v) const { return suUnaRiga(v); }
     std::string operator()(bool v) const { return v ? "sì" : "no"; }
@@ -142,6 +155,7 @@ public:
     DifferenzeProgetti fine() && {
         progetto();
         noteRami();
+        notaSpostati();
         matrice();
         const std::int16_t comuni = std::min(a_.NumeroRami(), b_.NumeroRami());
         for (std::int16_t i = 1; i <= comuni; ++i) {
@@ -169,6 +183,9 @@ private:
         };
         d.testoA = testo(a);
         d.testoB = testo(b);
+        if (d.testoA == d.testoB && std::holds_alternative<std::string>(a) && std::holds_alternative<std::string>(b)) {
+            mostraDoveDiversi(std::get<std::string>(a), std::get<std::string>(b), d);
+        }
         if (parole == nullptr) {
             d.scarto = scarto(a, b);
             d.testoScarto = d.scarto ? conSegno(std::visit(TestoDi{}, *d.scarto)) : std::string{};
@@ -200,8 +217,10 @@ private:
     void progetto() { campi({}, klv::rotonda::campi, nomiProgetto, a_, b_); }
 
     void matrice() {
-        const bool stessoTipo = a_.TipoMatriceSvolte() == b_.TipoMatriceSvolte();
-        const bool percento = !stessoTipo || a_.TipoMatriceSvolte() == matriceInPercento;
+        const bool percentoA = a_.TipoMatriceSvolte() == matriceInPercento;
+        const bool percentoB = b_.TipoMatriceSvolte() == matriceInPercento;
+        const bool stessoTipo = percentoA == percentoB;
+        const bool percento = percentoA || percentoB;
         const std::int16_t n = std::min(a_.NumeroRami(), b_.NumeroRami());
         for (std::int16_t o = 1; o <= n; ++o) {
             for (std::int16_t d = 1; d <= n; ++d) {
@@ -292,6 +311,37 @@ private:
             fmt::format("I rami sono {} in A e {} in B; solo in {}: {}.", na, nb, soloA ? 'A' : 'B', elenco));
     }
 
+    /// Position of the leg of that name; 0 for none or several.
+    static std::int16_t posizione(const Rotonda& rotonda, const std::string& nome) {
+        std::int16_t trovata = 0;
+        for (std::int16_t i = 1; i <= rotonda.NumeroRami(); ++i) {
+            if (rotonda.Ramo(i).Descrizione() == nome) {
+                if (trovata != 0) {
+                    return 0;
+                }
+                trovata = i;
+            }
+        }
+        return trovata;
+    }
+
+    /// Legs that have moved are compared with another one: their names tell it.
+    void notaSpostati() {
+        std::string elenco;
+        for (std::int16_t i = 1; i <= a_.NumeroRami(); ++i) {
+            const std::string& nome = a_.Ramo(i).Descrizione();
+            const std::int16_t inB = posizione(b_, nome);
+            if (!nome.empty() && inB != 0 && inB != i && posizione(a_, nome) == i) {
+                elenco += fmt::format("{}{} (da ramo {} a ramo {})", elenco.empty() ? "" : ", ", suUnaRiga(nome),
+                                      pianta::lettera(i), pianta::lettera(inB));
+            }
+        }
+        if (!elenco.empty()) {
+            uscita_.note.push_back(
+                fmt::format("I rami si confrontano per posizione; in B hanno un'altra posizione: {}.", elenco));
+        }
+    }
+
     void noteSegmenti() {
         const std::int16_t na = segmenti_.numeroA;
         const std::int16_t nb = segmenti_.numeroB;
@@ -347,18 +397,33 @@ struct Sottrazione {
     }
     std::optional<ValoreDato> operator()(double a, double b) const {
         const double d = b - a;
-        return std::isfinite(d) ? std::optional<ValoreDato>(d) : std::nullopt;
+        return std::isfinite(d) ? std::optional<ValoreDato>(comeScritti(a, b, d)) : std::nullopt;
     }
     template <class X, class Y>
     std::optional<ValoreDato> operator()(const X&, const Y&) const {
         return std::nullopt;
     }
     /// The double that the shortest text of a single tells.
-    static double esatto(float v) {
-        const std::string testo = testoEsatto(v);
-        auto letto = static_cast<double>(v);
-        std::from_chars(testo.data(), testo.data() + testo.size(), letto);
-        return letto;
+    static double esatto(float v) { return letto(testoEsatto(v), static_cast<double>(v)); }
+    /// The difference `d` of two figures that a person typed, with no more decimals than these have; that of figures
+    /// that were worked out stays as it is.
+    static double comeScritti(double a, double b, double d) {
+        constexpr std::size_t massimoBattuti = 9;
+        const std::string testoA = testoEsatto(a);
+        const std::string testoB = testoEsatto(b);
+        const std::size_t quanti = std::max(decimali(testoA), decimali(testoB));
+        if (quanti > massimoBattuti || (testoA + testoB).find('e') != std::string::npos) {
+            return d;
+        }
+        return letto(fmt::format("{:.{}f}", d, static_cast<int>(quanti)), d);
+    }
+    static std::size_t decimali(const std::string& testo) {
+        const std::size_t punto = testo.find('.');
+        return punto == std::string::npos ? 0 : testo.size() - punto - 1;
+    }
+    static double letto(const std::string& testo, double altrimenti) {
+        std::from_chars(testo.data(), testo.data() + testo.size(), altrimenti);
+        return altrimenti;
     }
 };
 

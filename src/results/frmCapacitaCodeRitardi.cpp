@@ -13,7 +13,6 @@
 #include "results/risultatiProgetto.h"
 #include "results/sintesiNodo.h"
 #include "results/tabellaVerifiche.h"
-#include "shell/servizi/nonAncora.h"
 
 namespace kelvo {
 
@@ -52,7 +51,7 @@ frmCapacitaCodeRitardi::frmCapacitaCodeRitardi(const Contorno& contorno, const S
     : FinestraRisultati(contorno, servizi, "frmCapacitaCodeRitardi", testi::didascalia),
       ctlTab("ctlTab", {"Risultati", "Sintesi nodo", "Mappa dei livelli"}),
       Cmd_EXCEL("Cmd_EXCEL", "Excel"),
-      lblExcel("lblExcel", servizi.foglio ? testi::primaCalcola : std::string{notaNonAncora}, "GREY"),
+      lblExcel("lblExcel", testi::primaCalcola, "GREY"),
       lblSaturazione("lblSaturazione", {}, "ROSSO"),
       lblPeggiore("lblPeggiore"),
       lblOra("lblOra", {}, "GREY"),
@@ -163,12 +162,10 @@ void frmCapacitaCodeRitardi::calcola() {
     riempiTabellaVerifiche(rotonda(), tabella);
     ctlGrid.tabella(std::move(tabella));
     figureDi(rotonda().timbro());
-    if (servizi().foglio) {
-        Cmd_EXCEL.abilitato(true);
-        lblExcel.testo({});
-        ctlToolbar.abilita(chiaveFoglio, true);
-        ctlToolbar.annota(chiaveFoglio, {});
-    }
+    Cmd_EXCEL.abilitato(true);
+    lblExcel.testo({});
+    ctlToolbar.abilita(chiaveFoglio, true);
+    ctlToolbar.annota(chiaveFoglio, {});
     riempiSchede();
 }
 

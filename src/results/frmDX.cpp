@@ -225,7 +225,7 @@ FinestraRisultati::Blocchi frmDX::figureSuCarta() const {
 }
 
 void frmDX::relazione() {
-    if (!chkStampaDX.spuntata() || !servizi().relazioneTotale) {
+    if (!chkStampaDX.spuntata()) {
         FinestraRisultati::relazione();
         return;
     }

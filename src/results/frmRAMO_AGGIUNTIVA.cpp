@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/titoli.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
 #include "results/grandezze.h"
@@ -19,7 +20,6 @@ namespace testi {
 constexpr const char* didascalia = "Dati Riassuntivi ingresso";
 constexpr const char* marker = "Marker controllo risultati";
 constexpr const char* titolo = "KELVO 2014";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* soloNumeri = "Attenzione! Inserire solo valori numerici";
 constexpr const char* ammessi = "Attenzione! valori ammessi";
 constexpr const char* coppia = "Attenzione! valore MASSIMO < valore MINIMO  ";
@@ -290,7 +290,7 @@ void frmRAMO_AGGIUNTIVA::controllaCoppia(std::size_t posto) {
     }
     if (!motivo.empty()) {
         coppiaRifiutata_ = true;
-        messaggio(motivo, testi::attenzione, Icona::esclamazione);
+        messaggio(motivo, titoli::attenzione, Icona::esclamazione);
     }
 }
 

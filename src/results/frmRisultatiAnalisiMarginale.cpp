@@ -11,7 +11,6 @@
 #include "results/inVigore.h"
 #include "results/livelloServizio.h"
 #include "results/relazioneSensibilita.h"
-#include "shell/servizi/nonAncora.h"
 
 namespace kelvo {
 
@@ -248,9 +247,8 @@ void frmRisultatiAnalisiMarginale::apriTasti() {
     ctlToolbar.annota("keyCalcola", analisi_.nessunoAttivo() ? testi::nessunaGrandezza : "");
     ctlToolbar.abilita("keyAnteprima", grandezza);
     ctlToolbar.annota("keyAnteprima", soloGrandezze);
-    const bool conRelazione = servizi().relazioneGrafica != nullptr;
-    ctlToolbar.abilita("keyRelazione", conRelazione && grandezza);
-    ctlToolbar.annota("keyRelazione", conRelazione ? soloGrandezze : std::string{notaNonAncora});
+    ctlToolbar.abilita("keyRelazione", grandezza);
+    ctlToolbar.annota("keyRelazione", soloGrandezze);
     Command1.abilitato(grandezza && analisi_.attivo(static_cast<std::size_t>(ctlTab.corrente())));
 }
 

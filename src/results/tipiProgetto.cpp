@@ -15,10 +15,14 @@ constexpr std::array matrice{"in veicoli", "in percentuale"};
 template <std::size_t N>
 std::string voce(const std::array<const char*, N>& voci, std::int16_t valore) {
     const bool nota = valore >= 0 && static_cast<std::size_t>(valore) < N;
-    return nota ? voci[static_cast<std::size_t>(valore)] : fmt::format("non previsto ({})", valore);
+    return nota ? voci[static_cast<std::size_t>(valore)] : paroleNonPrevisto(valore);
 }
 
 }  // namespace
+
+std::string paroleNonPrevisto(std::int16_t numero) {
+    return fmt::format("non previsto ({})", numero);
+}
 
 std::string paroleAnalisi(std::int16_t tipo) {
     return voce(analisi, tipo);

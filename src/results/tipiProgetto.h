@@ -14,4 +14,7 @@ std::string paroleComposizione(std::int16_t tipo);
 /// Units of the turning matrix, `TipoMatriceSvolte`.
 std::string paroleMatrice(std::int16_t tipo);
 
+/// The words of a number that is no choice.
+std::string paroleNonPrevisto(std::int16_t numero);
+
 }  // namespace kelvo

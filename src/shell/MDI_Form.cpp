@@ -4,11 +4,11 @@
 
 #include <array>
 
+#include "app/titoli.h"
 #include "base/versione.h"
 #include "cad/frmKCAD.h"
 #include "cad/frmLinkACAD.h"
 #include "shell/barraPrincipale.h"
-#include "shell/finestrePerChiave.h"
 #include "shell/frmAiuto.h"
 #include "shell/frmINFO.h"
 #include "shell/gestore.h"
@@ -71,7 +71,7 @@ MDI_Form::MDI_Form(Applicazione& app, StatoFinestre& stato, const Servizi& servi
                       .salvataggio = *this,
                       .registro = servizi.registro,
                       .cad = servizi.cad}),
-      titolo_(titoloProgramma) {
+      titolo_(titoli::programma) {
     didascalia.testo(titolo_);
     ctlMenu.alClic = [this](const std::string& chiave) { Menu_Click(chiave); };
     ctlToolbar.allaPressione = [this](const std::string& chiave) { Toolbar_Click(chiave); };
@@ -108,7 +108,7 @@ void MDI_Form::Load() {
     gestisci(app_, "MDI_Form:Load()", [&] {
         BackColor = colorePrincipale;
         inPrimoPiano();
-        titolo(titoloProgramma);
+        titolo(titoli::programma);
         ctlStatusBar.testo(fmt::format("Kelvo {}", versione()));
         for (const std::string_view menu : menuPrimaCostruzione) {
             ctlMenu.svuota(menu);
@@ -155,10 +155,6 @@ bool MDI_Form::lasciaCampo() {
 bool MDI_Form::mostraFinestra(std::string_view nome) {
     if (nome.empty()) {
         return gestione.ShowForm(nullptr);
-    }
-    if (!finestre.conosce(nome)) {
-        avviso(std::string{notaNonAncora});
-        return false;
     }
     const bool nuova = finestre.viva(nome) == nullptr;
     Finestra& finestra = finestre.finestra(nome, contorno());
@@ -207,9 +203,8 @@ void MDI_Form::SetUpOpzioni() {
                 }
             }
         }
-        albero.segnaMancanti();
+        albero.spiegaChiusi();
         applicaAlbero();
-        applicaMancanti();
     });
 }
 

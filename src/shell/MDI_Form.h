@@ -108,7 +108,7 @@ public:
     bool scorciatoia(std::string_view tasti);
     /// Stores the project's state and sets the flags that follow it.
     void gestioneToolbar(StatoProgetto stato);
-    /// Applies all flags again: the project's state, grey nodes, what does not stand yet.
+    /// Applies all flags again: the project's state, grey nodes.
     void riapplica();
     /// The enabling rule of each leg while the geometric optimisation is on.
     void abilitaOttimizzazione();
@@ -157,7 +157,8 @@ public:
     // Windows.
     /// Leaves the field in focus; false if it refused.
     bool lasciaCampo();
-    /// Shows the window of a name; an empty name does nothing and answers true.
+    /// Shows the window of a name; an empty name does nothing and answers true. Fault 9 for a name that is not
+    /// registered.
     bool mostraFinestra(std::string_view nome);
     /// Checks a window and writes its data to the project; false if a check refused.
     bool scriviFinestra(Finestra& finestra);
@@ -183,7 +184,6 @@ private:
     void applicaMenuMostrati();
     void applicaStato();
     void applicaAlbero();
-    void applicaMancanti();
     void apriDocumento(std::string_view daProgramma);
     void mostraSopra(const char* finestra);
     void registraSopra();

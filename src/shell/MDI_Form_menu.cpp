@@ -253,7 +253,8 @@ void MDI_Form::apriRecente(const std::string& chiave) {
 void MDI_Form::apriDocumento(std::string_view daProgramma) {
     const std::string percorso = app_.theAmbiente.PercorsoProgramma(std::string{daProgramma});
     if (!servizi_.documenti.apri("\"" + percorso + "\"")) {
-        avviso(fmt::format("Impossibile aprire {}", percorso));
+        app_.messaggi.mostra(fmt::format("Impossibile aprire {}", percorso), titoli::attenzione, Icona::esclamazione,
+                             Pulsanti::ok);
     }
 }
 
@@ -272,9 +273,8 @@ void MDI_Form::gestioneToolbar(StatoProgetto stato) {
 
 void MDI_Form::riapplica() {
     applicaStato();
-    albero.segnaMancanti();
+    albero.spiegaChiusi();
     applicaAlbero();
-    applicaMancanti();
 }
 
 void MDI_Form::applicaStato() {
@@ -298,23 +298,6 @@ void MDI_Form::applicaAlbero() {
             ctlMenu.annota(voce.chiave, nodo.nota);
         }
     }
-}
-
-void MDI_Form::applicaMancanti() {
-    const std::string nota{notaNonAncora};
-    for (const RigaBarra& riga : barraPrincipale) {
-        const std::string_view nome =
-            riga.azione == AzioneTasto::chiave ? albero.finestra(riga.argomento) : riga.argomento;
-        const bool finestra = riga.azione == AzioneTasto::finestra || riga.azione == AzioneTasto::chiave;
-        const bool manca = finestra && !finestre.conosce(nome);
-        ctlToolbar.annota(riga.chiave, manca ? nota : std::string{});
-        if (manca) {
-            ctlToolbar.abilita(riga.chiave, false);
-        }
-    }
-    const bool senzaRelazioni = !finestre.conosce("frmOPZrelazione");
-    ctlMenu.abilita("mnuCompilaRelazione", !senzaRelazioni);
-    ctlMenu.annota("mnuCompilaRelazione", senzaRelazioni ? nota : std::string{});
 }
 
 }  // namespace kelvo

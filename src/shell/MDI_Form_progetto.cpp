@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/file.h"
 #include "base/testo.h"
 #include "shell/MDI_Form.h"
@@ -53,7 +54,7 @@ std::string percorsoIntero(const std::string& percorso) {
 }  // namespace
 
 void MDI_Form::mostra(const std::string& testo) {
-    app_.messaggi.mostra(testo, titoloAttenzione, Icona::esclamazione, Pulsanti::ok);
+    app_.messaggi.mostra(testo, titoli::attenzione, Icona::esclamazione, Pulsanti::ok);
 }
 
 std::string MDI_Form::titoloProgetto() const {
@@ -162,7 +163,7 @@ bool MDI_Form::carica(const std::string& percorso) {
     albero.visibile(true);
     SetUpOpzioni();
     albero.selezionaCorrente("keyMyProject");
-    if (!figliaAperta && finestre.conosce("frmEmptyForm")) {
+    if (!figliaAperta) {
         mostraFinestra("frmEmptyForm");
     }
     recupero.altroProgetto();
@@ -188,7 +189,7 @@ bool MDI_Form::offriRecupero() {
         const std::string domanda =
             fmt::format("Il programma si è chiuso senza salvare il progetto <{}>. Recuperare la copia di sicurezza?",
                         nomeProgetto(*copia));
-        if (app_.messaggi.mostra(domanda, titoloAttenzione, Icona::domanda, Pulsanti::siNo) != Risposta::si) {
+        if (app_.messaggi.mostra(domanda, titoli::attenzione, Icona::domanda, Pulsanti::siNo) != Risposta::si) {
             recupero.elimina();
             return;
         }
@@ -201,7 +202,7 @@ bool MDI_Form::offriRecupero() {
 }
 
 std::string MDI_Form::NomeFileProposto() const {
-    if (titolo_ == titoloProgramma) {
+    if (titolo_ == titoli::programma) {
         return nomeDaSolo;
     }
     const std::string senzaParentesi = senzaUltimi(titolo_, 1);
@@ -283,7 +284,7 @@ void MDI_Form::SaveRotonda(bool& esito) {
 }
 
 bool MDI_Form::chiediSalvataggio(const char* domanda, bool& rifiutato) {
-    rifiutato = app_.messaggi.mostra(domanda, titoloAttenzione, Icona::domanda, Pulsanti::siNo) != Risposta::si;
+    rifiutato = app_.messaggi.mostra(domanda, titoli::attenzione, Icona::domanda, Pulsanti::siNo) != Risposta::si;
     if (rifiutato) {
         return true;
     }
@@ -316,7 +317,7 @@ void MDI_Form::chiudiProgetto() {
     albero.scordaCorrente();
     stato_.ProgettoAperto = false;
     gestioneToolbar(StatoProgetto::NessunProgetto);
-    titolo(titoloProgramma);
+    titolo(titoli::programma);
     recupero.altroProgetto();
     stato_.opzioniModificate = false;  // the options went with their project
 }

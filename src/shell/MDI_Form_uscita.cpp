@@ -1,3 +1,4 @@
+#include "app/titoli.h"
 #include "shell/MDI_Form.h"
 #include "shell/gestore.h"
 #include "shell/menuPrincipale.h"
@@ -30,7 +31,7 @@ void MDI_Form::chiudiCornice() {
 }
 
 bool MDI_Form::QueryUnload() {
-    return app_.messaggi.mostra("Uscire dall'applicazione?", titoloAttenzione, Icona::domanda, Pulsanti::okAnnulla) ==
+    return app_.messaggi.mostra("Uscire dall'applicazione?", titoli::attenzione, Icona::domanda, Pulsanti::okAnnulla) ==
            Risposta::ok;
 }
 

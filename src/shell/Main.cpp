@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/file.h"
 #include "base/guasto.h"
 #include "shell/frmSplash.h"
@@ -95,7 +96,7 @@ bool modMain::InitEnvironment() {
     }
     cancellaLog();
     if (servizi_.istanza.altraIstanza()) {
-        app_.messaggi.mostra("Attenzione, c'è già un'istanza di Kelvo attualmente in esecuzione.", titoloAttenzione,
+        app_.messaggi.mostra("Attenzione, c'è già un'istanza di Kelvo attualmente in esecuzione.", titoli::attenzione,
                              Icona::critica, Pulsanti::ok);
         return false;
     }
@@ -151,10 +152,10 @@ void modMain::avviaFilmato() {
         }
         const std::string filmato = app_.theAmbiente.PercorsoProgramma(filmatoIntroduttivo);
         const std::string pagine = app_.theAmbiente.PercorsoProgramma(presentazione);
-        // The film is a program of its own; where it was not delivered its place is taken by pages.
-        const bool avviato = manca(filmato) && !manca(pagine) ? servizi_.documenti.apri("\"" + pagine + "\"")
-                                                              : servizi_.documenti.avvia("\"" + filmato + "\"", {});
-        if (!avviato) {
+        // The film is a program of its own; where it was not delivered, or does not run, its place is taken by pages.
+        const bool conPagine = !manca(pagine);
+        const bool avviato = (!conPagine || !manca(filmato)) && servizi_.documenti.avvia("\"" + filmato + "\"", {});
+        if (!avviato && !(conPagine && servizi_.documenti.apri("\"" + pagine + "\""))) {
             cornice_.avviso("Impossibile avviare il filmato introduttivo");
         }
     });

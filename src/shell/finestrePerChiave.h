@@ -3,8 +3,6 @@
 #include <array>
 #include <string_view>
 
-#include "shell/servizi/nonAncora.h"
-
 namespace kelvo {
 
 /// Window of a key of tree or menu.
@@ -44,8 +42,5 @@ inline constexpr std::array finestrePerChiave{
 
 /// Window of a key by the table; one of the two stand-ins where the project's options choose.
 std::string_view finestraDiChiave(std::string_view chiave);
-
-/// Windows and procedures that a key leads to and that do not stand yet. Their keys are shown closed, with a note.
-inline constexpr std::array<std::string_view, 0> nonAncora{};
 
 }  // namespace kelvo

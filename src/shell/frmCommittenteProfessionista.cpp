@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <array>
+#include "app/titoli.h"
 
 namespace kelvo {
 
@@ -11,7 +12,6 @@ namespace {
 namespace testi {
 constexpr const char* didascalia = "Anagrafica professionista";
 constexpr const char* committente = "Anagrafica Committente";
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* soloCifre = "Sono ammessi solo caratteri numerici.";
 }  // namespace testi
 
@@ -153,7 +153,7 @@ void frmCommittenteProfessionista::SaveData() {
 
 EsitoUscita frmCommittenteProfessionista::controllaCAP() const {
     if (txtCAPProfessionista.testo().find_first_not_of(cifre) != std::string::npos) {
-        return EsitoUscita::rifiuto(MessaggioCampo{testi::soloCifre, testi::attenzione, Icona::esclamazione});
+        return EsitoUscita::rifiuto(MessaggioCampo{testi::soloCifre, titoli::attenzione, Icona::esclamazione});
     }
     return EsitoUscita::bene();
 }

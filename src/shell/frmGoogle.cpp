@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/titoli.h"
 #include "base/file.h"
 #include "base/testo.h"
 #include "shell/servizi/pagineAiuto.h"
@@ -140,7 +141,7 @@ void frmGoogle::segui(const std::string& collegamento) {
         vaiAlLuogo();
     } else if (collegamento.rfind("https://", 0) != 0 || !documenti_.apri(collegamento)) {
         messaggio("Impossibile aprire il collegamento con il programma di navigazione del sistema:\n" + collegamento,
-                  "KELVO 2014 - Attenzione", Icona::esclamazione);
+                  titoli::attenzione, Icona::esclamazione);
     }
 }
 

@@ -25,6 +25,10 @@ constexpr std::array larghezze{
 };
 constexpr double larghezzaOltre = 8000.0;
 
+/// What opens a node of the sensitivity analysis: the option of the project, or what its leg has to choose.
+constexpr const char* conOttimizzazione = "Si apre con «Ottimizzazione Geometrica» nelle Opzioni";
+constexpr const char* conGrandezze = "Si apre spuntando una grandezza in Opzioni Analisi Marginale";
+
 bool cifra(char c) {
     return c >= '1' && c <= '7';
 }
@@ -114,7 +118,6 @@ bool frmTreeView::UserClick(const std::string& chiave) {
     bool mostrata = false;
     gestisci(app_, "frmTreeView:UserClick()", [&] {
         if (!cornice_.lasciaCampo()) {
-            riseleziona();
             return;
         }
         const bool nodo = chiave.rfind("mnu", 0) != 0 && ctlTree.contiene(chiave);
@@ -122,12 +125,13 @@ bool frmTreeView::UserClick(const std::string& chiave) {
             ctlTree.seleziona(chiave);
         }
         mostrata = cornice_.mostraFinestra(finestra(chiave));
-        if (!mostrata) {
-            riseleziona();
-        } else if (nodo) {
+        if (mostrata && nodo) {
             nodoCorrente_ = chiave;
         }
     });
+    if (!mostrata) {
+        riseleziona();  // after a fault too
+    }
     cornice_.aggiornaSegno();
     return mostrata;
 }
@@ -185,17 +189,13 @@ void frmTreeView::GestioneAnalisiMarginale() {
     });
 }
 
-void frmTreeView::segnaMancanti() {
+void frmTreeView::spiegaChiusi() {
+    const bool attiva = app_.theRotonda().OttimizzazioneGeometrica();
     for (const std::string& chiave : ctlTree.chiavi()) {
         const std::string_view nome = finestra(chiave);
-        const bool manca = !nome.empty() && !cornice_.finestre.conosce(nome);
-        if (manca) {
-            ctlTree.colore(chiave, coloreDisabilitato);
-            ctlTree.annota(chiave, std::string{notaNonAncora});
-        } else if (!ctlTree.nodo(chiave).nota.empty()) {
-            ctlTree.colore(chiave, coloreAbilitato);
-            ctlTree.annota(chiave, {});
-        }
+        const bool sensibilita = nome == "frmAnalisiMarginale" || nome == "frmRisultatiAnalisiMarginale";
+        const bool chiuso = !(ctlTree.nodo(chiave).ForeColor == coloreAbilitato);
+        ctlTree.annota(chiave, !sensibilita || !chiuso ? "" : attiva ? conGrandezze : conOttimizzazione);
     }
 }
 

@@ -46,8 +46,8 @@ public:
     void EnableNode(Albero& albero, std::string_view chiave);
     /// Applies the enabling rule of the sensitivity analysis after a build.
     void GestioneAnalisiMarginale();
-    /// Greys the nodes whose windows do not stand yet, with a note.
-    void segnaMancanti();
+    /// Tells with each grey node what opens it.
+    void spiegaChiusi();
     /// Gives the nodes of a leg its name; `chiaveRamo` begins or ends with the leg's digit.
     void testoNodi(const std::string& chiaveRamo, const std::string& testo);
     /// The tree stands grouped by type, as it was built last.

@@ -3,6 +3,7 @@
 #include <array>
 #include <stdexcept>
 
+#include "app/titoli.h"
 #include "base/guasto.h"
 #include "shell/MDI_Form.h"
 #include "shell/copiaRami.h"
@@ -96,7 +97,7 @@ bool frmTreeView::chiedeCopia(const std::string& da, const std::string& a) {
                                           contiene(da, traffico) ? "del traffico" : "della composizione del traffico",
                                           rotonda.Ramo(posizione(ultimo(da))).Descrizione(),
                                           rotonda.Ramo(posizione(ultimo(a))).Descrizione());
-    return app_.messaggi.mostra(testo, titoloAttenzione, Icona::domanda, Pulsanti::siNo) == Risposta::si;
+    return app_.messaggi.mostra(testo, titoli::attenzione, Icona::domanda, Pulsanti::siNo) == Risposta::si;
 }
 
 Finestra* frmTreeView::apertaSu(const std::string& chiave) const {

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "app/Applicazione.h"
+#include "app/titoli.h"
 #include "base/guasto.h"
 
 namespace kelvo {
@@ -22,7 +23,5 @@ bool gestisci(Applicazione& app, const char* metodo, Procedura procedura) {
 }
 
 /// Titles of the message boxes.
-inline constexpr const char* titoloProgramma = "KELVO 2014";
-inline constexpr const char* titoloAttenzione = "KELVO 2014 - Attenzione";
 
 }  // namespace kelvo

@@ -19,7 +19,7 @@ struct ServiziFinestre {
     DialogoAnteprima& anteprima;
     FinestreCollegate& collegate;
     Cronometro& cronometro;  ///< of the playback of the comparison alone
-    /// Hands a file, whole path, over to the spreadsheet; empty while there is no such export.
+    /// Hands a file, whole path, over to the spreadsheet.
     std::function<void(const std::string&)> foglio{};
     /// What open windows show, and the way to their fields, for the check-up; null for none.
     CampiMostrati* campi = nullptr;

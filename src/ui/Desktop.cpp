@@ -11,6 +11,7 @@
 #include "app/Applicazione.h"
 #include "app/convertitorePDF.h"
 #include "app/copiaUtente.h"
+#include "app/titoli.h"
 #include "disegno/DisegnatoreQt.h"
 #include "reports/modEXCEL.h"
 #include "shell/CampiFinestre.h"
@@ -47,7 +48,7 @@ void usaCopia(Applicazione& app, const std::string& copia) {
         for (const std::string& problema : esito.problemi) {
             testo += "\r\n- " + problema;
         }
-        app.messaggi.mostra(testo, "KELVO 2014 - Attenzione", Icona::esclamazione, Pulsanti::ok);
+        app.messaggi.mostra(testo, titoli::attenzione, Icona::esclamazione, Pulsanti::ok);
     }
 }
 
@@ -57,6 +58,8 @@ void preparaApplicazione(const std::string& cartellaProgramma) {
     // The toolkit sets the system's locale: numbers in files would carry its comma.
     std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe): one thread
     QApplication::setApplicationName(QStringLiteral("Kelvo"));
+    // A desktop finds name and icon of the windows by its entry.
+    QGuiApplication::setDesktopFileName(QStringLiteral("kelvo"));
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     auto* traduttore = new QTranslator(qApp);
     if (traduttore->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -85,7 +88,11 @@ int avviaDesktop(int argc, char** argv, const Piattaforma& piattaforma) {
     CronometroQt simulazione;
     AttesaQt attesa;
     Applicazione app(piattaforma.cartellaProgramma, piattaforma.cartellaLavoro, {messaggi, orologio, piattaforma.file});
-    usaCopia(app, piattaforma.cartellaCopia);
+    try {
+        usaCopia(app, piattaforma.cartellaCopia);
+    } catch (const Guasto& guasto) {
+        app.comune.erroreLog(guasto.codice(), "Kelvo", guasto.descrizione(), true);
+    }
     qt.alGuasto = [&app](const Guasto& guasto) {
         app.comune.erroreLog(guasto.codice(), "Kelvo", guasto.descrizione(), true);
     };

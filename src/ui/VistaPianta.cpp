@@ -85,7 +85,7 @@ void VistaPianta::disegna() {
     // as high as the last time.
     constexpr double scarto = 0.01;
     costruisci(height() * parte_);
-    const double parte = disegnata_->fascia ? 1.0 - disegnata_->fascia->altezza() / disegnata_->vista.altezza() : 1.0;
+    const double parte = pianta::parteVista(*disegnata_);
     if (std::abs(parte - parte_) > scarto) {
         parte_ = parte;
         costruisci(height() * parte_);

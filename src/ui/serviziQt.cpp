@@ -19,6 +19,7 @@
 #include <QtWidgets/QGridLayout>
 #include <algorithm>
 
+#include "app/titoli.h"
 #include "shell/servizi/pelle.h"
 #include "ui/DialogoMessaggio.h"
 #include "ui/VistaFinestra.h"
@@ -194,7 +195,7 @@ std::optional<std::string> DialogoFileQt::salva(const RichiestaFile& richiesta) 
         std::string intero = s(conEstensione(q(*percorso), dialogo));
         // The dialogue has asked about the name that was typed, not about this one.
         if (intero == *percorso || !QFileInfo::exists(q(intero)) ||
-            MessaggiQt{}.mostra("Il file esiste già:\r\n" + intero + "\r\nSostituirlo?", "KELVO 2014 - Attenzione",
+            MessaggiQt{}.mostra("Il file esiste già:\r\n" + intero + "\r\nSostituirlo?", titoli::attenzione,
                                 Icona::esclamazione, Pulsanti::siNo) == Risposta::si) {
             return intero;
         }

@@ -41,7 +41,6 @@ struct Figura {
     QString didascalia;                   ///< marked text
     double larghezza = 1.0;               ///< share of the width of the text
     bool intera = false;                  ///< the whole main window, not the window in its work area alone
-    bool facoltativa = false;             ///< left out where there is no such picture
     QRectF ritaglio{0.0, 0.0, 1.0, 1.0};  ///< part of the picture, in shares of it
     int numero = 0;                       ///< from 1
 };

@@ -126,28 +126,12 @@ private:
             documento_.blocchi << fonti_.tavola(argomento);
         } else if (nome == QStringLiteral("@uscita")) {
             documento_.blocchi << Codice{fonti_.uscita(argomento)};
-        } else if (nome == QStringLiteral("@uscitaFacoltativa")) {
-            facoltativa(argomento);
         } else if (nome == QStringLiteral("@documento")) {
             sezioneAltrui(argomento);
         } else if (nome == QStringLiteral("@pagina")) {
             documento_.blocchi << NuovaPagina{};
         } else {
             errore(QStringLiteral("comando sconosciuto '%1'").arg(nome));
-        }
-    }
-
-    /// A program without the command refuses it, or tells how it is used as a whole.
-    void facoltativa(const QString& argomento) {
-        const QString comando = QStringLiteral("kelvo-cli ") + argomento.section(QLatin1Char(' '), 0, 0);
-        QString uscita;
-        try {
-            uscita = fonti_.uscita(argomento);
-        } catch (const std::runtime_error&) {
-            return;
-        }
-        if (uscita.contains(comando)) {
-            documento_.blocchi << Codice{uscita};
         }
     }
 
@@ -256,8 +240,6 @@ private:
             const QString valore = segno.section(QLatin1Char('='), 1);
             if (segno == QStringLiteral("intera")) {
                 figura.intera = true;
-            } else if (segno == QStringLiteral("facoltativa")) {
-                figura.facoltativa = true;
             } else if (segno.startsWith(QStringLiteral("larghezza="))) {
                 figura.larghezza = valore.toDouble();
             } else if (segno.startsWith(QStringLiteral("ritaglio="))) {

@@ -20,9 +20,8 @@ struct Fonti {
 ///     # Chapter {#anchor}            ## Section {#anchor finestra=frmName}       ### Part
 ///     - item, 1. item                > remark                                    ``` lines as they are ```
 ///     | table | (second row: |---|---:|)        $$ formula $$
-///     ![caption](picture){intera facoltativa larghezza=0.6 ritaglio=x,y,w,h}
+///     ![caption](picture){intera larghezza=0.6 ritaglio=x,y,w,h}
 ///     @includi FILE   @tavola NAME   @uscita COMMAND   @documento FILE # Heading   @pagina
-///     @uscitaFacoltativa COMMAND, of a command that not every build of the program has
 ///
 /// Raises std::runtime_error with file and line for what it cannot read.
 Documento leggi(const QString& percorso, const Fonti& fonti);

@@ -141,10 +141,7 @@ public:
     void operator()(const Figura& figura) {
         QImage immagine = immagini_(figura.immagine);
         if (immagine.isNull()) {
-            if (!figura.facoltativa) {
-                throw std::runtime_error("manca l'immagine " + figura.immagine.toStdString());
-            }
-            return;
+            throw std::runtime_error("manca l'immagine " + figura.immagine.toStdString());
         }
         const QRectF parte(figura.ritaglio.x() * immagine.width(), figura.ritaglio.y() * immagine.height(),
                            figura.ritaglio.width() * immagine.width(), figura.ritaglio.height() * immagine.height());

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/numeri.h"
+#include "guida/voci.h"
 #include "input/misureIngresso.h"
 #include "shell/barraPrincipale.h"
 #include "shell/menuPrincipale.h"
@@ -40,9 +41,21 @@ constexpr std::array azioni{
     Azione{"Archivio", "Archivio: importa da un altro progetto o da un file CSV"},
 };
 
+/// An entry that the main window appends to a menu by itself.
+struct VoceAppesa {
+    std::string_view menu;
+    const char* testo;
+    std::string_view scorciatoia;
+};
+constexpr std::array vociAppese{
+    VoceAppesa{"mnuFile", "Progetti recenti", {}},
+    VoceAppesa{"mnuHelp", "Aiuto sul campo", tastoAiuto},
+    VoceAppesa{"mnuHelp", "Indice dell'aiuto", {}},
+};
+
 Tabella scorciatoie() {
     Tabella tavola{{Qt::AlignLeft, Qt::AlignLeft}, {QStringLiteral("Tasti"), QStringLiteral("Azione")}, {}};
-    const auto righe = {righeFile(), righePerTipo(), righeCoda()};
+    const auto righe = {righeFile(), righePerTipo(), righeCoda(), righePropriePerProgetto()};
     const auto testoDi = [&](std::string_view chiave) {
         QString testo;
         for (const auto& tutte : righe) {
@@ -56,7 +69,7 @@ Tabella scorciatoie() {
     };
     for (const auto& tutte : righe) {
         for (const RigaMenu& riga : tutte) {
-            if (!riga.scorciatoia.empty() && riga.scorciatoia != tastoGuida) {
+            if (!riga.scorciatoia.empty()) {
                 tavola.righe << QStringList{tasti(riga.scorciatoia), testoDi(riga.chiave)};
             }
         }
@@ -65,7 +78,7 @@ Tabella scorciatoie() {
         tavola.righe << QStringList{tasti(aggiunta.tasti), testoDi(aggiunta.chiave)};
     }
     tavola.righe << QStringList{
-        tasti(tastoGuida),
+        tasti(tastoAiuto),
         QStringLiteral("L'aiuto del campo o della finestra in uso; senza un progetto, questa guida")};
     tavola.righe << QStringList{tasti(tastoAlbero), QStringLiteral("Passa dall'albero alla finestra e ritorno")};
     for (const ScorciatoiaTasto& tasto : scorciatoieTasti) {
@@ -76,7 +89,8 @@ Tabella scorciatoie() {
         }
         tavola.righe << QStringList{tasti(tasto.tasti), QString::fromUtf8(trovata->parole)};
     }
-    tavola.righe << QStringList{tasti(MenuDati::tastoStampa), QStringLiteral("Stampa la finestra dei risultati")};
+    tavola.righe << QStringList{tasti(MenuDati::tastoStampa),
+                                QStringLiteral("Stampa la finestra: risultati, geometria, matrice delle svolte")};
     return tavola;
 }
 
@@ -86,7 +100,7 @@ Tabella menu() {
                    {}};
     for (const MenuPrincipale& principale : menuPrincipali) {
         QString sotto;
-        for (const auto& tutte : {righeFile(), righePerTipo(), righeCoda()}) {
+        for (const auto& tutte : {righeFile(), righePerTipo(), righeCoda(), righePropriePerProgetto()}) {
             for (const RigaMenu& riga : tutte) {
                 if (riga.menu != principale.chiave || riga.tipo == TipoRiga::separatore) {
                     continue;
@@ -100,6 +114,12 @@ Tabella menu() {
                 tavola.righe << QStringList{q(principale.testo),
                                             sotto.isEmpty() ? testo : sotto + QStringLiteral(" › ") + testo,
                                             riga.scorciatoia.empty() ? QString{} : tasti(riga.scorciatoia)};
+            }
+        }
+        for (const VoceAppesa& voce : vociAppese) {
+            if (voce.menu == principale.chiave) {
+                tavola.righe << QStringList{q(principale.testo), QString::fromUtf8(voce.testo),
+                                            voce.scorciatoia.empty() ? QString{} : tasti(voce.scorciatoia)};
             }
         }
     }
@@ -147,6 +167,12 @@ Tabella tavola(const QString& nome) {
     }
     if (nome == QStringLiteral("misure")) {
         return misure();
+    }
+    const QString voci = QStringLiteral("voci-");
+    if (nome.startsWith(voci)) {
+        if (auto trovata = tavolaVoci(nome.mid(voci.size()))) {
+            return *trovata;
+        }
     }
     throw std::runtime_error("tavola sconosciuta: " + nome.toStdString());
 }

@@ -16,11 +16,13 @@
 #include <map>
 #include <sstream>
 
+#include "app/titoli.h"
 #include "base/file.h"
 #include "cad/frmLinkACAD.h"
 #include "input/frmMatriceSvolte.h"
 #include "input/frmPreviewMatriceSvolte.h"
 #include "input/frmPreviewRami.h"
+#include "schermate/installazioneMostrata.h"
 #include "shell/finestrePerChiave.h"
 #include "shell/frmSplash.h"
 #include "shell/registroFinestre.h"
@@ -44,16 +46,16 @@ struct Messaggio {
 constexpr std::array messaggiMostrati{
     Messaggio{"messaggio-critica", Icona::critica, Pulsanti::ok, "KELVO 2014 - Errore",
               "Attenzione, non sono permessi i caratteri: \\/:*?\"<>|"},
-    Messaggio{"messaggio-esclamazione", Icona::esclamazione, Pulsanti::ok, "KELVO 2014 - Attenzione",
+    Messaggio{"messaggio-esclamazione", Icona::esclamazione, Pulsanti::ok, titoli::attenzione,
               "Attenzione, i parametri di modellazione sono stati modificati.\nI dati di traffico dovranno essere "
               "nuovamente inseriti"},
     Messaggio{"messaggio-informazione", Icona::informazione, Pulsanti::ok, "KELVO 2014 - Informazione",
               "Sono consentiti valori compresi tra <5> e <30> minuti"},
-    Messaggio{"messaggio-domanda", Icona::domanda, Pulsanti::siNo, "KELVO 2014 - Attenzione",
+    Messaggio{"messaggio-domanda", Icona::domanda, Pulsanti::siNo, titoli::attenzione,
               "Attenzione! Salvare il progetto corrente prima di chiuderlo?"},
-    Messaggio{"messaggio-domanda-annulla", Icona::domanda, Pulsanti::siNoAnnulla, "KELVO 2014 - Attenzione",
+    Messaggio{"messaggio-domanda-annulla", Icona::domanda, Pulsanti::siNoAnnulla, titoli::attenzione,
               "Vuoi salvare la rotonda prima di uscire dal programma?"},
-    Messaggio{"messaggio-conferma", Icona::esclamazione, Pulsanti::okAnnulla, "KELVO 2014 - Attenzione",
+    Messaggio{"messaggio-conferma", Icona::esclamazione, Pulsanti::okAnnulla, titoli::attenzione,
               "Attenzione! Sono state modificate delle opzioni: verificare con attenzione i dati precedentemente "
               "inseriti."},
     Messaggio{"messaggio-senza-segno", Icona::nessuna, Pulsanti::ok, "KELVO 2014", "Operazione annullata"},
@@ -73,9 +75,6 @@ constexpr const char* campoMisura = "txtLarghezzaIngresso";
 /// What a counting office hands over: a row for each leg.
 constexpr const char* svolteCSV =
     "Ingresso;A;B;C;D;Totale\r\nA;0;120;85;42;247\r\nB;96;0;110;61;267\r\nC;74;132;0;58;264\r\nD;51;47;63;0;161\r\n";
-
-/// The project that was saved last.
-constexpr const char* progettoMostrato = "C:\\Rotatorie\\Progetti\\Rotatoria_Viale_della_Stazione.klv";
 
 /// How long the list of a folder is waited for.
 constexpr int passiElenco = 20;
@@ -315,8 +314,12 @@ void Giro::dialoghi() {
         lasciaCorrere();
     };
     impostazioni_.scrivi("KelvoCAD 2014", "StartUp", "FilePathKelvo", progettoMostrato);
+    InstallazioneMostrata mostrata(app_);
+    const Contorno suo = cornice_.contorno();
+    const Contorno daUtente{mostrata.app(), suo.stato, suo.cornice, suo.navigazione, suo.servizi};
     for (const std::string& nome : nomi) {
-        ritrai(cornice_.finestre.finestra(nome, cornice_.contorno()), nome);
+        const bool percorsi = nome == "frmINFO" || nome == "frmLinkACAD";
+        ritrai(cornice_.finestre.finestra(nome, percorsi ? daUtente : suo), nome);
         cornice_.finestre.distruggi(nome);
     }
     frmSplash splash(cornice_.contorno());

@@ -113,6 +113,15 @@ TEST_F(LinkCAD, ACompanionThatStandsAndDoesNotStartIsToldAlike) {
     EXPECT_EQ(errori[0].numero, 5);
 }
 
+TEST_F(LinkCAD, AFolderInThePlaceOfTheCompanionIsNone) {
+    fs::create_directories(percorsoDaTesto(compagno()));
+    risposte = {Risposta::si};
+    documenti.riesce = false;
+    EXPECT_FALSE(collega());
+    ASSERT_EQ(errori.size(), 1U);
+    EXPECT_EQ(errori[0].numero, 53);
+}
+
 TEST_F(LinkCAD, TheCompanionIsFoundWithoutRegardToCase) {
     fs::create_directories(percorsoDaTesto(cartella.file("KelvoCAD 2014")));
     const std::string altro = cartella.file("KelvoCAD 2014/kelvocad 2014.EXE");

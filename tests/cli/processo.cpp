@@ -166,4 +166,18 @@ std::string conCambio(std::string testo, const std::string& dopo, const std::str
     return testo.replace(posto, vecchio.size(), nuovo);
 }
 
+std::string senzaDate(std::string testo) {
+    const std::string inizio = "Output creato con Kelvo V1.0.0 il ";
+    const std::string forma = "00/00/0000 00:00:00";
+    for (auto posto = testo.find(inizio); posto != std::string::npos; posto = testo.find(inizio, posto + 1)) {
+        std::string data = testo.substr(posto + inizio.size(), forma.size());
+        std::replace_if(
+            data.begin(), data.end(), [](char c) { return c >= '0' && c <= '9'; }, '0');
+        if (data == forma) {
+            testo.replace(posto + inizio.size(), forma.size(), "<data>");
+        }
+    }
+    return testo;
+}
+
 }  // namespace kelvo::prove

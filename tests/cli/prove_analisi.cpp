@@ -2,32 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
-
 #include "comune/cartella.h"
+#include "esempi.h"
 #include "processo.h"
 
 namespace kelvo::prove {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-const std::string progetti = KELVO_CARTELLA "/../Progetti";
-const std::string est = "Rotatoria_Tangenziale_est";
-const std::string mulini = "Rotatoria_Via_dei_Mulini";
-const std::string stazione = "Rotatoria_Viale_della_Stazione";
-
-/// The dates of the closing lines give way to marks.
-std::string senzaDate(std::string testo) {
-    const std::string inizio = "Output creato con Kelvo V1.0.0 il ";
-    const std::string forma = "00/00/0000 00:00:00";
-    const std::string segno = "<data>";
-    for (auto posto = testo.find(inizio); posto != std::string::npos; posto = testo.find(inizio, posto + 1)) {
-        testo.replace(posto + inizio.size(), forma.size(), segno);
-    }
-    return testo;
-}
 
 /// A call of one of the commands on an example, and the file that holds its text.
 struct Caso {
@@ -40,9 +21,9 @@ const Caso casi[] = {
     {"corsia-dx", {"--posizioni", "1,3"}, est},
     {"corsia-dx", {"--posizioni", "4,2,3,1"}, stazione},
     {"sensibilita", {"--ramo", "1"}, stazione},
-    {"sensibilita", {"--ramo", "2"}, "Rotatoria_Aurelia_Sette_Strade"},
+    {"sensibilita", {"--ramo", "2"}, aurelia},
     {"sensibilita", {"--ramo", "3", "--parametro", "larghezza"}, est},
-    {"sensibilita", {"--ramo", "2", "--parametro", "svasatura"}, "Rotatoria_Piazza_Italia"},
+    {"sensibilita", {"--ramo", "2", "--parametro", "svasatura"}, piazza},
     {"sensibilita", {"--ramo", "2", "--parametro", "angolo"}, mulini},
 };
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <set>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "comune/cartella.h"
+#include "comune/strumenti.h"
 #include "processo.h"
 
 namespace kelvo::prove {
@@ -48,10 +48,6 @@ std::vector<Riquadro> riquadri() {
     return tutti;
 }
 
-bool presente(const std::string& strumento) {
-    return std::system(("command -v " + strumento + " > /dev/null 2>&1").c_str()) == 0;
-}
-
 std::vector<std::string> righe(const std::string& testo) {
     std::vector<std::string> tutte;
     std::istringstream flusso(testo);
@@ -74,7 +70,8 @@ protected:
         for (const Riquadro& riquadro : riquadri()) {
             bool tutti = true;
             for (const std::string& strumento : riquadro.strumenti) {
-                if (!presente(strumento)) {
+                // Of those that are packages each has the name of its own.
+                if (!conStrumento(strumento, strumento)) {
                     mancanti_.insert(strumento);
                     tutti = false;
                 }

@@ -4,29 +4,15 @@
 
 #include <algorithm>
 #include <functional>
-#include <nlohmann/json.hpp>
 #include <set>
 
 #include "comune/cartella.h"
+#include "esempi.h"
 #include "processo.h"
 
 namespace kelvo::prove {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-const std::string mulini = "Rotatoria_Via_dei_Mulini";
-const std::string stazione = "Rotatoria_Viale_della_Stazione";
-const std::string est = "Rotatoria_Tangenziale_est";
-
-std::string senzaData(std::string testo) {
-    const std::string inizio = "Output creato con Kelvo V1.0.0 il ";
-    const auto posto = testo.find(inizio);
-    return posto == std::string::npos
-               ? testo
-               : testo.replace(posto + inizio.size(), std::string{"00/00/0000 00:00:00"}.size(), "<data>");
-}
 
 /// A folder with an example as "Stato.klv" and, changed, as "Progetto.klv".
 class Varianti : public testing::Test {
@@ -67,7 +53,7 @@ TEST_F(Varianti, TextAndJsonAreExactToTheByte) {
     const Esito testo = confronta();
     EXPECT_EQ(testo.codice, 0) << testo.errori;
     EXPECT_EQ(testo.errori, "");
-    EXPECT_EQ(senzaData(testo.uscita), contenuto(atteso("Varianti.confronta.txt")));
+    EXPECT_EQ(senzaDate(testo.uscita), contenuto(atteso("Varianti.confronta.txt")));
     const Esito json = confronta({"--json"});
     EXPECT_EQ(json.codice, 0);
     EXPECT_EQ(json.uscita, contenuto(atteso("Varianti.confronta.json")));

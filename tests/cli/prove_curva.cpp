@@ -2,26 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
-
 #include "comune/cartella.h"
+#include "esempi.h"
 #include "processo.h"
 
 namespace kelvo::prove {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-const std::string mulini = "Rotatoria_Via_dei_Mulini";
-
-/// The date of the closing lines gives way to a mark.
-std::string senzaData(std::string testo) {
-    const std::string inizio = "Output creato con Kelvo V1.0.0 il ";
-    const std::string forma = "00/00/0000 00:00:00";
-    const auto posto = testo.rfind(inizio);
-    return posto == std::string::npos ? testo : testo.replace(posto + inizio.size(), forma.size(), "<data>");
-}
 
 std::vector<std::string> chiavi(const Json& oggetto) {
     std::vector<std::string> nomi;
@@ -37,14 +24,14 @@ TEST_P(CurvaDiEsempio, BarsAndTotalsAreExactToTheByte) {
     const Esito esito = kelvoCli({"curva", "--ramo", "1", esempio(GetParam())});
     EXPECT_EQ(esito.codice, 0);
     EXPECT_EQ(esito.errori, "");
-    EXPECT_EQ(senzaData(esito.uscita), contenuto(atteso(GetParam() + std::string{".curva.txt"})));
+    EXPECT_EQ(senzaDate(esito.uscita), contenuto(atteso(GetParam() + std::string{".curva.txt"})));
 }
 
 TEST_P(CurvaDiEsempio, SearchIsExactToTheByte) {
     const Esito esito = kelvoCli({"curva", "--ramo", "2", "--obiettivo", "600", esempio(GetParam())});
     EXPECT_EQ(esito.codice, 0);
     EXPECT_EQ(esito.errori, "");
-    EXPECT_EQ(senzaData(esito.uscita), contenuto(atteso(GetParam() + std::string{".curva-obiettivo.txt"})));
+    EXPECT_EQ(senzaDate(esito.uscita), contenuto(atteso(GetParam() + std::string{".curva-obiettivo.txt"})));
 }
 
 INSTANTIATE_TEST_SUITE_P(Tutte, CurvaDiEsempio,
@@ -52,8 +39,7 @@ INSTANTIATE_TEST_SUITE_P(Tutte, CurvaDiEsempio,
                          [](const auto& caso) { return std::string{caso.param}; });
 
 TEST(Curva, JsonOfASearchIsExactToTheByte) {
-    const Esito esito = kelvoCli({"curva", "--json", "--ramo", "3", "--obiettivo", "500", mulini + ".klv"},
-                                 KELVO_CARTELLA "/../Progetti");
+    const Esito esito = kelvoCli({"curva", "--json", "--ramo", "3", "--obiettivo", "500", mulini + ".klv"}, progetti);
     EXPECT_EQ(esito.codice, 0);
     EXPECT_EQ(esito.uscita, contenuto(atteso(mulini + ".curva.json")));
 }

@@ -145,6 +145,14 @@ TEST_F(ComandoDxf, TheProjectIsNeverReplaced) {
     EXPECT_EQ(contenuto(progetto), contenuto(esempio(stazione)));
 }
 
+TEST_F(ComandoDxf, NoOtherProjectIsReplacedEither) {
+    scriviContenuto(file("p.dxf"), contenuto(esempio("Rotatoria_Via_dei_Mulini")));
+    const Esito esito = dxf();
+    EXPECT_EQ(esito.codice, 2);
+    EXPECT_NE(esito.errori.find("è un progetto, che il disegno sostituirebbe"), std::string::npos) << esito.errori;
+    EXPECT_EQ(contenuto(file("p.dxf")), contenuto(esempio("Rotatoria_Via_dei_Mulini")));
+}
+
 TEST_F(ComandoDxf, SaysWhatDidNotWork) {
     const Esito rami = dxf({"--direzioni", "0,120,240"});
     EXPECT_EQ(rami.codice, 1);

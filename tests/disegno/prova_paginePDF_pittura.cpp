@@ -1,3 +1,4 @@
+#include "comune/strumenti.h"
 #include "scenaPaginePDF.h"
 
 namespace kelvo::disegno {
@@ -58,7 +59,7 @@ TEST_F(Pagine, ThePdfHasAsManyPages) {
 }
 
 TEST_F(Pagine, TheWordsOfThePdfCanBeReadBack) {
-    if (std::system("command -v pdftotext > /dev/null 2>&1") != 0) {
+    if (!prove::conStrumento("pdftotext", "poppler-utils")) {
         GTEST_SKIP() << "pdftotext is not installed";
     }
     prove::CartellaTemporanea cartella;

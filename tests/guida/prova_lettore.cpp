@@ -69,11 +69,9 @@ TEST(Lettore, APlaceholderIsReplacedEverywhereAndOneWithoutAValueIsRefused) {
 }
 
 TEST(Lettore, PicturesTellTheirPartAndTheirWidth) {
-    const Documento documento =
-        daTesto(testa + "![Che cosa](nome){intera facoltativa larghezza=0.5 ritaglio=0,0.1,1,0.8}\n");
+    const Documento documento = daTesto(testa + "![Che cosa](nome){intera larghezza=0.5 ritaglio=0,0.1,1,0.8}\n");
     const auto& figura = unico<guida::Figura>(documento);
     EXPECT_TRUE(figura.intera);
-    EXPECT_TRUE(figura.facoltativa);
     EXPECT_EQ(figura.larghezza, 0.5);
     EXPECT_EQ(figura.ritaglio, QRectF(0.0, 0.1, 1.0, 0.8));
     EXPECT_THROW(daTesto(testa + "![Che cosa](nome){storta}\n"), std::runtime_error);
@@ -83,21 +81,6 @@ TEST(Lettore, ALinkThatLeadsNowhereIsTold) {
     const Documento documento =
         daTesto(testa + "# Uno {#uno}\n\n[qui](#uno) e [là](#due)\n\n| [tre](#tre) |\n|---|\n| x |\n");
     EXPECT_EQ(guida::legamiRotti(documento), (QStringList{QStringLiteral("due"), QStringLiteral("tre")}));
-}
-
-TEST(Lettore, AnOptionalOutputIsLeftOutWhereTheProgramHasNoSuchCommand) {
-    guida::Fonti fonti = fontiVuote();
-    fonti.uscita = [](const QString& comando) {
-        if (comando == QStringLiteral("rotto --help")) {
-            throw std::runtime_error("rotto");
-        }
-        return QStringLiteral("Uso: kelvo-cli calcola FILE");
-    };
-    const Documento documento = daTesto(
-        testa + "@uscitaFacoltativa rotto --help\n@uscitaFacoltativa altro --help\n@uscitaFacoltativa calcola --help\n",
-        fonti);
-    ASSERT_EQ(documento.blocchi.size(), 1);
-    EXPECT_EQ(unico<guida::Codice>(documento).testo, QStringLiteral("Uso: kelvo-cli calcola FILE"));
 }
 
 TEST(Lettore, UnknownCommandsAndTablesAreRefused) {

@@ -256,7 +256,8 @@ TEST_F(ProveParametri, TheDecreeOpensFromKeyAndButton) {
     }
     documenti.riesce = false;
     finestra.cmdDM.premi();
-    EXPECT_NE(cornice.avvisato.find("Impossibile aprire"), std::string::npos);
+    ASSERT_EQ(messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(messaggi.mostrati[0].testo, "Impossibile aprire " + cartella.percorso() + "/UserGuide/DM19-04-06.pdf");
 }
 
 TEST_F(ProveParametri, FiguresOfTheRelationFollowEachKey) {

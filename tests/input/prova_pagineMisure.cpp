@@ -1,11 +1,13 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <fstream>
 #include <regex>
 #include <sstream>
 
 #include "calc/Geometria.h"
+#include "input/frmAnalisiMarginale.h"
 #include "input/misureIngresso.h"
 
 namespace kelvo::prove {
@@ -55,6 +57,41 @@ TEST_P(PagineMisure, LimitsAndCapacitiesAreThoseOfTheProgram) {
         }
     }
     EXPECT_EQ(righe, 4);
+}
+
+/// A limit as the pages show it, beside its name.
+std::string valoreDetto(std::string_view nome, double valore, const CampoNumerico& campo) {
+    return fmt::format("<span class=\"limiti\">{}</span><br>{} {}", nome, formatta(valore, campo.formato), campo.unita);
+}
+
+TEST_P(PagineMisure, TheInitialValueIsThatOfANewEntry) {
+    const MisuraIngresso& misura = misureIngresso[GetParam()];
+    Revisione revisione;
+    const Ramo nuovo(revisione, "1Ramo", "prova");
+    const std::string detto = valoreDetto("Valore iniziale", (nuovo.*misura.leggi)(), misura.campo);
+    EXPECT_NE(pagina(misura.paginaAiuto).find(detto), std::string::npos) << detto;
+}
+
+TEST_P(PagineMisure, LimitsAndInitialValueOfTheStepAreThoseOfTheProgram) {
+    struct Passo {
+        const char* pagina;
+        double (AnalisiMarginale::*leggi)() const;
+    };
+    using A = AnalisiMarginale;
+    const std::array<Passo, 6> passi{{{"PassoLarghezzaIngresso.htm", &A::LarghezzaIngresso},
+                                      {"PassoSemiLarghezza.htm", &A::SemiLarghezza},
+                                      {"PassoLungSvasatura.htm", &A::LungSvasatura},
+                                      {"PassoAngoloConflitto.htm", &A::AngoloConflitto},
+                                      {"PassoRaggioCurvatura.htm", &A::RaggioCurvatura},
+                                      {"PassoDiametroInscritto.htm", &A::DiametroInscritto}}};
+    const Passo& passo = passi.at(GetParam());
+    const CampoNumerico& campo = campiPasso.at(GetParam());
+    const std::string testo = pagina(passo.pagina);
+    Revisione revisione;
+    const AnalisiMarginale nuova(revisione);
+    const std::string detto = valoreDetto("Passo iniziale", (nuova.*passo.leggi)(), campo);
+    EXPECT_NE(testo.find(intervalloAmmesso(campo)), std::string::npos) << intervalloAmmesso(campo);
+    EXPECT_NE(testo.find(detto), std::string::npos) << detto;
 }
 
 INSTANTIATE_TEST_SUITE_P(Tutte, PagineMisure, testing::Range<std::size_t>(0, 6));

@@ -12,6 +12,7 @@
 #include "base/guasto.h"
 #include "cli/processo.h"
 #include "comune/cartella.h"
+#include "comune/strumenti.h"
 #include "reports/DocumentoRelazione.h"
 #include "reports/zip.h"
 
@@ -126,7 +127,7 @@ inline std::string schemi() {
 }
 
 inline bool haSchemi() {
-    return std::filesystem::exists(schemi() + "/wml.xsd") && std::filesystem::exists("/usr/bin/xmllint");
+    return std::filesystem::exists(schemi() + "/wml.xsd") && conStrumento("xmllint", "libxml2-utils");
 }
 
 /// A document as it was written, read back without the code that wrote it.

@@ -4,6 +4,7 @@
 #include <clocale>
 #include <set>
 
+#include "comune/strumenti.h"
 #include "foglioProva.h"
 #include "reports/LibroFoglio.h"
 #include "reports/foglioRisultati.h"
@@ -489,7 +490,7 @@ TEST(Foglio, AProjectNameDoesNotChangeTheFooter) {
 }
 
 TEST(Foglio, EveryPartFitsTheFormat) {
-    if (!std::filesystem::exists(schemi() + "/sml.xsd") || !std::filesystem::exists("/usr/bin/xmllint")) {
+    if (!std::filesystem::exists(schemi() + "/sml.xsd") || !conStrumento("xmllint", "libxml2-utils")) {
         GTEST_SKIP() << "senza gli schemi del formato o xmllint i fogli non sono verificati";
     }
     for (const std::int16_t analisi : std::initializer_list<std::int16_t>{0, 1, 2}) {

@@ -123,6 +123,33 @@ TEST_F(Varianti, WordsTimesAndChoicesHaveNoDifference) {
     EXPECT_EQ(std::get<std::string>(unica().a), "2026-03-12");
 }
 
+TEST_F(Varianti, LongTextsAreShownWhereTheyDiffer) {
+    const std::string inizio(80, 'x');
+    a().Note(inizio + "è la prima");
+    b().Note(inizio + "è la seconda, " + std::string(60, 'y'));
+    const Differenza note = unica();
+    const std::string coda(15, 'x');  // and five more letters: what both have before they part
+    EXPECT_EQ(note.testoA, "..." + coda + "è la prima");
+    EXPECT_EQ(note.testoB, "..." + coda + "è la seconda, " + std::string(31, 'y') + "...");
+    EXPECT_EQ(std::get<std::string>(note.a), inizio + "è la prima");
+}
+
+TEST_F(Varianti, LegsThatHaveMovedAreNamed) {
+    const char* nomi[] = {"Via Nuova", "Via Vecchia", "Via Roma"};
+    for (std::int16_t i = 1; i <= 3; ++i) {
+        a().Ramo(i).Descrizione(nomi[i - 1]);
+        b().Ramo(i).Descrizione(nomi[i % 3]);
+    }
+    EXPECT_EQ(diverse().note,
+              (std::vector<std::string>{
+                  "I rami si confrontano per posizione; in B hanno un'altra posizione: Via Nuova (da ramo A a ramo C), "
+                  "Via Vecchia (da ramo B a ramo A), Via Roma (da ramo C a ramo B)."}));
+    // Of a name that two legs have nobody can tell which one moved.
+    b().Ramo(3).Descrizione("Via Vecchia");
+    b().Ramo(2).Descrizione("Via Nuovissima");
+    EXPECT_TRUE(diverse().note.empty());
+}
+
 TEST_F(Varianti, DataThatOneStudyDoesNotReadAreMarked) {
     b().Ramo(1).theDatiTraffico().FlussoTempo2(10.0F);
     EXPECT_TRUE(unica().usoA && unica().usoB);
@@ -211,6 +238,17 @@ TEST_F(Varianti, MatricesOfDifferentKindsAreComparedInShares) {
     EXPECT_EQ(d.dati[1].testoScarto, "-2,50");
     ASSERT_EQ(d.note.size(), 1U);
     EXPECT_NE(d.note[0].find("si confrontano le quote di ogni riga"), std::string::npos);
+}
+
+TEST_F(Varianti, AMatrixOfAnUnknownKindIsOneOfVehicles) {
+    b().TipoMatriceSvolte(7);
+    EXPECT_EQ(unica().testoB, "non previsto (7)");
+    b().MatriceSvolte(a().MatriceSvolte(1, 2) + 3.0F, 1, 2);
+    const DifferenzeProgetti d = diverse();
+    ASSERT_EQ(d.dati.size(), 2U);
+    EXPECT_EQ(d.dati[1].nome, "Svolta da A a B [veic]");
+    EXPECT_EQ(d.dati[1].testoScarto, "+3");
+    EXPECT_TRUE(d.note.empty());
 }
 
 TEST_F(Varianti, LegsThatOneProjectHasMoreAreNamed) {
@@ -320,6 +358,11 @@ TEST_F(Varianti, TheTextMarksTheJudgementBySigns) {
 TEST(Scarto, IsThatOfTheShortestTexts) {
     EXPECT_EQ(std::get<float>(*scarto(4.2F, 4.5F)), 0.3F);
     EXPECT_EQ(std::get<double>(*scarto(1.0, 0.25)), -0.75);
+    EXPECT_EQ(std::get<double>(*scarto(4.2, 4.5)), 0.3);
+    EXPECT_EQ(std::get<double>(*scarto(100000.2, 100000.3)), 0.1);
+    EXPECT_EQ(std::get<double>(*scarto(0.0, 1e-20)), 1e-20);
+    // What was worked out keeps every digit.
+    EXPECT_EQ(std::get<double>(*scarto(4.265589793523152, 3.990836262702942)), 3.990836262702942 - 4.265589793523152);
     EXPECT_EQ(std::get<std::int16_t>(*scarto(std::int16_t{3}, std::int16_t{5})), 2);
     EXPECT_FALSE(scarto(std::int16_t{-32768}, std::int16_t{32767}).has_value());
     EXPECT_FALSE(scarto(-3e38F, 3e38F).has_value());

@@ -369,8 +369,9 @@ TEST(Instradamento, ADocumentThatCannotBeOpenedIsTold) {
     ShellFinta f;
     f.documenti.riesce = false;
     f.cornice.Menu_Click("mnuGuidaInLinea");
-    EXPECT_EQ(f.cornice.ctlStatusBar.avviso(),
-              "Impossibile aprire " + f.cartella.percorso() + "/UserGuide/UserGuide.pdf");
+    ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
+    EXPECT_EQ(f.messaggi.mostrati[0].testo, "Impossibile aprire " + f.cartella.percorso() + "/UserGuide/UserGuide.pdf");
+    EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014 - Attenzione");
 }
 
 TEST(Instradamento, AFieldThatRefusesToBeLeftStopsEveryCommand) {

@@ -147,6 +147,7 @@ TEST(UserClick, AWindowIsMadeOnceAndBoundToItsNodeAtEachActivation) {
 TEST(UserClick, AFaultOfAWindowIsRecordedUnderTheLabelOfTheTree) {
     ShellFinta f;
     f.nuovo(3);
+    f.cornice.albero.UserClick("keyOpzioni");
     f.cornice.finestre.registra("frmMatriceSvolte", [](const Contorno&) -> std::unique_ptr<Finestra> {
         throw Guasto(NumeroGuasto::divisionePerZero);
     });
@@ -154,17 +155,8 @@ TEST(UserClick, AFaultOfAWindowIsRecordedUnderTheLabelOfTheTree) {
     ASSERT_EQ(f.messaggi.mostrati.size(), 1U);
     EXPECT_EQ(f.messaggi.mostrati[0].titolo, "KELVO 2014frmTreeView:UserClick()");
     EXPECT_EQ(f.messaggi.mostrati[0].testo, "11 : Divisione per zero");
-}
-
-TEST(UserClick, AWindowThatDoesNotStandYetIsToldAndNothingChanges) {
-    ShellFinta f;
-    MDI_Form vuota{
-        f.app, f.stato, {f.superficie, f.dialogo, f.documenti, f.impostazioni, f.cronometro, f.cartella.file("R")}};
-    creaProgetto(f.app, 3);
-    vuota.LoadTreeView();
-    EXPECT_FALSE(vuota.albero.UserClick("keyMatriceSvolte"));
-    EXPECT_EQ(vuota.ctlStatusBar.avviso(), "Non ancora disponibile in questa versione");
-    EXPECT_EQ(vuota.albero.ctlTree.selezionato(), "");
+    EXPECT_EQ(f.nomeCorrente(), "frmOpzioni");
+    EXPECT_EQ(f.cornice.albero.ctlTree.selezionato(), "keyOpzioni") << "the node of the window that is still shown";
 }
 
 TEST(NodiDisabilitati, AGreyNodeSwallowsTheMouseAndTellsItsText) {

@@ -192,6 +192,11 @@ TEST_F(Avvio, TheFilmComesBeforeItsPages) {
     EXPECT_TRUE(programma.Main(""));
     EXPECT_EQ(f.documenti.avviati, (std::vector<std::string>{"\"" + filmato + "\"|"}));
     EXPECT_TRUE(f.documenti.aperti.empty());
+    // A film that does not run here gives way to them.
+    f.documenti.riesce = false;
+    EXPECT_TRUE(programma.Main(""));
+    EXPECT_EQ(f.documenti.avviati.size(), 2U);
+    EXPECT_EQ(f.documenti.aperti.size(), 1U);
 }
 
 TEST_F(Avvio, TheCommandLineOpensAProjectWithoutItsQuotes) {

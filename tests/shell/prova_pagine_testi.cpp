@@ -138,6 +138,22 @@ TEST(PagineTutte, NoTwoHaveTheSameTitle) {
     EXPECT_GE(titoli.size(), 140U);
 }
 
+TEST(PagineTutte, TheIndexLeadsToEachOnceByItsTitle) {
+    const std::string indice = pagina(std::string{paginaIndice});
+    // The index itself, the blank page and the pattern that the window of the place fills in.
+    const std::set<std::string> fuori{std::string{paginaIndice}, std::string{paginaAiutoVuota}, "Vaq_google.htm"};
+    std::multiset<std::string> elencate;
+    const std::regex riga("<li><a href=\"([^\"]*)\">([^<]*)</a></li>");
+    for (auto it = std::sregex_iterator(indice.begin(), indice.end(), riga); it != std::sregex_iterator(); ++it) {
+        const std::string nome = senzaPercento((*it)[1].str());
+        elencate.insert(nome);
+        EXPECT_EQ(htmlInTesto((*it)[2].str()), titoloPagina(pagina(nome))) << nome;
+    }
+    for (const std::string& nome : pagineTutte()) {
+        EXPECT_EQ(elencate.count(nome), fuori.count(nome) == 0 ? 1U : 0U) << nome;
+    }
+}
+
 TEST(PagineTutte, TheColoursOfTheirSheetAreThoseOfTheProgram) {
     const std::array tinte{tinta::inchiostro, tinta::titolo, tinta::secondario, tinta::principale,
                            tinta::verde,      tinta::barra,  colori::bianco};

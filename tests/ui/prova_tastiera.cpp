@@ -128,12 +128,17 @@ TEST_P(TastiCornice, TheMenusOpenByTheirMnemonics) {
     EXPECT_TRUE(attendi([&] { return gesti::selezionato(banco.albero()) == "keyTempoModellazione"; }));
 }
 
-TEST_P(TastiCornice, NoNodeIsClosedForWantOfItsWindow) {
+TEST_P(TastiCornice, EveryNodeHasItsWindowAndAClosedOneTellsWhatOpensIt) {
     banco.nuovo(3);
+    smaltisci();
     for (const std::string& chiave : banco.cornice.albero.ctlTree.chiavi()) {
         const std::string_view nome = banco.cornice.albero.finestra(chiave);
         EXPECT_TRUE(nome.empty() || banco.cornice.finestre.conosce(nome)) << chiave;
-        EXPECT_EQ(banco.cornice.albero.ctlTree.nodo(chiave).nota, "") << chiave;
+        const Albero::Nodo& nodo = banco.cornice.albero.ctlTree.nodo(chiave);
+        EXPECT_EQ(nodo.nota.empty(), nodo.ForeColor == frmTreeView::coloreAbilitato) << chiave;
+        const QTreeWidgetItem* riga = gesti::nodo(banco.albero(), chiave);
+        ASSERT_NE(riga, nullptr) << chiave;
+        EXPECT_EQ(riga->toolTip(0).toStdString(), nodo.nota) << chiave;
     }
     banco.vai("keyterra");
     EXPECT_EQ(banco.nomeCorrente(), "frmGoogle");

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/guasto.h"
+#include "platform/insisti.h"
 #include "platform/windows/intestazioni.h"
 #include "platform/windows/testi.h"
 
@@ -90,15 +91,10 @@ bool rimandata(HRESULT esito) {
 
 /// Calls until the program takes the call: for about a minute, then its refusal stands.
 template <class Chiamata>
-HRESULT insisti(Chiamata chiamata) {
+HRESULT richiama(Chiamata chiamata) {
     constexpr int tentativi = 240;
     constexpr DWORD pausa = 250;  // ms
-    HRESULT esito = chiamata();
-    for (int fatti = 1; rimandata(esito) && fatti < tentativi; ++fatti) {
-        Sleep(pausa);
-        esito = chiamata();
-    }
-    return esito;
+    return insisti(tentativi, chiamata, rimandata, [] { Sleep(pausa); });
 }
 
 class ProgrammaWindows final : public ProgrammaCAD {
@@ -136,7 +132,7 @@ private:
         std::wstring nome = testoLargo(operazione);
         LPOLESTR parola = nome.data();
         const HRESULT esito =
-            insisti([&] { return oggetto_->GetIDsOfNames(IID_NULL, &parola, 1, LOCALE_USER_DEFAULT, &numero); });
+            richiama([&] { return oggetto_->GetIDsOfNames(IID_NULL, &parola, 1, LOCALE_USER_DEFAULT, &numero); });
         if (FAILED(esito) && esito != DISP_E_UNKNOWNNAME) {
             throw guastoAutomazione(erroreAutomazione, operazione + ": " + paroleEsito(esito));
         }
@@ -162,7 +158,7 @@ private:
         EXCEPINFO rifiuto{};
         VARIANT* const esce =
             modo == DISPATCH_PROPERTYPUT ? nullptr : (risposta != nullptr ? *risposta : perso).posto();
-        const HRESULT esito = insisti([&] {
+        const HRESULT esito = richiama([&] {
             return oggetto_->Invoke(numero, IID_NULL, LOCALE_USER_DEFAULT, modo, &parametri, esce, &rifiuto, nullptr);
         });
         if (esito == DISP_E_MEMBERNOTFOUND) {

@@ -1,12 +1,11 @@
 #include "platform/windows/RegistroWindows.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
-#include <utility>
 
 #include "base/guasto.h"
+#include "platform/vedute.h"
 #include "platform/windows/intestazioni.h"
 #include "platform/windows/testi.h"
 
@@ -67,10 +66,7 @@ void aggiungiSottochiavi(HKEY aperta, const std::string& chiave, std::vector<std
         if (esito != ERROR_SUCCESS) {
             rifiuta(esito, chiave);
         }
-        std::string testo = testoStretto(std::wstring_view(nome.data(), lungo));
-        if (std::find(nomi.begin(), nomi.end(), testo) == nomi.end()) {
-            nomi.push_back(std::move(testo));
-        }
+        nomi.push_back(testoStretto(std::wstring_view(nome.data(), lungo)));
     }
 }
 
@@ -85,48 +81,40 @@ LSTATUS leggiTesto(HKEY aperta, const std::wstring& nome, std::wstring& testo) {
     return esito;
 }
 
+/// The text of a value in one view; nothing where key or value does not stand.
+std::optional<std::string> testoDi(const std::string& chiave, const std::string& nome, REGSAM veduta) {
+    const Chiave aperta(chiave, veduta);
+    if (aperta.maniglia() == nullptr) {
+        return std::nullopt;
+    }
+    std::wstring testo;
+    const LSTATUS esito = leggiTesto(aperta.maniglia(), testoLargo(nome), testo);
+    if (esito == ERROR_SUCCESS) {
+        return testoStretto(std::wstring_view(testo).substr(0, testo.find(L'\0')));
+    }
+    const std::string dove = chiave + ", " + nome;
+    if (esito == ERROR_UNSUPPORTED_TYPE) {
+        throw Guasto(NumeroGuasto::tipoNonCorrispondente, "registro di sistema, " + dove);
+    }
+    if (!manca(esito)) {
+        rifiuta(esito, dove);
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 std::vector<std::string> RegistroWindows::sottochiavi(const std::string& chiave) const {
-    std::vector<std::string> nomi;
-    std::optional<Guasto> rifiutata;
-    for (const REGSAM veduta : vedute) {
-        try {
-            const Chiave aperta(chiave, veduta);
-            if (aperta.maniglia() != nullptr) {
-                aggiungiSottochiavi(aperta.maniglia(), chiave, nomi);
-            }
-        } catch (const Guasto& guasto) {
-            rifiutata = guasto;
+    return LetturaVedute(vedute).nomi([&](REGSAM veduta, std::vector<std::string>& nomi) {
+        const Chiave aperta(chiave, veduta);
+        if (aperta.maniglia() != nullptr) {
+            aggiungiSottochiavi(aperta.maniglia(), chiave, nomi);
         }
-    }
-    // What one view gives counts, even where the other one cannot be read.
-    if (nomi.empty() && rifiutata) {
-        throw *rifiutata;
-    }
-    return nomi;
+    });
 }
 
 std::string RegistroWindows::valore(const std::string& chiave, const std::string& nome) const {
-    for (const REGSAM veduta : vedute) {
-        const Chiave aperta(chiave, veduta);
-        if (aperta.maniglia() == nullptr) {
-            continue;
-        }
-        std::wstring testo;
-        const LSTATUS esito = leggiTesto(aperta.maniglia(), testoLargo(nome), testo);
-        if (esito == ERROR_SUCCESS) {
-            return testoStretto(std::wstring_view(testo).substr(0, testo.find(L'\0')));
-        }
-        const std::string dove = chiave + ", " + nome;
-        if (esito == ERROR_UNSUPPORTED_TYPE) {
-            throw Guasto(NumeroGuasto::tipoNonCorrispondente, "registro di sistema, " + dove);
-        }
-        if (!manca(esito)) {
-            rifiuta(esito, dove);
-        }
-    }
-    return {};
+    return LetturaVedute(vedute).valore([&](REGSAM veduta) { return testoDi(chiave, nome, veduta); });
 }
 
 }  // namespace kelvo

@@ -94,6 +94,9 @@ std::string ImpostazioniWindows::leggi(const std::string& applicazione, const st
 }
 
 bool ApriDocumentiWindows::apri(const std::string& percorso) {
+    if (percorso.starts_with("https://") || percorso.starts_with("http://")) {
+        return apriColSistema(testoLargo(percorso), nullptr);
+    }
     std::string file = percorso;
     std::erase(file, '"');
     const DWORD attributi = GetFileAttributesW(percorsoLargo(file).c_str());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "platform/insisti.h"
 #include "platform/windows/intestazioni.h"
 #include "platform/windows/testi.h"
 
@@ -87,16 +88,12 @@ std::string SistemaFileWindows::rinomina(const std::string& da, const std::strin
     constexpr DWORD pausaMs = 20;
     const std::wstring origine = percorsoLargo(da);
     const std::wstring meta = percorsoLargo(a);
-    for (int i = 1;; ++i) {
-        if (MoveFileExW(origine.c_str(), meta.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE) {
-            return {};
-        }
-        const DWORD errore = GetLastError();
-        if (!passeggero(errore) || i == tentativi) {
-            return paroleErroreWindows(errore);
-        }
-        Sleep(pausaMs);
-    }
+    const auto sposta = [&]() -> DWORD {
+        constexpr DWORD modo = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        return MoveFileExW(origine.c_str(), meta.c_str(), modo) != FALSE ? DWORD{ERROR_SUCCESS} : GetLastError();
+    };
+    const DWORD errore = insisti(tentativi, sposta, passeggero, [] { Sleep(pausaMs); });
+    return errore == ERROR_SUCCESS ? std::string{} : paroleErroreWindows(errore);
 }
 
 void SistemaFileWindows::elimina(const std::string& percorso) {

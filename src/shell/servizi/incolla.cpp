@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "app/titoli.h"
 #include "base/numeri.h"
 #include "base/testo.h"
 
@@ -82,7 +83,7 @@ EsitoUscita rifiutoBlocco(const Griglia& griglia, const TestoCella& cella, std::
                               ": non è stato incollato nulla.";
     EsitoUscita esito;
     esito.accettato = false;
-    esito.messaggio = MessaggioCampo{.testo = testo, .titolo = "KELVO 2014 - Attenzione", .icona = Icona::esclamazione};
+    esito.messaggio = MessaggioCampo{.testo = testo, .titolo = titoli::attenzione, .icona = Icona::esclamazione};
     return esito;
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "shell/servizi/carta.h"
 #include "shell/servizi/esporta.h"
 
@@ -26,7 +27,6 @@ constexpr const char* stampaPDF = "mnuXDatiStampaPDF";
 }  // namespace chiave
 
 namespace testi {
-constexpr const char* attenzione = "KELVO 2014 - Attenzione";
 constexpr const char* tabellaVuota = "La tabella è vuota";
 constexpr const char* graficoVuoto = "Il grafico non ha dati";
 constexpr const char* nonDisponibile = "Non disponibile";
@@ -131,7 +131,7 @@ void MenuDati::premuta(const std::string& chiave) {
 }
 
 void MenuDati::segnala(const std::string& testo) {
-    contorno_.app.messaggi.mostra(testo, testi::attenzione, Icona::esclamazione, Pulsanti::ok);
+    contorno_.app.messaggi.mostra(testo, titoli::attenzione, Icona::esclamazione, Pulsanti::ok);
 }
 
 void MenuDati::salva(std::string_view estensione, const std::function<EsitoDisegno()>& dati) {

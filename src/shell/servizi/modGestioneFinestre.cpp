@@ -1,5 +1,6 @@
 #include "shell/servizi/modGestioneFinestre.h"
 
+#include "app/titoli.h"
 #include "base/guasto.h"
 #include "shell/servizi/pelle.h"
 
@@ -38,7 +39,7 @@ void modGestioneFinestre::avvisaOpzioni() {
         app_.messaggi.mostra(
             "Attenzione! Sono state modificate delle opzioni: verificare con attenzione i dati precedentemente "
             "inseriti.",
-            "KELVO 2014 - Attenzione", Icona::esclamazione, Pulsanti::ok);
+            titoli::attenzione, Icona::esclamazione, Pulsanti::ok);
         stato_.opzioniModificate = false;
     }
 }

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "app/percorsi.h"
+#include "app/titoli.h"
 #include "base/date.h"
 #include "base/file.h"
 #include "base/versione.h"
@@ -12,10 +13,8 @@ namespace kelvo {
 
 namespace {
 
-constexpr const char* titoloAttenzione = "KELVO 2014 - Attenzione";
-
 void segnala(const Contorno& contorno, const std::string& testo) {
-    contorno.app.messaggi.mostra(testo, titoloAttenzione, Icona::esclamazione, Pulsanti::ok);
+    contorno.app.messaggi.mostra(testo, titoli::attenzione, Icona::esclamazione, Pulsanti::ok);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "app/titoli.h"
 #include "base/date.h"
 #include "base/guasto.h"
 #include "base/numeri.h"
@@ -207,7 +208,7 @@ EsitoUscita tBox::rifiutato(std::string motivo) const {
     if (rifiuto.empty()) {
         return EsitoUscita::rifiuto(std::move(motivo));
     }
-    EsitoUscita esito = EsitoUscita::rifiuto(MessaggioCampo{rifiuto, "KELVO 2014 - Attenzione", Icona::esclamazione});
+    EsitoUscita esito = EsitoUscita::rifiuto(MessaggioCampo{rifiuto, titoli::attenzione, Icona::esclamazione});
     esito.motivo = nomeCampo.empty() ? rifiuto : nomeCampo + ": " + rifiuto;
     return esito;
 }

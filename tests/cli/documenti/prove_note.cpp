@@ -9,6 +9,7 @@
 
 #include "cli/processo.h"
 #include "comune/cartella.h"
+#include "comune/strumenti.h"
 
 namespace kelvo::prove {
 
@@ -18,7 +19,7 @@ namespace fs = std::filesystem;
 
 /// The words of each page of a document; empty where this machine has nothing that lays it out, or reads it.
 std::vector<std::string> pagine(const CartellaTemporanea& cartella, const std::string& documento) {
-    if (!fs::exists("/usr/bin/soffice") || !fs::exists("/usr/bin/pdftotext")) {
+    if (!fs::exists("/usr/bin/soffice") || !conStrumento("pdftotext", "poppler-utils")) {
         return {};
     }
     const Esito pdf = esegui({"/usr/bin/soffice", "-env:UserInstallation=file://" + cartella.file("profilo"),

@@ -204,18 +204,7 @@ TEST_F(ProveVerifiche, ShowsWhatIsInForceAndWarnsOfANightWithoutIncidence) {
     EXPECT_EQ(t.cella(0, 0).sfondo, (Colore{0, 98, 0}));
 }
 
-TEST_F(ProveVerifiche, ReportAndSpreadsheetAreClosedUntilThereAreSuch) {
-    apriVerifiche();
-    calcola();
-    for (const char* chiave : {"keyRelazione", "keyExcel"}) {
-        EXPECT_FALSE(finestra.ctlToolbar.abilitato(chiave));
-        EXPECT_NE(finestra.ctlToolbar.spiegazione(chiave).find("Non ancora disponibile in questa versione"),
-                  std::string::npos);
-    }
-    EXPECT_FALSE(finestra.Cmd_EXCEL.abilitato());
-}
-
-TEST_F(ProveVerifiche, TheSpreadsheetOpensWithTheFirstCalculation) {
+TEST_F(ProveVerifiche, TheSpreadsheetOpensWithTheFirstCalculationTheReportIsOpenBefore) {
     ServiziRisultati conFoglio = servizi();
     int relazioni = 0;
     conFoglio.foglio = [this](const std::string& percorso) { fogli.push_back(percorso); };
@@ -224,6 +213,7 @@ TEST_F(ProveVerifiche, TheSpreadsheetOpensWithTheFirstCalculation) {
     apri(altra, "keyCodeRitardi_Out");
     EXPECT_FALSE(altra.ctlToolbar.abilitato("keyExcel"));
     EXPECT_FALSE(altra.Cmd_EXCEL.abilitato());
+    EXPECT_TRUE(altra.ctlToolbar.abilitato("keyRelazione"));
     EXPECT_EQ(altra.ctlToolbar.spiegazione("keyExcel"),
               "Porta la tabella in un foglio di calcolo (Ctrl+E)\nDisponibile dopo Calcola");
     altra.Cmd_EXCEL.premi();

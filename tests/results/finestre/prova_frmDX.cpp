@@ -116,13 +116,6 @@ TEST_F(ProveDX, WithoutAPositionEveryKeyIsRefusedAndNothingRuns) {
     gestione.chiudiCorrente();
 }
 
-TEST_F(ProveDX, WithoutAReportItsKeyIsClosed) {
-    apriDX();
-    scegli({0});
-    EXPECT_FALSE(finestra.ctlToolbar.abilitato("keyRelazione"));
-    EXPECT_NE(finestra.ctlToolbar.spiegazione("keyRelazione").find("Non ancora disponibile"), std::string::npos);
-}
-
 TEST_F(ProveDX, CalculatesWithThenWithoutTheLanes) {
     apriDX();
     scegli({0, 2});

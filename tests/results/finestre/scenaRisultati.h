@@ -44,7 +44,15 @@ struct ScenaRisultati : testing::Test, ScenaFinestre {
     CollegateFinte collegate{gestione};
 
     ScenaRisultati() { progetto(3); }
-    ServiziRisultati servizi() { return {documenti, collegate}; }
+    /// With reports and a spreadsheet that nobody looks at.
+    ServiziRisultati servizi() {
+        ServiziRisultati tutti{documenti, collegate};
+        tutti.foglio = [](const std::string& /*percorso*/) {};
+        tutti.relazione = [] {};
+        tutti.relazioneGrafica = [](const RelazioneGrafica& /*relazione*/) {};
+        tutti.relazioneTotale = [] {};
+        return tutti;
+    }
     Rotonda& r() { return app.theRotonda(); }
     Ramo& ramo(int i) { return r().Ramo(static_cast<std::int16_t>(i)); }
     /// An hour from 08:00 in quarters, demand as a curve in all legs, equal turns.
