@@ -10,6 +10,27 @@ TEST_F(Pagine, ChartsAndPlansOfAPdfAreNoBitmaps) {
     EXPECT_EQ(pdfPagine(documento).dati.find("/Subtype /Image"), std::string::npos);
 }
 
+pianta::DatiRamo ramoMostrato() {
+    return {.nome = {},
+            .larghezzaIngresso = 5,
+            .semiLarghezza = 3.75,
+            .lunghezzaSvasatura = 20,
+            .angoloConflitto = 25,
+            .raggioIngresso = 25,
+            .diametroInscritto = 40,
+            .attraversamentoPedonale = true};
+}
+
+D::Pianta piantaMostrata(const pianta::OpzioniPianta& opzioni = {}) {
+    return {std::make_shared<pianta::DatiPianta>(
+                pianta::DatiPianta{.rami = std::vector<pianta::DatiRamo>(4, ramoMostrato()), .ipotesi = {}}),
+            std::make_shared<pianta::OpzioniPianta>(opzioni)};
+}
+
+D::Pianta primoPiano(pianta::Misura misura) {
+    return piantaMostrata({.vista = pianta::Vista::primoPiano, .ramo = 1, .misura = misura});
+}
+
 /// A document with everything.
 D campione() {
     D documento{.titolo = "Documento di prova",
@@ -32,20 +53,7 @@ D campione() {
     documento.blocchi.emplace_back(t);
     documento.blocchi.emplace_back(
         D::Figura{.contenuto = prove::prestazioni(prove::ritardi, 10), .larghezza = 0.6, .didascalia = "Ritardi"});
-    const auto ramo = pianta::DatiRamo{.nome = {},
-                                       .larghezzaIngresso = 5,
-                                       .semiLarghezza = 3.75,
-                                       .lunghezzaSvasatura = 20,
-                                       .angoloConflitto = 25,
-                                       .raggioIngresso = 25,
-                                       .diametroInscritto = 40,
-                                       .attraversamentoPedonale = true};
-    documento.blocchi.emplace_back(
-        D::Figura{.contenuto = D::Pianta{std::make_shared<pianta::DatiPianta>(pianta::DatiPianta{
-                                             .rami = std::vector<pianta::DatiRamo>(4, ramo), .ipotesi = {}}),
-                                         std::make_shared<pianta::OpzioniPianta>()},
-                  .larghezza = 0.4,
-                  .forma = 1.0});
+    documento.blocchi.emplace_back(D::Figura{.contenuto = piantaMostrata(), .larghezza = 0.4, .forma = 1.0});
     return documento;
 }
 
@@ -150,6 +158,23 @@ TEST_F(Pagine, ATickedBoxIsPaintedWithItsTickAndAnEmptyOneWithout) {
         }
         // 18 pixels a side.
         EXPECT_GT(foto.scuri(fuori) - foto.scuri(dentro), 36);
+    }
+}
+
+TEST_F(Pagine, ACloseUpFillsItsPlaceWhateverItsShape) {
+    for (const double forma : {0.6, 1.0, 1.4}) {
+        D documento = vuoto();
+        documento.blocchi.emplace_back(
+            D::Figura{.contenuto = primoPiano(pianta::Misura::larghezzaIngresso), .larghezza = 0.55, .forma = forma});
+        const Impaginato impaginato = impagina(documento);
+        const QRectF dove = impaginato.pagine.at(0).figure.at(0).dove;
+        const Foto foto(impaginato, 0);
+        // The remark stands at the foot, with little below it.
+        QRectF piede = dove;
+        piede.setTop(dove.bottom() - 0.07 * dove.height());
+        EXPECT_GT(foto.scuri(piede), 20) << forma;
+        // The ring reaches the top.
+        EXPECT_LT(foto.in(dove, 0.5, 0.02).lightness(), 245) << forma;
     }
 }
 
