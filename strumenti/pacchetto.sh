@@ -222,10 +222,30 @@ prova_installato() {
     prova_uso "$albero/usr/bin" "$albero/usr/lib/kelvo"
     uguale "l'installazione dopo l'uso" "$prima" "$(impronte "$albero/usr")"
     if ((EUID == 0)); then
+        prova_aggiornamento "$albero"
         dpkg --root="$albero" --log="$lavoro/dpkg.log" --purge kelvo >>"$lavoro/dpkg.txt" 2>&1 ||
             { cat "$lavoro/dpkg.txt" >&2; muori "il pacchetto non si toglie"; }
         uguale "ciò che resta" "" "$(find "$albero" -mindepth 1 -not -path "$albero/var*")"
     fi
+}
+
+# prova_aggiornamento <root>: a newer version over this one. What it brings reaches the copy of the user that has used the
+# old one, what the user has changed stays.
+prova_aggiornamento() {
+    local nuovo=$lavoro/nuovo copia=$HOME/.local/share/Kelvo/Prog/Kelvo progetto=$lavoro/Aggiornata.klv
+    dpkg-deb -R "$deb" "$nuovo"
+    sed -i 's/^Version: .*/Version: 999-1/' "$nuovo/DEBIAN/control"
+    cp -- "$nuovo/usr/lib/kelvo/Prog/Kelvo/Modelli/RelazioneMasterIN.dotx" \
+        "$nuovo/usr/lib/kelvo/Prog/Kelvo/Modelli/RelazioneNuova.dotx"
+    dpkg-deb --root-owner-group -b "$nuovo" "$lavoro/nuovo.deb" >/dev/null
+    dpkg --root="$1" --log="$lavoro/dpkg.log" --force-depends --install "$lavoro/nuovo.deb" >>"$lavoro/dpkg.txt" 2>&1 ||
+        { cat "$lavoro/dpkg.txt" >&2; muori "il pacchetto non si aggiorna"; }
+    uguale "versione aggiornata" 999-1 "$(dpkg-query --admindir="$1/var/lib/dpkg" -W -f '${Version}' kelvo)"
+    cp -- "$1/usr/lib/kelvo/Prog/Progetti/$ESEMPIO" "$progetto"
+    grep -q '^Autotreni=0' "$copia/Kelvo.ini" || muori "la prova d'uso non ha lasciato la sua configurazione"
+    apre "$progetto" "$progetto" "$1/usr/bin/kelvo"
+    [[ -s $copia/Modelli/RelazioneNuova.dotx ]] || muori "la copia dell'utente non segue l'aggiornamento"
+    grep -q '^Autotreni=0' "$copia/Kelvo.ini" || muori "l'aggiornamento cambia la configurazione dell'utente"
 }
 
 # prova_uso <folder of the commands> <root of the tree>: an installation that nobody writes.

@@ -25,6 +25,8 @@ prepara_wine() {
         timeout 180 wineboot --init >"$COSTRUZIONE/wine.log" 2>&1 ||
             salta "le prove delle stanze Windows, wine non si avvia (build/windows/wine.log)"
     fi
+    # The server stays from one test program to the next: one that ends may turn away the one that starts.
+    timeout 60 wineserver -p
     # Keeps the table of running objects; started on demand it may come too late for the test that asks for it.
     timeout 60 wine net start rpcss >/dev/null 2>&1 || true
 }
@@ -50,6 +52,8 @@ confronta_esempi() {
         confronta "$cli" calcola "$progetto"
         confronta "$cli" calcola --json "$progetto"
         confronta "$cli" capacita-ultima "$progetto"
+        confronta "$cli" sintesi "$progetto"
+        confronta "$cli" mostra "$progetto"
         provati=$((provati + 1))
     done
     ((provati)) || muori "nessun progetto da confrontare"

@@ -253,8 +253,7 @@ void MDI_Form::apriRecente(const std::string& chiave) {
 void MDI_Form::apriDocumento(std::string_view daProgramma) {
     const std::string percorso = app_.theAmbiente.PercorsoProgramma(std::string{daProgramma});
     if (!servizi_.documenti.apri("\"" + percorso + "\"")) {
-        app_.messaggi.mostra(fmt::format("Impossibile aprire {}", percorso), titoli::attenzione, Icona::esclamazione,
-                             Pulsanti::ok);
+        mostra(fmt::format("Impossibile aprire {}", percorso));
     }
 }
 

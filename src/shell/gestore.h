@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include "app/Applicazione.h"
-#include "app/titoli.h"
 #include "base/guasto.h"
 
 namespace kelvo {
@@ -21,7 +20,5 @@ bool gestisci(Applicazione& app, const char* metodo, Procedura procedura) {
         return false;
     }
 }
-
-/// Titles of the message boxes.
 
 }  // namespace kelvo

@@ -119,6 +119,7 @@ Giro::Giro(const Richiesta& richiesta, const Installazione& installazione, Siste
                                          .foglio = [](const std::string& /*scambio*/) {},
                                          .stampa = &stampa_,
                                          .attesa = &attesa_});
+    app_.appunti = &appunti_;
     collegate_.collegaA(cornice_);
     vista_.collegaA(cornice_);
     app_.comune.LeggiConfigurazione();

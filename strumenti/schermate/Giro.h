@@ -77,6 +77,7 @@ private:
     ui::DialogoAnteprimaQt anteprima_;
     ImpostazioniMute impostazioni_;
     CronometroMuto cronometro_;
+    AppuntiMuti appunti_;
     std::string cartellaLavoro_;
     Applicazione app_;
     StatoFinestre stato_;

@@ -29,16 +29,6 @@ private:
     SistemaFile& veri_;
 };
 
-/// Keeps what was put there.
-class AppuntiMuti final : public Appunti {
-public:
-    void scrivi(const std::string& testo) override { testo_ = testo; }
-    std::string leggi() const override { return testo_; }
-
-private:
-    std::string testo_;
-};
-
 /// The program as it stands with a user, for the windows that show paths: where these pictures are taken it has a
 /// folder that is another at each run.
 class InstallazioneMostrata {
@@ -46,13 +36,12 @@ public:
     explicit InstallazioneMostrata(Applicazione& vera)
         : file_(vera.file), app_("/srv/studio/Kelvo/Prog/Kelvo", "/tmp/Kelvo/", {vera.messaggi, vera.orologio, file_}) {
         app_.configurazione = vera.configurazione;
-        app_.appunti = &appunti_;
+        app_.appunti = vera.appunti;
     }
     Applicazione& app() { return app_; }
 
 private:
     FileMostrati file_;
-    AppuntiMuti appunti_;
     Applicazione app_;
 };
 

@@ -54,6 +54,16 @@ public:
     std::optional<std::string> salva(const RichiestaFile& /*richiesta*/) override { return std::nullopt; }
 };
 
+/// Keeps what was put there.
+class AppuntiMuti final : public Appunti {
+public:
+    void scrivi(const std::string& testo) override { testo_ = testo; }
+    std::string leggi() const override { return testo_; }
+
+private:
+    std::string testo_;
+};
+
 /// Opens and starts nothing.
 class DocumentiMuti final : public ApriDocumenti {
 public:

@@ -16,7 +16,7 @@ class ProveConvertitore : public testing::Test {
 protected:
     ProveConvertitore() {
         scriviContenuto(documento, "PK documento");
-        fs::create_directory(lavoro);
+        fs::create_directory(percorsoDaTesto(lavoro));
         processi.presente = "soffice";
         // The office program writes beside its output folder what it was told to convert.
         processi.recita = [this](const std::vector<std::string>& parole) {
@@ -27,7 +27,7 @@ protected:
     std::string converti(const std::function<void()>& intanto = {}) {
         return convertitore.converti(documento, pdf, intanto);
     }
-    bool lavoroVuoto() const { return fs::is_empty(lavoro); }
+    bool lavoroVuoto() const { return fs::is_empty(percorsoDaTesto(lavoro)); }
 
     CartellaTemporanea cartella;
     std::string documento = cartella.file("Relazione è.docx");
@@ -53,14 +53,15 @@ TEST_F(ProveConvertitore, TheProgramHasAProfileOfItsOwnAndNoWindow) {
     EXPECT_EQ(processi.limiteDato, std::chrono::seconds(7));
     ASSERT_EQ(processi.parole.size(), 8U);
     const std::string& dentro = processi.parole[6];
-    EXPECT_EQ(dentro.substr(0, lavoro.size() + 5), lavoro + "/pdf-");
+    EXPECT_EQ(percorsoDaTesto(dentro).parent_path(), percorsoDaTesto(lavoro));
+    EXPECT_EQ(percorsoDaTesto(dentro).filename().string().substr(0, 4), "pdf-");
     EXPECT_EQ(processi.parole[0], "-env:UserInstallation=" + indirizzoFile(dentro + "/profilo"));
     EXPECT_NE(processi.parole[0].find("/lavoro%20%C3%A8/pdf-"), std::string::npos) << processi.parole[0];
     EXPECT_EQ(processi.parole[1], "--headless");
     EXPECT_EQ(processi.parole[3], "--convert-to");
     EXPECT_EQ(processi.parole[4], "pdf");
     EXPECT_EQ(processi.parole[5], "--outdir");
-    EXPECT_EQ(processi.parole[7], dentro + "/documento.docx");
+    EXPECT_EQ(percorsoDaTesto(processi.parole[7]), percorsoDaTesto(dentro + "/documento.docx"));
 }
 
 TEST_F(ProveConvertitore, TheOtherNameOfTheProgramIsTriedToo) {
@@ -78,7 +79,7 @@ TEST_F(ProveConvertitore, WithoutAProgramItSaysWhatToDo) {
               "salvarla come PDF");
     EXPECT_EQ(converti(), convertitore.impedimento());
     EXPECT_TRUE(processi.eseguiti.empty());
-    EXPECT_FALSE(fs::exists(pdf));
+    EXPECT_FALSE(fs::exists(percorsoDaTesto(pdf)));
 }
 
 TEST_F(ProveConvertitore, WhateverGoesWrongIsToldAndLeavesTheOldFile) {
@@ -107,15 +108,15 @@ TEST_F(ProveConvertitore, ASuccessWithoutASoundFileIsNone) {
         scriviContenuto(detti.at(6) + "/documento.pdf", "rotto");
     };
     EXPECT_EQ(converti(), parole);
-    EXPECT_FALSE(fs::exists(pdf));
+    EXPECT_FALSE(fs::exists(percorsoDaTesto(pdf)));
     EXPECT_TRUE(lavoroVuoto());
 }
 
 TEST_F(ProveConvertitore, ATargetThatCannotBeWrittenAndADocumentThatIsGoneAreTold) {
-    fs::create_directory(pdf);
+    fs::create_directory(percorsoDaTesto(pdf));
     EXPECT_NE(converti(), "");
-    EXPECT_TRUE(fs::is_directory(pdf));
-    fs::remove(documento);
+    EXPECT_TRUE(fs::is_directory(percorsoDaTesto(pdf)));
+    fs::remove(percorsoDaTesto(documento));
     EXPECT_EQ(converti().substr(0, 31), "il documento non è leggibile (");
     EXPECT_TRUE(lavoroVuoto());
 }

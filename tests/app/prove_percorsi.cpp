@@ -14,11 +14,12 @@ namespace {
 
 TEST(Percorsi, TheFolderOfTheProjectsIsCutByCountOfCharacters) {
     const auto progetti = [](const std::string& cartella) {
-        return cartellaProgetti(clsAmbiente(cartella, cartella, sistemaFileStandard()));
+        return percorsoDaTesto(cartellaProgetti(clsAmbiente(cartella, cartella, sistemaFileStandard())));
     };
-    EXPECT_EQ(progetti("/opt/Prog/Kelvo"), "/opt/Prog/Progetti");
-    EXPECT_EQ(progetti("/opt/Città/Kèlvò"), "/opt/Città/Progetti") << "characters, not bytes";
-    EXPECT_EQ(progetti("/opt/Prog/Kelvo14"), "/opt/Prog/K/Progetti") << "another length is cut all the same";
+    EXPECT_EQ(progetti("/opt/Prog/Kelvo"), percorsoDaTesto("/opt/Prog/Progetti"));
+    EXPECT_EQ(progetti("/opt/Città/Kèlvò"), percorsoDaTesto("/opt/Città/Progetti")) << "characters, not bytes";
+    EXPECT_EQ(progetti("/opt/Prog/Kelvo14"), percorsoDaTesto("/opt/Prog/K/Progetti"))
+        << "another length is cut all the same";
 }
 
 TEST(Percorsi, EveryPathThatIsCutComesOutRightInEveryTree) {

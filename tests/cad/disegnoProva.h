@@ -6,24 +6,17 @@
 #include <vector>
 
 #include "cad/disegnoDxf.h"
-#include "pianta/Pianta.h"
+#include "pianta/progetti.h"
 
 /// Drawings for the tests, and the groups of a file.
 namespace kelvo::prove {
 
 inline pianta::DatiRamo ramoMedio(const std::string& nome = "Via Roma") {
-    return {.nome = nome,
-            .larghezzaIngresso = 5.0,
-            .semiLarghezza = 3.75,
-            .lunghezzaSvasatura = 20.0,
-            .angoloConflitto = 25.0,
-            .raggioIngresso = 25.0,
-            .diametroInscritto = 40.0,
-            .attraversamentoPedonale = true};
+    return ramoUsuale(nome);
 }
 
 inline pianta::DatiPianta rotatoria(int rami) {
-    return {.rami = std::vector<pianta::DatiRamo>(static_cast<std::size_t>(rami), ramoMedio()), .ipotesi = {}};
+    return uguali(rami, ramoMedio());
 }
 
 inline const dxf::Cartiglio cartiglioProva{.titolo = "Titolo", .luogo = "Luogo", .progettista = "P", .data = "D"};

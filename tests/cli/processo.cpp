@@ -12,6 +12,7 @@
 #include <array>
 #include <cerrno>
 #include <filesystem>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
 
@@ -164,6 +165,15 @@ std::string conCambio(std::string testo, const std::string& dopo, const std::str
         throw std::invalid_argument("il testo non contiene " + dopo + " ... " + vecchio);
     }
     return testo.replace(posto, vecchio.size(), nuovo);
+}
+
+std::vector<std::string> righe(const std::string& testo) {
+    std::vector<std::string> tutte;
+    std::istringstream flusso(testo);
+    for (std::string riga; std::getline(flusso, riga);) {
+        tutte.push_back(riga);
+    }
+    return tutte;
 }
 
 std::string senzaDate(std::string testo) {

@@ -33,6 +33,9 @@ std::vector<std::string> esempi();
 /// `testo` with its first `vecchio` behind `dopo` replaced; a text that does not hold them fails the test.
 std::string conCambio(std::string testo, const std::string& dopo, const std::string& vecchio, const std::string& nuovo);
 
+/// The lines of a text.
+std::vector<std::string> righe(const std::string& testo);
+
 /// The dates of the closing lines give way to marks, where they have their form.
 std::string senzaDate(std::string testo);
 

@@ -48,15 +48,6 @@ std::vector<Riquadro> riquadri() {
     return tutti;
 }
 
-std::vector<std::string> righe(const std::string& testo) {
-    std::vector<std::string> tutte;
-    std::istringstream flusso(testo);
-    for (std::string riga; std::getline(flusso, riga);) {
-        tutte.push_back(riga);
-    }
-    return tutte;
-}
-
 /// Runs the blocks of the page, one behind the other in one folder with the example projects, as its reader would.
 class Batch : public testing::Test {
 protected:

@@ -15,15 +15,6 @@ namespace {
 
 const std::string mulini = "Rotatoria_Via_dei_Mulini";
 
-std::vector<std::string> righe(const std::string& testo) {
-    std::vector<std::string> tutte;
-    std::istringstream flusso(testo);
-    for (std::string riga; std::getline(flusso, riga);) {
-        tutte.push_back(riga);
-    }
-    return tutte;
-}
-
 /// `quanti` names of files in a folder, the examples in turn behind them, in the order of the numbers.
 std::vector<std::string> cartellaPiena(const CartellaTemporanea& cartella, int quanti) {
     const std::vector<std::string> modelli = esempi();

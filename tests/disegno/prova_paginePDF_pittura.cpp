@@ -1,4 +1,5 @@
 #include "comune/strumenti.h"
+#include "pianta/progetti.h"
 #include "scenaPaginePDF.h"
 
 namespace kelvo::disegno {
@@ -10,20 +11,8 @@ TEST_F(Pagine, ChartsAndPlansOfAPdfAreNoBitmaps) {
     EXPECT_EQ(pdfPagine(documento).dati.find("/Subtype /Image"), std::string::npos);
 }
 
-pianta::DatiRamo ramoMostrato() {
-    return {.nome = {},
-            .larghezzaIngresso = 5,
-            .semiLarghezza = 3.75,
-            .lunghezzaSvasatura = 20,
-            .angoloConflitto = 25,
-            .raggioIngresso = 25,
-            .diametroInscritto = 40,
-            .attraversamentoPedonale = true};
-}
-
 D::Pianta piantaMostrata(const pianta::OpzioniPianta& opzioni = {}) {
-    return {std::make_shared<pianta::DatiPianta>(
-                pianta::DatiPianta{.rami = std::vector<pianta::DatiRamo>(4, ramoMostrato()), .ipotesi = {}}),
+    return {std::make_shared<pianta::DatiPianta>(prove::uguali(4, prove::ramoUsuale({}))),
             std::make_shared<pianta::OpzioniPianta>(opzioni)};
 }
 

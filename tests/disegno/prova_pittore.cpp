@@ -19,6 +19,7 @@
 #include "disegno/pittorePianta.h"
 #include "pianta/Pianta.h"
 #include "pianta/curve.h"
+#include "pianta/progetti.h"
 #include "shell/servizi/tinte.h"
 
 namespace kelvo::disegno {
@@ -28,15 +29,7 @@ using pianta::DatiPianta;
 using pianta::Punto;
 
 DatiPianta usuale(int rami) {
-    return {.rami = std::vector<pianta::DatiRamo>(static_cast<std::size_t>(rami), {.nome = "S.P. 62",
-                                                                                   .larghezzaIngresso = 5.0,
-                                                                                   .semiLarghezza = 3.75,
-                                                                                   .lunghezzaSvasatura = 20.0,
-                                                                                   .angoloConflitto = 25.0,
-                                                                                   .raggioIngresso = 25.0,
-                                                                                   .diametroInscritto = 40.0,
-                                                                                   .attraversamentoPedonale = true}),
-            .ipotesi = {}};
+    return prove::uguali(rami, prove::ramoUsuale("S.P. 62"));
 }
 
 class Pittura : public testing::Test {

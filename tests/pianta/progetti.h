@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "pianta/Pianta.h"
@@ -16,8 +17,8 @@ inline pianta::DatiPianta uguali(int rami, const pianta::DatiRamo& ramo) {
 }
 
 /// The measures of the fields' own examples on a circle of 40 m.
-inline pianta::DatiRamo ramoUsuale() {
-    return {.nome = "S.P. 62 Sud",
+inline pianta::DatiRamo ramoUsuale(const std::string& nome = "S.P. 62 Sud") {
+    return {.nome = nome,
             .larghezzaIngresso = 5.0,
             .semiLarghezza = 3.75,
             .lunghezzaSvasatura = 20.0,

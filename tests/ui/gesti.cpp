@@ -181,6 +181,16 @@ bool bottone(QMainWindow& finestra, const std::string& chiave) {
     return true;
 }
 
+QAction* voce(const QString& testo) {
+    const auto* tendina = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (QAction* azione : tendina == nullptr ? QList<QAction*>() : tendina->actions()) {
+        if (azione->text().section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&')) == testo) {
+            return azione;
+        }
+    }
+    return nullptr;
+}
+
 AlModale::AlModale(std::string nome, std::function<void(QWidget&)> azione)
     : nome_(std::move(nome)), azione_(std::move(azione)), scadenza_(QDeadlineTimer(scadenza).deadline()) {
     QObject::connect(&passo_, &QTimer::timeout, &passo_, [this] { guarda(); });

@@ -3,6 +3,7 @@
 #include <QtCore/QPoint>
 #include <QtCore/QString>
 #include <QtCore/QTimer>
+#include <QtGui/QAction>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QTreeWidget>
 #include <functional>
@@ -53,6 +54,9 @@ bool vaiAlNodo(QTreeWidget& albero, const std::string& chiave);
 bool menu(QMainWindow& finestra, const std::vector<std::string>& percorso);
 /// Clicks on a button of the main tool bar.
 bool bottone(QMainWindow& finestra, const std::string& chiave);
+
+/// The entry of those words in the menu that is up, its keys and mnemonic left out; null for none.
+QAction* voce(const QString& testo);
 
 /// Waits beside the running program for a modal window of a name and does something with it, once. A window that stays
 /// open past the deadline is closed.

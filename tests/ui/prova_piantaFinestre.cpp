@@ -17,6 +17,7 @@ namespace {
 
 using gesti::smaltisci;
 using gesti::tasto;
+using gesti::voce;
 
 /// A window with a plan: the node that leads to it.
 struct Finestra {
@@ -40,15 +41,6 @@ protected:
         QContextMenuEvent evento(QContextMenuEvent::Keyboard, dove, pianta().mapToGlobal(dove));
         QApplication::sendEvent(&pianta(), &evento);
         smaltisci();
-    }
-    static QAction* voce(const QString& testo) {
-        const auto* tendina = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        for (QAction* azione : tendina == nullptr ? QList<QAction*>() : tendina->actions()) {
-            if (azione->text().section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&')) == testo) {
-                return azione;
-            }
-        }
-        return nullptr;
     }
     static void chiudiMenu() {
         if (QWidget* tendina = QApplication::activePopupWidget()) {

@@ -14,6 +14,7 @@ namespace {
 using gesti::clic;
 using gesti::smaltisci;
 using gesti::tasto;
+using gesti::voce;
 
 class StampaRisultati : public testing::Test {
 protected:
@@ -34,16 +35,6 @@ protected:
     static void stampa() {
         tasto(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
         smaltisci();
-    }
-    /// The entry of those words in the menu that is up.
-    static QAction* voce(const QString& testo) {
-        const auto* tendina = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        for (QAction* azione : tendina == nullptr ? QList<QAction*>() : tendina->actions()) {
-            if (azione->text().section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&')) == testo) {
-                return azione;
-            }
-        }
-        return nullptr;
     }
     /// Presses "Copia e salva" and looks for an entry of the menu that comes up.
     QAction* premiCopiaESalva(const QString& testo) {

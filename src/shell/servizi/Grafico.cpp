@@ -11,8 +11,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr char divisore = '*';
-
 void controllaSerie(const Grafico::Serie& serie, const std::string& nome) {
     const std::size_t quanti = serie.valori.size();
     const auto torna = [quanti](std::size_t altri) { return altri == 0 || altri == quanti; };
@@ -55,30 +53,6 @@ std::string inParole(const Grafico::Contenuto& contenuto, const Grafico::Serie& 
 }
 
 }  // namespace
-
-std::vector<std::string> etichetteDaTesto(std::string_view testo) {
-    std::vector<std::string> parole;
-    while (!testo.empty()) {
-        const auto fine = testo.find(divisore);
-        parole.emplace_back(testo.substr(0, fine));
-        if (fine == std::string_view::npos) {
-            break;
-        }
-        testo.remove_prefix(fine + 1);
-        if (testo.empty()) {
-            parole.emplace_back();  // what stands behind the last mark
-        }
-    }
-    return parole;
-}
-
-std::vector<double> valoriDaTesto(std::string_view testo) {
-    std::vector<double> valori;
-    for (const std::string& parola : etichetteDaTesto(testo)) {
-        valori.push_back(leggiNumero(parola, Separatore::virgolaOPunto).value_or(0.0));
-    }
-    return valori;
-}
 
 void Grafico::contenuto(Contenuto nuovo) {
     controllaAsse(nuovo.x, nome());

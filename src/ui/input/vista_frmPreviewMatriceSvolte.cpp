@@ -1,8 +1,6 @@
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QVBoxLayout>
-
 #include "input/frmPreviewMatriceSvolte.h"
 #include "ui/VistaGriglia.h"
+#include "ui/input/VistaAnteprimaProgetto.h"
 #include "ui/legami.h"
 #include "ui/legamiScelte.h"
 #include "ui/shell/viste.h"
@@ -12,28 +10,13 @@ namespace kelvo::ui {
 
 namespace {
 
-class Vista final : public VistaFinestra {
+class Vista final : public VistaAnteprimaProgetto {
 public:
-    Vista(frmPreviewMatriceSvolte& f, QWidget* genitore) : VistaFinestra(f, genitore, Forma::dialogo) {
-        larghezzaColonna(QWIDGETSIZE_MAX);
-        destra()->parentWidget()->hide();
-        corpo()->layout()->setContentsMargins(0, 0, 0, 0);
-        Pannello* progetto = collega(f.frDatiProgetto, corpo());
-        progetto->valore(f.lblNumeroRami, f.txtNumeroRami);
-        progetto->valore(f.lblNomeProgetto, f.txtNomeProgetto);
-        progetto->valore(f.lblTitolo, f.txtTitolo);
-        progetto->valore(f.lblNote, f.txtNote);
-        colonna()->addWidget(progetto);
+    Vista(frmPreviewMatriceSvolte& f, QWidget* genitore) : VistaAnteprimaProgetto(f, genitore) {
         Pannello* matrice = collega(f.frMatrice, corpo());
         auto* griglia = collega(f.ctlGrid, matrice);
         griglia->setMinimumHeight(misura::anteprimaMatrice);
-        matrice->larga(griglia);
-        auto* avviso = collega(f.lblAvviso, matrice);
-        avviso->setFont(dati(punti::corpo));
-        avviso->setWordWrap(true);
-        matrice->larga(avviso);
-        colonna()->addWidget(matrice, 1);
-        chiudiDisposizione();
+        sotto(matrice, griglia);
     }
 };
 
