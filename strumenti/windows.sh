@@ -52,7 +52,6 @@ confronta_esempi() {
         confronta "$cli" calcola "$progetto"
         confronta "$cli" calcola --json "$progetto"
         confronta "$cli" capacita-ultima "$progetto"
-        confronta "$cli" sintesi "$progetto"
         confronta "$cli" mostra "$progetto"
         provati=$((provati + 1))
     done

@@ -45,12 +45,14 @@ constexpr std::array figure{
     Figura{"VUOTA", std::nullopt},
 };
 
-constexpr kelvo::pianta::DatiRamo tipico{.larghezzaIngresso = 6.5,
-                                         .semiLarghezza = 3.75,
-                                         .lunghezzaSvasatura = 18.0,
-                                         .angoloConflitto = 35.0,
-                                         .raggioIngresso = 20.0,
-                                         .diametroInscritto = 40.0};
+kelvo::pianta::DatiRamo tipico() {
+    return {.larghezzaIngresso = 6.5,
+            .semiLarghezza = 3.75,
+            .lunghezzaSvasatura = 18.0,
+            .angoloConflitto = 35.0,
+            .raggioIngresso = 20.0,
+            .diametroInscritto = 40.0};
+}
 
 /// The plan with the one dimension of the picture: its symbol alone stands at it.
 Pianta pianta(const Figura& figura) {
@@ -62,7 +64,7 @@ Pianta pianta(const Figura& figura) {
                                          .nomi = false,
                                          .lettere = false,
                                          .note = false};
-    const kelvo::pianta::DatiPianta dati{.rami = {4, tipico}, .ipotesi = {}};
+    const kelvo::pianta::DatiPianta dati{.rami = {4, tipico()}, .ipotesi = {}};
     Pianta disegno = kelvo::pianta::costruisci(dati, opzioni);
     std::erase_if(disegno.quote, [](const Quota& q) { return !q.evidenziata; });
     for (Quota& q : disegno.quote) {

@@ -1,5 +1,7 @@
 #include "schermate/Giro.h"
 
+#include <fmt/format.h>
+
 #include <QtCore/QFileInfo>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
@@ -187,8 +189,8 @@ void Giro::finestre(const std::string& progetto) {
         if (cornice_.albero.mostra(chiave)) {
             fatte.insert(nome);
             mostrate_.insert(nome);
-            fotografo_.scatta(vista_, nome + "-" + progetto);
-            const std::string immagine = nome + "-" + progetto;
+            const std::string immagine = fmt::format("{}-{}", nome, progetto);
+            fotografo_.scatta(vista_, immagine);
             Finestra& aperta = *cornice_.finestre.viva(nome);
             if (!ipotesi(aperta, immagine)) {
                 calcolata(aperta, immagine);
