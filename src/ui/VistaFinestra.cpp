@@ -73,13 +73,13 @@ Pannello::Pannello(const QString& titolo, QWidget* genitore) : QWidget(genitore)
     dentro->setContentsMargins(sinistra, misura::margineVerticale, misura::margine, misura::margineVerticale);
     dentro->setSpacing(misura::spazioRighe);
     testata_ = new QHBoxLayout;
+    dentro->addLayout(testata_);  // takes no room as long as it is empty
     if (!titolo.isEmpty()) {
         auto* testata = new QLabel(titolo, cornice);
         testata->setObjectName(QStringLiteral("titoloPannello"));
         testata->setFont(forte(punti::gruppo));
         testata_->setContentsMargins(misura::sporgenza, 0, 0, 0);
         testata_->addWidget(testata, 1);
-        dentro->addLayout(testata_);
         auto* linea = new QHBoxLayout;
         linea->setContentsMargins(misura::sporgenza, 0, 0, 0);
         linea->addWidget(lineaSottile(cornice));
