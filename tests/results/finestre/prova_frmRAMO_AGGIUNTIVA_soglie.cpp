@@ -171,11 +171,7 @@ TEST_F(ProveAggiuntiva, TellsInWhichProjectTheThresholdsWereSetAndTakesThemAway)
     apriAggiuntiva(true);
     EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in \"Nodo nord bis\".") << "the same project under another name";
     ritorno();
-    progetto(3);
-    r().NomeFile("Nodo nord");
-    r().TipoAnalisi(0);
-    conFigure(1);
-    apriAggiuntiva(true);
+    altroProgetto("Nodo nord");
     EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un altro progetto: \"Nodo nord bis\".");
     EXPECT_TRUE(s(1).spunta.spuntata()) << "they last as long as the program runs";
     EXPECT_EQ(a.cmdAzzera.testo(), "Azzera soglie");
@@ -190,11 +186,7 @@ TEST_F(ProveAggiuntiva, TellsInWhichProjectTheThresholdsWereSetAndTakesThemAway)
     apriAggiuntiva(true);
     EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in \"Nodo nord\".");
     ritorno();
-    progetto(3);
-    r().NomeFile("Nodo nord");
-    r().TipoAnalisi(0);
-    conFigure(1);
-    apriAggiuntiva(true);
+    altroProgetto("Nodo nord");
     EXPECT_EQ(a.lblProgetto.testo(), "Soglie impostate in un altro progetto: \"Nodo nord\".") << "of equal name";
 }
 

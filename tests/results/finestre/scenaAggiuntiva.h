@@ -27,6 +27,14 @@ struct ProveAggiuntiva : ScenaRisultati {
         apri(finestra, "keyCodeRitardi_Out" + std::to_string(i));
         finestra.ctlToolbar.premi("keyCalcola");
     }
+    /// Another project, of three legs and saturation alone, with its figures and the window over it.
+    void altroProgetto(const std::string& nome) {
+        progetto(3);
+        r().NomeFile(nome);
+        r().TipoAnalisi(0);
+        conFigure(1);
+        apriAggiuntiva(true);
+    }
     void apriAggiuntiva(bool marker = true) {
         if (finestra.cmdMARKER.spuntata() != marker) {
             finestra.cmdMARKER.clicca();
